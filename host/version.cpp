@@ -1,0 +1,3 @@
+namespace host {
+const char* const kVersion = "1";
+}

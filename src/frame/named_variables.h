@@ -1,0 +1,22 @@
+#pragma once
+
+#include <string_view>
+
+#include "frame/named_variable_catalogue.h"
+
+// The host's named variables by their place in the catalogue. The host's id is looked up once and kept while
+// the variable exists; a name that the host doesn't know reads 0, a write to it does nothing, and it is
+// looked up again at its next use.
+
+/// A name of the catalogue: ReadNamedVar(NamedVar("lnav_hdg")). A name that isn't there doesn't compile.
+struct NamedVarRef {
+    int row;
+};
+consteval NamedVarRef NamedVar(std::string_view name) {
+    for (int row = 0; row < kNamedVariableCount; ++row)
+        if (kNamedVariables[row].name == name) return {row};
+    throw "not a name of the catalogue";
+}
+
+double ReadNamedVar(NamedVarRef variable);
+void WriteNamedVar(NamedVarRef variable, double value);

@@ -1,0 +1,79 @@
+#pragma once
+
+#include <cstdint>
+
+#include "platform/host_operations.h"
+
+// The module's two exports, as the simulator sees them: `Linkage` (what the module offers) and `ImportTable`
+// (what it needs). Append only.
+
+extern "C" {
+
+/// Panel service identifiers that a gauge's callback is called with.
+enum PanelService : int32_t {
+    kServicePreInstall = 2,
+    kServicePostInstall = 3,
+    kServicePreInitialize = 4,
+    kServicePostInitialize = 5,
+    kServicePreUpdate = 6,
+    kServicePreDraw = 10,
+    kServicePreKill = 12,
+    kServiceConnectToWindow = 14,
+    kServiceDisconnect = 15,
+};
+
+struct GaugeHeader;
+
+/// One copy of a gauge on a panel, owned by the host.
+struct GaugeInstance {
+    const GaugeHeader* gauge;
+    const char* parameters;  // of the panel's gauge line: "VC" in the virtual cockpit, else empty
+    void* user_data;         // the gauge's own
+};
+
+struct GaugeHeader {
+    const char* name;
+    int32_t version;  // 800 or 1000; those of 1000 are painted
+    void (*service)(GaugeInstance* instance, int32_t service_id);
+};
+
+/// Takes one result: a name and its text. Several lines are several calls.
+typedef void (*ResultSink)(void* context, const char* name, const char* value);
+
+/// The system from outside, for scenarios and the inspector. Every function gives 1, or 0 with the reason as
+/// one result named "error".
+struct InspectionTable {
+    uint32_t version;
+    int (*read_variable)(const char* path, ResultSink sink, void* context);  // one result: path, value
+    int (*write_variable)(const char* path, const char* value, ResultSink sink, void* context);
+    /// All names that contain `pattern` ("" = all): name, "TYPE GROUP".
+    int (*list_variables)(const char* pattern, ResultSink sink, void* context);
+    /// A filed route text; the error names the word that is wrong.
+    int (*enter_route)(const char* text, ResultSink sink, void* context);
+    /// Activates and executes what has been entered.
+    int (*execute_route)(ResultSink sink, void* context);
+    /// A pure function with its arguments, blanks between: "GreatCircle 47 -122 45 -122".
+    int (*call_function)(const char* line, ResultSink sink, void* context);
+    /// One operation of the route model: "RemoveToRow 2"; a result named "result" where it has one.
+    int (*run_operation)(const char* line, ResultSink sink, void* context);
+    /// A printed list, a line each, its name empty: "legs", "rows", "candidates", "messages", "alerts", with
+    /// what the scenario command of that name takes as argument.
+    int (*print_list)(const char* list, const char* argument, ResultSink sink, void* context);
+};
+
+struct ModuleLinkage {
+    uint32_t version;
+    void (*module_init)();
+    void (*module_deinit)();
+    int32_t gauge_count;
+    const GaugeHeader* gauges;
+    const InspectionTable* inspection;
+};
+
+struct ModuleImports {
+    uint32_t version;
+    const HostOperations* host;
+};
+}
+
+constexpr uint32_t kLinkageVersion = 1;

@@ -1,0 +1,32 @@
+#include "state/autoflight.h"
+
+AutoflightState autoflight;
+
+namespace {
+constexpr Variable kRows[] = {
+    {"ap_master_l", &autoflight.ap_master_l},
+    {"ap_master_r", &autoflight.ap_master_r},
+    {"ap_lat_mode", &autoflight.ap_lat_mode},
+    {"ap_lat_mode_armed", &autoflight.ap_lat_mode_armed},
+    {"ap_vert_mode", &autoflight.ap_vert_mode},
+    {"ap_vert_mode_armed", &autoflight.ap_vert_mode_armed},
+    {"at_mode", &autoflight.at_mode},
+    {"at_mode_armed", &autoflight.at_mode_armed},
+    {"at_armed_left", &autoflight.at_armed_left},
+    {"at_armed_right", &autoflight.at_armed_right},
+    {"ap_envelope_prot", &autoflight.ap_envelope_prot},
+    {"ap_master_disconnect", &autoflight.ap_master_disconnect},
+    {"spd_intv_active", &autoflight.spd_intv_active},
+    {"ap_disc_warning", &autoflight.ap_disc_warning},
+    {"ap_disc_latch", &autoflight.ap_disc_latch},
+    {"ap_status_timer", &autoflight.ap_status_timer},
+    {"fma_roll_timer", &autoflight.fma_roll_timer},
+    {"fma_pitch_timer", &autoflight.fma_pitch_timer},
+    {"fma_at_timer", &autoflight.fma_at_timer},
+    {"spd_mean", &autoflight.spd_mean},
+    {"spd_lookahead", &autoflight.spd_lookahead},
+    {"spd_trend", &autoflight.spd_trend},
+};
+}  // namespace
+
+const std::span<const Variable> kAutoflightVariables = kRows;

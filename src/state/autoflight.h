@@ -1,0 +1,27 @@
+#pragma once
+
+#include <span>
+
+#include "state/variable.h"
+
+/// Copies of what AutoflightLogic reports, read each tick by the output step.
+struct AutoflightState {
+    int ap_master_l = 0, ap_master_r = 0;
+    int ap_lat_mode = 0, ap_lat_mode_armed = 0;
+    int ap_vert_mode = 0, ap_vert_mode_armed = 0;
+    int at_mode = 0, at_mode_armed = 0;
+    int at_armed_left = 0, at_armed_right = 0;
+    int ap_envelope_prot = 0;
+    int ap_master_disconnect = 0;
+    int spd_intv_active = 0;
+    int ap_disc_warning = 0;  // "AUTOPILOT DISC" on EICAS
+    int ap_disc_latch = 0;    // remembers a warning disconnect
+    // ticks left of the boxes on the FMA
+    int ap_status_timer = 0, fma_roll_timer = 0, fma_pitch_timer = 0, fma_at_timer = 0;
+    double spd_mean = 0;       // kt, see UpdateSpeedTrend
+    double spd_lookahead = 0;  // kt
+    double spd_trend = 0;      // kt
+};
+
+extern AutoflightState autoflight;
+extern const std::span<const Variable> kAutoflightVariables;

@@ -1,0 +1,135 @@
+#pragma once
+
+#include <array>
+#include <span>
+#include <string>
+
+#include "state/growing_list.h"
+#include "state/variable.h"
+
+constexpr double kNone = -999;  // "none" in a double of a leg
+constexpr int kNoPlan = 999;    // stpos without a flight plan
+
+struct WindLevel {
+    int alt = 0;     // ft, 0 = empty
+    double dir = 0;  // degrees true, where it comes from
+    double spd = 0;  // kt
+};
+
+/// One waypoint of the flight plan; the same fields are a row of a route file. Degrees north and east
+/// positive, feet, knots; an empty text is "none".
+struct FlightPlanLeg {
+    std::string ident;  // "DISCO", "THEN" and "VECTORS" are markers, not places
+    double lat = 0, lon = 0;
+    std::string type;  // "APT", "VOR", "NDB", "INT", "WPT"; "OAWY" on "THEN"; empty on "DISCO"
+    std::string freq;
+    std::string via;       // airway or procedure, "DIRECT", "HOLD", "MISSED APPR"
+    std::string via_type;  // "SID", "STAR", "SIDSTAR", "APPR", "AWY", "HOLD", empty
+    double alt = kNone;    // predicted altitude
+    double alt_restr = kNone;
+    double block_above = kNone, block_below = kNone;
+    int restr_code = 0;  // what is constrained: 0 none, 1 altitude, 2 speed, 3 both
+    int restr_type = 0;  // how: 0 at, 1 at or above, 2 at or below, 3 between
+    double ias_restr = kNone;
+    double mach_restr = kNone;
+    double rad_int = -1;  // radial of an intercept, -1 = none
+    int flyover = 0;
+    int dep_turn = 0;     // turn demanded at this fix: 1 left, 2 right
+    int hold_pos = 0;     // index into HoldList, 0 = none
+    double step_alt = 0;  // 0 = none
+    std::string vector;   // leg code of a coded leg, "Vector" for a heading leg
+    double until_alt = 0;
+    double from_hdg = 0;  // heading or course of a coded leg; heading of a "VECTORS" leg
+    double anchor_lat = 0, anchor_lon = 0;
+    double vector_lat = 0, vector_lon = 0;
+    double vector_trk_lat = 0, vector_trk_lon = 0;
+    std::string rwy;
+    std::string appr_wpt_type;  // "MAP", "IAF", "FAF", "MAF", "RWY" or empty
+    std::string ata;            // "HH:MM"
+    int mod_flag = 0;           // above 0 = changed in the working copy
+    std::array<WindLevel, 4> wind = {};
+    double along_wind = 0;  // kt on the leg that starts here, tailwind positive
+    int temp_alt = 0;
+    double temp = 0;
+};
+
+/// One row of the RTE page.
+struct RouteRow {
+    std::string to, via, via_type;
+};
+
+struct ActiveLegRecord {
+    std::string from;  // "DIRECT" while a direct-to is in force
+    double from_lat = 0, from_lon = 0;
+    std::string to;
+    double to_lat = 0, to_lon = 0;
+    double course = 0;
+    int direct_flag = 0;
+};
+
+struct HoldPoint {
+    double lat = 0, lon = 0;
+    std::string name;
+    double course = 0;
+};
+
+struct HoldRecord {
+    std::string ident;
+    int leg = 0;             // leg index in FlightPlan
+    int pending_leg = 0;     // leg index in FlightPlanMod; 0 once promoted
+    int right_turn = 1;      // 1 right, other left
+    double leg_dist = 0;     // nm
+    double leg_time = 1;     // minutes
+    double inbound_crs = 0;  // degrees magnetic
+    int use_time = 1;        // 1 = the length follows from the time
+    int magvar = 0;          // degrees, east positive
+    int magvar_pending = 0;  // above 0 while magvar must still be taken from the aircraft's position
+    std::array<HoldPoint, 5> points = {};  // the fix, then "Xwind", "Dwind", "Base", "Final"
+};
+
+struct PositionReport {
+    FlightPlanLeg leg;
+    double altitude = 0;  // ft
+    std::string time;     // "HHMMZ"
+    double fuel = 0;      // in the unit of the display weight
+};
+
+/// The route. FlightPlan is what is flown, FlightPlanMod is what the pages edit; only fmc/ changes either.
+struct PlanState {
+    GrowingList<FlightPlanLeg> FlightPlan;  // index 0 the origin, fp_cnt the destination
+    int fp_cnt = 0;
+    GrowingList<FlightPlanLeg> FlightPlanMod;
+    int mod_cnt = 0;
+    GrowingList<RouteRow> Route;  // rows of the RTE page, from 1
+    int route_cnt = 0;
+    int stpos = kNoPlan;  // index of the TO leg
+    int mod_stpos = kNoPlan;
+    int pending_stpos = 0;  // the pending active leg, taken by EXEC when 1 or more
+    int mod_bod_pos = 0;
+    ActiveLegRecord ActiveLeg, ActiveLegMod;
+    GrowingList<HoldRecord> HoldList;
+    int hold_cnt = 0;
+    int fms_fpln_active = 0;  // 0 none, 1 entered, 2 activate pressed, 3 active, 4 active and modified
+    GrowingList<PositionReport> PositionReports;
+    int position_report_cnt = 0;
+    int new_route = 0;            // first activation of a newly entered route
+    int direct_to_pending = 0;    // EXEC starts a direct-to course
+    int direct_abeam_check = 0;   // once after a direct-to or activation: the passed-abeam test at stpos 1
+    int rebuild_latch = 0;        // two-second latch of the route rebuild
+    int terrain_profile_due = 0;  // a new route's terrain profile is wanted
+    // final approach, kept for the approach displays
+    double final_appr_crs = 0;  // degrees magnetic
+    std::string map_ident;
+    double map_fix_lat = 0, map_fix_lon = 0;
+    // selected runways; empty = none
+    std::string origin_rwy, dest_rwy, origin_rwy_mod, dest_rwy_mod;
+    // the airway that a page or a route text is working on
+    GrowingList<FlightPlanLeg> AirwayFixList;
+    int awy_list_cnt = 0;
+    int awy_start_pos = 0;  // place of the start fix on AirwayFixList, 0 = not on it
+    std::string awy_name;
+    double along_track_nm = 0;  // offset of an along-track entry, 0 = none
+};
+
+extern PlanState plan;
+extern const std::span<const Variable> kPlanVariables;

@@ -1,0 +1,44 @@
+#include "state/state_groups.h"
+
+#include "state/airports.h"
+#include "state/autoflight.h"
+#include "state/cdu.h"
+#include "state/lnav.h"
+#include "state/nav.h"
+#include "state/perf.h"
+#include "state/plan.h"
+#include "state/sim.h"
+#include "state/sound.h"
+#include "state/time_base.h"
+#include "state/vnav.h"
+
+namespace {
+
+template <auto* kGroup>
+void Reset() {
+    *kGroup = {};
+}
+
+constexpr StateGroup kGroups[] = {
+    {"time_base", Reset<&time_base>, &kTimeBaseVariables},
+    {"sim", Reset<&sim>, &kSimVariables},
+    {"nav", Reset<&nav>, &kNavVariables},
+    {"airports", Reset<&airports>, &kAirportVariables},
+    {"plan", Reset<&plan>, &kPlanVariables},
+    {"perf", Reset<&perf>, &kPerfVariables},
+    {"vnav", Reset<&vnav>, &kVnavVariables},
+    {"lnav", Reset<&lnav>, &kLnavVariables},
+    {"autoflight", Reset<&autoflight>, &kAutoflightVariables},
+    {"sound", Reset<&sound>, &kSoundVariables},
+    {"cdu", Reset<&cdu>, &kCduVariables},
+};
+
+}  // namespace
+
+std::span<const StateGroup> StateGroups() {
+    return kGroups;
+}
+
+void ResetSystemState() {
+    for (const StateGroup& group : kGroups) group.reset();
+}

@@ -1,0 +1,24 @@
+#include "state/time_base.h"
+
+TimeBase time_base;
+
+namespace {
+constexpr Variable kRows[] = {
+    {"tick18", &time_base.tick18},
+    {"last_tick18", &time_base.last_tick18},
+    {"tick_phase", &time_base.tick_phase},
+    {"tick2s_phase", &time_base.tick2s_phase},
+    {"tick3s_phase", &time_base.tick3s_phase},
+    {"frame_phase", &time_base.frame_phase},
+    {"flight_time_base", &time_base.flight_time_base},
+    {"fltsecs", &time_base.fltsecs},
+    {"wpt_log_ticks", &time_base.wpt_log_ticks},
+    {"startup_msg_ticks", &time_base.startup_msg_ticks},
+    {"startup_sound_msg_ticks", &time_base.startup_sound_msg_ticks},
+    {"et_clock_running", &time_base.et_clock_running},
+    {"et_seconds", &time_base.et_seconds},
+    {"et_minutes", &time_base.et_minutes},
+};
+}  // namespace
+
+const std::span<const Variable> kTimeBaseVariables = kRows;

@@ -1,0 +1,37 @@
+#include "state/vnav.h"
+
+VnavState vnav;
+
+namespace {
+constexpr Variable kRows[] = {
+    {"vnav_engaged", &vnav.vnav_engaged},
+    {"toc", &vnav.toc},
+    {"tod", &vnav.tod},
+    {"init_tod", &vnav.init_tod},
+    {"bod_pos", &vnav.bod_pos},
+    {"toc_lat", &vnav.toc_lat},
+    {"toc_lon", &vnav.toc_lon},
+    {"toc_stpos", &vnav.toc_stpos},
+    {"tod_lat", &vnav.tod_lat},
+    {"tod_lon", &vnav.tod_lon},
+    {"tod_stpos", &vnav.tod_stpos},
+    {"cross_at_elev", &vnav.cross_at_elev},
+    {"cross_at_lat", &vnav.cross_at_lat},
+    {"cross_at_lon", &vnav.cross_at_lon},
+    {"cross_at_nm", &vnav.cross_at_nm},
+    {"dist_from_tod_to_bod", &vnav.dist_from_tod_to_bod},
+    {"dist_from_bod", &vnav.dist_from_bod},
+    {"vnav_vert_dev", &vnav.vnav_vert_dev},
+    {"vnav_ias", &vnav.vnav_ias},
+    {"vnav_mach", &vnav.vnav_mach},
+    {"vnav_spd_mode", &vnav.vnav_spd_mode},
+    {"vnav_spd_pending", &vnav.vnav_spd_pending},
+    {"tod_shortcut", &vnav.tod_shortcut},
+    {"tod_test_dist", &vnav.tod_test_dist},
+    {"clb_next_restr_alt", &vnav.clb_next_restr_alt},
+    {"des_next_restr_alt", &vnav.des_next_restr_alt},
+    {"step_due", &vnav.step_due},
+};
+}  // namespace
+
+const std::span<const Variable> kVnavVariables = kRows;

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <span>
+
+#include "state/variable.h"
+
+/// The vertical path as guidance follows it. Feet, knots, nm.
+struct VnavState {
+    int vnav_engaged = 0;  // 1 while ap_vert_mode is 5 or 6
+    int toc = 0, tod = 0;  // 1 once passed
+    int init_tod = 0;
+    int bod_pos = 0;  // leg index that ends the present segment
+    double toc_lat = 0, toc_lon = 0;
+    int toc_stpos = 0;
+    double tod_lat = 0, tod_lon = 0;
+    int tod_stpos = 0;
+    double cross_at_elev = 0;  // altitude to be reached at the cross-at point
+    double cross_at_lat = 0, cross_at_lon = 0;
+    double cross_at_nm = 0;
+    double dist_from_tod_to_bod = 0;
+    double dist_from_bod = 0;
+    int vnav_vert_dev = 0;  // ft above the path, -9000 to 9000
+    double vnav_ias = 0, vnav_mach = 0;
+    int vnav_spd_mode = 1;     // 1 IAS, 2 Mach
+    int vnav_spd_pending = 0;  // 1 = the target stands for this leg
+    int tod_shortcut = 0;      // a wide-turn sequencing in cruise asks for the shortcut of the TOD test
+    double tod_test_dist = 0;  // nm, test distance of the TOD check; -4 = shortcut
+    double clb_next_restr_alt = 0, des_next_restr_alt = 0;
+    int step_due = 0;
+};
+
+extern VnavState vnav;
+extern const std::span<const Variable> kVnavVariables;
