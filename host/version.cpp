@@ -1,3 +1,0 @@
-namespace host {
-const char* const kVersion = "1";
-}
