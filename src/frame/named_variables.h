@@ -18,5 +18,10 @@ consteval NamedVarRef NamedVar(std::string_view name) {
     throw "not a name of the catalogue";
 }
 
+/// Registers the names that are the module's own, once; UnregisterNamedVars takes them away again. Both drop
+/// the ids kept so far: a reload of the aircraft brings new ones.
+void RegisterNamedVars();
+void UnregisterNamedVars();
+
 double ReadNamedVar(NamedVarRef variable);
 void WriteNamedVar(NamedVarRef variable, double value);

@@ -19,7 +19,12 @@ inline double ReadToken(int token) {
 inline double EvalCalc(const char* expression) {
     return Host().eval_calc_number(expression);
 }
+/// An expression's text of up to 1023 characters; empty for what the host doesn't know.
 std::string EvalCalcText(const char* expression);
+std::string ForegroundWindowClass();
+/// The simulator's root folder and the user's application data folder, as the host names them.
+std::string RootFolder();
+std::string AppDataFolder();
 inline void SendKeyEvent(int event, int value) {
     Host().send_key_event(event, value);
 }

@@ -3,6 +3,7 @@
 #include "state/airports.h"
 #include "state/autoflight.h"
 #include "state/cdu.h"
+#include "state/host_link.h"
 #include "state/lnav.h"
 #include "state/nav.h"
 #include "state/perf.h"
@@ -20,6 +21,7 @@ void Reset() {
 }
 
 constexpr StateGroup kGroups[] = {
+    {"host_link", Reset<&host_link>, &kHostLinkVariables},
     {"time_base", Reset<&time_base>, &kTimeBaseVariables},
     {"sim", Reset<&sim>, &kSimVariables},
     {"nav", Reset<&nav>, &kNavVariables},

@@ -1,0 +1,13 @@
+#include "state/host_link.h"
+
+HostLink host_link;
+
+namespace {
+constexpr Variable kRows[] = {
+    {"named_vars_registered", &host_link.named_vars_registered},
+    {"key_hook_added", &host_link.key_hook_added},
+    {"sim_client_open", &host_link.sim_client_open},
+};
+}  // namespace
+
+const std::span<const Variable> kHostLinkVariables = kRows;

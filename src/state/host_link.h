@@ -1,0 +1,17 @@
+#pragma once
+
+#include <span>
+#include <vector>
+
+#include "state/variable.h"
+
+/// What the module remembers of its link to the host.
+struct HostLink {
+    std::vector<int> named_var_ids;  // by row of the catalogue: the host's id, -1 = not found yet
+    int named_vars_registered = 0;
+    int key_hook_added = 0;
+    int sim_client_open = 0;
+};
+
+extern HostLink host_link;
+extern const std::span<const Variable> kHostLinkVariables;
