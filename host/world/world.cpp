@@ -259,6 +259,9 @@ void SetTimerPeriod(int) {}
 int RootFolder(char* text, int size) {
     return CopyText(world.root, text, size);
 }
+int NavdataFolder(char* text, int size) {
+    return CopyText(world.navdata, text, size);
+}
 int AppDataFolder(char* text, int size) {
     return CopyText(world.app_data, text, size);
 }
@@ -314,6 +317,7 @@ constexpr HostOperations kOperations = {
     .close_keyboard = CloseKeyboard,
     .swallow_keys = SwallowKeys,
     .set_timer_period = SetTimerPeriod,
+    .navdata_folder = NavdataFolder,
     .root_folder = RootFolder,
     .app_data_folder = AppDataFolder,
     .is_library_loaded = IsLibraryLoaded,

@@ -35,6 +35,13 @@ std::optional<std::vector<std::string>> SplitName(std::string_view name) {
     return parts;
 }
 
+constexpr std::string_view kNavdataParts[] = {"Velarion", "TZ900", "Navdata"};
+
+bool IsBelowNavdata(const std::vector<std::string>& parts) {
+    return parts.size() >= std::size(kNavdataParts) &&
+           std::equal(std::begin(kNavdataParts), std::end(kNavdataParts), parts.begin(), SameName);
+}
+
 // The entry of a folder that bears this name in any case; the name as it stands when there is none.
 fs::path FindEntry(const fs::path& folder, const std::string& part) {
     std::error_code error;
@@ -71,7 +78,15 @@ std::optional<std::string> ResolvePath(std::string_view name, FileRoot root) {
     const auto parts = SplitName(name);
     if (folder.empty() || !parts) return {};
     fs::path path = folder;
-    for (const std::string& part : *parts) path = FindEntry(path, part);
+    std::size_t first = 0;
+    if (root == FileRoot::kSimulator && IsBelowNavdata(*parts)) {
+        const std::string elsewhere = NavdataFolder();
+        if (!elsewhere.empty()) {
+            path = elsewhere;
+            first = std::size(kNavdataParts);
+        }
+    }
+    for (std::size_t i = first; i < parts->size(); ++i) path = FindEntry(path, (*parts)[i]);
     return path.string();
 }
 

@@ -51,6 +51,11 @@ constexpr HostOperations kDeafHost = {
     .close_keyboard = [] {},
     .swallow_keys = [](int) {},
     .set_timer_period = [](int) {},
+    .navdata_folder =
+        [](char* text, int size) {
+            if (size > 0) *text = '\0';
+            return 0;
+        },
     .root_folder =
         [](char* text, int size) {
             if (size > 0) *text = '\0';
@@ -101,6 +106,10 @@ std::string ForegroundWindowClass() {
 
 std::string RootFolder() {
     return TakeText([](char* text, int size) { return Host().root_folder(text, size); });
+}
+
+std::string NavdataFolder() {
+    return TakeText([](char* text, int size) { return Host().navdata_folder(text, size); });
 }
 
 std::string AppDataFolder() {

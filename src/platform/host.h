@@ -24,6 +24,8 @@ std::string EvalCalcText(const char* expression);
 std::string ForegroundWindowClass();
 /// The simulator's root folder and the user's application data folder, as the host names them.
 std::string RootFolder();
+/// Where the host keeps the navigation data; empty when that is their place under the root.
+std::string NavdataFolder();
 std::string AppDataFolder();
 inline void SendKeyEvent(int event, int value) {
     Host().send_key_event(event, value);

@@ -79,6 +79,7 @@ struct HostOperations {
 
     // machine
     void (*set_timer_period)(int milliseconds);    // 0 gives the period back
+    int (*navdata_folder)(char* text, int size);  // navigation data kept elsewhere; empty = under the root
     int (*root_folder)(char* text, int size);      // the simulator's root folder
     int (*app_data_folder)(char* text, int size);  // the user's application data folder
     int (*is_library_loaded)(const char* path);

@@ -111,12 +111,13 @@ bool StoreValue(const VariableRef& variable, std::string_view text) {
     double number = 0;
     const auto [rest, error] = std::from_chars(text.data(), text.data() + text.size(), number);
     if (error != std::errc{} || rest != text.data() + text.size()) return false;
+    if (!std::isfinite(number)) return false;
     if (variable.type->kind == ValueKind::kDouble) {
         *static_cast<double*>(variable.address) = number;
         return true;
     }
     if (variable.type->kind != ValueKind::kInt) return false;
-    if (!(number == std::floor(number) && std::fabs(number) <= 2147483647.0)) return false;
+    if (number != std::floor(number) || std::fabs(number) > 2147483647.0) return false;
     *static_cast<int*>(variable.address) = static_cast<int>(number);
     return true;
 }

@@ -23,7 +23,8 @@ TEST(VariableDirectory, FindsScalarsRecordsListsAndSides) {
     EXPECT_EQ(Read("FlightPlanMod[1].wind[2].dir"), "271.5");
     EXPECT_EQ(Read("fo.ScratchPad"), "N47");
     EXPECT_EQ(Read("capt.ScratchPad"), "");
-    for (const char* wrong : {"", "nothing", "stpos.x", "stpos[0]", "FlightPlan[900].ident", "FlightPlan[3",
+    EXPECT_EQ(Read("FlightPlan[200].alt"), "-999") << "past the end stands an empty record";
+    for (const char* wrong : {"", "nothing", "stpos.x", "stpos[0]", "FlightPlan[90000].ident", "FlightPlan[3",
                               "FlightPlan[3].colour", "capt.", "FlightPlan[-1].ident", "FlightPlan[x].ident"})
         EXPECT_EQ(Read(wrong), "unknown") << wrong;
 }

@@ -218,6 +218,10 @@ constexpr HostOperations kOperations = {
         [](int milliseconds) {
             if (!Fails("set_timer_period")) fake->timer_period = milliseconds;
         },
+    .navdata_folder =
+        [](char* text, int size) {
+            return FillText(Fails("navdata_folder") ? "" : fake->navdata.string(), text, size);
+        },
     .root_folder =
         [](char* text, int size) {
             return FillText(Fails("root_folder") ? "" : fake->root.string(), text, size);

@@ -77,7 +77,7 @@ class FakeHost {
     std::set<std::string> loaded_libraries;
     bool sound_device_open = false;
 
-    std::filesystem::path root, app_data;
+    std::filesystem::path root, app_data, navdata;  // navdata empty = under the root
     /// Writes a file below the root (name with "/"), with its folders.
     void PutFile(std::string_view name, std::string_view text) const;
     /// A file's text below a folder of the fake; empty when it is missing.

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+// The simulator's root folder as the host prepares it.
+
+namespace host {
+
+/// The entry of a folder by its name in any case; an empty path when there is none.
+std::filesystem::path FindInFolder(const std::filesystem::path& folder, const std::string& name);
+
+/// A file under the root by a path with "/" in any case; an empty path when there is none.
+std::filesystem::path FindUnderRoot(const std::string& root, const std::string& path);
+
+/// The navigation data folder of a `Velarion` folder, whether or not it exists.
+std::filesystem::path FindNavdata(const std::filesystem::path& velarion);
+
+/// Copies the demonstration root into a fresh temporary folder.
+bool MakePrivateRoot(const std::string& demo_root, std::string& root, std::string& error);
+
+/// Adds lines to tz900.cfg; a later line of a key counts.
+bool AppendConfigLines(const std::filesystem::path& velarion, const std::vector<std::string>& lines,
+                       std::string& error);
+
+struct AirframeTitle {
+    std::string title;
+    std::string atc_id;
+};
+
+/// The aircraft of every Aircraft.cfg under the root, in the order of their folders.
+std::vector<AirframeTitle> AirframeTitles(const std::string& root);
+
+}  // namespace host

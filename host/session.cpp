@@ -1,0 +1,119 @@
+#include "host/session.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+
+#include "host/module_library.h"
+#include "host/root_folder.h"
+#include "host/world/terrain.h"
+#include "host/world/world.h"
+
+namespace host {
+namespace {
+
+constexpr int kMainPanelWindow = 0;
+
+// A gauge stands in the virtual cockpit unless its name says that it is of the two-dimensional panel; SERVER
+// stands in both.
+void PlaceGauges(Session& session) {
+    session.gauges.clear();
+    for (int i = 0; i < session.linkage->gauge_count; ++i) {
+        const GaugeHeader& gauge = session.linkage->gauges[i];
+        const std::string name = gauge.name;
+        if (name == "SERVER") {
+            session.gauges.push_back({{&gauge, "", nullptr}, true});
+            session.gauges.push_back({{&gauge, "VC", nullptr}, false});
+        } else {
+            session.gauges.push_back({{&gauge, "", nullptr}, name.ends_with("_2D")});
+        }
+    }
+}
+
+void CallAll(Session& session, int service) {
+    for (PanelGauge& gauge : session.gauges) {
+        if (gauge.in_2d_panel && !world.windows[kMainPanelWindow]) continue;
+        if (gauge.instance.gauge->service != nullptr) gauge.instance.gauge->service(&gauge.instance, service);
+    }
+}
+
+}  // namespace
+
+bool PrepareSession(Session& session, std::string& error) {
+    SessionSettings& settings = session.settings;
+    if (settings.root.empty()) {
+        if (!MakePrivateRoot(settings.demo_root, settings.root, error)) return false;
+        session.private_root = true;
+    }
+    const std::filesystem::path velarion = FindInFolder(settings.root, "Velarion");
+    if (velarion.empty()) {
+        error = settings.root + " holds no Velarion folder";
+        return false;
+    }
+    if (!settings.navdata.empty() && !std::filesystem::is_directory(settings.navdata)) {
+        error = settings.navdata + " is no folder";
+        return false;
+    }
+    if (!AppendConfigLines(velarion, settings.cfg_lines, error)) return false;
+    const std::vector<AirframeTitle> titles = AirframeTitles(settings.root);
+    const auto found = std::find_if(titles.begin(), titles.end(), [&](const AirframeTitle& airframe) {
+        return settings.title.empty() || airframe.title == settings.title;
+    });
+    if (found == titles.end() && !settings.title.empty()) {
+        error = "no Aircraft.cfg under the root has the title \"" + settings.title + "\"";
+        return false;
+    }
+    world.root = settings.root;
+    world.app_data = settings.root;
+    world.navdata = settings.navdata;
+    world.machine_date = settings.machine_date;
+    const std::string navdata = settings.navdata.empty() ? FindNavdata(velarion).string() : settings.navdata;
+    UseModelTerrain((std::filesystem::path(navdata) / "apts.txt").string());
+    if (found != titles.end()) {
+        SetCalcText("(A:TITLE,string)", found->title);
+        SetCalcText("(A:ATC ID,string)", found->atc_id);
+    }
+    return true;
+}
+
+bool StartSession(Session& session, std::string& error) {
+    const std::string file =
+        session.settings.module_file.empty() ? ModuleBesideProgram() : session.settings.module_file;
+    session.linkage = LoadModule(file, session.library, error);
+    if (session.linkage == nullptr) return false;
+    FillClockTokens();
+    session.linkage->module_init();
+    PlaceGauges(session);
+    for (const int service : {kServicePreInstall, kServicePostInstall, kServicePreInitialize,
+                              kServicePostInitialize, kServiceConnectToWindow, kServicePreUpdate})
+        CallAll(session, service);
+    return true;
+}
+
+void TickSession(Session& session, bool paused_frame) {
+    DispatchQueuedCalls();
+    if (!paused_frame) AdvanceClock();
+    CallAll(session, kServicePreUpdate);
+}
+
+void StopSession(Session& session) {
+    if (session.linkage != nullptr) {
+        CallAll(session, kServicePreKill);
+        CallAll(session, kServiceDisconnect);
+        session.linkage->module_deinit();
+        session.linkage = nullptr;
+        UnloadModule(session.library);
+        session.library = nullptr;
+    }
+    if (session.private_root) {
+        std::error_code ignored;
+        std::filesystem::remove_all(session.settings.root, ignored);
+        session.private_root = false;
+    }
+}
+
+}  // namespace host

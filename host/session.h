@@ -1,0 +1,58 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "module/linkage.h"
+
+// One run of the stand-in simulator: the module loaded, its gauges on their panels, the aircraft and the
+// clock.
+
+namespace host {
+
+struct Placement {
+    double lat, lon, alt_ft, heading;
+    double ias = 0;
+};
+
+/// What is settled before the module loads. Everything has a default that works.
+struct SessionSettings {
+    std::string module_file;  // empty = tz900.gau beside the program
+    std::string root;         // empty = a private copy of the demonstration root, removed at the end
+    std::string demo_root;    // where the demonstration root lies
+    std::string navdata;      // empty = the one under the root
+    std::string title;        // empty = the first aircraft under the root
+    std::vector<std::string> cfg_lines;
+    int machine_date = 20261201;  // YYYYMMDD
+    bool placed = false;
+    Placement placement = {};  // with `placed`, else the demonstration's stand
+    bool fdm = false;          // the aircraft moves by itself and AutoflightLogic runs
+};
+
+struct PanelGauge {
+    GaugeInstance instance;
+    bool in_2d_panel;  // called only while the main panel window is visible
+};
+
+struct Session {
+    SessionSettings settings;
+    void* library = nullptr;
+    const ModuleLinkage* linkage = nullptr;
+    std::vector<PanelGauge> gauges;
+    bool private_root = false;
+};
+
+/// Makes the root ready and fills the world: before it, tokens, variables and expressions may be set by hand.
+/// False with the reason in `error`.
+bool PrepareSession(Session& session, std::string& error);
+
+/// Loads the module and brings it up in the simulator's order, first update included.
+bool StartSession(Session& session, std::string& error);
+
+/// One pre-update call of each gauge; the 18 Hz counter moves by one, or stands still in a paused frame.
+void TickSession(Session& session, bool paused_frame);
+
+/// Takes the module down in the simulator's order and removes a private root.
+void StopSession(Session& session);
+
+}  // namespace host
