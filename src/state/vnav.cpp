@@ -21,6 +21,8 @@ constexpr Variable kRows[] = {
     {"cross_at_nm", &vnav.cross_at_nm},
     {"dist_from_tod_to_bod", &vnav.dist_from_tod_to_bod},
     {"dist_from_bod", &vnav.dist_from_bod},
+    {"last_tod_pos", &vnav.last_tod_pos},
+    {"last_tod_elev", &vnav.last_tod_elev},
     {"vnav_vert_dev", &vnav.vnav_vert_dev},
     {"vnav_ias", &vnav.vnav_ias},
     {"vnav_mach", &vnav.vnav_mach},

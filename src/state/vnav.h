@@ -19,7 +19,9 @@ struct VnavState {
     double cross_at_nm = 0;
     double dist_from_tod_to_bod = 0;
     double dist_from_bod = 0;
-    int vnav_vert_dev = 0;  // ft above the path, -9000 to 9000
+    int last_tod_pos = 0;      // the last leg that began a descent segment
+    double last_tod_elev = 0;  // and its altitude
+    int vnav_vert_dev = 0;     // ft above the path, -9000 to 9000
     double vnav_ias = 0, vnav_mach = 0;
     int vnav_spd_mode = 1;     // 1 IAS, 2 Mach
     int vnav_spd_pending = 0;  // 1 = the target stands for this leg

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "navdata/geodesy.h"
+
+// The geometry of a flown path: what a turn takes, when the next leg starts, how far the aircraft is off its
+// leg. A leg is the great circle between two positions; nothing of the path is stored. Degrees, nm, knots.
+
+/// A bearing in 0 to below 360.
+double FoldBearing(double bearing);
+/// A magnetic course as it is shown and flown: 0.5 to below 360.5, so that north reads 360 and not 000.
+double FoldCourse(double course);
+
+/// The smaller difference of two bearings, 0 to 180, cut to whole degrees.
+int AngleBetween(double a, double b);
+
+constexpr int kTurnLeft = 1;
+constexpr int kTurnRight = 2;
+/// The shorter way round from one bearing to another. Exactly opposite, it is left when `from` is the lesser.
+int TurnSide(double from, double to);
+
+/// Radius (nm) of a turn at the present ground speed.
+double TurnRadiusForGroundSpeed();
+/// Radius (nm) of a turn planned for a speed (kt) at an altitude (ft).
+double TurnRadiusForSpeedAndAlt(double speed, double altitude);
+
+constexpr double kTurnOfFarFix = -1;      // the fix is too far for its turn to matter
+constexpr double kTurnOfFlyOverFix = -2;  // the fix is overflown before the turn
+/// How far (nm) before a fix the turn by `angle` degrees on `radius` must start, at the present ground speed.
+/// `angle` may be one of the two codes above. The factors are a fit to how this aircraft turns.
+double WaypointChangeDistance(double angle, double radius);
+
+/// Where an aircraft stands against the great circle between two points.
+struct LegPosition {
+    double leg_len = 0;         // between the points
+    double initial_course = 0;  // degrees true, at the first point
+    double course_here = 0;     // degrees true, of the leg abeam the aircraft
+    double dist_to_end = 0;     // from the aircraft
+    double bearing_to_end = 0;  // degrees true, from the aircraft
+    LatLon abeam = {};          // the point on the leg as far from its end as the aircraft is
+    double cross_track = 0;     // from the aircraft to that point, at most kMaxCrossTrack
+    int cross_track_side = 0;   // kTurnLeft: the aircraft is left of the leg
+};
+constexpr double kMaxCrossTrack = 125;
+/// A leg between equal points has the bearing to its end for its course, and no cross-track.
+LegPosition LocateOnLeg(double lat, double lon, double from_lat, double from_lon, double to_lat,
+                        double to_lon);
+
+/// Whether a fix lies behind an aircraft that follows `course` (true, of the leg at the fix) with
+/// `heading` (true): seen from the aircraft, the fix and a point 22 nm beside it, across the course, lie on
+/// opposite sides of the course and both more than 90 degrees from it. The heading must be within 90 degrees
+/// of the course, so that an aircraft still turning onto the leg has not passed its end.
+bool TargetFixPassed(double lat, double lon, double heading, double course, double fix_lat, double fix_lon);
