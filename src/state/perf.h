@@ -35,15 +35,25 @@ struct PerfState {
     double zfw = 0;           // lb, zero-fuel weight, 0 = not entered
     double gross_weight = 0;  // lb
     double agent_fuel = 0;    // lb, added by the load agent
+    double planned_fuel = 0;  // lb, that the route brought; 0 = none
+    int fuel_load_due = 0;    // the planned fuel is to be put into the tanks
     double resv_fuel = 0;     // lb
     double reserves = 0;      // lb
     double start_weight = 0;
-    double clb_burn = 33000, crz_burn = 8500, des_burn = 3500;  // lb/h
-    double default_climb_rate = 3300;                           // fpm
+    double clb_burn = 33000, crz_burn = 8500, des_burn = 3500;             // lb/h
+    double default_climb_rate = 3300;                                      // fpm
+    double clb_burn_per_nm = 0, crz_burn_per_nm = 0, des_burn_per_nm = 0;  // lb/nm
+    double avg_burn = 0;                                                   // lb/h
+    double avg_gs = 0;                                                     // kt, over cruise and descent
+    double clb_wind = 0, crz_wind = 0, des_wind = 0;  // kt along the track, tailwind positive
+    double clb_tas = 0, crz_tas = 0, des_tas = 0;     // kt, for planning
+    double tod_rod = 0;                               // fpm, planned rate of descent
     double perf_factor = 0;
     double dist_to_toc = 0, dist_to_tod = 0, dist_to_dest = 0;  // nm
     double dest_brg = 0;                                        // degrees magnetic
-    int fplog_mode = -1;                                        // flight phase of the flight log
+    double final_point_lat = 0, final_point_lon = 0;            // 5 nm before the destination runway
+    int final_point_set = 0;
+    int fplog_mode = -1;  // flight phase of the flight log
 };
 
 extern PerfState perf;

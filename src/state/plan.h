@@ -94,6 +94,20 @@ struct PositionReport {
     double fuel = 0;      // in the unit of the display weight
 };
 
+constexpr const char* kNotSelected = "------";
+
+/// What the crew has selected around the legs. The working copy is taken over by EXEC and thrown away by
+/// ERASE. Names read kNotSelected when nothing is selected.
+struct RouteSelections {
+    std::string origin = kNotSelected, dest = kNotSelected;
+    std::string dep_runway = kNotSelected, dep_sid = kNotSelected, dep_trans = kNotSelected;
+    std::string arr_star = kNotSelected, arr_trans = kNotSelected;
+    std::string arr_appr = kNotSelected, arr_appr_rwy = kNotSelected, arr_appr_trans = kNotSelected;
+    std::string appr_type = "-";  // first three letters of the approach
+    // places of the runways in the airports' lists, 0 = none
+    int fms_dep_rwy_pos = 0, fms_dest_rwy_pos = 0;
+};
+
 /// The route. FlightPlan is what is flown, FlightPlanMod is what the pages edit; only fmc/ changes either.
 struct PlanState {
     GrowingList<FlightPlanLeg> FlightPlan;  // index 0 the origin, fp_cnt the destination
@@ -107,8 +121,10 @@ struct PlanState {
     int pending_stpos = 0;  // the pending active leg, taken by EXEC when 1 or more
     int mod_bod_pos = 0;
     ActiveLegRecord ActiveLeg, ActiveLegMod;
-    GrowingList<HoldRecord> HoldList;
+    GrowingList<HoldRecord> HoldList;  // from 1, in the order of their legs
     int hold_cnt = 0;
+    GrowingList<HoldRecord> executed_holds;  // as EXEC left them: what ERASE brings back
+    int executed_hold_cnt = 0;
     int fms_fpln_active = 0;  // 0 none, 1 entered, 2 activate pressed, 3 active, 4 active and modified
     GrowingList<PositionReport> PositionReports;
     int position_report_cnt = 0;
@@ -121,13 +137,13 @@ struct PlanState {
     double final_appr_crs = 0;  // degrees magnetic
     std::string map_ident;
     double map_fix_lat = 0, map_fix_lon = 0;
-    // selected runways; empty = none
-    std::string origin_rwy, dest_rwy, origin_rwy_mod, dest_rwy_mod;
+    RouteSelections selected, selected_mod;
     // the airway that a page or a route text is working on
     GrowingList<FlightPlanLeg> AirwayFixList;
     int awy_list_cnt = 0;
     int awy_start_pos = 0;  // place of the start fix on AirwayFixList, 0 = not on it
     std::string awy_name;
+    int awy_start_leg = 0;      // its leg in FlightPlanMod
     double along_track_nm = 0;  // offset of an along-track entry, 0 = none
 };
 

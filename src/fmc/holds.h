@@ -1,0 +1,31 @@
+#pragma once
+
+#include "state/plan.h"
+
+constexpr int kMostHolds = 8;
+
+/// Adds a hold at a leg of FlightPlanMod (of FlightPlan with `active`, then in force at once): right turns of
+/// one minute, inbound on the course from `prev_leg`. Refused when eight stand, when the leg has one, or when
+/// it is no place.
+void MarkHold(int leg, bool active, int prev_leg);
+
+/// Removes the hold of a leg of FlightPlanMod, at once and for the active route too. The hold being flown is
+/// left by it (`hold_exit` 4). With the last hold the HOLD page gives way to LEGS. No hold there: nothing.
+void RemoveHold(int leg);
+
+/// Removes a hold by its place in HoldList, from 1.
+void RemoveHoldRecord(int hold);
+void RemoveAllHolds();
+
+/// The leg of FlightPlanMod that a hold belongs to, 0 when it has none there.
+int HoldLegInModification(const HoldRecord& hold);
+
+/// Sorts HoldList by leg and writes each leg's `hold_pos` anew, in both lists.
+void RenumberHolds();
+
+/// EXEC: the holds of the working copy become those of the active route.
+void PromoteHolds();
+/// ERASE: the executed holds come back, but for those passed since.
+void RestoreExecutedHolds();
+/// Drops the holds that exist in the working copy only.
+void DropPendingHolds();
