@@ -71,13 +71,19 @@ bool PrepareSession(Session& session, std::string& error) {
     world.app_data = settings.root;
     world.navdata = settings.navdata;
     world.machine_date = settings.machine_date;
-    const std::string navdata = settings.navdata.empty() ? FindNavdata(velarion).string() : settings.navdata;
-    UseModelTerrain((std::filesystem::path(navdata) / "apts.txt").string());
+    if (!settings.terrain_chosen) UseModelTerrain(AirportsFile(settings));
     if (found != titles.end()) {
         SetCalcText("(A:TITLE,string)", found->title);
         SetCalcText("(A:ATC ID,string)", found->atc_id);
     }
     return true;
+}
+
+std::string AirportsFile(const SessionSettings& settings) {
+    const std::filesystem::path navdata = settings.navdata.empty()
+                                              ? FindNavdata(FindInFolder(settings.root, "Velarion"))
+                                              : std::filesystem::path(settings.navdata);
+    return FindInFolder(navdata, "apts.txt").string();
 }
 
 bool StartSession(Session& session, std::string& error) {

@@ -25,8 +25,9 @@ struct SessionSettings {
     std::vector<std::string> cfg_lines;
     int machine_date = 20261201;  // YYYYMMDD
     bool placed = false;
-    Placement placement = {};  // with `placed`, else the demonstration's stand
-    bool fdm = false;          // the aircraft moves by itself and AutoflightLogic runs
+    Placement placement = {};     // with `placed`, else the demonstration's stand
+    bool fdm = false;             // the aircraft moves by itself and AutoflightLogic runs
+    bool terrain_chosen = false;  // else it is a surface through the airports
 };
 
 struct PanelGauge {
@@ -48,6 +49,17 @@ bool PrepareSession(Session& session, std::string& error);
 
 /// Loads the module and brings it up in the simulator's order, first update included.
 bool StartSession(Session& session, std::string& error);
+
+/// The apts.txt in use.
+std::string AirportsFile(const SessionSettings& settings);
+
+/// Puts the aircraft somewhere, on the ground when the altitude is the ground's.
+void PlaceAircraft(const Placement& placement);
+
+/// The air at the aircraft.
+void SetWind(double from_deg, double speed_kt);
+void SetOutsideTemperature(double celsius);
+void SetQnh(double hpa);
 
 /// One pre-update call of each gauge; the 18 Hz counter moves by one, or stands still in a paused frame.
 void TickSession(Session& session, bool paused_frame);

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+
+#include "host/scenario/scenario.h"
+
+// Groups of commands; commands.cpp joins them into the table.
+
+namespace host {
+
+std::vector<Command> SetUpCommands();
+std::vector<Command> TimeCommands();
+std::vector<Command> HostSideCommands();
+std::vector<Command> LookingCommands();
+
+/// "0xEVENT VALUE" lines of the key events sent since the last `events`.
+std::string EventsText();
+
+/// A number word; throws CommandError that names what it should be.
+double NumberWord(const Word& word, std::string_view what);
+int IntWord(const Word& word, std::string_view what);
+
+}  // namespace host

@@ -1,0 +1,110 @@
+#include <fstream>
+#include <iterator>
+
+#include "host/aircraft_values.h"
+#include "host/root_folder.h"
+#include "host/scenario/inspection.h"
+#include "host/scenario/scenario.h"
+#include "host/world/world.h"
+
+namespace host {
+
+const InspectionTable& InspectionOf(const Scenario& scenario) {
+    if (scenario.session.linkage == nullptr) throw CommandError{"the module is not loaded; `start` first"};
+    return *scenario.session.linkage->inspection;
+}
+
+std::string PrintedList(const Scenario& scenario, std::string_view list, const std::string& argument) {
+    std::string text;
+    const std::string name(list);
+    for (const auto& [unused, line] :
+         Inspect(InspectionOf(scenario).print_list, name.c_str(), argument.c_str()))
+        text += line + '\n';
+    return text;
+}
+
+namespace {
+
+std::string LvarValue(Scenario&, const std::string& name) {
+    return NumberText(NamedValue(name));
+}
+
+std::string TokenValue(Scenario&, const std::string& name) {
+    const std::optional<int> token = ParseInt(name);
+    if (!token || *token < 0 || *token >= kTokenCount)
+        throw CommandError{"\"" + name +
+                           "\" is no token; a number from 0 to 1023, decimal or 0x hexadecimal"};
+    return NumberText(TokenOf(*token));
+}
+
+std::string CalcText(Scenario&, const std::string& expression) {
+    const auto found = world.calc.find(expression);
+    if (found == world.calc.end()) return "0";
+    return found->second.text.empty() ? NumberText(found->second.number) : found->second.text;
+}
+
+std::string AircraftText(Scenario&, const std::string& name) {
+    double value = 0;
+    if (!AircraftValue(name, value))
+        throw CommandError{"the aircraft has no \"" + name +
+                           "\"; lat lon alt hdg ias gs vs bank pitch fuel weight"};
+    return NumberText(value);
+}
+
+std::string FunctionResult(Scenario& scenario, const std::string& text) {
+    const std::size_t dot = text.rfind('.');
+    const Results results = Inspect(InspectionOf(scenario).call_function, text.substr(0, dot).c_str());
+    for (const auto& [name, value] : results)
+        if (dot != std::string::npos && name == text.substr(dot + 1)) return value;
+    throw CommandError{
+        "name one of the function's results behind a point: call:\"GreatCircle 0 0 1 1\".dist"};
+}
+
+std::string FileText(Scenario& scenario, const std::string& path) {
+    std::ifstream file(FindUnderRoot(scenario.session.settings.root, path), std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+std::string MessagesText(Scenario& scenario, const std::string& side) {
+    return PrintedList(scenario, "messages", side);
+}
+
+std::string NotYet(Scenario&, const std::string&) {
+    throw CommandError{"not available yet"};
+}
+
+struct NameSpace {
+    std::string_view prefix;
+    std::string (*value)(Scenario&, const std::string& rest);
+};
+
+constexpr NameSpace kNameSpaces[] = {
+    {"lvar:", LvarValue},        {"token:", TokenValue},    {"calc:", CalcText},
+    {"aircraft:", AircraftText}, {"call:", FunctionResult}, {"file:", FileText},
+    {"text:", NotYet},           {"draws:", NotYet},        {"messages:", MessagesText},
+};
+
+}  // namespace
+
+std::string EventsText() {
+    std::string text;
+    for (const KeyEventRecord& event : world.sent_events) {
+        char line[48];
+        std::snprintf(line, sizeof line, "0x%x %d\n", static_cast<unsigned>(event.event), event.value);
+        text += line;
+    }
+    return text;
+}
+
+std::string ValueOfName(Scenario& scenario, const Word& name) {
+    for (const NameSpace& space : kNameSpaces)
+        if (name.text.starts_with(space.prefix))
+            return space.value(scenario, name.text.substr(space.prefix.size()));
+    if (name.text == "events") return EventsText();
+    if (name.text == "alerts") return PrintedList(scenario, "alerts", "");
+    if (name.text == "sounds") return NotYet(scenario, "");
+    const Results results = Inspect(InspectionOf(scenario).read_variable, name.text.c_str());
+    return results.empty() ? std::string() : results.front().second;
+}
+
+}  // namespace host

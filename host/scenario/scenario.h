@@ -1,0 +1,59 @@
+#pragma once
+
+#include <istream>
+#include <ostream>
+#include <string>
+
+#include "host/scenario/words.h"
+#include "host/session.h"
+
+// The scenario language: one command a line, the whole system driven through the host boundary, always with
+// the same result. commands.cpp is the table of commands, names.cpp answers the names of get and expect.
+
+namespace host {
+
+/// What a command is told and what it may answer.
+struct Scenario {
+    Session session;
+    std::ostream& out;
+    bool started = false;
+    int failed_expectations = 0;
+    std::string file;  // of the line being run
+    int line = 0;
+    std::vector<SimMessage> messages_before_start;
+    std::vector<std::string> message_texts;
+    int paint_every = 1;
+};
+
+/// A command that is wrong: what is wrong, what would be right.
+struct CommandError {
+    std::string text;
+};
+
+struct Command {
+    std::string_view name;
+    std::string_view usage;  // the words behind the name
+    std::string_view example;
+    enum When { kBefore, kAfter, kAnytime } when;
+    std::size_t least_words, most_words;  // behind the name
+    void (*run)(Scenario& scenario,
+                const std::vector<Word>& words);  // throws CommandError; words[0] is the name
+};
+
+/// The table of commands, in the order of their help.
+const std::vector<Command>& Commands();
+
+/// Value of a name of `get` and `expect` as text; throws CommandError for an unknown one.
+std::string ValueOfName(Scenario& scenario, const Word& name);
+
+/// Runs one stream of commands. Exit status: 0 everything held, 1 an expectation failed, 2 a command was
+/// wrong.
+int RunScenario(Scenario& scenario, std::istream& in, const std::string& file_name, std::ostream& errors);
+
+/// `tz900 run FILE...`: the files in turn, "-" for standard input, each with a session of its own.
+int RunScenarioFiles(const std::vector<std::string>& files, const std::string& demo_root);
+
+/// The commands with their examples, for `tz900 run --help`.
+std::string ScenarioHelp();
+
+}  // namespace host

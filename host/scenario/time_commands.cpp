@@ -1,0 +1,70 @@
+#include <cmath>
+
+#include "host/scenario/commands.h"
+#include "host/scenario/conditions.h"
+
+namespace host {
+namespace {
+
+constexpr int kMaxTicks = 100'000'000;
+
+int CountWord(const std::vector<Word>& words) {
+    if (words.size() < 2) return 1;
+    const int count = IntWord(words[1], "a number of calls");
+    if (count < 0) throw CommandError{"\"" + words[1].text + "\" is no number of calls; 0 or more"};
+    return count;
+}
+
+int TicksOf(const Word& seconds) {
+    const double ticks = std::round(NumberWord(seconds, "a number of seconds") * 18);
+    if (!(ticks >= 0 && ticks <= kMaxTicks))
+        throw CommandError{"\"" + seconds.text + "\" seconds can't be run"};
+    return static_cast<int>(ticks);
+}
+
+void Tick(Scenario& scenario, const std::vector<Word>& words) {
+    for (int left = CountWord(words); left > 0; --left) TickSession(scenario.session, false);
+}
+
+void Frame(Scenario& scenario, const std::vector<Word>& words) {
+    for (int left = CountWord(words); left > 0; --left) TickSession(scenario.session, true);
+}
+
+void Run(Scenario& scenario, const std::vector<Word>& words) {
+    if (words[1].text != "until") {
+        if (words.size() != 2) throw CommandError{"`run SECONDS` takes one number"};
+        for (int left = TicksOf(words[1]); left > 0; --left) TickSession(scenario.session, false);
+        return;
+    }
+    if (words.size() < 7 || words[words.size() - 2].text != "max")
+        throw CommandError{"`run until NAME OP VALUE max SECONDS`"};
+    const Condition condition = ParseCondition({words.begin() + 2, words.end() - 2});
+    std::string have;
+    for (int left = TicksOf(words.back()); !Holds(scenario, condition, have); --left) {
+        if (left == 0) {
+            TellFailure(scenario, condition, have);
+            return;
+        }
+        TickSession(scenario.session, false);
+    }
+}
+
+void Paint(Scenario& scenario, const std::vector<Word>& words) {
+    const int every = IntWord(words[2], "a number of calls");
+    if (words[1].text != "every" || every < 0) throw CommandError{"`paint every N`, N of 0 or more"};
+    scenario.paint_every = every;
+}
+
+}  // namespace
+
+std::vector<Command> TimeCommands() {
+    return {
+        {"tick", "[N]", "tick 36", Command::kAfter, 0, 1, Tick},
+        {"run", "SECONDS | until NAME OP VALUE max SECONDS", "run until tick_phase == 4 max 60",
+         Command::kAfter, 1, 7, Run},
+        {"frame", "[N]", "frame 18", Command::kAfter, 0, 1, Frame},
+        {"paint", "every N", "paint every 18", Command::kAnytime, 2, 2, Paint},
+    };
+}
+
+}  // namespace host

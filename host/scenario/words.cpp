@@ -1,0 +1,82 @@
+#include "host/scenario/words.h"
+
+#include <charconv>
+#include <cmath>
+
+namespace host {
+
+std::optional<std::vector<Word>> SplitWords(std::string_view line) {
+    std::vector<Word> words;
+    std::size_t at = 0;
+    const auto blank = [](char c) { return c == ' ' || c == '\t' || c == '\r'; };
+    while (true) {
+        while (at < line.size() && blank(line[at])) ++at;
+        if (at == line.size() || line[at] == '#') return words;
+        Word word;
+        bool quoted = false;
+        for (; at < line.size() && (quoted || !blank(line[at])); ++at) {
+            word.raw += line[at];
+            if (line[at] == '"') {
+                quoted = !quoted;
+            } else if (quoted && line[at] == '\\' && at + 1 < line.size() && line[at + 1] == 'n') {
+                word.raw += line[++at];
+                word.text += '\n';
+            } else {
+                word.text += line[at];
+            }
+        }
+        if (quoted) return {};
+        words.push_back(std::move(word));
+    }
+}
+
+std::optional<int> ParseInt(std::string_view text) {
+    const bool negative = text.starts_with('-');
+    std::string_view digits = negative ? text.substr(1) : text;
+    const bool hexadecimal = digits.starts_with("0x") || digits.starts_with("0X");
+    if (hexadecimal) digits.remove_prefix(2);
+    unsigned value = 0;
+    const auto [rest, error] =
+        std::from_chars(digits.data(), digits.data() + digits.size(), value, hexadecimal ? 16 : 10);
+    if (error != std::errc{} || rest != digits.data() + digits.size()) return {};
+    if (!hexadecimal && value > 2147483647U) return {};
+    return negative ? -static_cast<int>(value) : static_cast<int>(value);
+}
+
+std::optional<double> ParseNumber(std::string_view text) {
+    if (text.starts_with("0x") || text.starts_with("0X")) {
+        const std::optional<int> whole = ParseInt(text);
+        return whole ? std::optional<double>(*whole) : std::nullopt;
+    }
+    if (text.starts_with('+')) text.remove_prefix(1);
+    double value = 0;
+    const auto [rest, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (error != std::errc{} || rest != text.data() + text.size() || !std::isfinite(value)) return {};
+    return value;
+}
+
+std::string NumberText(double value) {
+    if (!std::isfinite(value)) return std::isnan(value) ? "nan" : value > 0 ? "inf" : "-inf";
+    char text[64];
+    const bool whole = value == std::floor(value) && std::fabs(value) < 1e15;
+    const auto result = whole ? std::to_chars(text, text + sizeof text, static_cast<long long>(value))
+                              : std::to_chars(text, text + sizeof text, value);
+    return {text, result.ptr};
+}
+
+bool MatchesPattern(std::string_view name, std::string_view pattern) {
+    if (pattern.find('*') == std::string_view::npos) return name.find(pattern) != std::string_view::npos;
+    std::size_t star = pattern.find('*');
+    if (name.substr(0, star) != pattern.substr(0, star)) return false;
+    name.remove_prefix(star);
+    pattern.remove_prefix(star + 1);
+    while ((star = pattern.find('*')) != std::string_view::npos) {
+        const std::size_t found = name.find(pattern.substr(0, star));
+        if (found == std::string_view::npos) return false;
+        name.remove_prefix(found + star);
+        pattern.remove_prefix(star + 1);
+    }
+    return name.ends_with(pattern);
+}
+
+}  // namespace host

@@ -1,0 +1,53 @@
+#include "host/scenario/words.h"
+
+#include <gtest/gtest.h>
+
+namespace host {
+namespace {
+
+std::string Joined(std::string_view line) {
+    const auto words = SplitWords(line);
+    if (!words) return "open quote";
+    std::string text;
+    for (const Word& word : *words) text += "[" + word.text + "]";
+    return text;
+}
+
+TEST(ScenarioWords, SplitAtBlanksOutsideQuotes) {
+    const struct {
+        const char *line, *words;
+    } kCases[] = {
+        {"", ""},
+        {"  get\tstpos  # the leg", "[get][stpos]"},
+        {"# all", ""},
+        {"keys L A#B", "[keys][L][A#B]"},
+        {R"(log "half way # still")", "[log][half way # still]"},
+        {R"(expect call:"GreatCircle 0 0 1 1".dist ~ 84.8 0.1)",
+         "[expect][call:GreatCircle 0 0 1 1.dist][~][84.8][0.1]"},
+        {R"(log "a\nb\c")", "[log][a\nb\\c]"},
+        {R"(log "")", "[log][]"},
+        {R"(log "open)", "open quote"},
+    };
+    for (const auto& row : kCases) EXPECT_EQ(Joined(row.line), row.words) << row.line;
+}
+
+TEST(ScenarioWords, NumbersAreTakenWhole) {
+    EXPECT_EQ(ParseInt("0x1002c"), 0x1002c);
+    EXPECT_EQ(ParseInt("-5"), -5);
+    for (const char* wrong : {"", "1.5", "0x", "12x", "99999999999", "-"})
+        EXPECT_FALSE(ParseInt(wrong)) << wrong;
+    EXPECT_EQ(ParseNumber("-47.5"), -47.5);
+    EXPECT_EQ(ParseNumber("0x10"), 16);
+    for (const char* wrong : {"", "nan", "inf", "1e", "4 "}) EXPECT_FALSE(ParseNumber(wrong)) << wrong;
+}
+
+TEST(ScenarioWords, PatternsMatchWithinOrByStars) {
+    EXPECT_TRUE(MatchesPattern("fms_fpln_active", "fpln"));
+    EXPECT_TRUE(MatchesPattern("TZ_OH_LT_NAV_Button", "TZ_OH_*_Button"));
+    EXPECT_FALSE(MatchesPattern("TZ_OH_LT_NAV_Button", "OH_*"));
+    EXPECT_FALSE(MatchesPattern("TZ_OH_LT_NAV_Switch", "TZ_*_Button"));
+    EXPECT_TRUE(MatchesPattern("stpos", ""));
+}
+
+}  // namespace
+}  // namespace host
