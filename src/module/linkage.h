@@ -31,10 +31,22 @@ struct GaugeInstance {
     void* user_data;         // the gauge's own
 };
 
+constexpr uint32_t kMouseLeftSingle = 0x20000000;
+constexpr uint32_t kMouseRightSingle = 0x80000000;
+
+/// A mouse area of a gauge, in its logical frame.
+struct MouseRectangle {
+    const char* name;  // of the control that lies there, such as "lnav"
+    int16_t x, y, width, height;
+    int32_t (*callback)(GaugeInstance* instance, uint32_t flags);  // gives 0
+};
+
 struct GaugeHeader {
     const char* name;
     int32_t version;  // 800 or 1000; those of 1000 are painted
-    void (*service)(GaugeInstance* instance, int32_t service_id);
+    void (*service)(GaugeInstance* instance, int32_t service_id) = nullptr;
+    const MouseRectangle* mouse = nullptr;
+    int32_t mouse_count = 0;
 };
 
 /// Takes one result: a name and its text. Several lines are several calls.
