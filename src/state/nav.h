@@ -8,14 +8,14 @@
 
 /// One row of a navigation table. Degrees north and east positive.
 struct NavRecord {
-    std::string ident;
-    std::string name;
+    std::string ident = {};
+    std::string name = {};
     double lat = 0, lon = 0;
-    std::string type;           // "I" fix, "V" VOR, "N" NDB, "APT" airport, "O" coded latitude/longitude
-    std::string freq;           // navaids: as in the file
+    std::string type = {};      // "I" fix, "V" VOR, "N" NDB, "APT" airport, "O" coded latitude/longitude
+    std::string freq = {};      // navaids: as in the file
     double longest_runway = 0;  // ft, airports
-    std::string airway;         // records of an airway search
-    std::string elevation_text;
+    std::string airway = {};    // records of an airway search
+    std::string elevation_text = {};
 };
 
 /// What the navigation database answers. Filled by navdata/.
@@ -31,7 +31,6 @@ struct NavState {
     std::string airac_range_text;   // "JAN04FEB01/18"
     std::string airac_range_short;  // "04JAN - 01FEB"
     int nearest_refresh_due = 0;    // the proximity lists are refreshed at once
-    // navdata/'s owner adds the tables, the proximity lists and the VOR autotuning here.
 };
 
 extern NavState nav;

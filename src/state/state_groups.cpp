@@ -6,6 +6,8 @@
 #include "state/host_link.h"
 #include "state/lnav.h"
 #include "state/nav.h"
+#include "state/nav_tables.h"
+#include "state/nearest.h"
 #include "state/perf.h"
 #include "state/plan.h"
 #include "state/sim.h"
@@ -24,7 +26,9 @@ constexpr StateGroup kGroups[] = {
     {"host_link", Reset<&host_link>, &kHostLinkVariables},
     {"time_base", Reset<&time_base>, &kTimeBaseVariables},
     {"sim", Reset<&sim>, &kSimVariables},
+    {"nav_tables", Reset<&nav_tables>, &kNavTableVariables},
     {"nav", Reset<&nav>, &kNavVariables},
+    {"nearest", Reset<&nearest>, &kNearestVariables},
     {"airports", Reset<&airports>, &kAirportVariables},
     {"plan", Reset<&plan>, &kPlanVariables},
     {"perf", Reset<&perf>, &kPerfVariables},

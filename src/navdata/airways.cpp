@@ -1,0 +1,73 @@
+#include "navdata/airways.h"
+
+#include <string>
+#include <unordered_set>
+
+#include "navdata/ident_index.h"
+#include "navdata/text_fields.h"
+#include "state/nav.h"
+#include "state/nav_tables.h"
+
+namespace {
+
+constexpr std::size_t kAirwayBound = 199;
+constexpr int kMaxAirwayFixes = 250;
+constexpr int kFixesOfPage = 16;
+
+struct AirwayFix {
+    std::string_view ident;
+    double lat, lon;
+};
+
+// Calls `visit` with each fix of the airway's first run of lines.
+template <class Visit>
+void VisitAirway(std::string_view name, Visit visit) {
+    std::string_view lines;
+    VisitIdent(nav_tables.airway_index, name, [&](int number) {
+        const AirwayRun& run = nav_tables.airway_runs[number];
+        if (run.name != name) return true;
+        lines = run.lines;
+        return false;
+    });
+    while (auto line = NextDataLine(lines, kAirwayBound)) {
+        NextField(*line);
+        NextField(*line);
+        const std::string_view ident = NextField(*line), lat = NextField(*line), lon = NextField(*line);
+        if (lon.empty()) continue;
+        visit(AirwayFix{ident, ToNumber(lat), ToNumber(lon)});
+    }
+}
+
+}  // namespace
+
+int LoadAirway(std::string_view name, std::string_view from_ident) {
+    if (name.starts_with('#')) name.remove_prefix(1);
+    nav.EntryCandidates.clear();
+    nav.entry_cnt = nav.entry_list_pos = 0;
+    VisitAirway(name, [&](const AirwayFix& fix) {
+        if (nav.entry_cnt == kMaxAirwayFixes) return;
+        nav.EntryCandidates[++nav.entry_cnt] = {.ident = std::string(fix.ident),
+                                                .name = std::string(fix.ident),
+                                                .lat = fix.lat,
+                                                .lon = fix.lon,
+                                                .type = "I",
+                                                .airway = std::string(name)};
+        if (nav.entry_list_pos == 0 && fix.ident == from_ident) nav.entry_list_pos = nav.entry_cnt;
+    });
+    nav.entry_list_page = (nav.entry_list_pos + kFixesOfPage - 1) / kFixesOfPage;
+    return nav.entry_cnt;
+}
+
+AirwayCrossing FindAirwayCrossing(std::string_view airway1, std::string_view airway2,
+                                  std::string_view context) {
+    std::unordered_set<std::string_view> second;
+    VisitAirway(airway2, [&](const AirwayFix& fix) { second.insert(fix.ident); });
+    AirwayCrossing crossing;
+    int place = 0;
+    VisitAirway(airway1, [&](const AirwayFix& fix) {
+        ++place;
+        if (second.contains(fix.ident)) crossing.index = place;
+        if (crossing.context == 0 && fix.ident == context) crossing.context = place;
+    });
+    return crossing;
+}

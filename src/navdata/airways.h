@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string_view>
+
+/// Collects the fixes of an airway into `nav.EntryCandidates`, in the file's order: those of the first lines
+/// that bear its name and stand together, at most 250. A "#" before the name is taken off. Sets
+/// `nav.entry_list_pos` to the place of `from_ident` among them (0 = not there) and `nav.entry_list_page` to
+/// the page of 16 that shows it. Gives their number.
+int LoadAirway(std::string_view name, std::string_view from_ident);
+
+struct AirwayCrossing {
+    int index = 0;    // on the first airway, the last fix that the second bears too; 0 = none
+    int context = 0;  // on the first airway, the fix of the ident given; 0 = not on it
+};
+
+/// Where two airways meet, fixes compared by ident, numbered from 1.
+AirwayCrossing FindAirwayCrossing(std::string_view airway1, std::string_view airway2,
+                                  std::string_view context);

@@ -1,0 +1,203 @@
+#include "navdata/nav_tables.h"
+
+#include <algorithm>
+#include <array>
+#include <cctype>
+#include <string>
+#include <string_view>
+
+#include "navdata/ident_index.h"
+#include "navdata/text_fields.h"
+#include "platform/host.h"
+#include "state/nav.h"
+#include "state/nav_tables.h"
+
+namespace {
+
+constexpr std::size_t kTableBound = 1698;
+constexpr std::size_t kAirwayBound = 199;
+constexpr std::size_t kHeaderBound = 299;
+
+std::string_view ReadNavdata(std::string_view name, FileBytes& file) {
+    file = ReadFile(std::string(kNavdataFolder).append(name)).value_or(FileBytes{});
+    return file.Text();
+}
+
+// Room for a row a line, so that a table doesn't move while it grows.
+template <class Row>
+void ReserveLines(GrowingList<Row>& table, std::string_view text) {
+    table.reserve(static_cast<int>(std::count(text.begin(), text.end(), '\n')) +
+                  2 * GrowingList<Row>::kSlack);
+}
+
+bool EqualNoCase(std::string_view a, std::string_view upper) {
+    return std::equal(a.begin(), a.end(), upper.begin(), upper.end(), [](char x, char y) {
+        return std::toupper(static_cast<unsigned char>(x)) == static_cast<unsigned char>(y);
+    });
+}
+
+constexpr auto kIdentOf = [](const auto& row) { return std::string_view(row.ident); };
+
+void LoadIntersections(NavTables& t) {
+    std::string_view rest = ReadNavdata("ints.txt", t.ints_file);
+    ReserveLines(t.IntersectionTable, rest);
+    while (auto line = NextDataLine(rest, kTableBound)) {
+        const std::string_view ident = NextField(*line), name = NextField(*line);
+        const std::string_view lat = NextField(*line), lon = NextField(*line);
+        if (lon.empty()) continue;
+        t.IntersectionTable[++t.int_cnt] = {ident, name, ToNumber(lat), ToNumber(lon)};
+    }
+    BuildIdentIndex(t.int_index, t.IntersectionTable, t.int_cnt, kIdentOf);
+}
+
+// A run is read again, bounded by kAirwayBound, when its airway is wanted; so it is told apart by the same
+// bound.
+void ExtendAirwayRuns(NavTables& t, std::string_view physical_line) {
+    while (auto line = NextDataLine(physical_line, kAirwayBound)) {
+        std::string_view fields = *line;
+        const std::string_view name = NextField(fields);
+        if (name.empty()) continue;
+        AirwayRun* run = &t.airway_runs[t.airway_run_cnt];
+        if (t.airway_run_cnt == 0 || run->name != name) {
+            run = &t.airway_runs[++t.airway_run_cnt];
+            *run = {name, {line->data(), 0}};
+        }
+        const char* const start = run->lines.data();
+        run->lines = {start, static_cast<std::size_t>(line->data() + line->size() - start)};
+    }
+}
+
+void LoadAirways(NavTables& t) {
+    std::string_view rest = ReadNavdata("awys.txt", t.awys_file);
+    ReserveLines(t.AirwayFixTable, rest);
+    std::string_view rest_for_runs = rest;
+    while (auto line = NextDataLine(rest, kTableBound)) {
+        NextField(*line);
+        NextField(*line);
+        const std::string_view ident = NextField(*line);
+        const std::string_view lat = NextField(*line), lon = NextField(*line);
+        if (lon.empty() || ident.size() < 4) continue;
+        t.AirwayFixTable[++t.awy_fix_cnt] = {ident, ident, ToNumber(lat), ToNumber(lon)};
+    }
+    ExtendAirwayRuns(t, rest_for_runs);
+    BuildIdentIndex(t.airway_index, t.airway_runs, t.airway_run_cnt,
+                    [](const AirwayRun& run) { return run.name; });
+}
+
+double LongestRunway(std::string_view tokens) {
+    constexpr int kTokensLookedAt = 10;
+    double longest = 0;
+    for (int i = 0; i < kTokensLookedAt; ++i) {
+        std::string_view token = NextField(tokens);
+        if (token.empty()) break;
+        NextTokenPart(token);
+        longest = std::max(longest, ToNumber(NextTokenPart(token)));
+    }
+    return longest;
+}
+
+void LoadAirports(NavTables& t, double min_runway_ft) {
+    std::string_view rest = ReadNavdata("apts.txt", t.apts_file);
+    ReserveLines(t.AirportTable, rest);
+    ReserveLines(t.airport_lines, rest);
+    while (auto line = NextDataLine(rest, kTableBound)) {
+        std::string_view fields = *line;
+        const std::string_view ident = NextField(fields), name = NextField(fields);
+        const std::string_view elevation = NextField(fields);
+        const std::string_view lat = NextField(fields), lon = NextField(fields);
+        if (lon.empty()) continue;
+        AirportLine& airport = t.airport_lines[++t.airport_line_cnt];
+        airport = {std::string(ident), *line};
+        for (char& c : airport.ident) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+        const double longest = LongestRunway(fields);
+        if (longest < min_runway_ft) continue;
+        t.AirportTable[++t.apt_cnt] = {ident, name, ToNumber(lat), ToNumber(lon), longest, elevation};
+    }
+    BuildIdentIndex(t.apt_index, t.AirportTable, t.apt_cnt, kIdentOf);
+    BuildIdentIndex(t.airport_line_index, t.airport_lines, t.airport_line_cnt, kIdentOf);
+}
+
+void LoadNavaids(NavTables& t) {
+    std::string_view rest = ReadNavdata("navs.txt", t.navs_file);
+    ReserveLines(t.NavaidTable, rest);
+    while (auto line = NextDataLine(rest, kTableBound)) {
+        const std::string_view ident = NextField(*line), name = NextField(*line);
+        const std::string_view lat = NextField(*line), lon = NextField(*line);
+        const std::string_view kind = NextField(*line), freq = NextField(*line);
+        if (kind.empty()) continue;
+        const std::string_view type = EqualNoCase(kind, "VOR") ? "V" : "N";
+        t.NavaidTable[++t.nav_cnt] = {ident, name, ToNumber(lat), ToNumber(lon), type, freq};
+    }
+    BuildIdentIndex(t.nav_index, t.NavaidTable, t.nav_cnt, kIdentOf);
+}
+
+void LoadLandmarks(NavTables& t) {
+    std::string_view rest = ReadNavdata("landmarks.txt", t.landmarks_file);
+    ReserveLines(t.LandmarkTable, rest);
+    char* const text = t.landmarks_file.data.get();
+    while (auto line = NextDataLine(rest, kTableBound)) {
+        const std::string_view lat = NextField(*line), lon = NextField(*line), name = NextField(*line);
+        char* const first = text + (name.data() - text);
+        std::replace(first, first + name.size(), '_', ' ');
+        t.LandmarkTable[++t.landmark_cnt] = {name, ToNumber(lat), ToNumber(lon)};
+    }
+}
+
+// "05-NOV-2026".
+struct CycleDate {
+    int number = 0;  // YYYYMMDD, 0 for a text that is no date
+    std::string day, month, year;
+};
+
+CycleDate ParseCycleDate(std::string_view text) {
+    constexpr std::array<std::string_view, 12> kMonths = {"JAN", "FEB", "MAR", "APR", "MAY", "JUN",
+                                                          "JUL", "AUG", "SEP", "OCT", "NOV", "DEC"};
+    constexpr std::size_t kLength = 11;
+    if (text.size() != kLength || text[2] != '-' || text[6] != '-') return {};
+    const std::string_view day = text.substr(0, 2), month = text.substr(3, 3), year = text.substr(7);
+    const auto found = std::find(kMonths.begin(), kMonths.end(), month);
+    if (found == kMonths.end()) return {};
+    const int month_number = static_cast<int>(found - kMonths.begin()) + 1;
+    return {ToWholeNumber(year) * 10000 + month_number * 100 + ToWholeNumber(day), std::string(day),
+            std::string(month), std::string(year)};
+}
+
+}  // namespace
+
+void LoadNavTables(double min_runway_ft) {
+    nav_tables = {};
+    LoadIntersections(nav_tables);
+    LoadAirways(nav_tables);
+    LoadAirports(nav_tables, min_runway_ft);
+    LoadNavaids(nav_tables);
+    LoadLandmarks(nav_tables);
+    nav.nearest_refresh_due = 1;
+}
+
+void CheckNavdataDates(bool check_status) {
+    nav.airac_cycle_text.clear();
+    nav.airac_range_text.clear();
+    nav.airac_range_short.clear();
+    nav.navdata_out_of_date = 0;
+    FileBytes file;
+    std::string_view rest = ReadNavdata("navs.txt", file);
+    while (auto line = NextBoundedLine(rest, kHeaderBound)) {
+        if (NextField(*line) != ";AIRAC") continue;
+        const std::string_view cycle = NextField(*line);
+        NextField(*line);
+        std::string_view first_text = NextField(*line);
+        if (!first_text.empty()) first_text.remove_prefix(1);  // "("
+        NextField(*line);
+        const CycleDate first = ParseCycleDate(first_text), last = ParseCycleDate(NextField(*line));
+        nav.airac_cycle_text = std::string("AIRAC ").append(cycle);
+        if (first.number != 0 && last.number != 0) {
+            nav.airac_range_text =
+                first.month + first.day + last.month + last.day + "/" + last.year.substr(2);
+            nav.airac_range_short = first.day + first.month + " - " + last.day + last.month;
+        }
+        const int today = Host().machine_date();
+        const bool valid = first.number <= today && today <= last.number;
+        nav.navdata_out_of_date = !valid && check_status;
+        return;
+    }
+}

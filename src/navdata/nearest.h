@@ -1,0 +1,17 @@
+#pragma once
+
+#include "state/nearest.h"
+
+/// Brings the proximity lists, the alternates and the automatic tuning of the VOR radios up to date; called
+/// about once a second. A list is rebuilt only when its reference point has moved (200 nm for the far lists,
+/// 50 nm for the near ones), or at once when `nav.nearest_refresh_due` is set.
+void RefreshNearest();
+
+/// Bring one pair of lists to a reference point (degrees); true when one of the two was rebuilt.
+bool NearAirports(double lat, double lon);
+bool NearFixes(double lat, double lon);
+bool NearNavaids(double lat, double lon);
+
+/// Fills `nearest.AltnRows` with the airports nearest to the aircraft, nearest first: runway of at least 4800
+/// ft, neither origin nor destination. Rows that the crew has fixed keep their place.
+void BuildAltnList();

@@ -1,0 +1,90 @@
+#include "navdata/vor_autotune.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "navdata/geodesy.h"
+#include "platform/host.h"
+#include "state/nearest.h"
+#include "state/plan.h"
+#include "state/sim.h"
+
+namespace {
+
+constexpr int kModeAuto = 1;
+constexpr int kRouteActive = 3;
+
+// A radio of the host: the token that reads its active frequency, the event that sets it.
+struct NavRadio {
+    int token, event;
+};
+constexpr NavRadio kNav1 = {24, 0x100ac}, kNav2 = {27, 0x100ad};
+
+// Keeps the nine nearest, in order, by insertion: few rows get past the ninth.
+void FindNearestVors() {
+    auto& vors = nearest.NearestVors;
+    const int last = static_cast<int>(vors.size()) - 1;
+    int count = 0;
+    for (int i = 1; i <= nearest.vors.cnt; ++i) {
+        const NavaidRow& row = std::as_const(nearest.vors.rows)[i];
+        const auto [dist, bearing] = GreatCircle(sim.plane_lat, sim.plane_lon, row.lat, row.lon);
+        int at = count;
+        for (; at > 0 && vors[static_cast<std::size_t>(at)].dist > dist; --at)
+            if (at < last) vors[static_cast<std::size_t>(at) + 1] = vors[static_cast<std::size_t>(at)];
+        if (at == last) continue;
+        vors[static_cast<std::size_t>(at) + 1] = {row.ident, row.freq, row.lat, row.lon, dist, bearing};
+        count = std::min(count + 1, last);
+    }
+    nearest.nearest_vor_cnt = count;
+}
+
+void PickRadios() {
+    constexpr double kAheadDeg = 91;
+    const bool on_route = plan.fms_fpln_active >= kRouteActive && plan.stpos >= 1 && plan.stpos != kNoPlan;
+    double course = sim.true_track_deg, lat = sim.plane_lat, lon = sim.plane_lon;
+    if (on_route) {
+        const FlightPlanLeg& from = std::as_const(plan.FlightPlan)[plan.stpos - 1];
+        const FlightPlanLeg& to = std::as_const(plan.FlightPlan)[plan.stpos];
+        lat = from.lat;
+        lon = from.lon;
+        course = GreatCircle(from.lat, from.lon, to.lat, to.lon).bearing;
+    }
+    TunedVor* slots[] = {&nearest.vor_left, &nearest.vor_right};
+    std::size_t filled = 0;
+    for (int i = 1; i <= nearest.nearest_vor_cnt && filled < std::size(slots); ++i) {
+        const TunedVor& vor = nearest.NearestVors[static_cast<std::size_t>(i)];
+        const double bearing = GreatCircle(lat, lon, vor.lat, vor.lon).bearing;
+        const double off_course = std::fabs(std::remainder(bearing - course, 360));
+        if (off_course < kAheadDeg) *slots[filled++] = vor;
+    }
+}
+
+void Tune(const NavRadio& radio, int mode, const TunedVor& vor) {
+    if (mode != kModeAuto || vor.freq.empty()) return;
+    const int wanted = FrequencyToBcd(vor.freq);
+    // The host reads back the last four digits; a radio that stands right is left in peace.
+    if (static_cast<int>(ReadToken(radio.token)) != (wanted & 0xffff)) SendKeyEvent(radio.event, wanted);
+}
+
+}  // namespace
+
+int FrequencyToBcd(std::string_view freq) {
+    const std::size_t point = std::min(freq.find('.'), freq.size());
+    const std::string_view whole = freq.substr(0, point);
+    const std::string_view part = freq.substr(std::min(point + 1, freq.size()));
+    const auto digit = [](std::string_view text, std::size_t at) {
+        return at < text.size() && text[at] >= '0' && text[at] <= '9' ? text[at] - '0' : 0;
+    };
+    int bcd = 0;
+    for (std::size_t i = 0; i < 3; ++i) bcd = bcd * 16 + digit(whole, i);
+    for (std::size_t i = 0; i < 2; ++i) bcd = bcd * 16 + digit(part, i);
+    return bcd;
+}
+
+void AutoTuneRadios() {
+    FindNearestVors();
+    PickRadios();
+    Tune(kNav1, nearest.VorLeftMode, nearest.vor_left);
+    Tune(kNav2, nearest.VorRightMode, nearest.vor_right);
+}

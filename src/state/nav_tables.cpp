@@ -1,0 +1,30 @@
+#include "state/nav_tables.h"
+
+template <>
+struct Describe<LandmarkRow> {
+    static constexpr Field fields[] = {
+        FieldRow<&LandmarkRow::name>("name"),
+        FieldRow<&LandmarkRow::lat>("lat"),
+        FieldRow<&LandmarkRow::lon>("lon"),
+    };
+    static constexpr ValueType type{.kind = ValueKind::kRecord, .fields = fields};
+};
+
+NavTables nav_tables;
+
+namespace {
+constexpr Variable kRows[] = {
+    {"IntersectionTable", &nav_tables.IntersectionTable},
+    {"int_cnt", &nav_tables.int_cnt},
+    {"AirwayFixTable", &nav_tables.AirwayFixTable},
+    {"awy_fix_cnt", &nav_tables.awy_fix_cnt},
+    {"AirportTable", &nav_tables.AirportTable},
+    {"apt_cnt", &nav_tables.apt_cnt},
+    {"NavaidTable", &nav_tables.NavaidTable},
+    {"nav_cnt", &nav_tables.nav_cnt},
+    {"LandmarkTable", &nav_tables.LandmarkTable},
+    {"landmark_cnt", &nav_tables.landmark_cnt},
+};
+}  // namespace
+
+const std::span<const Variable> kNavTableVariables = kRows;

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <array>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "state/growing_list.h"
+#include "state/nav_tables.h"
+#include "state/variable.h"
+
+/// Rows of a big table around a point, in the table's order, from 1.
+template <class Row>
+struct NearList {
+    GrowingList<Row> rows;
+    int cnt = 0;
+    double lat = 0, lon = 0;  // the point of the last rebuild
+    int built = 0;            // 0 until there has been one
+};
+
+/// The far list is taken from the full table, the near list from the far one.
+template <class Row>
+struct NearListPair {
+    NearList<Row> far, near;
+};
+
+struct AltnRecord {
+    std::string ident;
+    double lat = 0, lon = 0;
+    int fixed = 0;  // typed by the crew, keeps its place
+    std::string text;
+};
+
+struct TunedVor {
+    std::string_view ident;
+    std::string_view freq;  // as in the file
+    double lat = 0, lon = 0;
+    double dist = 0;     // nm from the aircraft
+    double bearing = 0;  // degrees true from the aircraft
+};
+
+/// What lies around the aircraft, or around the point that the map is centred on. Filled by navdata/nearest
+/// and navdata/vor_autotune.
+struct NearestState {
+    NearListPair<AirportRow> airports;  // 1700 and 1280 nm
+    NearListPair<FixRow> fixes;         // 600 and 200 nm, fixes of airways
+    NearListPair<NavaidRow> navaids;    // 600 and 320 nm
+    NearList<NavaidRow> vors;           // 320 nm of the aircraft
+
+    // The map's centre while it isn't the aircraft (PLAN); written by display/.
+    int map_centre_set = 0;
+    double map_centre_lat = 0, map_centre_lon = 0;
+
+    std::array<AltnRecord, 5> AltnRows;  // from 1, nearest first
+
+    std::array<TunedVor, 10> NearestVors;  // from 1, nearest first
+    int nearest_vor_cnt = 0;
+    TunedVor vor_left, vor_right;           // what the radios are tuned to when in automatic
+    int VorLeftMode = 1, VorRightMode = 1;  // 1 auto, 2 manual, 3 procedure (left only)
+};
+
+extern NearestState nearest;
+extern const std::span<const Variable> kNearestVariables;
