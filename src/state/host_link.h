@@ -1,6 +1,7 @@
 #pragma once
 
 #include <span>
+#include <string>
 #include <vector>
 
 #include "state/variable.h"
@@ -11,6 +12,8 @@ struct HostLink {
     int named_vars_registered = 0;
     int key_hook_added = 0;
     int sim_client_open = 0;
+    std::string saved_flight;   // file name of the last flight save, until the panel states take it
+    std::string loaded_flight;  // file name of the flight that was loaded
 };
 
 extern HostLink host_link;

@@ -40,6 +40,7 @@ constexpr Variable kRows[] = {
     {"des_restr_alt", &perf.des_restr_alt},
     {"des_restr_spd", &perf.des_restr_spd},
     {"spd_limit", &perf.spd_limit},
+    {"ZfwEntry", &perf.ZfwEntry},
     {"zfw", &perf.zfw},
     {"gross_weight", &perf.gross_weight},
     {"agent_fuel", &perf.agent_fuel},

@@ -32,7 +32,8 @@ struct PerfState {
     double des_spd_trans_alt = 10000, des_spd_trans_spd = 240;
     double des_restr_alt = 0, des_restr_spd = 0;
     double spd_limit = 0;     // kt, lower limit of the descent speed
-    double zfw = 0;           // lb, zero-fuel weight, 0 = not entered
+    double ZfwEntry = 0;      // lb, zero-fuel weight entered by the crew, 0 = none
+    double zfw = 0;           // lb, zero-fuel weight, 0 = not known
     double gross_weight = 0;  // lb
     double agent_fuel = 0;    // lb, added by the load agent
     double planned_fuel = 0;  // lb, that the route brought; 0 = none

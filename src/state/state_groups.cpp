@@ -3,17 +3,23 @@
 #include "state/airports.h"
 #include "state/autoflight.h"
 #include "state/cdu.h"
+#include "state/cfg.h"
+#include "state/cockpit.h"
 #include "state/host_link.h"
+#include "state/identity.h"
 #include "state/lnav.h"
 #include "state/nav.h"
 #include "state/nav_tables.h"
 #include "state/nearest.h"
 #include "state/perf.h"
+#include "state/placement.h"
 #include "state/plan.h"
+#include "state/pos_init.h"
 #include "state/sim.h"
 #include "state/sound.h"
 #include "state/time_base.h"
 #include "state/vnav.h"
+#include "state/weights.h"
 
 namespace {
 
@@ -24,6 +30,12 @@ void Reset() {
 
 constexpr StateGroup kGroups[] = {
     {"host_link", Reset<&host_link>, &kHostLinkVariables},
+    {"cfg", Reset<&cfg>, &kCfgVariables},
+    {"identity", Reset<&identity>, &kIdentityVariables},
+    {"weights", Reset<&weights>, &kWeightVariables},
+    {"cockpit", Reset<&cockpit>, &kCockpitVariables},
+    {"placement", Reset<&placement>, &kPlacementVariables},
+    {"pos_init", Reset<&pos_init>, &kPosInitVariables},
     {"time_base", Reset<&time_base>, &kTimeBaseVariables},
     {"sim", Reset<&sim>, &kSimVariables},
     {"nav_tables", Reset<&nav_tables>, &kNavTableVariables},

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+// Small text tools for the system's file formats: ASCII only, whatever the machine's language is set to.
+
+/// Without the blanks and tabs at both ends.
+std::string_view Trimmed(std::string_view text);
+
+/// The whole number that a text begins with, after blanks: "12abc" is 12. 0 when there is none or it doesn't
+/// fit 32 bits.
+int LeadingInt(std::string_view text);
+
+/// The decimal number that a text begins with, after blanks. 0 when there is none; never infinite or NaN.
+double LeadingDouble(std::string_view text);
+
+void UpperCase(std::string& text);
+void LowerCase(std::string& text);
+bool EqualIgnoringCase(std::string_view a, std::string_view b);

@@ -1,0 +1,20 @@
+#include "state/identity.h"
+
+AircraftIdentity identity;
+
+namespace {
+constexpr Variable kRows[] = {
+    {"aircraft", &identity.aircraft},
+    {"registration", &identity.registration},
+    {"aircraft_model", &identity.aircraft_model},
+    {"aircraft_sim_name", &identity.aircraft_sim_name},
+    {"engine_model", &identity.engine_model},
+    {"airline_code", &identity.airline_code},
+    {"airline_voice_folder", &identity.airline_voice_folder},
+    {"panel_hires", &identity.panel_hires},
+    {"aircraft_identified", &identity.aircraft_identified},
+    {"identify_attempts", &identity.identify_attempts},
+};
+}  // namespace
+
+const std::span<const Variable> kIdentityVariables = kRows;
