@@ -1,0 +1,101 @@
+#include <benchmark/benchmark.h>
+
+#include <cstdio>
+#include <map>
+#include <vector>
+
+#include "figures.h"
+
+namespace {
+
+const std::vector<Figure> kFigures = {
+    {"one service call, 60 legs active, mean", "ServiceCall/60", "Yardstick/GreatCircle", "", "", 20e3},
+    {"one service call, 60 legs active, p99", "ServiceCall/60", "", "p99_us", "us", 100},
+    {"one service call, 300 legs active, mean", "ServiceCall/300", "ServiceCall/60", "", "", 0},
+    {"path of 60 legs worked out", "PathOfLegs/60", "Yardstick/GreatCircle", "", "", 50e3},
+    {"all world navigation data loaded, indexed", "LoadNavTables/world", "Yardstick/ReadAndSplitWorld", "", "", 20e6},
+    {"ParseEntry on world data", "ParseEntry/world", "Yardstick/GreatCircle", "", "", 10e3},
+    {"LoadAirway on world data", "LoadAirway/world", "Yardstick/GreatCircle", "", "", 1e6},
+    {"LoadAirport on world data", "LoadAirport/world", "Yardstick/GreatCircle", "", "", 1e6},
+    {"headless flight, painting off, times real time", "HeadlessFlight", "", "times_real_time", "x", 1000, true},
+    {"memory with world data loaded", "Memory/world", "", "rss_mb", "MB", 80},
+    {"its growth over a flight of ten hours", "Memory/world", "", "growth_kb", "kB", 0},
+    {"start to first update, world data included", "StartSession/world", "", "", "", 1e9},
+};
+
+struct Result {
+    double ns = 0;
+    benchmark::UserCounters counters;
+};
+std::map<std::string, Result> results;
+
+class Collector : public benchmark::ConsoleReporter {
+  public:
+    void ReportRuns(const std::vector<Run>& runs) override {
+        for (const Run& run : runs)
+            if (!run.error_occurred)
+                results[run.benchmark_name()] = {run.GetAdjustedRealTime() * Nanoseconds(run.time_unit), run.counters};
+        ConsoleReporter::ReportRuns(runs);
+    }
+
+  private:
+    static double Nanoseconds(benchmark::TimeUnit unit) {
+        return unit == benchmark::kSecond ? 1e9 : unit == benchmark::kMillisecond ? 1e6 : unit == benchmark::kMicrosecond ? 1e3 : 1;
+    }
+};
+
+// A benchmark by its name, which may carry what the library adds behind it ("/iterations:100").
+const Result* FindResult(const std::string& name) {
+    for (const auto& [full, result] : results)
+        if (full == name || full.starts_with(name + "/iterations") || full.starts_with(name + "/min_time") ||
+            full.starts_with(name + "/manual_time") || full.starts_with(name + "/real_time"))
+            return &result;
+    return nullptr;
+}
+
+std::string TimeText(double ns) {
+    char text[32];
+    const double value = ns >= 1e9 ? ns / 1e9 : ns >= 1e6 ? ns / 1e6 : ns >= 1e3 ? ns / 1e3 : ns;
+    std::snprintf(text, sizeof text, "%.3g %s", value, ns >= 1e9 ? "s" : ns >= 1e6 ? "ms" : ns >= 1e3 ? "us" : "ns");
+    return text;
+}
+
+}  // namespace
+
+int PrintFigures() {
+    int missed = 0;
+    std::printf("\n%-52s %14s %14s  %s\n", "figure", "measured", "to reach", "ratio to its yardstick");
+    for (const Figure& figure : kFigures) {
+        const Result* measured = FindResult(figure.measured);
+        if (measured == nullptr) continue;
+        double value = measured->ns;
+        if (!figure.counter.empty()) {
+            const auto counter = measured->counters.find(figure.counter);
+            if (counter == measured->counters.end()) continue;
+            value = counter->second.value;
+        }
+        const auto text = [&](double number) {
+            char with_unit[48];
+            std::snprintf(with_unit, sizeof with_unit, "%.4g %s", number, figure.unit.c_str());
+            return figure.counter.empty() ? TimeText(number) : std::string(with_unit);
+        };
+        const bool reached = figure.reach == 0 || (figure.at_least ? value >= figure.reach : value <= figure.reach);
+        missed += reached ? 0 : 1;
+        std::printf("%-52s %14s %14s", figure.what.c_str(), text(value).c_str(),
+                    figure.reach == 0 ? "" : text(figure.reach).c_str());
+        if (const Result* yardstick = FindResult(figure.yardstick); yardstick != nullptr && yardstick->ns > 0)
+            std::printf("  %.3g x %s (%s)", value / yardstick->ns, figure.yardstick.c_str(), TimeText(yardstick->ns).c_str());
+        std::printf("%s\n", reached ? "" : "  NOT REACHED");
+    }
+    return missed;
+}
+
+int main(int argc, char** argv) {
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 2;
+    Collector collector;
+    benchmark::RunSpecifiedBenchmarks(&collector);
+    benchmark::Shutdown();
+    PrintFigures();
+    return 0;
+}
