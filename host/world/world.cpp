@@ -325,6 +325,7 @@ constexpr HostOperations kOperations = {
     .free_address_space = FreeAddressSpace,
     .open_sound_device = OpenSoundDevice,
     .close_sound_device = CloseSoundDevice,
+    .paints_in_line = [] { return world.paints_in_line ? 1 : 0; },
 };
 
 }  // namespace

@@ -88,6 +88,7 @@ struct World {
     std::string navdata;  // folder to use as Navdata, empty = the one under the root
     int machine_date = 20261201;
     bool swallow_keys = false;
+    bool paints_in_line = true;  // no workers: scenarios paint in their own time
 
     // clock
     double seconds = 0;  // since the start of the run, unpaused

@@ -71,6 +71,7 @@ constexpr HostOperations kDeafHost = {
     .free_address_space = [] { return 0.0; },
     .open_sound_device = [] { return 0; },
     .close_sound_device = [] {},
+    .paints_in_line = [] { return 1; },
 };
 
 const HostOperations* host_in_force = &kDeafHost;

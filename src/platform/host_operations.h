@@ -87,6 +87,9 @@ struct HostOperations {
     double (*free_address_space)();  // gigabytes
     int (*open_sound_device)();      // 1 when there is one
     void (*close_sound_device)();
+
+    // pictures: 1 when the host has each picture painted in line by the inspection table, so that no worker starts
+    int (*paints_in_line)();
 };
 
 constexpr uint32_t kHostOperationsVersion = 1;

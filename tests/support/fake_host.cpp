@@ -245,6 +245,7 @@ constexpr HostOperations kOperations = {
         [] {
             if (!Fails("close_sound_device")) fake->sound_device_open = false;
         },
+    .paints_in_line = [] { return fake->paints_in_line ? 1 : 0; },
 };
 
 }  // namespace

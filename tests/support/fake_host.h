@@ -76,6 +76,7 @@ class FakeHost {
     double free_address_space = 100;
     std::set<std::string> loaded_libraries;
     bool sound_device_open = false;
+    bool paints_in_line = true;
 
     std::filesystem::path root, app_data, navdata;  // navdata empty = under the root
     /// Writes a file below the root (name with "/"), with its folders.
