@@ -94,8 +94,8 @@ bool StartSession(Session& session, std::string& error) {
     FillClockTokens();
     session.linkage->module_init();
     PlaceGauges(session);
-    for (const int service : {kServicePreInstall, kServicePostInstall, kServicePreInitialize,
-                              kServicePostInitialize, kServiceConnectToWindow, kServicePreUpdate})
+    for (const int service : {kServiceConnectToWindow, kServicePreInstall, kServicePostInstall,
+                              kServicePreInitialize, kServicePostInitialize, kServicePreUpdate})
         CallAll(session, service);
     return true;
 }
