@@ -5,6 +5,7 @@
 
 #include "frame/key_events.h"
 #include "platform/host.h"
+#include "platform/state_lock.h"
 #include "state/host_link.h"
 #include "state/placement.h"
 #include "state/sim.h"
@@ -162,6 +163,7 @@ void CloseSimClient() {
 }
 
 void OnSimEvent(const SimMessage* message) {
+    const StateLock lock;
     const char* text = message->text != nullptr ? message->text : "";
     switch (message->kind) {
         case SimMessage::kEvent:

@@ -12,6 +12,7 @@ struct HostLink {
     int named_vars_registered = 0;
     int key_hook_added = 0;
     int sim_client_open = 0;
+    int toga_rearmed = 0;       // the autothrottle was armed anew at the last TO/GA event
     std::string saved_flight;   // file name of the last flight save, until the panel states take it
     std::string loaded_flight;  // file name of the flight that was loaded
 };

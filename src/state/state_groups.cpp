@@ -7,6 +7,7 @@
 #include "state/cockpit.h"
 #include "state/host_link.h"
 #include "state/identity.h"
+#include "state/keyboard.h"
 #include "state/lnav.h"
 #include "state/nav.h"
 #include "state/nav_tables.h"
@@ -34,6 +35,7 @@ constexpr StateGroup kGroups[] = {
     {"identity", Reset<&identity>, &kIdentityVariables},
     {"weights", Reset<&weights>, &kWeightVariables},
     {"cockpit", Reset<&cockpit>, &kCockpitVariables},
+    {"keyboard", Reset<&keyboard>, &kKeyboardVariables},
     {"placement", Reset<&placement>, &kPlacementVariables},
     {"pos_init", Reset<&pos_init>, &kPosInitVariables},
     {"time_base", Reset<&time_base>, &kTimeBaseVariables},

@@ -1,0 +1,171 @@
+#include "frame/aircraft.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <string>
+#include <string_view>
+
+#include "platform/files.h"
+#include "platform/host.h"
+#include "platform/text.h"
+#include "state/cfg.h"
+#include "state/identity.h"
+#include "state/perf.h"
+#include "state/sim.h"
+#include "state/weights.h"
+
+namespace {
+
+constexpr int kMaxAirframes = 8000;
+constexpr std::size_t kMaxLine = 500;
+constexpr std::size_t kMaxCfgBytes = 4 << 20;
+constexpr int kPayloadStations = 20;
+
+constexpr FlapSpeedRow kFlapSpeeds[] = {
+    {500000, 245, 226, 205, 178, 173, 169, 165}, {480000, 242, 222, 202, 177, 172, 165, 162},
+    {460000, 238, 218, 198, 176, 171, 161, 158}, {440000, 235, 214, 195, 175, 169, 158, 155},
+    {420000, 231, 209, 191, 171, 166, 154, 151}, {400000, 227, 204, 185, 167, 162, 150, 147},
+    {380000, 223, 199, 183, 163, 158, 146, 143}, {360000, 221, 196, 181, 161, 156, 144, 140},
+    {340000, 217, 192, 177, 157, 152, 139, 136}, {320000, 213, 188, 173, 153, 148, 135, 132},
+    {300000, 209, 184, 169, 149, 144, 131, 128}, {280000, 205, 180, 165, 145, 140, 126, 124},
+    {260000, 201, 176, 161, 141, 136, 124, 120}, {240000, 200, 175, 160, 140, 135, 124, 119},
+};
+
+// One [fltsim.N] section of an Aircraft.cfg, folded to lower case.
+struct AirframeSection {
+    std::string title, sim, model, panel, parking_codes;
+};
+
+// Stores "key=value" into the section if it is one of its keys.
+void StoreLine(std::string_view line, AirframeSection& section) {
+    struct Key {
+        std::string_view name;
+        std::string AirframeSection::*value;
+    };
+    constexpr Key kKeys[] = {{"title", &AirframeSection::title},
+                             {"sim", &AirframeSection::sim},
+                             {"model", &AirframeSection::model},
+                             {"panel", &AirframeSection::panel},
+                             {"atc_parking_codes", &AirframeSection::parking_codes}};
+    const std::size_t equals = line.find('=');
+    if (equals == std::string_view::npos) return;
+    const std::string_view name = Trimmed(line.substr(0, equals));
+    const auto* key = std::ranges::find(kKeys, name, &Key::name);
+    if (key != std::end(kKeys)) section.*key->value = Trimmed(line.substr(equals + 1));
+}
+
+// Finds the section with the aircraft's title; false when the file has none.
+bool FindTitle(std::string_view text, AirframeSection& section) {
+    bool in_airframe = false;
+    std::string line;
+    while (const auto next = NextLine(text)) {
+        line = Trimmed(next->substr(0, kMaxLine));
+        LowerCase(line);
+        if (line.starts_with('[')) {
+            if (in_airframe && section.title == identity.aircraft) return true;
+            in_airframe = line.starts_with("[fltsim.");
+            section = {};
+        } else if (in_airframe) {
+            StoreLine(line, section);
+        }
+    }
+    return in_airframe && section.title == identity.aircraft;
+}
+
+void TakeIdentity(const AirframeSection& section) {
+    identity.airline_code = section.parking_codes;
+    UpperCase(identity.airline_code);
+    const std::string voices = "\\Velarion\\TZ900\\Sounds\\TZPAS\\" + identity.airline_code;
+    if (!identity.airline_code.empty() && FolderExists(voices))
+        identity.airline_voice_folder = identity.airline_code;
+    identity.panel_hires = section.panel == "hires" ? 1 : 0;
+    for (const char* model : {"900-8", "900-9", "900-10"}) {
+        if (section.sim.find(model) == std::string::npos) continue;
+        identity.aircraft_model = model;
+        identity.aircraft_sim_name = std::string("TZ") + model;
+        break;
+    }
+    if (section.model == "rr") identity.engine_model = "TRENT 1000";
+    if (section.model == "ge")
+        identity.engine_model = identity.aircraft_model == "900-10"  ? "GENX-1B76"
+                                : identity.aircraft_model == "900-9" ? "GENX-1B70"
+                                                                     : "GENX-1B67";
+}
+
+double SumOfPayloadStations() {
+    double sum = 0;
+    for (int station = 1; station <= kPayloadStations; ++station) {
+        char expression[64];
+        std::snprintf(expression, sizeof expression, "(A:Payload Station Weight:%d,pounds)", station);
+        const double weight = EvalCalc(expression);
+        weights.payload_stations[static_cast<std::size_t>(station)] = weight;
+        sum += weight;
+    }
+    return sum;
+}
+
+}  // namespace
+
+void DetectHost() {
+    constexpr int kOlderHostFiles = 3;
+    constexpr std::string_view kOlderHost[] = {"fsx.exe", "ace.exe", "simobjects", "Missions"};
+    int older = 0;
+    bool newer = false;
+    for (const FolderEntry& entry : ListFolder("\\")) {
+        for (const std::string_view name : kOlderHost) older += EqualIgnoringCase(entry.name, name) ? 1 : 0;
+        newer = newer || EqualIgnoringCase(entry.name, "Prepar3D.exe");
+    }
+    if (older >= kOlderHostFiles) cfg.simver = 10;
+    if (newer) cfg.simver = 11;
+    // A root that looks like neither is taken for the older generation.
+    cfg.simver = std::clamp(cfg.simver, 10, 11);
+}
+
+void ReadAircraftTitle() {
+    identity.aircraft = EvalCalcText("(A:TITLE,string)");
+    LowerCase(identity.aircraft);
+    identity.registration = EvalCalcText("(A:ATC ID,string)");
+}
+
+bool IdentifyAircraft() {
+    if (identity.aircraft.empty()) return false;
+    const std::string folder = cfg.simver == 9 ? "\\Aircraft\\" : "\\SimObjects\\Airplanes\\";
+    int airframes = 0;
+    for (const FolderEntry& entry : ListFolder(folder)) {
+        if (!entry.is_folder) continue;
+        if (++airframes > kMaxAirframes) break;
+        const auto file =
+            ReadFile(folder + entry.name + "\\Aircraft.cfg", FileRoot::kSimulator, kMaxCfgBytes);
+        AirframeSection section;
+        if (!file || !FindTitle(file->Text(), section)) continue;
+        TakeIdentity(section);
+        identity.aircraft_identified = 1;
+        return true;
+    }
+    return false;
+}
+
+void LoadAircraft() {
+    std::ranges::copy(kFlapSpeeds, weights.flap_speeds.begin() + 1);
+    if (perf.zfw == 0 && cfg.CduAutoCalcZfw == 0)
+        perf.zfw = EvalCalc("(A:EMPTY WEIGHT,pounds)") + SumOfPayloadStations();
+}
+
+void UpdateWeights() {
+    sim.payload_weight = SumOfPayloadStations();
+    if (perf.ZfwEntry == 0 && cfg.calcpayload == 1)
+        perf.zfw = EvalCalc("(A:EMPTY WEIGHT,pounds)") + sim.payload_weight;
+    perf.gross_weight = sim.total_fuel + perf.agent_fuel + perf.zfw;
+}
+
+void UpdateFlapSpeedRow() {
+    constexpr double kLeastLoss = 1000;
+    const double weight = sim.total_fuel + sim.payload_weight + perf.zfw;
+    if (weights.flap_speed_ref_weight - weight < kLeastLoss) return;
+    const auto* nearest =
+        std::ranges::min_element(weights.flap_speeds.begin() + 1, weights.flap_speeds.end(), {},
+                                 [&](const FlapSpeedRow& row) { return std::fabs(row.weight - weight); });
+    weights.flap_speed_row = static_cast<int>(nearest - weights.flap_speeds.begin());
+    weights.flap_speed_ref_weight = weight;
+}

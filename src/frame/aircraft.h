@@ -1,0 +1,21 @@
+#pragma once
+
+/// Sets `cfg.simver` by the files of the host's root folder: 11 with a "Prepar3D.exe", else 10.
+void DetectHost();
+
+/// Reads the title and the registration of the loaded aircraft from the host.
+void ReadAircraftTitle();
+
+/// Looks the title up in the Aircraft.cfg files of up to 8000 airframes and fills the identity from its
+/// section. True when it was found; otherwise the identity stays as it is.
+bool IdentifyAircraft();
+
+/// Fills the weight tables and, with no zero-fuel weight yet and CduAutoCalcZfw off, takes it from the host.
+void LoadAircraft();
+
+/// Reads the payload stations; zero-fuel and gross weight follow from them, the zero-fuel weight only while
+/// the crew has entered none and calcpayload is on.
+void UpdateWeights();
+
+/// Chooses the row of flap speeds for the present weight. It moves with a loss of at least 1000 lb only.
+void UpdateFlapSpeedRow();

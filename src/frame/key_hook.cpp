@@ -1,0 +1,110 @@
+#include "frame/key_hook.h"
+
+#include "frame/cues.h"
+#include "frame/key_events.h"
+#include "frame/named_variables.h"
+#include "frame/tokens.h"
+#include "platform/host.h"
+#include "platform/state_lock.h"
+#include "state/autoflight.h"
+#include "state/cfg.h"
+#include "state/cockpit.h"
+#include "state/host_link.h"
+
+namespace {
+
+struct EngineFuel {
+    int CockpitState::*control;  // 1 run, 2 cut-off
+    int CockpitState::*start_latch;
+    int starter_token;
+    int starter_toggle;
+};
+constexpr EngineFuel kEngine1 = {&CockpitState::eng1_thrott, &CockpitState::eng1_start_latch,
+                                 kTokenEng1Starter, kKeyEng1StarterToggle};
+constexpr EngineFuel kEngine2 = {&CockpitState::eng2_thrott, &CockpitState::eng2_start_latch,
+                                 kTokenEng2Starter, kKeyEng2StarterToggle};
+
+void FollowCutOff(const EngineFuel& engine) {
+    if (cockpit.*engine.control == 1) cockpit.*engine.control = 2;
+    if (ReadToken(engine.starter_token) != 0) SendKeyEvent(engine.starter_toggle, 0);
+    RequestCue(kCueKeyClick);
+}
+
+void FollowFuelOn(const EngineFuel& engine) {
+    if (cockpit.*engine.control == 2) {
+        cockpit.*engine.control = 1;
+        cockpit.*engine.start_latch = 1;
+    }
+    RequestCue(kCueFuelOn);
+}
+
+void FollowAutopilotMaster() {
+    if (autoflight.ap_master_l == 1 || autoflight.ap_master_r == 1) {
+        WriteNamedVar(NamedVar("ap_master_disconnect"), 1);
+    } else if (cfg.DiscPFCOnAPDisc == 1) {
+        cfg.PfcSwitch = 7;
+        cockpit.TZ_OH_PFC_G_Switch = 0;
+        WriteNamedVar(NamedVar("TZ_OH_PFC_G_Switch"), 0);
+    }
+}
+
+// The host drops its autothrottle arm with this event: it is armed anew, once for a run of such events.
+void FollowToGa() {
+    const bool rearm = cfg.RealismMode == 1 && ReadToken(kTokenAutothrottleArm) == 1;
+    if (rearm && host_link.toga_rearmed == 0) SendKeyEvent(kKeyAutothrottleRearm, 0);
+    host_link.toga_rearmed = rearm && host_link.toga_rearmed == 0 ? 1 : 0;
+}
+
+}  // namespace
+
+void OnKeyEvent(int event, int /*value*/) {
+    const StateLock lock;
+    switch (event) {
+        case kKeyEngineAutoStart:
+            cockpit.autostart_pending = 1;
+            break;
+        case kKeyEng1CutOff:
+            FollowCutOff(kEngine1);
+            break;
+        case kKeyEng2CutOff:
+            FollowCutOff(kEngine2);
+            break;
+        case kKeyEnginesCutOff:
+            FollowCutOff(kEngine1);
+            FollowCutOff(kEngine2);
+            break;
+        case kKeyEng1FuelOn:
+            FollowFuelOn(kEngine1);
+            break;
+        case kKeyEng2FuelOn:
+            FollowFuelOn(kEngine2);
+            break;
+        case kKeyEnginesFuelOn:
+            FollowFuelOn(kEngine1);
+            FollowFuelOn(kEngine2);
+            break;
+        case kKeyAutopilotMaster:
+            FollowAutopilotMaster();
+            break;
+        case kKeyParkingBrake:
+            if (ReadToken(kTokenParkingBrake) > 32000) RequestCue(kCueParkBrake);
+            break;
+        case kKeyAutothrottleToGa:
+            FollowToGa();
+            break;
+        default:
+            break;
+    }
+}
+
+void AddKeyEventHook() {
+    if (host_link.key_hook_added == 1) return;
+    Host().add_key_hook(OnKeyEvent);
+    host_link.key_hook_added = 1;
+}
+
+void RemoveKeyEventHook() {
+    if (host_link.key_hook_added == 0) return;
+    Host().remove_key_hook(OnKeyEvent);
+    host_link.key_hook_added = 0;
+}
