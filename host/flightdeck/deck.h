@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-// The flight deck in a browser, seen from the host's loop: commands come out of it, values go into it. Its network
-// thread never waits for the loop, nor the loop for it.
+// The flight deck in a browser, seen from the host's loop: commands come out of it, values go into it. Its
+// network thread never waits for the loop, nor the loop for it.
 
 namespace host {
 
@@ -17,22 +17,24 @@ namespace host {
 struct DeckCommand {
     enum Kind { kNamedVariable, kStateVariable, kMouse, kKeyEvent, kPause, kRate, kText };
     Kind kind;
-    std::string name;   // variable or gauge; of kText the side "L" or "R"
-    std::string text;   // kStateVariable: the value; kText: what is typed
-    double value = 0;   // kNamedVariable, kKeyEvent (the event), kPause, kRate
+    std::string name;  // variable or gauge; of kText the side "L" or "R"
+    std::string text;  // kStateVariable: the value; kText: what is typed
+    double value = 0;  // kNamedVariable, kKeyEvent (the event), kPause, kRate
     double x = 0, y = 0;
     bool right = false;
 };
 
 struct DeckSettings {
     std::string address = "127.0.0.1";
-    int port = 8900;             // 0 = any free one
-    std::string token;           // asked for on an address wider than loopback
+    int port = 8900;    // 0 = any free one
+    std::string token;  // asked for on an address wider than loopback
     std::string page_folder;
 };
 
-/// Where the deck gets pictures from; called on the network thread. False when there is none newer than `after`.
-using PictureSource = bool (*)(const std::string& screen, std::uint64_t after, std::string& bytes, std::uint64_t& number);
+/// Where the deck gets pictures from; called on the network thread. False when there is none newer than
+/// `after`.
+using PictureSource = bool (*)(const std::string& screen, std::uint64_t after, std::string& bytes,
+                               std::uint64_t& number);
 
 class FlightDeck {
   public:

@@ -45,7 +45,9 @@ std::optional<std::vector<std::string_view>> PrimitivesOf(std::string_view pictu
 std::string NextPictureMessage(PictureStream& stream, std::string_view picture, std::uint64_t number) {
     const auto next = PrimitivesOf(picture);
     if (!next) return {};
-    const auto last = stream.picture.empty() ? std::vector<std::string_view>{} : PrimitivesOf(stream.picture).value_or(std::vector<std::string_view>{});
+    const auto last = stream.picture.empty()
+                          ? std::vector<std::string_view>{}
+                          : PrimitivesOf(stream.picture).value_or(std::vector<std::string_view>{});
     std::unordered_map<std::string_view, std::size_t> place;
     for (std::size_t i = 0; i < last.size(); ++i) place.emplace(last[i], i);
 
@@ -53,9 +55,13 @@ std::string NextPictureMessage(PictureStream& stream, std::string_view picture, 
     for (std::size_t i = 0; i < next->size();) {
         // A run that the browser has begins where the last one ended, or wherever the primitive stands.
         const auto found = place.find((*next)[i]);
-        std::size_t from = i < last.size() && last[i] == (*next)[i] ? i : found != place.end() ? found->second : last.size();
+        std::size_t from = i < last.size() && last[i] == (*next)[i] ? i
+                           : found != place.end()                   ? found->second
+                                                                    : last.size();
         std::size_t count = 0;
-        while (i + count < next->size() && from + count < last.size() && last[from + count] == (*next)[i + count]) ++count;
+        while (i + count < next->size() && from + count < last.size() &&
+               last[from + count] == (*next)[i + count])
+            ++count;
         if (count > 0) {
             PutVarint(message, static_cast<std::uint32_t>(count << 1));
             PutVarint(message, static_cast<std::uint32_t>(from));

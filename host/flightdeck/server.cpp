@@ -41,9 +41,12 @@ constexpr std::array<std::string_view, 10> kScreens = {"capt_outb", "capt_inb", 
 struct ContentType {
     std::string_view extension, type;
 };
-constexpr ContentType kContentTypes[] = {{".html", "text/html; charset=utf-8"}, {".css", "text/css"},
-                                         {".js", "text/javascript"},           {".svg", "image/svg+xml"},
-                                         {".png", "image/png"},                {".ttf", "font/ttf"},
+constexpr ContentType kContentTypes[] = {{".html", "text/html; charset=utf-8"},
+                                         {".css", "text/css"},
+                                         {".js", "text/javascript"},
+                                         {".svg", "image/svg+xml"},
+                                         {".png", "image/png"},
+                                         {".ttf", "font/ttf"},
                                          {".otf", "font/otf"}};
 
 std::string_view TypeOf(const std::filesystem::path& file) {
@@ -60,7 +63,8 @@ std::string QueryValue(std::string_view target, std::string_view name) {
     while (!query.empty()) {
         const std::string_view pair = query.substr(0, query.find('&'));
         query.remove_prefix(std::min(query.size(), pair.size() + 1));
-        if (pair.starts_with(name) && pair.substr(name.size()).starts_with('=')) return std::string(pair.substr(name.size() + 1));
+        if (pair.starts_with(name) && pair.substr(name.size()).starts_with('='))
+            return std::string(pair.substr(name.size() + 1));
     }
     return {};
 }
@@ -185,8 +189,8 @@ class Browser : public std::enable_shared_from_this<Browser> {
         if (type == "mouse") {
             command.kind = DeckCommand::kMouse;
             std::string button;
-            const bool whole = text("gauge", command.name) && number("x", command.x) && number("y", command.y) &&
-                               text("button", button);
+            const bool whole = text("gauge", command.name) && number("x", command.x) &&
+                               number("y", command.y) && text("button", button);
             command.right = button == "right";
             return whole && (command.right || button == "left") ? "" : "mouse: gauge, x, y and button";
         }
@@ -213,7 +217,8 @@ class Browser : public std::enable_shared_from_this<Browser> {
             if (!name.is_string()) return "names: texts";
             const std::string text = name;
             if (text.size() > 200) return "names: too long";
-            if (screens && std::find(kScreens.begin(), kScreens.end(), text) == kScreens.end()) return "no such screen";
+            if (screens && std::find(kScreens.begin(), kScreens.end(), text) == kScreens.end())
+                return "no such screen";
             names.insert(text);
         }
         to = std::move(names);
@@ -229,7 +234,8 @@ class Browser : public std::enable_shared_from_this<Browser> {
         });
     }
 
-    // Sends the next message, if none is under way: first texts, then values, then pictures, else a sign of life.
+    // Sends the next message, if none is under way: first texts, then values, then pictures, else a sign of
+    // life.
     void Write() {
         if (!open_ || writing_) return;
         bool binary = false;
@@ -237,7 +243,8 @@ class Browser : public std::enable_shared_from_this<Browser> {
             outgoing_ = std::move(pending_text_.front());
             pending_text_.pop_front();
         } else if (!changed_.empty()) {
-            outgoing_ = json{{"type", "values"}, {"values", changed_}}.dump(-1, ' ', false, json::error_handler_t::replace);
+            outgoing_ = json{{"type", "values"}, {"values", changed_}}.dump(-1, ' ', false,
+                                                                            json::error_handler_t::replace);
             changed_.clear();
         } else {
             outgoing_ = NextPictures();
@@ -251,14 +258,16 @@ class Browser : public std::enable_shared_from_this<Browser> {
         writing_ = true;
         last_write_ = std::chrono::steady_clock::now();
         socket_.binary(binary);
-        socket_.async_write(asio::buffer(outgoing_), [self = shared_from_this()](beast::error_code error, std::size_t) {
-            self->writing_ = false;
-            if (error) return self->Leave();
-            if (!self->pending_text_.empty() || !self->changed_.empty()) self->Write();
-        });
+        socket_.async_write(asio::buffer(outgoing_),
+                            [self = shared_from_this()](beast::error_code error, std::size_t) {
+                                self->writing_ = false;
+                                if (error) return self->Leave();
+                                if (!self->pending_text_.empty() || !self->changed_.empty()) self->Write();
+                            });
     }
 
-    // Every wanted screen whose picture has changed: a byte with the screen's place, 4 bytes of length, the message.
+    // Every wanted screen whose picture has changed: a byte with the screen's place, 4 bytes of length, the
+    // message.
     std::string NextPictures() {
         std::string all, bytes;
         for (std::size_t i = 0; i < kScreens.size(); ++i) {
@@ -269,11 +278,13 @@ class Browser : public std::enable_shared_from_this<Browser> {
             }
             bytes.clear();
             std::uint64_t number = 0;
-            if (network_.pictures == nullptr || !network_.pictures(screen, streams_[i].number, bytes, number)) continue;
+            if (network_.pictures == nullptr || !network_.pictures(screen, streams_[i].number, bytes, number))
+                continue;
             const std::string message = NextPictureMessage(streams_[i], bytes, number);
             if (message.empty()) continue;
             all += static_cast<char>(i);
-            for (int shift = 0; shift < 32; shift += 8) all += static_cast<char>(message.size() >> shift & 255);
+            for (int shift = 0; shift < 32; shift += 8)
+                all += static_cast<char>(message.size() >> shift & 255);
             all += message;
         }
         return all;
@@ -309,22 +320,25 @@ namespace {
 // One HTTP connection, until it is closed or becomes a WebSocket.
 class Connection : public std::enable_shared_from_this<Connection> {
   public:
-    Connection(tcp::socket&& socket, FlightDeck::Network& network) : stream_(std::move(socket)), network_(network) {}
+    Connection(tcp::socket&& socket, FlightDeck::Network& network)
+        : stream_(std::move(socket)), network_(network) {}
 
     void Read() {
         parser_.emplace();
         parser_->body_limit(1024);
         parser_->header_limit(8192);
         stream_.expires_after(std::chrono::seconds(30));
-        http::async_read(stream_, buffer_, *parser_, [self = shared_from_this()](beast::error_code error, std::size_t) {
-            if (!error) self->Answer(self->parser_->release());
-        });
+        http::async_read(stream_, buffer_, *parser_,
+                         [self = shared_from_this()](beast::error_code error, std::size_t) {
+                             if (!error) self->Answer(self->parser_->release());
+                         });
     }
 
   private:
     void Answer(http::request<http::string_body> request) {
         const std::string_view target(request.target().data(), request.target().size());
-        if (!network_.MayConnect(request)) return Send(request, http::status::forbidden, "text/plain", "403\n");
+        if (!network_.MayConnect(request))
+            return Send(request, http::status::forbidden, "text/plain", "403\n");
         if (websocket::is_upgrade(request)) {
             if (target.substr(0, target.find('?')) != "/socket")
                 return Send(request, http::status::not_found, "text/plain", "404\n");
@@ -342,9 +356,10 @@ class Connection : public std::enable_shared_from_this<Connection> {
     void SendFile(const http::request<http::string_body>& request, std::string_view path) {
         std::string name(path.substr(std::min<std::size_t>(1, path.size())));
         if (name.empty() || name.starts_with("screen/")) name = "index.html";
-        const bool plain = name.find_first_not_of("abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789_-.") ==
-                               std::string::npos &&
-                           !name.starts_with('.');
+        const bool plain =
+            name.find_first_not_of("abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789_-.") ==
+                std::string::npos &&
+            !name.starts_with('.');
         const std::filesystem::path file = std::filesystem::path(network_.settings.page_folder) / name;
         std::error_code failed;
         if (!plain || !std::filesystem::is_regular_file(file, failed))
@@ -407,7 +422,8 @@ bool FlightDeck::Network::MayConnect(const http::request<http::string_body>& req
     const std::string_view target(request.target().data(), request.target().size());
     const std::string cookie = field(http::field::cookie);
     const std::size_t at = cookie.find("token=");
-    const std::string kept = at == std::string::npos ? "" : cookie.substr(at + 6, cookie.find(';', at) - at - 6);
+    const std::string kept =
+        at == std::string::npos ? "" : cookie.substr(at + 6, cookie.find(';', at) - at - 6);
     return SameToken(QueryValue(target, "token"), settings.token) || SameToken(kept, settings.token);
 }
 
@@ -415,7 +431,8 @@ void FlightDeck::Network::RenewWatched() {
     std::set<std::string> names;
     std::erase_if(browsers, [](const std::weak_ptr<Browser>& browser) { return browser.expired(); });
     for (const auto& weak : browsers)
-        if (const auto browser = weak.lock()) names.insert(browser->watched().begin(), browser->watched().end());
+        if (const auto browser = weak.lock())
+            names.insert(browser->watched().begin(), browser->watched().end());
     const std::lock_guard guard(lock);
     watched = std::move(names);
 }
@@ -426,12 +443,15 @@ void FlightDeck::Network::Publish(const std::map<std::string, std::string>& chan
         if (const auto browser = weak.lock()) browser->TakeValues(changed);
 }
 
-FlightDeck::FlightDeck(DeckSettings settings, PictureSource pictures) : network_(std::make_unique<Network>()) {
+FlightDeck::FlightDeck(DeckSettings settings, PictureSource pictures)
+    : network_(std::make_unique<Network>()) {
     network_->settings = std::move(settings);
     network_->pictures = pictures;
 }
 
-FlightDeck::~FlightDeck() { Stop(); }
+FlightDeck::~FlightDeck() {
+    Stop();
+}
 
 bool FlightDeck::Start(std::string& error) {
     Network& network = *network_;
@@ -451,7 +471,8 @@ bool FlightDeck::Start(std::string& error) {
     if (!failed) network.acceptor.bind(endpoint, failed);
     if (!failed) network.acceptor.listen(asio::socket_base::max_listen_connections, failed);
     if (failed) {
-        error = network.settings.address + ":" + std::to_string(network.settings.port) + ": " + failed.message();
+        error =
+            network.settings.address + ":" + std::to_string(network.settings.port) + ": " + failed.message();
         return false;
     }
     network.settings.port = network.acceptor.local_endpoint().port();
@@ -466,7 +487,9 @@ void FlightDeck::Stop() {
     network_->thread.join();
 }
 
-int FlightDeck::port() const { return network_->settings.port; }
+int FlightDeck::port() const {
+    return network_->settings.port;
+}
 
 std::vector<DeckCommand> FlightDeck::TakeCommands() {
     const std::lock_guard guard(network_->lock);
@@ -491,7 +514,8 @@ void FlightDeck::PublishValues(const std::map<std::string, std::string>& values)
 }
 
 void FlightDeck::SetGreeting(std::string text) {
-    asio::post(network_->io, [network = network_.get(), text = std::move(text)] { network->greeting = text; });
+    asio::post(network_->io,
+               [network = network_.get(), text = std::move(text)] { network->greeting = text; });
 }
 
 }  // namespace host

@@ -3,6 +3,8 @@
 #include "state/airports.h"
 #include "state/autoflight.h"
 #include "state/cdu.h"
+#include "state/displays.h"
+#include "state/electrical.h"
 #include "state/cfg.h"
 #include "state/cockpit.h"
 #include "state/host_link.h"
@@ -51,6 +53,8 @@ constexpr StateGroup kGroups[] = {
     {"autoflight", Reset<&autoflight>, &kAutoflightVariables},
     {"sound", Reset<&sound>, &kSoundVariables},
     {"cdu", Reset<&cdu>, &kCduVariables},
+    {"displays", Reset<&displays>, &kDisplayVariables},
+    {"electrical", Reset<&electrical>, &kElectricalVariables},
 };
 
 }  // namespace

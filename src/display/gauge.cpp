@@ -1,0 +1,162 @@
+#include "display/gauge.h"
+
+#include <algorithm>
+#include <chrono>
+
+#include "display/frame.h"
+#include "platform/host.h"
+#include "platform/state_lock.h"
+#include "state/cfg.h"
+
+namespace {
+
+constexpr PaintedGauge kPaintedGauges[] = {
+    {"DEBUG", 1, Painting::kDebug, 0, ShownIn::kAlways, 564, 424},
+    {"DU_CAPT_OUTB_2D", 2, Painting::kDisplayUnit, 1, ShownIn::k2dCockpit, 564, 424},
+    {"DU_CAPT_INB_2D", 3, Painting::kDisplayUnit, 2, ShownIn::k2dCockpit, 564, 424},
+    {"STBY_PFD", 9, Painting::kStandby, 0, ShownIn::kAlways, 100, 92},
+    {"HUD", 10, Painting::kHud, 0, ShownIn::kAlways, 480, 410},
+    {"DU_CAPT_OUTB_VC", 12, Painting::kDisplayUnit, 1, ShownIn::kVirtualCockpit, 564, 424},
+    {"DU_CAPT_INB_VC", 13, Painting::kDisplayUnit, 2, ShownIn::kVirtualCockpit, 564, 424},
+    {"DU_FO_INB_VC", 14, Painting::kDisplayUnit, 3, ShownIn::kVirtualCockpit, 564, 424},
+    {"DU_FO_OUTB_VC", 15, Painting::kDisplayUnit, 4, ShownIn::kVirtualCockpit, 564, 424},
+    {"DU_LOWER_VC", 16, Painting::kDisplayUnit, 5, ShownIn::kVirtualCockpit, 564, 424},
+    {"CAPT_EFB", 17, Painting::kEfb, 1, ShownIn::kAlways, 340, 448},
+    {"FO_EFB", 18, Painting::kEfb, 2, ShownIn::kAlways, 340, 448},
+    {"DU_CAPT_OUTB_PW", 22, Painting::kDisplayUnit, 1, ShownIn::kAlways, 564, 424},
+    {"DU_CAPT_INB_PW", 23, Painting::kDisplayUnit, 2, ShownIn::kAlways, 564, 424},
+    {"DU_FO_INB_PW", 24, Painting::kDisplayUnit, 3, ShownIn::kAlways, 564, 424},
+    {"DU_FO_OUTB_PW", 25, Painting::kDisplayUnit, 4, ShownIn::kAlways, 564, 424},
+    {"DU_LOWER_PW", 26, Painting::kDisplayUnit, 5, ShownIn::kAlways, 564, 424},
+    {"CAPT_EFB_PW", 27, Painting::kEfb, 1, ShownIn::kAlways, 340, 448},
+};
+
+// The gauges that live, for those who look at pictures by name. Changed by connect and disconnect only.
+struct LivingGauges {
+    std::mutex lock;
+    std::vector<GDIMTGauge*> gauges;
+};
+LivingGauges living;
+
+}  // namespace
+
+std::span<const PaintedGauge> PaintedGauges() {
+    return kPaintedGauges;
+}
+
+const PaintedGauge* FindPaintedGauge(std::string_view name) {
+    for (const PaintedGauge& row : kPaintedGauges)
+        if (row.name == name) return &row;
+    return nullptr;
+}
+
+GDIMTGauge::~GDIMTGauge() {
+    StopWorker();
+}
+
+void GDIMTGauge::Callback(GaugeElement* element_tree, int service_id) {
+    switch (service_id) {
+        case kServicePostInstall:
+            StartWorker(element_tree);
+            break;
+        case kServicePreDraw:
+            if (first_element_ != nullptr && frame_pending_ == 0) {
+                element_ = element_tree;
+                frame_pending_ = 1;
+            }
+            break;
+        case kServicePreKill:
+            StopWorker();
+            break;
+        default:
+            break;
+    }
+}
+
+void GDIMTGauge::StartWorker(GaugeElement* element_tree) {
+    elements_.clear();
+    first_element_ = nullptr;
+    for (GaugeElement* element = element_tree; element != nullptr; element = element->next) {
+        if (elements_.empty() && element->device_context != nullptr) first_element_ = element;
+        elements_.push_back(element);
+    }
+    if (first_element_ == nullptr) return;
+    StopWorker();
+    {
+        const StateLock lock;
+        period_ms_ =
+            std::max(1, static_cast<int>(1000 / std::max(1.0, static_cast<double>(cfg.GaugeRefreshRate))));
+    }
+    if (Host().paints_in_line() == 0) thread_ = std::thread([this] { Work(); });
+}
+
+// Never called with the state lock held: the worker may be waiting for it.
+void GDIMTGauge::StopWorker() {
+    {
+        const std::lock_guard guard(sleep_lock_);
+        stop_ = 1;
+    }
+    wake_.notify_all();
+    if (thread_.joinable()) thread_.join();
+    stop_ = 0;
+}
+
+void GDIMTGauge::Work() {
+    while (stop_ == 0) {
+        PaintPendingFrame();
+        std::unique_lock guard(sleep_lock_);
+        wake_.wait_for(guard, std::chrono::milliseconds(period_ms_), [this] { return stop_ != 0; });
+    }
+}
+
+bool GDIMTGauge::PaintPendingFrame() {
+    if (frame_pending_ == 0) return false;
+    if (GaugeElement* element = element_) {
+        if (element->device_context != nullptr) PaintFrame(*element);
+        std::atomic_ref(element->flags) &= ~kElementDirty;
+    }
+    frame_pending_ = 0;
+    return true;
+}
+
+void GDIMTGauge::PaintFrame(const GaugeElement&) {
+    {
+        const StateLock lock;
+        if (!ComposeFrame(row_, composing_)) return;
+    }
+    const std::lock_guard guard(picture_lock_);
+    if (composing_ == picture_) return;
+    std::swap(composing_, picture_);
+    ++picture_number_;
+}
+
+void ServePaintedGauge(GaugeInstance* instance, int32_t service_id) {
+    GDIMTGauge* gauge = GaugeOf(*instance);
+    if (service_id == kServiceConnectToWindow && gauge == nullptr) {
+        const PaintedGauge* row = FindPaintedGauge(instance->gauge->name);
+        if (row == nullptr) return;
+        gauge = new GDIMTGauge(*row);
+        instance->user_data = gauge;
+        const std::lock_guard guard(living.lock);
+        living.gauges.push_back(gauge);
+        return;
+    }
+    if (gauge == nullptr) return;
+    if (service_id == kServiceDisconnect) {
+        {
+            const std::lock_guard guard(living.lock);
+            std::erase(living.gauges, gauge);
+        }
+        delete gauge;
+        instance->user_data = nullptr;
+        return;
+    }
+    gauge->Callback(instance->elements, service_id);
+}
+
+GDIMTGauge* FindLivingGauge(std::string_view name) {
+    const std::lock_guard guard(living.lock);
+    for (GDIMTGauge* gauge : living.gauges)
+        if (gauge->row().name == name) return gauge;
+    return nullptr;
+}

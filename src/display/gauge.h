@@ -1,0 +1,97 @@
+#pragma once
+
+#include <atomic>
+#include <condition_variable>
+#include <cstdint>
+#include <mutex>
+#include <span>
+#include <string>
+#include <string_view>
+#include <thread>
+#include <vector>
+
+#include "paint/draw_list.h"
+#include "platform/panel_gauges.h"
+
+// The painted gauges: each paints its picture by a worker thread of its own, at most GaugeRefreshRate times a
+// second and only when the host has asked.
+
+/// What is painted, by gauge id.
+enum class Painting { kDisplayUnit, kDebug, kStandby, kHud, kEfb };
+
+/// Who may paint: which cockpit must be shown.
+enum class ShownIn { kAlways, k2dCockpit, kVirtualCockpit };
+
+/// One row of the gauge table: everything that the painted gauges differ in.
+struct PaintedGauge {
+    const char* name;
+    int gauge_id;
+    Painting painting;
+    int unit;  // display unit 1 to 5, or the tablet's side
+    ShownIn shown_in;
+    int width, height;  // logical frame
+};
+
+/// The row of a gauge by its name; null for one that isn't painted.
+const PaintedGauge* FindPaintedGauge(std::string_view name);
+std::span<const PaintedGauge> PaintedGauges();
+
+class GDIMTGauge {
+  public:
+    explicit GDIMTGauge(const PaintedGauge& row) : row_(row) {}
+    virtual ~GDIMTGauge();
+    GDIMTGauge(const GDIMTGauge&) = delete;
+    GDIMTGauge& operator=(const GDIMTGauge&) = delete;
+
+    /// The host's services: 3 finds the elements and starts the worker, 10 asks for a picture, 12 ends the
+    /// worker.
+    virtual void Callback(GaugeElement* element_tree, int service_id);
+
+    /// Paints one picture if the host has asked for one. The body of the worker's loop; called in line where
+    /// there are no workers. False when nothing was asked.
+    bool PaintPendingFrame();
+
+    const PaintedGauge& row() const { return row_; }
+
+    /// Calls `use` with the last picture and its number, which rises with each change. Any thread.
+    template <class Use>
+    void WithPicture(Use&& use) {
+        const std::lock_guard guard(picture_lock_);
+        use(picture_, picture_number_);
+    }
+
+  private:
+    void StartWorker(GaugeElement* element_tree);
+    void StopWorker();
+    void Work();
+    void PaintFrame(const GaugeElement& element);
+
+    const PaintedGauge& row_;
+    std::atomic<GaugeElement*> element_ = nullptr;  // to paint next, written before frame_pending_
+    std::atomic<int> frame_pending_ = 0;
+    std::thread thread_;
+    std::atomic<int> stop_ = 0;
+    GaugeElement* first_element_ = nullptr;  // the one that proved to hold a device context
+    std::vector<GaugeElement*> elements_;
+
+    std::mutex sleep_lock_;  // the worker sleeps on it, so that stopping doesn't wait for a period
+    std::condition_variable wake_;
+    int period_ms_ = 55;
+
+    DrawList composing_;  // the worker's own
+    std::mutex picture_lock_;
+    DrawList picture_;
+    std::uint64_t picture_number_ = 0;
+};
+
+/// The gauge object of a painted gauge's instance; null before connect-to-window.
+inline GDIMTGauge* GaugeOf(const GaugeInstance& instance) {
+    return static_cast<GDIMTGauge*>(instance.user_data);
+}
+
+/// The service function of every painted gauge: makes the object at connect, forwards, destroys it at
+/// disconnect.
+void ServePaintedGauge(GaugeInstance* instance, int32_t service_id);
+
+/// The living gauge of that name; null when none is connected.
+GDIMTGauge* FindLivingGauge(std::string_view name);

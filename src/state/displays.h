@@ -1,0 +1,32 @@
+#pragma once
+
+#include <span>
+
+#include "state/variable.h"
+
+/// The routing of formats to the five Display Units: a display mode each, and what the select panels act on.
+/// Changed on the host's thread only, by display/routing.
+struct DisplayState {
+    int du_capt_outb_mode = 1;
+    int du_capt_inb_mode = 45;
+    int du_fo_inb_mode = 31;
+    int du_fo_outb_mode = 2;
+    int du_lower_mode = 3;
+    int dsp_capt_mode_button = 1;  // half that the select panel acts on: 1 left, 2 right
+    int dsp_fo_mode_button = 2;
+    int du_capt_inb_l_sys_page = 11, du_capt_inb_r_sys_page = 11;
+    int du_fo_inb_l_sys_page = 11, du_fo_inb_r_sys_page = 11;
+    int du_lower_l_sys_page = 11, du_lower_r_sys_page = 11;
+    int eicas_eng_button = 0;
+    int du_sel_pos = 0;  // -1, 0, 1: last acted position of the captain's selector
+    int info_page = 1;   // 1 to 4
+    int info_status = 0;
+    int cockpit_2d_active = 0;  // the two-dimensional cockpit is shown, taken once a tick
+    // start-up counters, seconds
+    int du_lwr_startup_cnt = 0;     // to 60
+    int du_cib_startup_cnt = 0;     // to 90
+    int du_pfd_ah_startup_cnt = 0;  // to 10
+};
+
+extern DisplayState displays;
+extern const std::span<const Variable> kDisplayVariables;
