@@ -568,6 +568,8 @@ inline constexpr auto kNamedVariables = [] {
         {"at_armed_right", kModule},
         {"at_disc", kModel},
         {"at_mode", kModule},
+        {"at_mode_armed", kModel},
+        {"at_mode_clicked", kModel},
         {"auto_brake_switch", kModel},
         {"battery_button", kModule},
         {"battery_button_clicked", kModule},

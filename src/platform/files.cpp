@@ -125,6 +125,13 @@ bool WriteFile(std::string_view name, std::string_view text, FileRoot root) {
     return false;
 }
 
+bool AppendToFile(std::string_view name, std::string_view text, FileRoot root) {
+    const auto path = ResolvePath(name, root);
+    if (!path) return false;
+    const Descriptor file(open(path->c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC | O_NONBLOCK, 0644));
+    return file.number >= 0 && WriteAll(file.number, text);
+}
+
 std::vector<FolderEntry> ListFolder(std::string_view name, FileRoot root) {
     std::vector<FolderEntry> entries;
     const auto path = ResolvePath(name, root);

@@ -31,6 +31,9 @@ std::optional<FileBytes> ReadFile(std::string_view name, FileRoot root = FileRoo
 /// the old file stands, on any failure.
 bool WriteFile(std::string_view name, std::string_view text, FileRoot root = FileRoot::kSimulator);
 
+/// Adds text at a file's end, made when it is missing. False on any failure.
+bool AppendToFile(std::string_view name, std::string_view text, FileRoot root = FileRoot::kSimulator);
+
 struct FolderEntry {
     std::string name;
     bool is_folder = false;

@@ -16,6 +16,7 @@ struct AutoflightState {
     int spd_intv_active = 0;
     int ap_disc_warning = 0;  // "AUTOPILOT DISC" on EICAS
     int ap_disc_latch = 0;    // remembers a warning disconnect
+    int ap_disc_lamp = 0;     // the warning lamp is lit for it
     // ticks left of the boxes on the FMA
     int ap_status_timer = 0, fma_roll_timer = 0, fma_pitch_timer = 0, fma_at_timer = 0;
     double spd_mean = 0;       // kt, see UpdateSpeedTrend

@@ -21,6 +21,7 @@ constexpr Variable kRows[] = {
     {"plan_finished", &lnav.plan_finished},
     {"lnav_engaged", &lnav.lnav_engaged},
     {"fms_hdg", &lnav.fms_hdg},
+    {"true_reference", &lnav.true_reference},
     {"aim_lat", &lnav.aim_lat},
     {"aim_lon", &lnav.aim_lon},
     {"lookahead", &lnav.lookahead},

@@ -1,0 +1,151 @@
+#include "guidance/autoflight.h"
+
+#include "frame/named_variables.h"
+#include "guidance/lnav.h"
+#include "state/autoflight.h"
+#include "state/cfg.h"
+#include "state/lnav.h"
+#include "state/plan.h"
+#include "state/vnav.h"
+
+namespace {
+
+constexpr int kModeLnav = 6;
+constexpr int kModeVnavSpd = 5, kModeVnavPth = 6;
+constexpr int kModeBoxTicks = 180;
+constexpr int kPfcNormal = 7;
+constexpr double kNoValue = 999;
+// of ap_master_disconnect
+constexpr int kDisconnect = 1, kWarningDisconnect = 2;
+
+int ReadInt(NamedVarRef variable) {
+    return static_cast<int>(ReadNamedVar(variable));
+}
+
+// A mode that is new and none of the empty ones is boxed for ten seconds.
+void TakeMode(NamedVarRef variable, int& mode, int& timer) {
+    const int reported = ReadInt(variable);
+    if (reported != mode && reported > 0) timer = kModeBoxTicks;
+    mode = reported;
+}
+
+bool IsAutopilotEngaged() {
+    return autoflight.ap_master_l != 0 || autoflight.ap_master_r != 0;
+}
+
+void ReadAutopilots() {
+    const bool was_engaged = IsAutopilotEngaged();
+    autoflight.ap_master_l = ReadInt(NamedVar("ap_master_l")) | ReadInt(NamedVar("tz_ap_master_l"));
+    autoflight.ap_master_r = ReadInt(NamedVar("ap_master_r")) | ReadInt(NamedVar("tz_ap_master_r"));
+    if (!IsAutopilotEngaged())
+        autoflight.ap_status_timer = 0;
+    else if (!was_engaged)
+        autoflight.ap_status_timer = kModeBoxTicks;
+}
+
+// LNAV keeps off behind the end of the plan although the mode still stands.
+void FollowEngagedModes() {
+    const bool lnav_mode = autoflight.ap_lat_mode == kModeLnav || autoflight.ap_lat_mode_armed == kModeLnav;
+    if (lnav_mode && lnav.plan_finished == 0)
+        lnav.lnav_engaged = 1;
+    else if (!lnav_mode && cfg.LnavDefAp == 0)
+        lnav.lnav_engaged = 0;
+    vnav.vnav_engaged = autoflight.ap_vert_mode == kModeVnavSpd || autoflight.ap_vert_mode == kModeVnavPth;
+}
+
+void SetDisconnectWarning(int warning) {
+    autoflight.ap_disc_warning = warning;
+    autoflight.ap_disc_lamp = warning;
+    WriteNamedVar(NamedVar("TZ_MCP_Annun_WARN"), warning);
+}
+
+void StepDisconnect() {
+    const NamedVarRef request = NamedVar("ap_master_disconnect");
+    autoflight.ap_master_disconnect = ReadInt(request);
+    const auto acknowledge = [&] {
+        autoflight.ap_master_disconnect = 0;
+        WriteNamedVar(request, 0);
+    };
+    if (autoflight.ap_master_disconnect == kWarningDisconnect) {
+        SetDisconnectWarning(1);
+        autoflight.ap_disc_latch = 1;
+        acknowledge();
+    }
+    if (autoflight.ap_master_disconnect == kDisconnect && autoflight.ap_disc_warning == 1) {
+        SetDisconnectWarning(0);
+        acknowledge();
+    }
+    if (autoflight.ap_disc_latch == 1 && IsAutopilotEngaged()) {
+        autoflight.ap_disc_latch = 0;
+        autoflight.ap_disc_lamp = 0;
+        WriteNamedVar(NamedVar("TZ_MCP_Annun_WARN"), 0);
+        if (cfg.DiscATOnAPDisc == 1) {
+            WriteNamedVar(NamedVar("TZ_OH_PFC_Safety_Switch"), 1);
+            WriteNamedVar(NamedVar("TZ_OH_PFC_G_Switch"), 1);
+            cfg.PfcSwitch = kPfcNormal;
+        }
+    }
+    if (autoflight.ap_master_disconnect == kDisconnect && autoflight.ap_disc_latch == 0 &&
+        IsAutopilotEngaged()) {
+        autoflight.ap_disc_warning = 0;
+        if (cfg.DiscATOnAPDisc == 1) {
+            autoflight.at_armed_left = autoflight.at_armed_right = 0;
+            WriteNamedVar(NamedVar("at_armed_left"), 0);
+            WriteNamedVar(NamedVar("at_armed_right"), 0);
+        }
+    }
+    if (autoflight.ap_master_l != 0) autoflight.ap_disc_warning = 0;
+    if (autoflight.ap_disc_warning == 0 && autoflight.ap_disc_lamp == 1) SetDisconnectWarning(0);
+}
+
+double VnavSpeed() {
+    if (IsHoldPatternFlown()) return lnav.hold_speed;
+    return vnav.vnav_spd_mode == 2 ? vnav.vnav_mach : vnav.vnav_ias;
+}
+
+double VnavPathAngle() {
+    if (plan.stpos == kNoPlan || vnav.toc == 0) return kNoValue;
+    return vnav.tod == 1 ? cfg.DescFpa : 0;
+}
+
+double LnavHeading() {
+    if (plan.fms_fpln_active < 3 || plan.stpos == kNoPlan) return kNoValue;
+    return IsHoldPatternFlown() ? lnav.hold_hdg : lnav.fms_hdg;
+}
+
+}  // namespace
+
+void ReadAutoflightModes() {
+    ReadAutopilots();
+    TakeMode(NamedVar("ap_lat_mode"), autoflight.ap_lat_mode, autoflight.fma_roll_timer);
+    TakeMode(NamedVar("ap_vert_mode"), autoflight.ap_vert_mode, autoflight.fma_pitch_timer);
+    TakeMode(NamedVar("at_mode"), autoflight.at_mode, autoflight.fma_at_timer);
+    autoflight.ap_lat_mode_armed = ReadInt(NamedVar("ap_lat_mode_armed"));
+    autoflight.ap_vert_mode_armed = ReadInt(NamedVar("ap_vert_mode_armed"));
+    autoflight.at_mode_armed = ReadInt(NamedVar("at_mode_armed"));
+    autoflight.at_armed_left = ReadInt(NamedVar("at_armed_left"));
+    autoflight.at_armed_right = ReadInt(NamedVar("at_armed_right"));
+    autoflight.ap_envelope_prot = ReadInt(NamedVar("ap_envelope_prot"));
+    autoflight.spd_intv_active = ReadInt(NamedVar("tz_spd_intv_active"));
+    FollowEngagedModes();
+    StepDisconnect();
+}
+
+void PublishGuidance() {
+    WriteNamedVar(NamedVar("lnav_hdg"), LnavHeading());
+    WriteNamedVar(NamedVar("tz_fpln_next_wpt_angle"), lnav.turn_code);
+    if (plan.stpos != kNoPlan) {
+        WriteNamedVar(NamedVar("xtk_err_dist"), lnav.xtk);
+        WriteNamedVar(NamedVar("xtk_err_dir"), lnav.xtk_side);
+    }
+    WriteNamedVar(NamedVar("vnav_spd"), VnavSpeed());
+    WriteNamedVar(NamedVar("vnav_fpa"), VnavPathAngle());
+    WriteNamedVar(NamedVar("vnav_vert_dev"), vnav.vnav_vert_dev);
+    WriteNamedVar(NamedVar("fms_cross_at_elev"), vnav.cross_at_elev);
+}
+
+void StepAutoflightTimers() {
+    for (int* timer : {&autoflight.ap_status_timer, &autoflight.fma_roll_timer, &autoflight.fma_pitch_timer,
+                       &autoflight.fma_at_timer})
+        if (*timer > 0) --*timer;
+}

@@ -1,0 +1,166 @@
+#include "guidance/holds.h"
+
+#include <array>
+#include <cmath>
+
+#include "fmc/holds.h"
+#include "fmc/path.h"
+#include "fmc/route.h"
+#include "fmc/vertical_segment.h"
+#include "guidance/sequencing.h"
+#include "state/lnav.h"
+#include "state/plan.h"
+#include "state/sim.h"
+#include "state/vnav.h"
+
+namespace {
+
+constexpr int kExitHold = 3;
+constexpr int kLastPoint = 4;
+
+// The points in the order in which they are flown; [0] is the fix, where the pattern is entered.
+struct Pattern {
+    std::array<LatLon, 5> points;
+    std::array<double, 5> courses;  // degrees true, of the leg that starts at the point
+    double length;                  // nm, of the straight legs
+};
+
+const char* const kPointNames[] = {"", "Xwind", "Dwind", "Base", "Final"};
+
+// The active plan's first hold; those of a modification have no leg in it yet.
+int FirstHold() {
+    for (int i = 1; i <= plan.hold_cnt; ++i)
+        if (plan.HoldList[i].leg > 0) return i;
+    return 0;
+}
+
+void TakeVariation(HoldRecord& hold) {
+    constexpr double kNear = 20;
+    if (hold.magvar_pending <= 0) return;
+    if (GreatCircle(sim.plane_lat, sim.plane_lon, hold.points[0].lat, hold.points[0].lon).dist >= kNear)
+        return;
+    hold.magvar = static_cast<int>(std::lround(sim.mgvar));
+    hold.magvar_pending = 0;
+}
+
+Pattern LayPattern(HoldRecord& hold) {
+    if (hold.use_time == 1) hold.leg_dist = lnav.hold_speed / 60.0 * hold.leg_time;
+    const double inbound = FoldBearing(hold.inbound_crs + hold.magvar);
+    const double turn = hold.right_turn == 1 ? 90 : -90;
+    const double xwind = FoldBearing(inbound + turn);
+    const double dwind = FoldBearing(xwind + turn);
+    const double base = FoldBearing(dwind + turn);
+    Pattern pattern;
+    pattern.length = hold.leg_dist * 1.5;
+    pattern.courses = {inbound, xwind, dwind, base, inbound};
+    const double side = 0.6 * pattern.length;
+    const double lengths[] = {0.2 * pattern.length, side, pattern.length, side};
+    pattern.points[0] = {hold.points[0].lat, hold.points[0].lon};
+    for (std::size_t i = 0; i < kLastPoint; ++i)
+        pattern.points[i + 1] =
+            ProjectPoint(pattern.points[i].lat, pattern.points[i].lon, pattern.courses[i], lengths[i]);
+    return pattern;
+}
+
+void StorePattern(const Pattern& pattern, HoldRecord& hold) {
+    for (std::size_t i = 1; i <= kLastPoint; ++i) {
+        HoldPoint& point = hold.points[i];
+        point.lat = pattern.points[i].lat;
+        point.lon = pattern.points[i].lon;
+        point.course = pattern.courses[i];
+        if (point.name != kPointNames[i]) point.name = kPointNames[i];
+    }
+}
+
+// Where the aircraft is against the point that it flies to, and the segment that leads there.
+struct Progress {
+    DistBearing to_point;
+    DistBearing segment;
+};
+
+Progress MeasureProgress(const Pattern& pattern) {
+    const LatLon point = pattern.points[static_cast<std::size_t>(lnav.hold_point)];
+    const LatLon previous = pattern.points[static_cast<std::size_t>(lnav.hold_prev_point)];
+    return {GreatCircle(sim.plane_lat, sim.plane_lon, point.lat, point.lon),
+            GreatCircle(previous.lat, previous.lon, point.lat, point.lon)};
+}
+
+bool IsPointReached(const Pattern& pattern) {
+    const Progress progress = MeasureProgress(pattern);
+    if (progress.to_point.dist <= 0.25 * pattern.length) return true;
+    if (lnav.hold_point == 0) return progress.to_point.dist <= lnav.wpt_chg_dist;
+    return progress.to_point.dist > 2.5 * progress.segment.dist ||
+           AngleBetween(progress.to_point.bearing, progress.segment.bearing) > 90;
+}
+
+void FlyToNextPoint() {
+    if (lnav.hold_point == 0) {
+        lnav.holding = 1;
+        lnav.hold_exit = 0;
+    }
+    lnav.hold_point = lnav.hold_point % kLastPoint + 1;
+    lnav.hold_prev_point = lnav.hold_point == 1 ? kLastPoint : lnav.hold_point - 1;
+}
+
+void SteerInPattern(const Pattern& pattern, const HoldRecord& hold) {
+    constexpr double kLookahead = 1;
+    const Progress progress = MeasureProgress(pattern);
+    const LatLon previous = pattern.points[static_cast<std::size_t>(lnav.hold_prev_point)];
+    const LatLon aim = ProjectPoint(previous.lat, previous.lon, progress.segment.bearing,
+                                    progress.segment.dist - progress.to_point.dist + kLookahead);
+    lnav.hold_hdg =
+        FoldBearing(GreatCircle(sim.plane_lat, sim.plane_lon, aim.lat, aim.lon).bearing - hold.magvar);
+}
+
+void StopHolding() {
+    lnav.holding = 0;
+    lnav.hold_point = 0;
+    lnav.hold_prev_point = 0;
+}
+
+// The aircraft leaves from where it is in the pattern. At the plan's last fix it flies there once more.
+void LeaveHold(int index) {
+    plan.HoldList[index].pending_leg = plan.HoldList[index].leg;
+    RemoveHoldRecord(index);
+    StopHolding();
+    lnav.hold_exit = 0;
+    if (plan.stpos < plan.fp_cnt)
+        SequenceLeg();
+    else if (vnav.toc == 0)
+        FindNextClimbRestriction();
+}
+
+}  // namespace
+
+void HoldUpdate() {
+    const int index = FirstHold();
+    if (index == 0) {
+        if (lnav.holding == 1) StopHolding();
+        return;
+    }
+    HoldRecord& hold = plan.HoldList[index];
+    TakeVariation(hold);
+    const Pattern pattern = LayPattern(hold);
+    if (lnav.lnav_engaged == 1) StorePattern(pattern, hold);
+    if (hold.leg != plan.stpos) {
+        if (lnav.holding == 1) StopHolding();
+        return;
+    }
+    if (lnav.holding == 1 && lnav.hold_exit == kExitHold && plan.fms_fpln_active == kRouteActive) {
+        LeaveHold(index);
+        return;
+    }
+    if (IsPointReached(pattern)) FlyToNextPoint();
+    if (lnav.hold_point > 0) SteerInPattern(pattern, hold);
+}
+
+void ExitHold() {
+    if (plan.fms_fpln_active == kRouteActive) AdvanceRouteState();
+}
+
+void NextHold(int side) {
+    constexpr int kMostSelectableHolds = 5;
+    if (plan.hold_cnt >= kMostSelectableHolds) return;
+    lnav.further_hold = 2;
+    lnav.hold_select_due = side;
+}

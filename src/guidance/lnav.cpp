@@ -1,0 +1,273 @@
+#include "guidance/lnav.h"
+
+#include <cmath>
+#include <cstdio>
+
+#include "fmc/holds.h"
+#include "fmc/path.h"
+#include "fmc/vertical_segment.h"
+#include "frame/named_variables.h"
+#include "guidance/holds.h"
+#include "guidance/sequencing.h"
+#include "guidance/turn_log.h"
+#include "platform/host.h"
+#include "state/cfg.h"
+#include "state/lnav.h"
+#include "state/plan.h"
+#include "state/sim.h"
+#include "state/time_base.h"
+#include "state/vnav.h"
+
+namespace {
+
+constexpr int kEventHeadingBugSet = 0x101fa;
+constexpr int kForcedPassPhase = 8;
+constexpr double kSequenceNow = -1;  // of wpt_dist
+constexpr double kAirborneFt = 400;  // radio altitude below which the plan stands still
+constexpr double kNoCrossTrack = -99;
+
+const FlightPlanLeg& ToLeg() {
+    return plan.FlightPlan[plan.stpos];
+}
+
+bool IsAirborne() {
+    return sim.radio_alt_ft > kAirborneFt;
+}
+
+bool IsMissedApproachPoint() {
+    return ToLeg().appr_wpt_type == "MAP";
+}
+
+double TrueHeading() {
+    return FoldBearing(sim.mag_hdg + sim.mgvar);
+}
+
+// EXEC, a hold's exit or a loaded state may have changed the active leg since the last tick; then its
+// distances are not yet those of the new leg, and nothing may sequence by the old ones.
+void FollowActiveLeg() {
+    if (!IsActiveLegLocated()) BeginActiveLeg();
+    if (LegAfter(plan.stpos) != 0) lnav.plan_finished = 0;
+}
+
+// The TO fix has been overflown on a wide turn: it lies near, and behind the direction of its leg.
+bool IsOverflownOnWideTurn() {
+    return lnav.lnav_engaged == 1 && sim.ap_master != 0 && lnav.wpt_dist < 10 &&
+           plan.stpos < plan.fp_cnt - 1 && ToLeg().hold_pos == 0 &&
+           AngleBetween(lnav.wpt_brg + ReferenceVariation(), lnav.course_here) > 90;
+}
+
+bool IsTargetFixPassed() {
+    const FlightPlanLeg& to = ToLeg();
+    return TargetFixPassed(sim.plane_lat, sim.plane_lon, TrueHeading(), lnav.course_here, to.lat, to.lon);
+}
+
+// While a hold is flown, on a heading leg and behind the last fix, nothing sequences by itself.
+bool MaySequenceByItself() {
+    return lnav.holding == 0 && lnav.plan_finished == 0 && !IsVectorsLegActive();
+}
+
+// True when the fix counts as reached whatever the heading.
+bool RequestForcedSequence() {
+    if (!MaySequenceByItself()) return false;
+    const bool overflown = IsOverflownOnWideTurn();
+    if (overflown) {
+        vnav.vnav_spd_pending = 0;
+        if (vnav.toc == 1 && vnav.tod == 0) vnav.tod_shortcut = 1;
+        lnav.wpt_dist = kSequenceNow;
+    }
+    const bool after_activation = plan.direct_abeam_check == 1 && plan.stpos == 1;
+    plan.direct_abeam_check = 0;
+    const bool in_flight = IsAirborne() && plan.fms_fpln_active > 2 && sim.ground_speed_kt > 100;
+    if ((in_flight || after_activation) && IsTargetFixPassed()) lnav.wpt_dist = kSequenceNow;
+    return overflown;
+}
+
+// The course to the next place of the plan: true, as it stands beside the magnetic leg course.
+double CourseOfNextLeg() {
+    const FlightPlanLeg& to = ToLeg();
+    for (int next = LegAfter(plan.stpos); next != 0; next = LegAfter(next)) {
+        const FlightPlanLeg& leg = plan.FlightPlan[next];
+        if (leg.ident == "VECTORS") return leg.from_hdg;
+        const DistBearing course = GreatCircle(to.lat, to.lon, leg.lat, leg.lon);
+        if (course.dist > 0) return course.bearing;
+    }
+    return lnav.leg_crs;
+}
+
+void UpdateWaypointChangeDistance() {
+    if (plan.stpos >= plan.fp_cnt) return;
+    constexpr double kFlyOverSeconds = 8, kTurnMattersNm = 15;
+    if (ToLeg().flyover == 1) {
+        lnav.turn_code = kTurnOfFlyOverFix;
+        lnav.wpt_chg_dist = sim.ground_speed_kt / 3600 * kFlyOverSeconds;
+        return;
+    }
+    if (lnav.wpt_dist >= kTurnMattersNm) {
+        lnav.turn_code = kTurnOfFarFix;
+        return;
+    }
+    lnav.turn_angle = AngleBetween(lnav.leg_crs, CourseOfNextLeg());
+    lnav.turn_code = lnav.turn_angle;
+    lnav.turn_radius = TurnRadiusForGroundSpeed();
+    lnav.wpt_chg_dist = WaypointChangeDistance(lnav.turn_angle, lnav.turn_radius);
+    if (lnav.turn_angle > 120 && lnav.wpt_chg_dist > 5 && lnav.wpt_dist > 5)
+        lnav.wpt_chg_dist = lnav.wpt_dist * 0.5;
+}
+
+// On the tick on which the TO fix comes near, the vertical segment is looked at anew, and the time is noted.
+void ApproachFix() {
+    if (lnav.wpt_dist >= lnav.wpt_chg_dist || plan.stpos >= plan.fp_cnt) {
+        lnav.fix_near = 0;
+        return;
+    }
+    if (lnav.fix_near == 0) {
+        FindBottomOfDescent(plan.stpos + 1);
+        SetCrossAtPoint();
+        lnav.fix_near = 1;
+    }
+    FlightPlanLeg& to = plan.FlightPlan[plan.stpos];
+    if (sim.ground_speed_kt > 65 && to.ata.empty()) {
+        char text[16];
+        std::snprintf(text, sizeof text, "%02d:%02d", sim.utc_hours, sim.utc_minutes);
+        to.ata = text;
+    }
+}
+
+bool IsFixReached(bool whatever_heading) {
+    if (lnav.plan_finished == 1 || lnav.wpt_dist >= lnav.wpt_chg_dist) return false;
+    const bool forced = lnav.force_sequence == 1;
+    if (!IsAirborne() && !IsMissedApproachPoint() && !forced) return false;
+    if (lnav.holding == 1) return false;
+    if (forced || lnav.wpt_dist == 0 || whatever_heading) return true;
+    if (IsVectorsLegActive()) return false;
+    return AngleBetween(TrueHeading(), lnav.course_here) < 91;
+}
+
+double LookaheadDistance() {
+    double dist = sim.tas_kt * 0.01;
+    if (sim.sim_rate == 4) dist += 1;
+    if (sim.sim_rate == 8) dist += 2;
+    if (sim.sim_rate == 16) dist += 3;
+    return dist;
+}
+
+void AimAt(LatLon point) {
+    lnav.aim_lat = point.lat;
+    lnav.aim_lon = point.lon;
+    const double bearing = GreatCircle(sim.plane_lat, sim.plane_lon, point.lat, point.lon).bearing;
+    lnav.fms_hdg = FoldBearing(bearing - ReferenceVariation());
+}
+
+void SteerToJoinTrack() {
+    const double length =
+        GreatCircle(lnav.lnav_init_lat, lnav.lnav_init_lon, lnav.lnav_join_trk_lat, lnav.lnav_join_trk_lon)
+            .dist;
+    const double left =
+        GreatCircle(sim.plane_lat, sim.plane_lon, lnav.lnav_join_trk_lat, lnav.lnav_join_trk_lon).dist;
+    AimAt(ProjectPoint(lnav.lnav_init_lat, lnav.lnav_init_lon, FoldBearing(lnav.lnav_join_trk + sim.mgvar),
+                       length - left + lnav.lookahead));
+    if (lnav.xtk > lnav.wpt_chg_dist) return;
+    lnav.lnav_init_mode = 0;
+    const FlightPlanLeg& before = plan.FlightPlan[LegBefore(plan.stpos)];
+    plan.ActiveLeg.from = before.ident;
+    plan.ActiveLeg.from_lat = before.lat;
+    plan.ActiveLeg.from_lon = before.lon;
+}
+
+void SteerAlongLeg() {
+    if (lnav.true_reference == 1) {
+        lnav.fms_hdg = lnav.wpt_brg;
+        return;
+    }
+    const ActiveLegRecord& leg = plan.ActiveLeg;
+    const double flown = lnav.wpt_dist > lnav.leg_len ? 0 : lnav.leg_len - lnav.wpt_dist;
+    AimAt(ProjectPoint(leg.from_lat, leg.from_lon, FoldBearing(lnav.leg_crs + sim.mgvar),
+                       flown + lnav.lookahead));
+    // Far from the leg the aim point may lie beside the aircraft: then it closes on the leg at a fixed angle.
+    constexpr int kWidestAngle = 15, kClosingAngle = 10;
+    if (AngleBetween(lnav.fms_hdg, lnav.wpt_brg) > kWidestAngle)
+        lnav.fms_hdg =
+            FoldBearing(TurnSide(lnav.wpt_brg, lnav.fms_hdg) == kTurnLeft ? lnav.wpt_brg - kClosingAngle
+                                                                          : lnav.wpt_brg + kClosingAngle);
+}
+
+// A procedure may demand the longer way round at the fix just passed.
+void TurnAsDemanded() {
+    const FlightPlanLeg& passed = plan.FlightPlan[LegBefore(plan.stpos)];
+    if (passed.dep_turn != kTurnLeft && passed.dep_turn != kTurnRight) return;
+    const double heading = FoldBearing(sim.mag_hdg + sim.mgvar - ReferenceVariation());
+    constexpr int kSettled = 10;  // an overshoot is no turn the other way
+    if (AngleBetween(heading, lnav.fms_hdg) <= kSettled || TurnSide(heading, lnav.fms_hdg) == passed.dep_turn)
+        return;
+    if (GreatCircle(sim.plane_lat, sim.plane_lon, passed.lat, passed.lon).dist > lnav.passed_chg_dist) return;
+    lnav.fms_hdg = FoldBearing(passed.dep_turn == kTurnLeft ? heading - 90 : heading + 90);
+}
+
+void Steer() {
+    lnav.lookahead = LookaheadDistance();
+    if (lnav.lnav_init_mode == 1)
+        SteerToJoinTrack();
+    else
+        SteerAlongLeg();
+    TurnAsDemanded();
+    if (IsVectorsLegActive()) lnav.fms_hdg = ToLeg().from_hdg;
+}
+
+void SendHeadingToHost() {
+    if (cfg.LnavDefAp != 1 || lnav.lnav_engaged != 1 || lnav.lnav_init_mode == 1 || IsHoldPatternFlown())
+        return;
+    if (lnav.fms_hdg == lnav.sent_fms_hdg) return;
+    lnav.sent_fms_hdg = lnav.fms_hdg;
+    SendKeyEvent(kEventHeadingBugSet, static_cast<int>(std::lround(lnav.fms_hdg)));
+}
+
+void RunPass(bool overflown) {
+    if (MaySequenceByItself() && (IsAirborne() || IsMissedApproachPoint()) && IsTargetFixPassed())
+        lnav.wpt_dist = kSequenceNow;
+    if (IsFixReached(overflown)) SequenceLeg();
+    lnav.true_reference = ReadNamedVar(NamedVar("TZ_OH_HDG_REF_Button")) == 1;
+    LocateOnActiveLeg();
+    if (time_base.tick_phase == 0) {
+        lnav.xtk_shown = lnav.xtk;
+        lnav.xtk_side_shown = lnav.xtk_side;
+    }
+    if (lnav.plan_finished == 0) Steer();
+    SendHeadingToHost();
+    LogTurnData();
+}
+
+void RemovePassedHolds() {
+    for (int i = plan.hold_cnt; i >= 1; --i)
+        if (plan.HoldList[i].leg < plan.stpos && plan.HoldList[i].pending_leg == 0) RemoveHoldRecord(i);
+}
+
+}  // namespace
+
+bool IsGuidancePass() {
+    const int phase = time_base.tick_phase;
+    return phase == 0 || phase == 8 || phase == 12 || time_base.tick2s_phase == 0;
+}
+
+bool IsHoldPatternFlown() {
+    return lnav.holding == 1 && lnav.hold_point > 0;
+}
+
+void LnavUpdate() {
+    if (plan.stpos == kNoPlan) {
+        lnav.xtk = lnav.xtk_shown = kNoCrossTrack;
+        lnav.lnav_init_mode = 0;
+        lnav.force_sequence = 0;
+        lnav.plan_finished = 0;
+        return;
+    }
+    if (lnav.force_sequence == 1) time_base.tick_phase = kForcedPassPhase;
+    FollowActiveLeg();
+    const bool overflown = RequestForcedSequence();
+    UpdateWaypointChangeDistance();
+    if (lnav.force_sequence == 1) lnav.wpt_dist = kSequenceNow;
+    ApproachFix();
+    RemovePassedHolds();
+    HoldUpdate();
+    if (IsGuidancePass()) RunPass(overflown);
+    lnav.force_sequence = 0;
+}

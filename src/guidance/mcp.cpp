@@ -1,0 +1,143 @@
+#include "guidance/mcp.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+
+#include "fmc/path.h"
+#include "frame/named_variables.h"
+#include "platform/host.h"
+#include "state/autoflight.h"
+#include "state/cfg.h"
+#include "state/lnav.h"
+#include "state/sim.h"
+#include "state/time_base.h"
+
+namespace {
+
+constexpr int kModeLnav = 6;
+constexpr int kPfcDisconnected = 4;
+constexpr int kEventAutothrottleArm = 0x10144;
+constexpr int kTokenAutothrottleArmed = 123;
+
+struct Button {
+    std::string_view name;
+    NamedVarRef request;
+    int value;
+    int tick_phase;                          // set behind the press, so that the next pass comes soon
+    int event = 0;                           // keeps the host's own autopilot in step; 0 = none
+    int ConfigState::*event_when = nullptr;  // sent only with this setting at 1
+};
+
+constexpr NamedVarRef kLateral = NamedVar("ap_lat_mode_clicked");
+constexpr NamedVarRef kVertical = NamedVar("ap_vert_mode_clicked");
+constexpr NamedVarRef kThrust = NamedVar("at_mode_clicked");
+constexpr NamedVarRef kAutopilot = NamedVar("TZ_MCP_L_AP_Button");
+
+constexpr Button kButtons[] = {
+    {"lnav", kLateral, kModeLnav, 10},
+    {"hdgsel", kLateral, 3, 15, 0x100bd, &ConfigState::LnavDefAp},
+    {"hdghold", kLateral, 2, 15, 0x100bd, &ConfigState::LnavDefAp},
+    {"loc", kLateral, 7, 15},
+    {"vnav", kVertical, 5, 15},
+    {"flch", kVertical, 4, 15},
+    {"vs", kVertical, 2, 15},
+    {"althold", kVertical, 1, 15, 0x100be, &ConfigState::LnavDefAp},
+    {"app", kVertical, 10, 15, 0x100bc, &ConfigState::LnavDefAp},
+    {"at", kThrust, 1, 10, 0x10143, &ConfigState::RealismMode},
+    {"clbcon", kThrust, 5, 10},
+    {"apl", kAutopilot, 1, 15, 0x1002c, &ConfigState::RealismMode},
+    {"apr", kAutopilot, 1, 15, 0x1002c, &ConfigState::RealismMode},
+};
+
+struct Knob {
+    std::string_view name;
+    int event;
+    double SimSnapshot::*shown;
+    int step;
+    double low, high;
+};
+
+constexpr Knob kKnobs[] = {
+    {"spd", 0x101f5, &SimSnapshot::ap_spdbug, 1, 100, 399},
+    {"alt", 0x1024c, &SimSnapshot::apalt, 100, 0, 50000},
+};
+
+constexpr int kEventHeadingSet = 0x101fa;
+constexpr int kEventVerticalSpeedUp = 0x10166, kEventVerticalSpeedDown = 0x10167;
+
+void SwitchAutothrottleArm() {
+    int armed = autoflight.at_armed_left == 1 ? 0 : 1;
+    if (cfg.RealismMode == 1 && cfg.LnavDefAp == 1) {
+        armed = ReadToken(kTokenAutothrottleArmed) != 0 ? 1 : 0;
+        SendKeyEvent(kEventAutothrottleArm, 0);
+    }
+    autoflight.at_armed_left = autoflight.at_armed_right = armed;
+    WriteNamedVar(NamedVar("at_armed_left"), armed);
+    WriteNamedVar(NamedVar("at_armed_right"), armed);
+}
+
+void TurnHeading(int detents) {
+    const bool engaged = autoflight.ap_master_l != 0 || autoflight.ap_master_r != 0;
+    if (engaged && autoflight.ap_lat_mode == kModeLnav) return;
+    SendKeyEvent(kEventHeadingSet, static_cast<int>(std::lround(FoldBearing(sim.ap_hdgbug + detents))) % 360);
+}
+
+void TurnVerticalSpeedWheel(int detents) {
+    constexpr double kLowest = -8000, kHighest = 6000;
+    if (detents > 0 ? sim.ap_vsbug >= kHighest : sim.ap_vsbug <= kLowest) return;
+    for (int i = std::abs(detents); i > 0; --i)
+        SendKeyEvent(detents > 0 ? kEventVerticalSpeedUp : kEventVerticalSpeedDown, 0);
+}
+
+}  // namespace
+
+bool PressMcpButton(std::string_view name) {
+    if (name == "atarm") {
+        SwitchAutothrottleArm();
+        return true;
+    }
+    const auto button = std::find_if(std::begin(kButtons), std::end(kButtons),
+                                     [&](const Button& row) { return row.name == name; });
+    if (button == std::end(kButtons)) return false;
+    int value = button->value;
+    if (name == "lnav") {
+        if (ReadNamedVar(kLateral) == kModeLnav) value = 0;
+        if (cfg.LnavDefAp == 1) lnav.lnav_engaged = lnav.lnav_engaged == 1 ? 0 : 1;
+    }
+    WriteNamedVar(button->request, value);
+    if (button->event != 0 && cfg.*button->event_when == 1) SendKeyEvent(button->event, 0);
+    time_base.tick_phase = button->tick_phase;
+    return true;
+}
+
+bool TurnMcpKnob(std::string_view name, int detents) {
+    if (detents == 0) return name == "hdg" || name == "vswheel" || name == "spd" || name == "alt";
+    if (name == "hdg") {
+        TurnHeading(detents);
+        return true;
+    }
+    if (name == "vswheel") {
+        TurnVerticalSpeedWheel(detents);
+        return true;
+    }
+    for (const Knob& knob : kKnobs) {
+        if (knob.name != name) continue;
+        const double value = std::clamp(sim.*knob.shown + detents * knob.step, knob.low, knob.high);
+        SendKeyEvent(knob.event, static_cast<int>(std::lround(value)));
+        return true;
+    }
+    return false;
+}
+
+void MoveDisengageBar(bool down) {
+    WriteNamedVar(NamedVar("TZ_MCP_AP_DISENGAGE_Bar"), down ? 1 : 0);
+    if (!down) {
+        WriteNamedVar(NamedVar("TZ_AP_DISENGAGE_Switch_Right"), 1);
+        return;
+    }
+    WriteNamedVar(NamedVar("ap_master_disconnect"), 1);
+    if (cfg.DiscPFCOnAPDisc != 1) return;
+    cfg.PfcSwitch = kPfcDisconnected;
+    WriteNamedVar(NamedVar("TZ_OH_PFC_G_Switch"), 1);
+}

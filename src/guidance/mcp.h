@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string_view>
+
+// The mode control panel: its buttons write requests that AutoflightLogic takes up, its knobs send the host's
+// autopilot events.
+
+/// Presses a button: "lnav vnav flch vs althold app loc hdgsel hdghold at clbcon apl apr atarm". False for
+/// another name.
+bool PressMcpButton(std::string_view button);
+
+/// Turns a knob, "spd hdg alt vswheel", by detents: 1 is a small step, 10 a big one, negative down. False for
+/// another name. What would leave the knob's limits stops at them.
+bool TurnMcpKnob(std::string_view knob, int detents);
+
+/// Moves the autopilot disengage bar down or back up.
+void MoveDisengageBar(bool down);

@@ -1,0 +1,142 @@
+#include "guidance/sequencing.h"
+
+#include <array>
+#include <cstdio>
+
+#include "fmc/path.h"
+#include "fmc/predictions.h"
+#include "fmc/route.h"
+#include "fmc/vertical_segment.h"
+#include "guidance/vnav.h"
+#include "platform/host.h"
+#include "state/cfg.h"
+#include "state/lnav.h"
+#include "state/perf.h"
+#include "state/plan.h"
+#include "state/sim.h"
+#include "state/vnav.h"
+
+namespace {
+
+constexpr int kEventAltitudeSet = 0x1024c;
+constexpr double kKgPerLb = 0.45359237;
+
+void ReportPosition(const FlightPlanLeg& passed) {
+    PositionReport& report = plan.PositionReports[1];
+    plan.position_report_cnt = 1;
+    report.leg = passed;
+    char text[16];
+    std::snprintf(text, sizeof text, "%02d%02dZ", sim.utc_hours, sim.utc_minutes);
+    report.time = text;
+    report.altitude = sim.ind_alt_ft;
+    report.fuel = (sim.total_fuel + perf.reserves) * (cfg.WeightUnit == "KGS" ? kKgPerLb : 1);
+    if (!lnav.report_ident.empty() && lnav.report_ident == passed.ident) lnav.report_due = 1;
+}
+
+void LookAtStepClimb(const FlightPlanLeg& passed) {
+    if (passed.step_alt <= perf.cruise_alt) return;
+    if (vnav.toc == 1) vnav.step_due = 1;
+    if (cfg.autostepclimb == 1 && perf.cruise_alt < perf.fms_step_to_alt)
+        SendKeyEvent(kEventAltitudeSet, static_cast<int>(passed.step_alt));
+}
+
+// A passed fix no longer constrains.
+void ClearConstraint(FlightPlanLeg& passed) {
+    passed.restr_code = 0;
+    passed.restr_type = 0;
+}
+
+void ActivateLeg(int to, const FlightPlanLeg& from) {
+    const FlightPlanLeg& leg = plan.FlightPlan[to];
+    ActiveLegRecord& active = plan.ActiveLeg;
+    active.from = from.ident;
+    active.from_lat = from.lat;
+    active.from_lon = from.lon;
+    active.to = leg.ident;
+    active.to_lat = leg.lat;
+    active.to_lon = leg.lon;
+    active.direct_flag = 0;
+    plan.stpos = to;
+    BeginActiveLeg();
+    active.course = lnav.leg_crs;
+    if (plan.direct_to_pending == 0) plan.ActiveLegMod = active;
+}
+
+}  // namespace
+
+int LegAfter(int leg) {
+    for (int next = leg + 1; next <= plan.fp_cnt; ++next)
+        if (plan.FlightPlan[next].ident != "DISCO") return next;
+    return 0;
+}
+
+int LegBefore(int leg) {
+    int before = leg - 1;
+    while (before > 0 && plan.FlightPlan[before].ident == "DISCO") --before;
+    return before < 0 ? 0 : before;
+}
+
+double ReferenceVariation() {
+    return lnav.true_reference == 1 ? 0 : sim.mgvar;
+}
+
+bool IsVectorsLegActive() {
+    return plan.FlightPlan[plan.stpos].ident == "VECTORS";
+}
+
+void SequenceLeg() {
+    const int next = plan.stpos < plan.fp_cnt ? LegAfter(plan.stpos) : 0;
+    if (next == 0) {
+        lnav.plan_finished = 1;
+        lnav.lnav_engaged = 0;
+        return;
+    }
+    FlightPlanLeg& passed = plan.FlightPlan[plan.stpos];
+    ReportPosition(passed);
+    ClearConstraint(passed);
+    lnav.last_fix_lat = passed.lat;
+    lnav.last_fix_lon = passed.lon;
+    lnav.last_fix_alt = passed.alt;
+    lnav.passed_chg_dist = lnav.wpt_chg_dist;
+    LookAtStepClimb(passed);
+    ActivateLeg(next, passed);
+    FollowSequencing();
+    if (vnav.toc == 0)
+        FindNextClimbRestriction();
+    else if (vnav.tod == 1)
+        FindNextDescentRestriction();
+    ComputeDistances(0);
+    vnav.vnav_spd_pending = 0;
+    VnavSpeedStep();
+    lnav.lnav_init_mode = 0;
+    lnav.hold_exit = 0;
+}
+
+void BeginActiveLeg() {
+    LocateOnActiveLeg();
+    lnav.wpt_chg_dist = WaypointChangeDistance(kTurnOfFarFix, 0);
+    lnav.fix_near = 0;
+    lnav.plan_finished = 0;
+}
+
+void LocateOnActiveLeg() {
+    const FlightPlanLeg& to = plan.FlightPlan[plan.stpos];
+    const LegPosition place = LocateOnLeg(sim.plane_lat, sim.plane_lon, plan.ActiveLeg.from_lat,
+                                          plan.ActiveLeg.from_lon, to.lat, to.lon);
+    lnav.leg_len = place.leg_len;
+    lnav.leg_crs = FoldCourse(place.initial_course - sim.mgvar);
+    lnav.course_here = place.course_here;
+    lnav.wpt_dist = place.dist_to_end;
+    lnav.wpt_brg = FoldCourse(place.bearing_to_end - ReferenceVariation());
+    if (IsVectorsLegActive()) lnav.wpt_brg = to.from_hdg;
+    lnav.xtk = place.cross_track;
+    lnav.xtk_side = place.cross_track_side;
+    lnav.located_leg = plan.stpos;
+    lnav.located = {plan.ActiveLeg.from_lat, plan.ActiveLeg.from_lon, to.lat, to.lon};
+}
+
+bool IsActiveLegLocated() {
+    const FlightPlanLeg& to = plan.FlightPlan[plan.stpos];
+    return lnav.located_leg == plan.stpos &&
+           lnav.located == std::array{plan.ActiveLeg.from_lat, plan.ActiveLeg.from_lon, to.lat, to.lon};
+}
