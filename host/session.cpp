@@ -92,6 +92,7 @@ bool StartSession(Session& session, std::string& error) {
     session.linkage = LoadModule(file, session.library, error);
     if (session.linkage == nullptr) return false;
     FillClockTokens();
+    PlaceAircraft(session.settings.placed ? session.settings.placement : DemonstrationStand());
     session.linkage->module_init();
     PlaceGauges(session);
     for (const int service : {kServiceConnectToWindow, kServicePreInstall, kServicePostInstall,
@@ -102,7 +103,10 @@ bool StartSession(Session& session, std::string& error) {
 
 void TickSession(Session& session, bool paused_frame) {
     DispatchQueuedCalls();
-    if (!paused_frame) AdvanceClock();
+    if (!paused_frame) {
+        AdvanceClock();
+        StepFlight(session.settings.fdm);
+    }
     CallAll(session, kServicePreUpdate);
 }
 

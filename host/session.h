@@ -3,17 +3,13 @@
 #include <string>
 #include <vector>
 
+#include "host/flight.h"
 #include "module/linkage.h"
 
 // One run of the stand-in simulator: the module loaded, its gauges on their panels, the aircraft and the
 // clock.
 
 namespace host {
-
-struct Placement {
-    double lat, lon, alt_ft, heading;
-    double ias = 0;
-};
 
 /// What is settled before the module loads. Everything has a default that works.
 struct SessionSettings {
@@ -52,14 +48,6 @@ bool StartSession(Session& session, std::string& error);
 
 /// The apts.txt in use.
 std::string AirportsFile(const SessionSettings& settings);
-
-/// Puts the aircraft somewhere, on the ground when the altitude is the ground's.
-void PlaceAircraft(const Placement& placement);
-
-/// The air at the aircraft.
-void SetWind(double from_deg, double speed_kt);
-void SetOutsideTemperature(double celsius);
-void SetQnh(double hpa);
 
 /// One pre-update call of each gauge; the 18 Hz counter moves by one, or stands still in a paused frame.
 void TickSession(Session& session, bool paused_frame);

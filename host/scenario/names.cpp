@@ -1,7 +1,7 @@
 #include <fstream>
 #include <iterator>
 
-#include "host/aircraft_values.h"
+#include "host/flight.h"
 #include "host/root_folder.h"
 #include "host/scenario/inspection.h"
 #include "host/scenario/scenario.h"

@@ -1,0 +1,322 @@
+#include "host/aircraft/aircraft.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+#include <numeric>
+
+namespace host {
+namespace {
+
+constexpr double kRad = std::numbers::pi / 180;
+constexpr double kEarthRadiusNm = 3437.7467707849396;
+constexpr double kKgPerLb = 0.45359237;
+constexpr double kSeaLevelDensity = 1.225, kSeaLevelK = 288.15;
+
+// The wing, in SI units.
+constexpr double kWingArea = 325;
+constexpr double kInducedFactor = 0.041;  // of a span of 60 m
+constexpr double kLiftPerDegree = 0.1;
+constexpr double kCleanDrag = 0.0150, kFlapDrag = 0.060, kGearDrag = 0.018, kBrakeDrag = 0.028;
+constexpr double kCleanMaxLift = 1.35, kFlapMaxLift = 1.15;
+constexpr double kZeroLiftAngle = -2.5, kFlapLiftShift = -5;  // degrees
+constexpr double kDragRiseMach = 0.86;
+
+Vector3 operator+(Vector3 a, Vector3 b) {
+    return {a.x + b.x, a.y + b.y, a.z + b.z};
+}
+Vector3 operator*(Vector3 a, double k) {
+    return {a.x * k, a.y * k, a.z * k};
+}
+double Dot(Vector3 a, Vector3 b) {
+    return a.x * b.x + a.y * b.y + a.z * b.z;
+}
+Vector3 Cross(Vector3 a, Vector3 b) {
+    return {a.y * b.z - a.z * b.y, a.z * b.x - a.x * b.z, a.x * b.y - a.y * b.x};
+}
+double Length(Vector3 a) {
+    return std::sqrt(Dot(a, a));
+}
+Vector3 Normalised(Vector3 a) {
+    const double length = Length(a);
+    return length > 0 ? a * (1 / length) : Vector3{1, 0, 0};
+}
+
+// Rotates a vector about a unit axis; O. Rodrigues' formula.
+Vector3 Rotated(Vector3 v, Vector3 axis, double angle) {
+    const double c = std::cos(angle), s = std::sin(angle);
+    return v * c + Cross(axis, v) * s + axis * (Dot(axis, v) * (1 - c));
+}
+
+struct Compass {
+    Vector3 north, east;
+};
+
+// North and east at a place. At a pole every direction is one of them; the meridian of Greenwich stands in.
+Compass CompassAt(Vector3 place) {
+    const Vector3 east =
+        std::hypot(place.x, place.y) > 1e-12 ? Normalised({-place.y, place.x, 0}) : Vector3{0, 1, 0};
+    return {Cross(place, east), east};
+}
+
+double BearingOf(Vector3 direction, Vector3 place) {
+    const Compass compass = CompassAt(place);
+    const double bearing = std::atan2(Dot(direction, compass.east), Dot(direction, compass.north)) / kRad;
+    return bearing < 0 ? bearing + 360 : bearing;
+}
+
+Vector3 DirectionOf(double bearing, Vector3 place) {
+    const Compass compass = CompassAt(place);
+    return compass.north * std::cos(bearing * kRad) + compass.east * std::sin(bearing * kRad);
+}
+
+double PressureAltitude(const Aircraft& aircraft) {
+    return IndicatedAltitude(aircraft.altitude, kStandardHpa, aircraft.air);
+}
+
+double DynamicPressure(const Aircraft& aircraft) {
+    const double speed = aircraft.tas / kKnotsPerMps;
+    return 0.5 * Density(PressureAltitude(aircraft), aircraft.air) * speed * speed;
+}
+
+double Drag(const Aircraft& aircraft, double lift_coefficient) {
+    const double over = std::max(aircraft.mach - kDragRiseMach, 0.0);
+    const double coefficient = kCleanDrag + kFlapDrag * aircraft.flaps * aircraft.flaps +
+                               kGearDrag * aircraft.gear + kBrakeDrag * aircraft.speedbrake +
+                               kInducedFactor * lift_coefficient * lift_coefficient + 20 * over * over;
+    return coefficient * DynamicPressure(aircraft) * kWingArea;
+}
+
+double MaxLift(const Aircraft& aircraft) {
+    return kCleanMaxLift + kFlapMaxLift * aircraft.flaps;
+}
+
+double WeightNewton(const Aircraft& aircraft) {
+    return GrossWeight(aircraft) * kKgPerLb * kGravity;
+}
+
+double AngleOfAttack(const Aircraft& aircraft, double load_factor) {
+    const double pressure_area = std::max(DynamicPressure(aircraft), 500.0) * kWingArea;
+    const double lift = std::min(load_factor * WeightNewton(aircraft) / pressure_area, MaxLift(aircraft));
+    return lift / kLiftPerDegree + kZeroLiftAngle + kFlapLiftShift * aircraft.flaps;
+}
+
+// Moves a value towards another at most so far.
+double Towards(double value, double wanted, double step) {
+    return value + std::clamp(wanted - value, -step, step);
+}
+
+void UpdateAirspeeds(Aircraft& aircraft) {
+    const double altitude = PressureAltitude(aircraft);
+    aircraft.mach = aircraft.tas / SpeedOfSound(altitude, aircraft.air);
+    aircraft.ias = CasOfMach(aircraft.mach, altitude);
+}
+
+void StepEngines(Aircraft& aircraft, double dt) {
+    const double altitude = PressureAltitude(aircraft);
+    const double density_ratio = Density(altitude, aircraft.air) / kSeaLevelDensity;
+    const double temperature_ratio = Temperature(altitude, aircraft.air) / kSeaLevelK;
+    double burnt = 0;
+    const bool fuel = FuelOnBoard(aircraft) > 0;
+    for (Engine& engine : aircraft.engines) {
+        engine.running = engine.running && fuel;
+        StepEngine(engine, aircraft.controls.thrust_lever, aircraft.mach, density_ratio, temperature_ratio,
+                   aircraft.airframe.static_thrust_n, dt);
+        burnt += engine.fuel_flow / 3600 * dt;
+    }
+    // The centre tank feeds first, then both mains alike.
+    const double centre = std::min(burnt, aircraft.fuel_lb[kCentreTank]);
+    aircraft.fuel_lb[kCentreTank] -= centre;
+    for (const FuelTank tank : {kLeftTank, kRightTank})
+        aircraft.fuel_lb[tank] = std::max(aircraft.fuel_lb[tank] - (burnt - centre) / 2, 0.0);
+}
+
+// The bank follows its command as a roll channel does: a limited rate that itself builds up.
+void StepBank(Aircraft& aircraft, double dt) {
+    constexpr double kRollTime = 0.9, kRateTime = 0.35, kMostRate = 8;
+    const double wanted = aircraft.on_ground ? 0 : std::clamp(aircraft.controls.bank, -60.0, 60.0);
+    const double rate = std::clamp((wanted - aircraft.bank) / kRollTime, -kMostRate, kMostRate);
+    aircraft.bank_rate += (rate - aircraft.bank_rate) * std::min(dt / kRateTime, 1.0);
+    aircraft.bank += aircraft.bank_rate * dt;
+}
+
+// The wind's own velocity over the ground, kt.
+Vector3 Wind(const Aircraft& aircraft) {
+    return DirectionOf(aircraft.air.wind_from + 180, aircraft.place) * aircraft.air.wind_kt;
+}
+
+// Turns the nose and moves over the ground.
+void StepPlace(Aircraft& aircraft, double dt) {
+    const double turn_rate =  // degrees a second
+        aircraft.on_ground
+            ? aircraft.controls.steering
+            : kGravity * std::tan(aircraft.bank * kRad) / std::max(aircraft.tas / kKnotsPerMps, 30.0) / kRad;
+    aircraft.nose = Rotated(aircraft.nose, aircraft.place, -turn_rate * dt * kRad);
+    const Vector3 velocity =
+        aircraft.on_ground ? aircraft.nose * aircraft.ground_speed
+                           : aircraft.nose * (aircraft.tas * std::cos(aircraft.path * kRad)) + Wind(aircraft);
+    aircraft.ground_speed = Length(velocity);
+    if (aircraft.ground_speed > 0) {
+        const Vector3 axis = Normalised(Cross(aircraft.place, velocity));
+        const double angle = aircraft.ground_speed / 3600 * dt / kEarthRadiusNm;
+        aircraft.place = Normalised(Rotated(aircraft.place, axis, angle));
+        aircraft.nose = Rotated(aircraft.nose, axis, angle);
+    }
+    // Rounding must not let the nose leave the horizon.
+    aircraft.nose = Normalised(aircraft.nose + aircraft.place * -Dot(aircraft.nose, aircraft.place));
+    aircraft.track = aircraft.ground_speed > 1 ? BearingOf(velocity, aircraft.place) : TrueHeading(aircraft);
+}
+
+// Speed and path in the air. The path bends with at most a quarter of the gravity, and not at all upwards
+// when the wing has no lift left for it.
+void StepFlight(Aircraft& aircraft, double dt) {
+    constexpr double kPathTime = 1.6, kMostPull = 0.25;
+    const double mass = GrossWeight(aircraft) * kKgPerLb;
+    const double speed = std::max(aircraft.tas / kKnotsPerMps, 1.0);
+    const double pressure_area = DynamicPressure(aircraft) * kWingArea;
+    const double available = pressure_area * MaxLift(aircraft) / (mass * kGravity);  // load factor
+    const double in_turn = 1 / std::max(std::cos(aircraft.bank * kRad), 0.3);
+    const double wanted = (aircraft.controls.path - aircraft.path) * kRad / kPathTime;
+    const double pull = std::clamp(wanted * speed / kGravity, -kMostPull, kMostPull);
+    const double load_factor = std::min(in_turn + pull, available);
+    aircraft.path += (load_factor - in_turn) * kGravity / speed * dt / kRad;
+    aircraft.path = std::clamp(aircraft.path, -30.0, 30.0);
+    const double lift_coefficient = pressure_area > 0 ? load_factor * mass * kGravity / pressure_area : 0;
+    const double thrust = aircraft.engines[0].thrust_n + aircraft.engines[1].thrust_n;
+    const double along = (thrust - Drag(aircraft, lift_coefficient)) / mass;
+    const double acceleration = along - kGravity * std::sin(aircraft.path * kRad);
+    aircraft.body_acceleration = along / kMetresPerFoot;
+    aircraft.tas = std::max(aircraft.tas + acceleration * kKnotsPerMps * dt, 0.0);
+    aircraft.vertical_speed = speed * std::sin(aircraft.path * kRad) / kMetresPerFoot * 60;
+    aircraft.altitude += aircraft.vertical_speed / 60 * dt;
+    const double pitch = aircraft.path + AngleOfAttack(aircraft, load_factor);
+    aircraft.pitch += (pitch - aircraft.pitch) * std::min(dt / 0.5, 1.0);
+    if (aircraft.altitude <= aircraft.ground_elevation) {
+        aircraft.altitude = aircraft.ground_elevation;
+        aircraft.on_ground = true;
+        aircraft.path = aircraft.vertical_speed = aircraft.bank = aircraft.bank_rate = 0;
+    }
+}
+
+// On the wheels: speed along the nose; a pull above flying speed lifts off.
+void StepRoll(Aircraft& aircraft, double dt) {
+    constexpr double kRollingFriction = 0.015, kBrakeFriction = 0.35, kMostPitch = 12, kPitchRate = 2.5;
+    const double mass = GrossWeight(aircraft) * kKgPerLb;
+    const double thrust = aircraft.engines[0].thrust_n + aircraft.engines[1].thrust_n;
+    const double friction = kRollingFriction + kBrakeFriction * aircraft.controls.wheel_brakes;
+    const double held = friction * mass * kGravity;
+    double force = thrust - Drag(aircraft, 0.2);
+    force = aircraft.ground_speed > 0.1 ? force - held : std::max(force - held, 0.0);
+    aircraft.ground_speed = std::max(aircraft.ground_speed + force / mass * kKnotsPerMps * dt, 0.0);
+    aircraft.tas = std::max(aircraft.ground_speed - Dot(Wind(aircraft), aircraft.nose), 0.0);
+    aircraft.body_acceleration = force / mass / kMetresPerFoot;
+    aircraft.altitude = aircraft.ground_elevation;
+    aircraft.bank = aircraft.bank_rate = 0;
+    const bool rotating = aircraft.controls.path > 0.5 && aircraft.ias > 0.9 * StallSpeed(aircraft);
+    aircraft.pitch = Towards(aircraft.pitch, rotating ? kMostPitch : 0, kPitchRate * dt);
+    const double pressure_area = DynamicPressure(aircraft) * kWingArea;
+    const double lift = (aircraft.pitch - kZeroLiftAngle - kFlapLiftShift * aircraft.flaps) * kLiftPerDegree;
+    if (rotating && std::min(lift, MaxLift(aircraft)) * pressure_area > mass * kGravity)
+        aircraft.on_ground = false;
+}
+
+}  // namespace
+
+const Airframe& AirframeOf(std::string_view title) {
+    static constexpr Airframe kAirframes[] = {
+        {"900-10", 298700, 340000},
+        {"900-9", 284000, 330000},
+        {"900-8", 264500, 310000},
+    };
+    for (const Airframe& airframe : kAirframes)
+        if (title.find(airframe.name) != std::string_view::npos) return airframe;
+    return kAirframes[2];
+}
+
+void PlaceAircraftAt(Aircraft& aircraft, double lat, double lon, double altitude, double heading, double ias,
+                     double ground_elevation) {
+    const double phi = lat * kRad, lambda = lon * kRad;
+    aircraft.place = {std::cos(phi) * std::cos(lambda), std::cos(phi) * std::sin(lambda), std::sin(phi)};
+    aircraft.nose = DirectionOf(heading, aircraft.place);
+    aircraft.ground_elevation = ground_elevation;
+    constexpr double kOnGroundBelow = 15;  // ft, as an altitude typed for the ground is rounded
+    aircraft.on_ground = altitude <= ground_elevation + kOnGroundBelow;
+    aircraft.altitude = aircraft.on_ground ? ground_elevation : altitude;
+    aircraft.path = aircraft.bank = aircraft.bank_rate = aircraft.vertical_speed = 0;
+    const double pressure_altitude = PressureAltitude(aircraft);
+    aircraft.tas = MachOfCas(ias, pressure_altitude) * SpeedOfSound(pressure_altitude, aircraft.air);
+    aircraft.gear = aircraft.controls.gear = aircraft.on_ground ? 1 : 0;
+    aircraft.flaps = aircraft.speedbrake = 0;
+    aircraft.controls.bank = aircraft.controls.path = aircraft.controls.steering = 0;
+    aircraft.controls.flaps = aircraft.controls.speedbrake = 0;
+    aircraft.controls.thrust_lever = 0;
+    aircraft.ground_speed =
+        aircraft.on_ground ? std::max(aircraft.tas + Dot(Wind(aircraft), aircraft.nose), 0.0) : 0;
+    if (aircraft.on_ground && ias == 0) aircraft.ground_speed = 0;
+    UpdateAirspeeds(aircraft);
+    aircraft.pitch = aircraft.on_ground ? 0 : AngleOfAttack(aircraft, 1);
+    // The lever that holds the speed, by halving.
+    if (!aircraft.on_ground) {
+        const double needed =
+            Drag(aircraft, WeightNewton(aircraft) / (std::max(DynamicPressure(aircraft), 500.0) * kWingArea));
+        double low = 0, high = 1;
+        for (int i = 0; i < 20; ++i) {
+            aircraft.controls.thrust_lever = (low + high) / 2;
+            for (Engine& engine : aircraft.engines)
+                engine.n1 = kIdleN1 + (kFullN1 - kIdleN1) * (low + high) / 2;
+            const std::array<double, 3> fuel = aircraft.fuel_lb;
+            StepEngines(aircraft, 0);
+            aircraft.fuel_lb = fuel;
+            const double thrust = aircraft.engines[0].thrust_n + aircraft.engines[1].thrust_n;
+            (thrust < needed ? low : high) = aircraft.controls.thrust_lever;
+        }
+    } else {
+        for (Engine& engine : aircraft.engines) engine.n1 = engine.running ? kIdleN1 : 0;
+        StepEngines(aircraft, 0);
+    }
+    StepPlace(aircraft, 0);
+}
+
+void StepAircraft(Aircraft& aircraft, double dt) {
+    constexpr double kFlapTime = 40, kGearTime = 10, kBrakeTime = 1.5;  // s, from end to end
+    aircraft.flaps = Towards(aircraft.flaps, aircraft.controls.flaps, dt / kFlapTime);
+    aircraft.gear = Towards(aircraft.gear, aircraft.controls.gear, dt / kGearTime);
+    aircraft.speedbrake = Towards(aircraft.speedbrake, aircraft.controls.speedbrake, dt / kBrakeTime);
+    StepEngines(aircraft, dt);
+    StepBank(aircraft, dt);
+    if (aircraft.on_ground)
+        StepRoll(aircraft, dt);
+    else
+        StepFlight(aircraft, dt);
+    StepPlace(aircraft, dt);
+    UpdateAirspeeds(aircraft);
+}
+
+double Latitude(const Aircraft& aircraft) {
+    return std::atan2(aircraft.place.z, std::hypot(aircraft.place.x, aircraft.place.y)) / kRad;
+}
+
+double Longitude(const Aircraft& aircraft) {
+    return std::atan2(aircraft.place.y, aircraft.place.x) / kRad;
+}
+
+double TrueHeading(const Aircraft& aircraft) {
+    return BearingOf(aircraft.nose, aircraft.place);
+}
+
+double FuelOnBoard(const Aircraft& aircraft) {
+    return aircraft.fuel_lb[kLeftTank] + aircraft.fuel_lb[kRightTank] + aircraft.fuel_lb[kCentreTank];
+}
+
+double GrossWeight(const Aircraft& aircraft) {
+    return std::accumulate(aircraft.payload_lb.begin(), aircraft.payload_lb.end(),
+                           aircraft.airframe.empty_lb) +
+           FuelOnBoard(aircraft);
+}
+
+double StallSpeed(const Aircraft& aircraft) {
+    const double pressure = WeightNewton(aircraft) / (kWingArea * MaxLift(aircraft));
+    return std::sqrt(2 * pressure / kSeaLevelDensity) * kKnotsPerMps;
+}
+
+}  // namespace host

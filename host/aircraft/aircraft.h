@@ -1,0 +1,88 @@
+#pragma once
+
+#include <array>
+#include <string_view>
+
+#include "host/aircraft/air.h"
+#include "host/aircraft/engines.h"
+
+// The stand-in aircraft: a point mass that banks, climbs and turns with believable lags, burns fuel and knows
+// its drag. It is flown by FlightControls alone and knows nothing of tokens; aircraft/tokens.h tells the
+// simulator what it does.
+
+namespace host {
+
+struct Vector3 {
+    double x = 0, y = 0, z = 0;
+};
+
+/// What pilot or autopilot ask of the aircraft.
+struct FlightControls {
+    double bank = 0;          // degrees, right wing down positive
+    double path = 0;          // degrees, flight path above the horizon
+    double thrust_lever = 0;  // 0 idle to 1 full
+    double flaps = 0;         // 0 up to 1 fully down
+    double gear = 0;          // 1 down
+    double speedbrake = 0;    // 0 to 1
+    double wheel_brakes = 0;  // 0 to 1
+    double steering = 0;      // degrees a second on the ground, right positive
+};
+
+/// What sets one variant apart.
+struct Airframe {
+    std::string_view name;
+    double empty_lb;
+    double static_thrust_n;  // of one engine at sea level
+};
+/// By the variant's name within an aircraft's title; the smallest when none is named.
+const Airframe& AirframeOf(std::string_view title);
+
+enum FuelTank { kLeftTank, kRightTank, kCentreTank };
+constexpr std::array<double, 3> kTankGallons = {5570, 5570, 22340};
+constexpr double kFuelLbPerGallon = 6.7;
+
+struct Aircraft {
+    // A unit vector to the place on the sphere and one along the nose, so that poles are places like others.
+    Vector3 place = {1, 0, 0};
+    Vector3 nose = {0, 1, 0};
+    double altitude = 0;   // ft above the sea, of the wheels
+    double tas = 0;        // kt
+    double path = 0;       // degrees, climb positive
+    double bank = 0;       // degrees, right wing down positive
+    double bank_rate = 0;  // degrees a second
+    double pitch = 0;      // degrees, nose up positive
+    bool on_ground = true;
+    double ground_elevation = 0;  // ft, given by who knows the terrain
+    // positions of what moves, 0 to 1
+    double flaps = 0, gear = 1, speedbrake = 0;
+    std::array<Engine, 2> engines;
+    std::array<double, 3> fuel_lb = {30000, 30000, 40000};
+    std::array<double, 5> payload_lb = {10000, 10000, 10000, 10000, 15000};  // by station
+    double body_acceleration = 0;                                            // ft/s^2 along the nose
+    Airframe airframe = AirframeOf("");
+    AirMass air;
+    FlightControls controls;
+    // derived at each step
+    double ground_speed = 0;    // kt
+    double track = 0;           // degrees true
+    double vertical_speed = 0;  // fpm
+    double mach = 0, ias = 0;
+};
+
+/// Puts the aircraft at a place with a true heading, trimmed: on the ground at rest with `ias` 0, in the air
+/// level with engines to hold the speed.
+void PlaceAircraftAt(Aircraft& aircraft, double lat, double lon, double altitude, double heading, double ias,
+                     double ground_elevation);
+
+/// Flies on by `dt` seconds.
+void StepAircraft(Aircraft& aircraft, double dt);
+
+double Latitude(const Aircraft& aircraft);
+double Longitude(const Aircraft& aircraft);  // -180 to 180
+double TrueHeading(const Aircraft& aircraft);
+double FuelOnBoard(const Aircraft& aircraft);  // lb
+double GrossWeight(const Aircraft& aircraft);  // lb
+/// Speed (kt IAS) at which the wing stops carrying the weight, flaps as they stand.
+double StallSpeed(const Aircraft& aircraft);
+
+}  // namespace host

@@ -1,0 +1,22 @@
+#pragma once
+
+namespace host {
+
+/// One high-bypass turbofan. Thrust follows N1, N1 follows the lever with the lag of a heavy fan.
+struct Engine {
+    double n1 = 0;  // percent
+    double n2 = 0;
+    double egt_c = 15;
+    double thrust_n = 0;
+    double fuel_flow = 0;  // lb/h
+    bool running = true;
+};
+
+constexpr double kIdleN1 = 22, kFullN1 = 100;
+
+/// Moves an engine on by `dt` seconds. `lever` 0 idle to 1 full; `static_thrust` at sea level, newtons;
+/// `density_ratio` and `temperature_ratio` to sea level. An engine that isn't running spools down.
+void StepEngine(Engine& engine, double lever, double mach, double density_ratio, double temperature_ratio,
+                double static_thrust, double dt);
+
+}  // namespace host

@@ -1,0 +1,159 @@
+#include "host/aircraft/tokens.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+#include <string>
+#include <utility>
+
+#include "host/aircraft/magnetic_variation.h"
+#include "host/world/world.h"
+
+namespace host {
+namespace {
+
+constexpr double kLatPerDegree = 111130.555557, kLonPerDegree = 781874935307.4;
+constexpr double kFull = 16384;  // of levers, handles and surfaces
+constexpr double kFullTank = 8388608;
+constexpr double kWheelsToRadar = 17.2;  // ft, the radar's place above the wheels
+constexpr double kRankineOffset = 491.69;
+constexpr double kFlapDegrees = 30;
+// What the simulator's client calls the right main, the left main and the centre tank, and the first of the
+// five payload stations.
+constexpr std::pair<int, FuelTank> kFuelDefinitions[] = {{2, kRightTank}, {3, kLeftTank}, {8, kCentreTank}};
+constexpr int kFirstPayloadDefinition = 13;
+constexpr const char* kPayloadExpressions[] = {
+    "(A:Payload Station Weight:1,pounds)", "(A:Payload Station Weight:2,pounds)",
+    "(A:Payload Station Weight:3,pounds)", "(A:Payload Station Weight:4,pounds)",
+    "(A:Payload Station Weight:5,pounds)"};
+constexpr int kTankTokens[] = {291, 297, 289};  // left main, right main, centre: level, then capacity
+
+double Fold360(double degrees) {
+    const double folded = std::fmod(degrees, 360);
+    return folded < 0 ? folded + 360 : folded;
+}
+
+void FillMotion(const Aircraft& aircraft) {
+    const double lat = Latitude(aircraft), lon = Longitude(aircraft);
+    SetToken(82, MagneticVariation(lat, lon));
+    const double heading = TrueHeading(aircraft);
+    SetToken(71, lat * kLatPerDegree);
+    SetToken(72, (lon < 0 ? lon + 360 : lon) * kLonPerDegree);
+    SetToken(77, -aircraft.pitch);  // nose down positive
+    SetToken(79, -aircraft.bank);   // left wing down positive
+    SetToken(80, -aircraft.bank);
+    SetToken(81, Fold360(heading - TokenOf(82)));  // by a variation set by hand too
+    SetToken(86, heading);
+    SetToken(60, aircraft.on_ground ? 1 : 0);
+    SetToken(63, aircraft.ias);
+    SetToken(64, aircraft.mach * 20480);
+    SetToken(65, aircraft.vertical_speed * 1.30048);
+    SetToken(551, aircraft.ground_speed * 1.68781);
+    SetToken(614, (aircraft.altitude - aircraft.ground_elevation + kWheelsToRadar) * kMetresPerFoot);
+    SetCalc("(A:AIRSPEED TRUE, knots)", aircraft.tas);
+    SetCalc("(A:INDICATED ALTITUDE, feet)", IndicatedAltitude(aircraft.altitude, TokenOf(75), aircraft.air));
+    SetCalc("(A:ACCELERATION BODY Z,Feet per second squared)", aircraft.body_acceleration);
+}
+
+void FillAir(const Aircraft& aircraft) {
+    const double altitude = IndicatedAltitude(aircraft.altitude, kStandardHpa, aircraft.air);
+    const double static_k = Temperature(altitude, aircraft.air);
+    SetToken(341, static_k - kZeroCelsius);
+    SetToken(350, (static_k * (1 + 0.2 * aircraft.mach * aircraft.mach) - kZeroCelsius) * 256);
+    SetToken(343, aircraft.air.wind_kt);
+    SetToken(344, aircraft.air.wind_from);
+}
+
+void FillEngines(const Aircraft& aircraft) {
+    struct EngineTokens {
+        int combustion, egt, n1, n2, corrected_n1, corrected_n2, lever;
+    };
+    constexpr EngineTokens kTokens[] = {{560, 567, 624, 625, 626, 627, 128},
+                                        {570, 577, 643, 644, 645, 646, 163}};
+    for (std::size_t i = 0; i < aircraft.engines.size(); ++i) {
+        const Engine& engine = aircraft.engines[i];
+        const EngineTokens& tokens = kTokens[i];
+        SetToken(tokens.combustion, engine.running ? 1 : 0);
+        SetToken(tokens.egt, engine.egt_c * 9 / 5 + kRankineOffset);
+        SetToken(tokens.n1, engine.n1);
+        SetToken(tokens.n2, engine.n2);
+        SetToken(tokens.corrected_n1, engine.n1);
+        SetToken(tokens.corrected_n2, engine.n2);
+        SetToken(tokens.lever, aircraft.controls.thrust_lever * kFull);
+    }
+    SetNamedValue("tz_eng1_fuel_flow", aircraft.engines[0].fuel_flow);
+    SetNamedValue("tz_eng2_fuel_flow", aircraft.engines[1].fuel_flow);
+    SetNamedValue("TZ_Eng1_TPR", aircraft.engines[0].n1);
+    SetNamedValue("TZ_Eng2_TPR", aircraft.engines[1].n1);
+}
+
+void FillWeights(const Aircraft& aircraft) {
+    SetToken(306, kFuelLbPerGallon);
+    for (std::size_t tank = 0; tank < aircraft.fuel_lb.size(); ++tank) {
+        const double capacity = kTankGallons[tank];
+        SetToken(kTankTokens[tank], aircraft.fuel_lb[tank] / (capacity * kFuelLbPerGallon) * kFullTank);
+        SetToken(kTankTokens[tank] + 1, capacity);
+    }
+    SetCalc("(A:EMPTY WEIGHT,pounds)", aircraft.airframe.empty_lb);
+    for (std::size_t station = 0; station < aircraft.payload_lb.size(); ++station)
+        SetCalc(kPayloadExpressions[station], aircraft.payload_lb[station]);
+}
+
+void FillSurfaces(const Aircraft& aircraft) {
+    SetToken(326, aircraft.speedbrake * kFull);
+    SetToken(327, aircraft.speedbrake * kFull);
+    for (const int gear : {332, 333, 334}) SetToken(gear, aircraft.gear * kFull);
+    SetToken(907, aircraft.flaps * kFlapDegrees);
+}
+
+// What the cockpit model and its gauges work out for themselves.
+void FillModelVariables(const Aircraft& aircraft) {
+    const double stall = StallSpeed(aircraft);
+    SetNamedValue("airspeed_smooth", aircraft.ias);
+    SetNamedValue("TZ_V_S", stall);
+    SetNamedValue("TZ_V_A", stall * 1.3);
+    SetNamedValue("TZ_V_MO", 360);
+    SetCalc("(A:Design Speed VS0, knots)", stall);
+    SetCalc("(A:Design Speed VS1, knots)", stall);
+}
+
+double NumberWritten(const std::vector<std::uint8_t>& bytes) {
+    double value = 0;
+    if (bytes.size() == sizeof value) std::memcpy(&value, bytes.data(), sizeof value);
+    return std::isfinite(value) ? std::max(value, 0.0) : 0;
+}
+
+}  // namespace
+
+void FillTokens(const Aircraft& aircraft) {
+    FillMotion(aircraft);
+    FillAir(aircraft);
+    FillEngines(aircraft);
+    FillWeights(aircraft);
+    FillSurfaces(aircraft);
+    FillModelVariables(aircraft);
+}
+
+void TakeControlsFromTokens(Aircraft& aircraft) {
+    aircraft.controls.thrust_lever = std::clamp(TokenOf(128) / kFull, 0.0, 1.0);
+    aircraft.controls.flaps = std::clamp(TokenOf(328) / kFull, 0.0, 1.0);
+    aircraft.controls.gear = TokenOf(331) > 0 ? 1 : 0;
+    aircraft.controls.wheel_brakes = TokenOf(323) >= 32000 ? 1 : 0;
+}
+
+bool TakeDataWrites(Aircraft& aircraft) {
+    if (world.data_writes.empty()) return false;
+    for (const SimDataWrite& write : world.data_writes) {
+        const double value = NumberWritten(write.bytes);
+        for (const auto& [definition, tank] : kFuelDefinitions)
+            if (write.definition == definition)
+                aircraft.fuel_lb[tank] = std::min(value, kTankGallons[tank]) * kFuelLbPerGallon;
+        const int station = write.definition - kFirstPayloadDefinition;
+        if (station < 0 || station >= static_cast<int>(aircraft.payload_lb.size())) continue;
+        aircraft.payload_lb[static_cast<std::size_t>(station)] = value;
+    }
+    world.data_writes.clear();
+    return true;
+}
+
+}  // namespace host

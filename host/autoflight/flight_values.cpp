@@ -1,0 +1,52 @@
+#include "host/autoflight/flight_values.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+#include "host/world/world.h"
+
+namespace host {
+namespace {
+constexpr double kRad = std::numbers::pi / 180;
+constexpr double kFeetPerMinutePerKnot = 6076.115 / 60;
+}  // namespace
+
+double FoldDegrees(double degrees) {
+    const double folded = std::fmod(degrees, 360);
+    return folded < 0 ? folded + 360 : folded;
+}
+
+double Difference(double from, double to) {
+    const double clockwise = FoldDegrees(to - from);
+    return clockwise > 180 ? clockwise - 360 : clockwise;
+}
+
+double Slew(double value, double target, double step) {
+    return value + std::clamp(target - value, -step, step);
+}
+
+FlightValues ReadFlightValues() {
+    FlightValues now;
+    now.magnetic_heading = TokenOf(81);
+    now.variation = TokenOf(82);
+    now.true_heading = TokenOf(86);
+    now.bank = -TokenOf(79);
+    now.tas = CalcOf("(A:AIRSPEED TRUE, knots)");
+    now.ias = TokenOf(63);
+    now.mach = TokenOf(64) / 20480;
+    now.ground_speed = TokenOf(551) / 1.68781;
+    now.altitude = CalcOf("(A:INDICATED ALTITUDE, feet)");
+    now.vertical_speed = TokenOf(65) / 1.30048;
+    now.radio_altitude = TokenOf(614) / 0.3048 - 17.2;
+    now.on_ground = TokenOf(60) != 0;
+    now.path = now.tas > 1 ? std::atan(now.vertical_speed / (now.tas * kFeetPerMinutePerKnot)) / kRad : 0;
+    // The wind triangle: where nose and wind together carry the aircraft.
+    const double wind = TokenOf(343), wind_to = TokenOf(344) + 180 - now.true_heading;
+    const double ahead = now.tas + wind * std::cos(wind_to * kRad), aside = wind * std::sin(wind_to * kRad);
+    const double drift = now.on_ground || ahead <= 0 ? 0 : std::atan2(aside, ahead) / kRad;
+    now.track = FoldDegrees(now.magnetic_heading + drift);
+    return now;
+}
+
+}  // namespace host

@@ -1,0 +1,25 @@
+#pragma once
+
+namespace host {
+
+/// What the autopilot measures, from tokens and expressions. Degrees, knots, feet; right, up and climb
+/// positive.
+struct FlightValues {
+    double magnetic_heading, true_heading, variation;
+    double track;  // degrees magnetic, from heading, airspeed and wind
+    double bank;
+    double tas, ias, mach, ground_speed;
+    double altitude, vertical_speed, radio_altitude;
+    double path;  // degrees
+    bool on_ground;
+};
+FlightValues ReadFlightValues();
+
+/// A bearing difference, -180 to 180, right positive.
+double Difference(double from, double to);
+double FoldDegrees(double degrees);
+
+/// Moves a command towards its target by at most so far.
+double Slew(double value, double target, double step);
+
+}  // namespace host

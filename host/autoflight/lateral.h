@@ -1,0 +1,17 @@
+#pragma once
+
+#include "host/autoflight/autoflight_logic.h"
+#include "host/autoflight/flight_values.h"
+
+namespace host {
+
+/// Takes the roll requests of the panel, arms, captures and drops lateral modes.
+void UpdateLateralMode(AutoflightLogic& logic, const FlightValues& now);
+
+/// The bank (degrees, right positive) that the lateral mode wants; 0 without one.
+double LateralBank(const AutoflightLogic& logic, const FlightValues& now);
+
+/// Enters the heading or track hold at the direction in which the aircraft rolls out.
+void HoldDirection(AutoflightLogic& logic, const FlightValues& now);
+
+}  // namespace host

@@ -1,0 +1,111 @@
+#include "host/autoflight/vertical.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+#include "host/world/world.h"
+
+namespace host {
+namespace {
+
+constexpr double kRad = std::numbers::pi / 180;
+constexpr double kFeetPerMinutePerKnot = 6076.115 / 60;
+constexpr double kGravityKt = 19.0625;  // kt/s
+// An altitude is closed in on exponentially: with this time the pull stays below a tenth of the gravity.
+constexpr double kCaptureTime = 8;
+
+double PathOfVerticalSpeed(double vertical_speed, const FlightValues& now) {
+    const double along = std::max(now.tas, 60.0) * kFeetPerMinutePerKnot;
+    return std::asin(std::clamp(vertical_speed / along, -0.5, 0.5)) / kRad;
+}
+
+bool IsChangingLevel(int mode) {
+    return mode == kVerticalSpeed || mode == kFlightPathAngle || mode == kFlightLevelChange;
+}
+
+void HoldAltitude(AutoflightLogic& logic, double altitude) {
+    logic.vertical = kAltitude;
+    logic.vertical_armed = kVerticalNone;
+    logic.held_altitude = altitude;
+}
+
+void TakeRequest(AutoflightLogic& logic, const FlightValues& now) {
+    const int request = static_cast<int>(NamedValue("ap_vert_mode_clicked"));
+    if (request == 0) return;
+    SetNamedValue("ap_vert_mode_clicked", 0);
+    switch (request) {
+        case kAltitude:
+            // Levels off where the present climb ends, not where it stands.
+            HoldAltitude(logic, now.altitude + now.vertical_speed / 60 * kCaptureTime / 2);
+            break;
+        case kVerticalSpeed:
+            logic.vertical = kVerticalSpeed;
+            break;
+        case kFlightLevelChange:
+            logic.vertical = kFlightLevelChange;
+            break;
+        case kGlideSlope:
+            logic.vertical_armed = kGlideSlope;
+            if (logic.lateral != kLocalizer) logic.lateral_armed = kLocalizer;
+            break;
+        default:
+            break;
+    }
+}
+
+void CaptureSelectedAltitude(AutoflightLogic& logic, const FlightValues& now) {
+    if (!IsChangingLevel(logic.vertical)) return;
+    const double to_go = SelectedAltitude() - now.altitude;
+    const bool closing = to_go * now.vertical_speed >= 0;
+    const double lead = std::fabs(now.vertical_speed) / 60 * kCaptureTime;
+    if (std::fabs(to_go) <= 30 || (closing && std::fabs(to_go) <= lead))
+        HoldAltitude(logic, SelectedAltitude());
+}
+
+// Speed by pitch: the path is bent until the speed changes as the error wants it to.
+double PathForSpeed(const AutoflightLogic& logic, const FlightValues& now, double dt) {
+    constexpr double kSpeedTime = 12, kMostRate = 1.0, kBendTime = 4;
+    const double wanted_rate = std::clamp((SelectedSpeed(now) - now.ias) / kSpeedTime, -kMostRate, kMostRate);
+    const double excess = (logic.ias_rate - wanted_rate) / kGravityKt / kRad;  // degrees of path
+    const double path = logic.path_command + excess * dt / kBendTime;
+    const bool climb = SelectedAltitude() > now.altitude;
+    return climb ? std::clamp(path, 0.3, 15.0) : std::clamp(path, -6.0, -0.3);
+}
+
+}  // namespace
+
+double SelectedAltitude() {
+    return CalcOf("(A:AUTOPILOT ALTITUDE LOCK VAR, feet)");
+}
+
+double SelectedSpeed(const FlightValues& now) {
+    if (NamedValue("tz_mach_status") == 1 && now.mach > 0.3) return now.ias * TokenOf(118) / now.mach;
+    return TokenOf(116);
+}
+
+void UpdateVerticalMode(AutoflightLogic& logic, const FlightValues& now) {
+    TakeRequest(logic, now);
+    CaptureSelectedAltitude(logic, now);
+    if (IsChangingLevel(logic.vertical) && logic.vertical_armed == kVerticalNone)
+        logic.vertical_armed = kAltitude;
+}
+
+double VerticalPath(const AutoflightLogic& logic, const FlightValues& now, double dt) {
+    switch (logic.vertical) {
+        case kAltitude: {
+            constexpr double kMostClimb = 1500;
+            const double climb = (logic.held_altitude - now.altitude) * 60 / kCaptureTime;
+            const double most = std::max(kMostClimb, std::fabs(now.vertical_speed));
+            return PathOfVerticalSpeed(std::clamp(climb, -most, most), now);
+        }
+        case kVerticalSpeed:
+            return PathOfVerticalSpeed(TokenOf(120), now);
+        case kFlightLevelChange:
+            return PathForSpeed(logic, now, dt);
+        default:
+            return logic.path_command;
+    }
+}
+
+}  // namespace host

@@ -1,0 +1,127 @@
+#include "host/flight.h"
+
+#include <string_view>
+
+#include "host/aircraft/magnetic_variation.h"
+#include "host/aircraft/tokens.h"
+#include "host/world/terrain.h"
+#include "host/world/world.h"
+
+namespace host {
+
+Flight flight;
+
+namespace {
+
+constexpr double kTick = 1 / 18.0;
+constexpr int kTokenBaro = 75, kTokenVariation = 82;
+constexpr double kTransitionAltitude = 18000;
+
+double GroundFeet(double lat, double lon) {
+    return GroundElevationMetres(lat, lon) / kMetresPerFoot;
+}
+
+std::string_view AircraftTitle() {
+    const auto title = world.calc.find(std::string_view("(A:TITLE,string)"));
+    return title == world.calc.end() ? std::string_view{} : std::string_view(title->second.text);
+}
+
+void ApplyOutsideTemperature() {
+    Aircraft& aircraft = flight.aircraft;
+    aircraft.air.isa_deviation = 0;
+    if (!flight.outside_c) return;
+    const double altitude = IndicatedAltitude(aircraft.altitude, kStandardHpa, aircraft.air);
+    aircraft.air.isa_deviation = *flight.outside_c + kZeroCelsius - Temperature(altitude, aircraft.air);
+}
+
+void FollowTerrain() {
+    Aircraft& aircraft = flight.aircraft;
+    constexpr double kHigh = 5000;  // above it the ground is looked at once a second
+    const bool high = aircraft.altitude - aircraft.ground_elevation > kHigh;
+    if (high && world.ticks % 18 != 0) return;
+    aircraft.ground_elevation = GroundFeet(Latitude(aircraft), Longitude(aircraft));
+}
+
+}  // namespace
+
+Placement DemonstrationStand() {
+    Placement stand{47.4439, -122.3016, 0, 360};
+    stand.alt_ft = GroundFeet(stand.lat, stand.lon);
+    return stand;
+}
+
+void PlaceAircraft(const Placement& placement) {
+    Aircraft& aircraft = flight.aircraft;
+    aircraft.airframe = AirframeOf(AircraftTitle());
+    aircraft.altitude = placement.alt_ft;
+    ApplyOutsideTemperature();
+    PlaceAircraftAt(aircraft, placement.lat, placement.lon, placement.alt_ft, placement.heading,
+                    placement.ias, GroundFeet(placement.lat, placement.lon));
+    flight.autoflight.smooth_ias = 0;
+    SetToken(kTokenBaro, placement.alt_ft < kTransitionAltitude ? aircraft.air.qnh : kStandardHpa);
+    FillTokens(aircraft);
+    SetToken(328, 0);
+    SetToken(331, aircraft.controls.gear);
+}
+
+void SetWind(double from_deg, double speed_kt) {
+    flight.aircraft.air.wind_from = from_deg;
+    flight.aircraft.air.wind_kt = speed_kt;
+    FillTokens(flight.aircraft);
+}
+
+void SetOutsideTemperature(double celsius) {
+    flight.outside_c = celsius;
+    ApplyOutsideTemperature();
+    FillTokens(flight.aircraft);
+}
+
+void SetQnh(double hpa) {
+    flight.aircraft.air.qnh = hpa;
+    FillTokens(flight.aircraft);
+}
+
+void StepFlight(bool moves) {
+    Aircraft& aircraft = flight.aircraft;
+    const bool written = TakeDataWrites(aircraft);
+    if (!moves) {
+        if (written) FillTokens(aircraft);
+        return;
+    }
+    TakeControlsFromTokens(aircraft);
+    FollowTerrain();
+    const AutoflightCommands commands = StepAutoflight(flight.autoflight, kTick);
+    aircraft.controls.bank = commands.flies ? commands.bank : 0;
+    if (commands.flies) aircraft.controls.path = commands.path;
+    if (commands.moves_levers) aircraft.controls.thrust_lever = commands.thrust_lever;
+    StepAircraft(aircraft, kTick);
+    FillTokens(aircraft);
+}
+
+bool AircraftValue(const std::string& name, double& value) {
+    struct Row {
+        std::string_view name;
+        double (*read)(const Aircraft& aircraft);
+    };
+    static constexpr Row kRows[] = {
+        {"lat", Latitude},
+        {"lon", Longitude},
+        {"alt", [](const Aircraft& aircraft) { return aircraft.altitude; }},
+        {"hdg", [](const Aircraft&) { return TokenOf(81); }},
+        {"ias", [](const Aircraft& aircraft) { return aircraft.ias; }},
+        {"gs", [](const Aircraft& aircraft) { return aircraft.ground_speed; }},
+        {"vs", [](const Aircraft& aircraft) { return aircraft.vertical_speed; }},
+        {"bank", [](const Aircraft& aircraft) { return aircraft.bank; }},
+        {"pitch", [](const Aircraft& aircraft) { return aircraft.pitch; }},
+        {"fuel", FuelOnBoard},
+        {"weight", GrossWeight},
+    };
+    for (const Row& row : kRows) {
+        if (row.name != name) continue;
+        value = row.read(flight.aircraft);
+        return true;
+    }
+    return false;
+}
+
+}  // namespace host

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "host/aircraft/aircraft.h"
+#include "host/autoflight/autoflight_logic.h"
+
+// The aircraft in its world: where it stands, the air around it, and who flies it. One a process, as the
+// world.
+
+namespace host {
+
+struct Placement {
+    double lat, lon, alt_ft, heading;  // feet above the sea, degrees magnetic
+    double ias = 0;
+};
+
+struct Flight {
+    Aircraft aircraft;
+    AutoflightLogic autoflight;
+    std::optional<double> outside_c;  // temperature asked for at the aircraft; none = the standard's
+};
+
+extern Flight flight;
+
+/// Where the aircraft stands when nobody has placed it, on the ground.
+Placement DemonstrationStand();
+
+/// Puts the aircraft somewhere, on the ground when the altitude is the ground's, and fills the tokens. The
+/// airframe is that of the title in force.
+void PlaceAircraft(const Placement& placement);
+
+/// The air at the aircraft: the wind's direction is true and the same at all heights.
+void SetWind(double from_deg, double speed_kt);
+void SetOutsideTemperature(double celsius);
+void SetQnh(double hpa);
+
+/// One tick of 1/18 s. With `moves` the aircraft flies and AutoflightLogic runs; without, it stays where the
+/// tokens put it, and only fuel and payload that the module writes are taken.
+void StepFlight(bool moves);
+
+/// A value of the host's aircraft: lat lon alt hdg ias gs vs bank pitch fuel weight. False for another name.
+bool AircraftValue(const std::string& name, double& value);
+
+}  // namespace host

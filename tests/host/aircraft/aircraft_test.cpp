@@ -1,0 +1,198 @@
+#include "host/aircraft/aircraft.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstring>
+
+#include "host/aircraft/magnetic_variation.h"
+#include "host/aircraft/tokens.h"
+#include "host/world/world.h"
+
+namespace {
+
+using namespace host;
+
+void FlyFor(Aircraft& aircraft, double seconds) {
+    for (int i = 0; i < static_cast<int>(seconds * 18); ++i) StepAircraft(aircraft, 1 / 18.0);
+}
+
+// Standard atmosphere tables (ICAO Doc 7488) and the airspeed conversions that follow from them.
+TEST(Air, FollowsTheStandardAtmosphere) {
+    const AirMass standard;
+    struct {
+        double altitude, kelvin, pascal, density, sound_kt;
+    } const rows[] = {
+        {0, 288.15, 101325, 1.2250, 661.5},
+        {10000, 268.34, 69682, 0.9046, 638.3},
+        {36089, 216.65, 22632, 0.3639, 573.6},
+        {45000, 216.65, 14748, 0.2371, 573.6},
+    };
+    for (const auto& row : rows) {
+        EXPECT_NEAR(Temperature(row.altitude, standard), row.kelvin, 0.02) << row.altitude;
+        EXPECT_NEAR(Pressure(row.altitude), row.pascal, row.pascal * 0.001) << row.altitude;
+        EXPECT_NEAR(Density(row.altitude, standard), row.density, 0.0005) << row.altitude;
+        EXPECT_NEAR(SpeedOfSound(row.altitude, standard), row.sound_kt, 0.3) << row.altitude;
+    }
+    // 300 kt CAS at 35000 ft is Mach 0.874, and 250 kt at sea level Mach 0.378
+    EXPECT_NEAR(MachOfCas(300, 35000), 0.8736, 0.001);
+    EXPECT_NEAR(MachOfCas(250, 0), 0.378, 0.001);
+    EXPECT_NEAR(CasOfMach(MachOfCas(287, 31000), 31000), 287, 1e-6);
+    AirMass warm;
+    warm.isa_deviation = 10;
+    warm.qnh = 1003.25;
+    EXPECT_NEAR(Temperature(10000, warm), 278.34, 0.02);
+    EXPECT_NEAR(IndicatedAltitude(5000, 1013.25, warm), 5273, 1);
+}
+
+// The model's own values at epoch 2005: NOAA's calculator for the World Magnetic Model 2005.
+TEST(MagneticVariation, IsNearTheFullModel) {
+    struct {
+        double lat, lon, variation;
+    } const places[] = {{47.4, -122.3, 17.6}, {51.5, -0.5, -2.6}, {35.6, 140.4, -6.9}, {-33.9, 151.2, 12.5}};
+    for (const auto& place : places)
+        EXPECT_NEAR(MagneticVariation(place.lat, place.lon), place.variation, 1.5)
+            << place.lat << " " << place.lon;
+}
+
+TEST(Aircraft, StaysTrimmedAndBurnsFuelAsAWideBodyDoes) {
+    Aircraft aircraft;
+    aircraft.airframe = AirframeOf("tz900-9 house");
+    PlaceAircraftAt(aircraft, 47, -122, 35000, 90, 270, 0);
+    EXPECT_EQ(aircraft.airframe.name, "900-9");
+    const double fuel = FuelOnBoard(aircraft), weight = GrossWeight(aircraft);
+    FlyFor(aircraft, 600);
+    EXPECT_NEAR(aircraft.altitude, 35000, 1);
+    EXPECT_NEAR(aircraft.ias, 270, 2);
+    EXPECT_NEAR(TrueHeading(aircraft), 90 + 10 / 6.0 * 0.05, 3);
+    const double burnt_an_hour = (fuel - FuelOnBoard(aircraft)) * 6;
+    EXPECT_GT(burnt_an_hour, 8000);
+    EXPECT_LT(burnt_an_hour, 13000);
+    EXPECT_NEAR(weight - GrossWeight(aircraft), burnt_an_hour / 6, 1e-6);
+}
+
+// A level turn: rate = g tan(bank) / V, so 25 degrees at 250 m/s turns 1.048 degrees a second.
+TEST(Aircraft, TurnsAsItsBankTells) {
+    Aircraft aircraft;
+    PlaceAircraftAt(aircraft, 0, 0, 30000, 0, 300, 0);
+    aircraft.controls.bank = 25;
+    FlyFor(aircraft, 6);
+    const double before = TrueHeading(aircraft), speed = aircraft.tas / kKnotsPerMps;
+    FlyFor(aircraft, 10);
+    EXPECT_NEAR(aircraft.bank, 25, 0.1);
+    EXPECT_NEAR(TrueHeading(aircraft) - before, 10 * 57.29578 * 9.80665 * std::tan(25 / 57.29578) / speed,
+                0.3);
+    // a roll takes seconds, not a tick
+    aircraft.controls.bank = -25;
+    FlyFor(aircraft, 2);
+    EXPECT_GT(aircraft.bank, 5);
+    FlyFor(aircraft, 10);
+    EXPECT_NEAR(aircraft.bank, -25, 0.1);
+}
+
+TEST(Aircraft, CrossesPoleAndDateLineStraightAhead) {
+    Aircraft aircraft;
+    PlaceAircraftAt(aircraft, 89.5, 30, 35000, 0, 270, 0);
+    FlyFor(aircraft, 480);  // some 60 nm: over the pole and down the opposite meridian
+    EXPECT_NEAR(Longitude(aircraft), -150, 0.01);
+    EXPECT_NEAR(TrueHeading(aircraft), 180, 0.01);
+    EXPECT_NEAR(90 - Latitude(aircraft), aircraft.ground_speed * 480 / 3600 / 60 - 0.5, 0.01);
+    PlaceAircraftAt(aircraft, 0, 179.9, 35000, 90, 270, 0);
+    FlyFor(aircraft, 120);
+    EXPECT_NEAR(Longitude(aircraft), -180.1 + aircraft.ground_speed * 120 / 3600 / 60, 0.01);
+    EXPECT_NEAR(TrueHeading(aircraft), 90, 0.01);
+}
+
+TEST(Aircraft, DriftsWithTheWind) {
+    Aircraft aircraft;
+    aircraft.air.wind_from = 0;
+    aircraft.air.wind_kt = 100;
+    PlaceAircraftAt(aircraft, 0, 0, 35000, 90, 270, 0);
+    FlyFor(aircraft, 360);
+    EXPECT_NEAR(Latitude(aircraft) * 60, -10, 0.1);
+    EXPECT_NEAR(Longitude(aircraft) * 60, aircraft.tas / 10, 0.3);
+    EXPECT_NEAR(aircraft.ground_speed, std::hypot(aircraft.tas, 100), 0.5);
+    EXPECT_NEAR(aircraft.track, 90 + 57.29578 * std::atan(100 / aircraft.tas), 0.1);
+}
+
+TEST(Aircraft, LeavesTheGroundOnlyWithSpeedAndAPull) {
+    Aircraft aircraft;
+    PlaceAircraftAt(aircraft, 47, -122, 430, 160, 0, 430);
+    ASSERT_TRUE(aircraft.on_ground);
+    aircraft.controls.wheel_brakes = 1;
+    FlyFor(aircraft, 30);
+    EXPECT_EQ(aircraft.ground_speed, 0);
+    aircraft.controls.wheel_brakes = 0;
+    aircraft.controls.thrust_lever = 1;
+    aircraft.controls.flaps = aircraft.flaps = 0.3;
+    FlyFor(aircraft, 60);
+    EXPECT_TRUE(aircraft.on_ground);
+    EXPECT_GT(aircraft.ias, 150);
+    aircraft.controls.path = 8;
+    FlyFor(aircraft, 15);
+    EXPECT_FALSE(aircraft.on_ground);
+    EXPECT_GT(aircraft.vertical_speed, 1000);
+}
+
+// Raw units, by the inverse of what the instruments make of them.
+TEST(AircraftTokens, CarryTheRawUnits) {
+    world = {};
+    Aircraft aircraft;
+    PlaceAircraftAt(aircraft, -33.5, -70.25, 31000, 123, 280, 0);
+    aircraft.bank = 20;
+    aircraft.pitch = 3;
+    aircraft.vertical_speed = 1200;
+    aircraft.ground_speed = 480;
+    SetToken(75, 1013.25);
+    PinToken(341, -5);
+    FillTokens(aircraft);
+    struct {
+        int token;
+        double value;
+    } const rows[] = {
+        {71, -33.5 * 111130.555557},
+        {72, 289.75 * 781874935307.4},
+        {77, -3},
+        {79, -20},
+        {80, -20},
+        {86, 123},
+        {65, 1200 * 1.30048},
+        {551, 480 * 1.68781},
+        {614, 31017.2 * 0.3048},
+        {60, 0},
+        {341, -5},
+        {332, 0},
+        {289, 40000 / (22340 * 6.7) * 8388608},
+        {290, 22340},
+        {291, 30000 / (5570 * 6.7) * 8388608},
+        {306, 6.7},
+    };
+    for (const auto& row : rows)
+        EXPECT_NEAR(TokenOf(row.token), row.value, std::fabs(row.value) * 1e-9 + 1e-6) << row.token;
+    EXPECT_NEAR(TokenOf(81) + TokenOf(82), 123, 1e-9);
+    EXPECT_NEAR(TokenOf(64) / 20480, aircraft.mach, 1e-9);
+    EXPECT_NEAR(CalcOf("(A:INDICATED ALTITUDE, feet)"), 31000, 1e-6);
+}
+
+TEST(AircraftTokens, FuelThatTheModuleWritesIsInTheTanks) {
+    world = {};
+    Aircraft aircraft;
+    const auto write = [](int definition, double value) {
+        SimDataWrite data{definition, std::vector<std::uint8_t>(sizeof value)};
+        std::memcpy(data.bytes.data(), &value, sizeof value);
+        world.data_writes.push_back(data);
+    };
+    EXPECT_FALSE(TakeDataWrites(aircraft));
+    write(2, 1000);    // right main, gallons
+    write(8, 1e9);     // more than the centre tank holds
+    write(13, 12345);  // first payload station, pounds
+    write(3, std::nan(""));
+    world.data_writes.push_back({3, {1, 2}});  // no number
+    EXPECT_TRUE(TakeDataWrites(aircraft));
+    EXPECT_NEAR(aircraft.fuel_lb[kRightTank], 6700, 1e-9);
+    EXPECT_NEAR(aircraft.fuel_lb[kCentreTank], 22340 * 6.7, 1e-9);
+    EXPECT_EQ(aircraft.payload_lb[0], 12345);
+    EXPECT_EQ(aircraft.fuel_lb[kLeftTank], 0);
+}
+
+}  // namespace

@@ -1,0 +1,246 @@
+#include "host/autoflight/autoflight_logic.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "host/aircraft/aircraft.h"
+#include "host/aircraft/tokens.h"
+#include "host/autoflight/flight_values.h"
+#include "host/world/world.h"
+
+namespace {
+
+using namespace host;
+
+constexpr const char* kAltitudeWindow = "(A:AUTOPILOT ALTITUDE LOCK VAR, feet)";
+
+/// An aircraft over the equator, where the variation is set to 0 by hand, flown by the logic alone.
+class AutoflightTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        world = {};
+        PinToken(82, 0);
+        SetToken(75, 1013.25);
+        SetToken(116, 280);
+        SetToken(107, 90);
+        SetCalc(kAltitudeWindow, 30000);
+        PlaceAircraftAt(aircraft, 0, 0, 30000, 90, 280, 0);
+        FillTokens(aircraft);
+        SetNamedValue("lnav_hdg", 999);
+        SetNamedValue("at_armed_left", 1);
+        Press("at_mode_clicked", 1);
+    }
+    void Press(const char* request, int value) { SetNamedValue(request, value); }
+    void EngageAutopilot() { Press("TZ_MCP_L_AP_Button", 1); }
+    int Mode(const char* name) { return static_cast<int>(NamedValue(name)); }
+    void FlyFor(double seconds) {
+        for (int i = 0; i < static_cast<int>(seconds * 18); ++i) {
+            const AutoflightCommands commands = StepAutoflight(logic, 1 / 18.0);
+            aircraft.controls.bank = commands.flies ? commands.bank : 0;
+            if (commands.flies) aircraft.controls.path = commands.path;
+            if (commands.moves_levers) aircraft.controls.thrust_lever = commands.thrust_lever;
+            StepAircraft(aircraft, 1 / 18.0);
+            FillTokens(aircraft);
+        }
+    }
+    Aircraft aircraft;
+    AutoflightLogic logic;
+};
+
+TEST_F(AutoflightTest, EngagesToHoldWhatItFinds) {
+    FlyFor(1);
+    EXPECT_EQ(Mode("ap_master_l"), 0);
+    EngageAutopilot();
+    FlyFor(60);
+    EXPECT_EQ(Mode("TZ_MCP_L_AP_Button"), 0);
+    EXPECT_EQ(Mode("ap_master_l"), 1);
+    EXPECT_EQ(Mode("tz_ap_master_l"), 1);
+    EXPECT_EQ(TokenOf(106), 1);
+    EXPECT_EQ(Mode("ap_lat_mode"), kHeadingHold);
+    EXPECT_NEAR(TrueHeading(aircraft), 90, 0.2);
+    EXPECT_NEAR(aircraft.altitude, 30000, 50);
+    EXPECT_NEAR(aircraft.ias, 280, 1);
+}
+
+TEST_F(AutoflightTest, BankedEngagementHoldsTheBank) {
+    aircraft.bank = aircraft.controls.bank = 20;
+    FillTokens(aircraft);
+    EngageAutopilot();
+    FlyFor(20);
+    EXPECT_EQ(Mode("ap_lat_mode"), kAttitude);
+    EXPECT_NEAR(aircraft.bank, 20, 0.5);
+}
+
+TEST_F(AutoflightTest, HeadingModesTurnTheShorterWay) {
+    EngageAutopilot();
+    SetToken(107, 330);
+    Press("ap_lat_mode_clicked", kHeadingSelect);
+    FlyFor(20);
+    EXPECT_EQ(Mode("ap_lat_mode"), kHeadingSelect);
+    EXPECT_EQ(Mode("ap_lat_mode_clicked"), 0);
+    EXPECT_LT(aircraft.bank, -20);
+    EXPECT_GT(aircraft.bank, -26);
+    Press("ap_lat_mode_clicked", kHeadingHold);  // rolls out where it is
+    const double heading = TrueHeading(aircraft);
+    FlyFor(30);
+    EXPECT_EQ(Mode("ap_lat_mode"), kHeadingHold);
+    EXPECT_NEAR(aircraft.bank, 0, 0.3);
+    EXPECT_NEAR(Difference(heading, TrueHeading(aircraft)), 0, 6);
+    Press("ap_lat_mode_clicked", kHeadingSelect);
+    FlyFor(150);
+    EXPECT_NEAR(TrueHeading(aircraft), 330, 0.3);
+    // a track in place of the heading, with the wind across
+    SetNamedValue("TZ_MCP_HDG_TRK_Status", 1);
+    aircraft.air.wind_from = 240;
+    aircraft.air.wind_kt = 80;
+    FlyFor(90);
+    EXPECT_EQ(Mode("ap_lat_mode"), kTrackSelect);
+    EXPECT_NEAR(aircraft.track, 330, 0.3);
+}
+
+TEST_F(AutoflightTest, LnavArmsFarFromTheLegAndCapturesNearIt) {
+    EngageAutopilot();
+    Press("ap_lat_mode_clicked", kLnav);
+    FlyFor(1);
+    EXPECT_EQ(Mode("ap_lat_mode_armed"), 0) << "there is no heading to follow";
+    Press("ap_lat_mode_clicked", 0);
+    FlyFor(1);
+    SetNamedValue("lnav_hdg", 120);
+    SetNamedValue("xtk_err_dist", 6);
+    Press("ap_lat_mode_clicked", kLnav);
+    FlyFor(5);
+    EXPECT_EQ(Mode("ap_lat_mode_armed"), kLnav);
+    EXPECT_EQ(Mode("ap_lat_mode"), kHeadingHold);
+    SetNamedValue("xtk_err_dist", 2);
+    FlyFor(60);
+    EXPECT_EQ(Mode("ap_lat_mode"), kLnav);
+    EXPECT_EQ(Mode("ap_lat_mode_armed"), 0);
+    EXPECT_NEAR(aircraft.track, 120, 0.2);
+    SetNamedValue("lnav_hdg", 999);  // the plan is gone
+    FlyFor(1);
+    EXPECT_EQ(Mode("ap_lat_mode"), kHeadingHold);
+}
+
+TEST_F(AutoflightTest, ASecondPressTakesLnavBack) {
+    EngageAutopilot();
+    SetNamedValue("lnav_hdg", 120);
+    SetNamedValue("xtk_err_dist", 6);
+    Press("ap_lat_mode_clicked", kLnav);
+    FlyFor(1);
+    ASSERT_EQ(Mode("ap_lat_mode_armed"), kLnav);
+    EXPECT_EQ(Mode("ap_lat_mode_clicked"), kLnav) << "the request stands as long as the mode does";
+    Press("ap_lat_mode_clicked", 0);
+    FlyFor(1);
+    EXPECT_EQ(Mode("ap_lat_mode_armed"), 0);
+}
+
+TEST_F(AutoflightTest, LocalizerIsCapturedWhenItsNeedleComesAlive) {
+    EngageAutopilot();
+    SetToken(550, 110);  // its course
+    SetToken(40, 127);
+    Press("ap_lat_mode_clicked", kLocalizer);
+    FlyFor(2);
+    EXPECT_EQ(Mode("ap_lat_mode_armed"), kLocalizer);
+    SetToken(46, 0x80);
+    SetToken(49, 200);
+    FlyFor(2);
+    EXPECT_EQ(Mode("ap_lat_mode"), kHeadingHold);
+    SetToken(40, 100);
+    FlyFor(2);
+    EXPECT_EQ(Mode("ap_lat_mode"), kLocalizer);
+    SetToken(40, 0);
+    FlyFor(60);
+    EXPECT_NEAR(aircraft.track, 110, 0.3);
+}
+
+TEST_F(AutoflightTest, LevelChangesEndAtTheWindow) {
+    struct {
+        const char* what;
+        int mode;
+        double target, vertical_speed_bug;
+        double at_least, at_most;  // fpm, half a minute into the change
+    } const changes[] = {
+        {"vertical speed down", kVerticalSpeed, 27000, -1500, -1600, -1400},
+        {"level change up", kFlightLevelChange, 29000, 0, 500, 6000},
+        {"level change down", kFlightLevelChange, 24000, 0, -4000, -800},
+        {"vertical speed up", kVerticalSpeed, 25500, 800, 700, 900},
+    };
+    EngageAutopilot();
+    FlyFor(1);
+    for (const auto& change : changes) {
+        SCOPED_TRACE(change.what);
+        SetCalc(kAltitudeWindow, change.target);
+        SetToken(120, change.vertical_speed_bug);
+        Press("ap_vert_mode_clicked", change.mode);
+        FlyFor(30);
+        EXPECT_EQ(Mode("ap_vert_mode"), change.mode);
+        EXPECT_EQ(Mode("ap_vert_mode_armed"), kAltitude);
+        EXPECT_GT(aircraft.vertical_speed, change.at_least);
+        EXPECT_LT(aircraft.vertical_speed, change.at_most);
+        double worst = 0, speed_error = 0;
+        const double from = aircraft.altitude;
+        for (int second = 0; second < 400; ++second) {
+            FlyFor(1);
+            const double past = (aircraft.altitude - change.target) * (change.target > from ? 1 : -1);
+            worst = std::max(worst, past);
+            speed_error = std::max(speed_error, std::fabs(aircraft.ias - 280));
+        }
+        EXPECT_EQ(Mode("ap_vert_mode"), kAltitude);
+        EXPECT_NEAR(aircraft.altitude, change.target, 10);
+        EXPECT_LT(worst, 60) << "it shoots past the altitude";
+        EXPECT_LT(speed_error, 8);
+        EXPECT_NEAR(aircraft.ias, 280, 1);
+    }
+}
+
+TEST_F(AutoflightTest, AltitudeHoldLevelsOffWhereTheClimbEnds) {
+    EngageAutopilot();
+    FlyFor(1);
+    SetCalc(kAltitudeWindow, 35000);
+    SetToken(120, 1200);
+    Press("ap_vert_mode_clicked", kVerticalSpeed);
+    FlyFor(60);
+    const double pressed_at = aircraft.altitude;
+    Press("ap_vert_mode_clicked", kAltitude);
+    FlyFor(90);
+    EXPECT_NEAR(aircraft.vertical_speed, 0, 20);
+    EXPECT_GT(aircraft.altitude, pressed_at);
+    EXPECT_LT(aircraft.altitude, pressed_at + 250);
+}
+
+TEST_F(AutoflightTest, AutothrottleFollowsTheWindowAndThePitchMode) {
+    EngageAutopilot();
+    Press("ap_vert_mode_clicked", kAltitude);
+    SetToken(116, 250);
+    FlyFor(180);
+    EXPECT_EQ(Mode("at_mode"), kSpeed);
+    EXPECT_NEAR(aircraft.ias, 250, 1);
+    SetCalc(kAltitudeWindow, 33000);
+    Press("ap_vert_mode_clicked", kFlightLevelChange);
+    FlyFor(20);
+    EXPECT_EQ(Mode("at_mode"), kThrust);
+    EXPECT_GT(TokenOf(128), 0.9 * 16384);
+    SetNamedValue("at_armed_left", 0);
+    FlyFor(1);
+    EXPECT_EQ(Mode("at_mode"), 0);
+}
+
+TEST_F(AutoflightTest, ADisconnectIsSeenBeforeTheAutopilotLetsGo) {
+    EngageAutopilot();
+    FlyFor(1);
+    SetNamedValue("ap_master_disconnect", 1);
+    StepAutoflight(logic, 1 / 18.0);
+    EXPECT_EQ(Mode("ap_master_l"), 1);
+    EXPECT_EQ(Mode("ap_master_disconnect"), 1);
+    StepAutoflight(logic, 1 / 18.0);
+    EXPECT_EQ(Mode("ap_master_l"), 0);
+    EXPECT_EQ(Mode("ap_master_disconnect"), 2) << "the warning is now the system's";
+    EXPECT_EQ(Mode("ap_lat_mode"), 0);
+    // without an autopilot the second press only acknowledges
+    SetNamedValue("ap_master_disconnect", 1);
+    FlyFor(1);
+    EXPECT_EQ(Mode("ap_master_disconnect"), 0);
+}
+
+}  // namespace
