@@ -19,13 +19,13 @@ struct AirwayFix {
     double lat, lon;
 };
 
-// Calls `visit` with each fix of the airway's first run of lines.
+// Calls `visit` with each fix of one of the airway's runs of lines, counted from 1.
 template <class Visit>
-void VisitAirway(std::string_view name, Visit visit) {
+void VisitAirway(std::string_view name, int run_wanted, Visit visit) {
     std::string_view lines;
     VisitIdent(nav_tables.airway_index, name, [&](int number) {
         const AirwayRun& run = nav_tables.airway_runs[number];
-        if (run.name != name) return true;
+        if (run.name != name || --run_wanted > 0) return true;
         lines = run.lines;
         return false;
     });
@@ -40,11 +40,11 @@ void VisitAirway(std::string_view name, Visit visit) {
 
 }  // namespace
 
-int LoadAirway(std::string_view name, std::string_view from_ident) {
+int LoadAirway(std::string_view name, std::string_view from_ident, int run) {
     if (name.starts_with('#')) name.remove_prefix(1);
     nav.EntryCandidates.clear();
     nav.entry_cnt = nav.entry_list_pos = 0;
-    VisitAirway(name, [&](const AirwayFix& fix) {
+    VisitAirway(name, run, [&](const AirwayFix& fix) {
         if (nav.entry_cnt == kMaxAirwayFixes) return;
         nav.EntryCandidates[++nav.entry_cnt] = {.ident = std::string(fix.ident),
                                                 .name = std::string(fix.ident),
@@ -61,10 +61,10 @@ int LoadAirway(std::string_view name, std::string_view from_ident) {
 AirwayCrossing FindAirwayCrossing(std::string_view airway1, std::string_view airway2,
                                   std::string_view context) {
     std::unordered_set<std::string_view> second;
-    VisitAirway(airway2, [&](const AirwayFix& fix) { second.insert(fix.ident); });
+    VisitAirway(airway2, 1, [&](const AirwayFix& fix) { second.insert(fix.ident); });
     AirwayCrossing crossing;
     int place = 0;
-    VisitAirway(airway1, [&](const AirwayFix& fix) {
+    VisitAirway(airway1, 1, [&](const AirwayFix& fix) {
         ++place;
         if (second.contains(fix.ident)) crossing.index = place;
         if (crossing.context == 0 && fix.ident == context) crossing.context = place;

@@ -96,16 +96,21 @@ struct PositionReport {
 
 constexpr const char* kNotSelected = "------";
 
-/// What the crew has selected around the legs. The working copy is taken over by EXEC and thrown away by
-/// ERASE. Names read kNotSelected when nothing is selected.
-struct RouteSelections {
+/// The two ends of the route. During a modification the pages write the copy `ends_mod`; EXEC takes it over.
+/// Names read kNotSelected when there is none.
+struct RouteEnds {
     std::string origin = kNotSelected, dest = kNotSelected;
-    std::string dep_runway = kNotSelected, dep_sid = kNotSelected, dep_trans = kNotSelected;
+    std::string dep_runway = kNotSelected;
+    int fms_dep_rwy_pos = 0;  // place of the runway in the origin's list, 0 = none
+};
+
+/// The selected procedures. They are written at once; `procedures_kept` is what ERASE brings back.
+struct ProcedureSelections {
+    std::string dep_sid = kNotSelected, dep_trans = kNotSelected;
     std::string arr_star = kNotSelected, arr_trans = kNotSelected;
     std::string arr_appr = kNotSelected, arr_appr_rwy = kNotSelected, arr_appr_trans = kNotSelected;
     std::string appr_type = "-";  // first three letters of the approach
-    // places of the runways in the airports' lists, 0 = none
-    int fms_dep_rwy_pos = 0, fms_dest_rwy_pos = 0;
+    int fms_dest_rwy_pos = 0;     // place of the runway in the destination's list, 0 = none
 };
 
 /// The route. FlightPlan is what is flown, FlightPlanMod is what the pages edit; only fmc/ changes either.
@@ -137,7 +142,8 @@ struct PlanState {
     double final_appr_crs = 0;  // degrees magnetic
     std::string map_ident;
     double map_fix_lat = 0, map_fix_lon = 0;
-    RouteSelections selected, selected_mod;
+    RouteEnds ends, ends_mod;
+    ProcedureSelections procedures, procedures_kept;
     // the airway that a page or a route text is working on
     GrowingList<FlightPlanLeg> AirwayFixList;
     int awy_list_cnt = 0;

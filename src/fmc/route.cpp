@@ -1,0 +1,149 @@
+#include "fmc/route.h"
+
+#include <algorithm>
+
+#include "fmc/holds.h"
+#include "fmc/leg_list.h"
+#include "fmc/route_rows.h"
+#include "navdata/airport_file.h"
+#include "platform/host.h"
+#include "state/airports.h"
+#include "state/cfg.h"
+#include "state/lnav.h"
+#include "state/perf.h"
+#include "state/plan.h"
+#include "state/sim.h"
+#include "state/vnav.h"
+
+namespace {
+
+constexpr int kEventMcpAltitude = 66124;
+
+// What loading a route does to an aircraft at the gate.
+void PrepareAircraftForRoute() {
+    constexpr double kStanding = 5;
+    constexpr double kLowestCruise = 1000;
+    if (sim.on_ground == 0 || sim.ground_speed_kt >= kStanding) return;
+    if (cfg.LoadFuelonFlightPlanLoad == 1 && perf.planned_fuel > 0) perf.fuel_load_due = 1;
+    if (cfg.SetMCPCruiseAltonFlightPlanLoad == 1 && perf.pending_cruise_alt >= kLowestCruise)
+        SendKeyEvent(kEventMcpAltitude, static_cast<int>(std::min(perf.pending_cruise_alt, 99999.0)));
+}
+
+void ClearPendingEntries() {
+    const PerfState fresh;
+    perf.pending_climb_ias = fresh.pending_climb_ias;
+    perf.pending_climb_mach = fresh.pending_climb_mach;
+    perf.pending_cruise_ias = fresh.pending_cruise_ias;
+    perf.pending_cruise_mach = fresh.pending_cruise_mach;
+    perf.pending_descent_ias = fresh.pending_descent_ias;
+    perf.pending_descent_mach = fresh.pending_descent_mach;
+    perf.pending_step_size = fresh.pending_step_size;
+    perf.pending_cost_index = fresh.pending_cost_index;
+    perf.pending_cruise_alt = fresh.pending_cruise_alt;
+}
+
+void BringBackEnds() {
+    plan.ends_mod = plan.ends;
+    plan.procedures = plan.procedures_kept;
+    if (airports.origin_airport.ident != plan.ends.origin)
+        LoadAirport(plan.ends.origin, airports.origin_airport);
+    if (airports.dest_airport.ident != plan.ends.dest) LoadAirport(plan.ends.dest, airports.dest_airport);
+}
+
+}  // namespace
+
+void SetPendingActiveLeg(int leg) {
+    plan.mod_stpos = leg;
+    plan.pending_stpos = leg;
+}
+
+void AdvanceRouteState() {
+    switch (plan.fms_fpln_active) {
+        case kRouteNone:
+        case kRouteEntered:
+        case kRouteActivated:
+            ++plan.fms_fpln_active;
+            break;
+        case kRouteActive:
+            plan.fms_fpln_active = kRouteModified;
+            // An edit made before this step may already have moved the TO leg.
+            plan.pending_stpos = plan.mod_stpos == kNoPlan ? plan.stpos : plan.mod_stpos;
+            break;
+        case kRouteModified:
+            plan.fms_fpln_active = kRouteActive;
+            break;
+        default:
+            break;
+    }
+    PrepareAircraftForRoute();
+}
+
+void OpenModification() {
+    if (plan.fms_fpln_active == kRouteNone || plan.fms_fpln_active == kRouteActive) AdvanceRouteState();
+}
+
+void RefreshLegsForModification() {
+    for (int i = plan.fp_cnt + 1; i <= plan.mod_cnt; ++i) plan.FlightPlanMod[i] = {};
+    for (int i = 0; i <= plan.fp_cnt; ++i) {
+        FlightPlanLeg& leg = plan.FlightPlanMod[i];
+        leg = plan.FlightPlan[i];
+        leg.ata.clear();
+        leg.mod_flag = 0;
+    }
+    plan.mod_cnt = plan.fp_cnt;
+    plan.mod_stpos = plan.stpos;
+    plan.mod_bod_pos = vnav.bod_pos;
+    plan.ActiveLegMod = plan.ActiveLeg;
+    DropPendingHolds();
+}
+
+void EraseModification() {
+    if (plan.fms_fpln_active < kRouteActive) return;
+    BringBackEnds();
+    ClearPendingEntries();
+    plan.direct_to_pending = 0;
+    plan.pending_stpos = 0;
+    if (lnav.hold_exit == 2 || lnav.hold_exit == 3) lnav.hold_exit = 0;
+    RestoreExecutedHolds();
+    RefreshLegsForModification();
+    plan.fms_fpln_active = kRouteActive;
+    RebuildRouteRows();
+}
+
+void ClearFlightPlan() {
+    RemoveAllHolds();
+    plan = {};
+    const PerfState fresh;
+    perf.clb_burn = fresh.clb_burn;
+    perf.crz_burn = fresh.crz_burn;
+    perf.des_burn = fresh.des_burn;
+    perf.default_climb_rate = fresh.default_climb_rate;
+    perf.cruise_alt = 0;
+    perf.init_cruise_alt = 0;
+    perf.planned_fuel = 0;
+    perf.fuel_load_due = 0;
+    perf.final_point_set = 0;
+    perf.dist_to_toc = perf.dist_to_tod = perf.dist_to_dest = 0;
+    ClearPendingEntries();
+    vnav.toc = vnav.tod = vnav.init_tod = 0;
+    vnav.bod_pos = 0;
+    lnav.lnav_init_mode = 0;
+    lnav.holding = lnav.hold_point = lnav.hold_exit = 0;
+    airports.origin_airport = {};
+    airports.dest_airport = {};
+}
+
+void FollowSequencing() {
+    if (plan.fms_fpln_active == kRouteActive) {
+        plan.mod_stpos = plan.stpos;
+        return;
+    }
+    if (plan.fms_fpln_active != kRouteModified || plan.stpos == kNoPlan || plan.stpos < 1) return;
+    const FlightPlanLeg& flown_to = plan.FlightPlan[plan.stpos];
+    for (int i = std::max(plan.mod_stpos == kNoPlan ? 1 : plan.mod_stpos, 1); i <= plan.mod_cnt; ++i) {
+        const FlightPlanLeg& leg = plan.FlightPlanMod[i];
+        if (leg.ident != flown_to.ident || leg.lat != flown_to.lat || leg.lon != flown_to.lon) continue;
+        SetPendingActiveLeg(i);
+        return;
+    }
+}

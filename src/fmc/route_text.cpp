@@ -1,0 +1,319 @@
+#include "fmc/route_text.h"
+
+#include <algorithm>
+#include <cctype>
+#include <charconv>
+#include <cmath>
+#include <cstdlib>
+#include <vector>
+
+#include "fmc/endpoints.h"
+#include "fmc/execute_route.h"
+#include "fmc/insert_fix.h"
+#include "fmc/leg_list.h"
+#include "fmc/route.h"
+#include "fmc/route_airway.h"
+#include "fmc/route_rows.h"
+#include "navdata/airways.h"
+#include "navdata/geodesy.h"
+#include "navdata/parse_entry.h"
+#include "state/airports.h"
+#include "state/lnav.h"
+#include "state/perf.h"
+#include "state/plan.h"
+#include "state/side.h"
+#include "state/vnav.h"
+
+namespace {
+
+struct RouteWords {
+    std::vector<std::string> text;  // the ends included, speeds and levels taken off
+    std::vector<int> number;        // place of each in the text, from 1, for what is told
+    double cruise_alt = 0;          // ft, from the first level; 0 = none
+};
+
+std::string Told(const RouteWords& words, std::size_t i, std::string_view what) {
+    std::string told = "word ";
+    told.append(std::to_string(words.number[i])).append(" \"").append(words.text[i]).append("\": ");
+    return told.append(what);
+}
+
+bool IsDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+// Takes a letter of `letters` and the digits behind it off the front; -1 when they aren't there.
+int TakeLetterAndNumber(std::string_view& text, std::string_view letters, std::size_t least,
+                        std::size_t most) {
+    if (text.empty() || letters.find(text[0]) == std::string_view::npos) return -1;
+    std::size_t end = 1;
+    while (end < text.size() && IsDigit(text[end])) ++end;
+    if (end - 1 < least || end - 1 > most) return -1;
+    int number = 0;
+    std::from_chars(text.data() + 1, text.data() + end, number);
+    text.remove_prefix(end);
+    return number;
+}
+
+// The altitude (ft) of a filed speed and level, "N0480F350"; -1 for any other text.
+double FiledLevel(std::string_view text) {
+    if (TakeLetterAndNumber(text, "NKM", 3, 4) < 0) return -1;
+    constexpr double kFeetPerTenMetres = 32.8084;
+    const char unit = text.empty() ? ' ' : text[0];
+    const int level = TakeLetterAndNumber(text, "FASM", 3, 4);
+    if (level < 0 || !text.empty()) return -1;
+    if (unit == 'F' || unit == 'A') return level * 100.0;
+    return std::round(level * kFeetPerTenMetres / 100) * 100;
+}
+
+RouteWords SplitRoute(std::string_view text) {
+    RouteWords words;
+    int number = 0;
+    while (true) {
+        const std::size_t start = text.find_first_not_of(" \t\r\n");
+        if (start == std::string_view::npos) return words;
+        text.remove_prefix(start);
+        const std::size_t end = std::min(text.find_first_of(" \t\r\n"), text.size());
+        std::string word(text.substr(0, end));
+        text.remove_prefix(end);
+        for (char& c : word) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+        ++number;
+        const std::size_t slash = word.find('/');
+        const std::size_t level_at = slash == std::string::npos ? 0 : slash + 1;
+        if (const double level = FiledLevel(std::string_view(word).substr(level_at)); level >= 0) {
+            if (words.cruise_alt == 0) words.cruise_alt = level;
+            word.erase(slash == std::string::npos ? 0 : slash);
+            if (word.empty()) continue;
+        }
+        words.text.push_back(std::move(word));
+        words.number.push_back(number);
+    }
+}
+
+// "KSEA/16L" and "KSEA/RW16L" in airport and runway.
+struct EndWord {
+    std::string_view airport, runway;
+};
+EndWord SplitEnd(std::string_view word) {
+    const std::size_t slash = word.find('/');
+    if (slash == std::string_view::npos) return {word, {}};
+    std::string_view runway = word.substr(slash + 1);
+    if (runway.starts_with("RW")) runway.remove_prefix(2);
+    return {word.substr(0, slash), runway};
+}
+
+bool EnterEnds(const RouteWords& words, std::string& error) {
+    const std::size_t last = words.text.size() - 1;
+    const EndWord origin = SplitEnd(words.text[0]), dest = SplitEnd(words.text[last]);
+    const auto wrong = [&](std::size_t i, std::string_view what) {
+        error = Told(words, i, what);
+        return false;
+    };
+    if (EnterOrigin(origin.airport) == 0) return wrong(0, "no such airport");
+    if (!origin.runway.empty() && SelectOriginRunway(origin.runway) == 0)
+        return wrong(0, "the airport has no such runway");
+    if (EnterDestination(dest.airport) == 0) return wrong(last, "no such airport");
+    if (!dest.runway.empty() && SelectDestinationRunway(dest.runway) == 0)
+        return wrong(last, "the airport has no such runway");
+    return true;
+}
+
+bool IsAirway(const std::string& word) {
+    return LoadAirway(word, "") > 0;
+}
+
+// The last fix entered so far, the origin at first.
+int LastFix() {
+    return std::max(PlaceBefore(plan.FlightPlanMod, plan.mod_cnt), 0);
+}
+
+double DistanceFrom(const LatLon& point, const NavRecord& record) {
+    return GreatCircle(point.lat, point.lon, record.lat, record.lon).dist;
+}
+
+int NearestCandidate(const LatLon& point) {
+    int best = 1;
+    for (int i = 2; i <= nav.entry_cnt; ++i)
+        if (DistanceFrom(point, nav.EntryCandidates[i]) < DistanceFrom(point, nav.EntryCandidates[best]))
+            best = i;
+    return best;
+}
+
+// Where an airway passes a fix: of namesakes one that bears `end` too, then the nearest to `from`.
+bool FindOnAirway(const std::string& airway, const std::string& fix, const std::string& end, LatLon& from) {
+    bool found = false, found_end = false;
+    double found_dist = 0;
+    LatLon place = from;
+    for (int run = 1; LoadAirway(airway, fix, run) > 0; ++run) {
+        if (nav.entry_list_pos == 0) continue;
+        const NavRecord record = nav.EntryCandidates[nav.entry_list_pos];
+        bool has_end = false;
+        for (int i = 1; i <= nav.entry_cnt; ++i) has_end |= nav.EntryCandidates[i].ident == end;
+        const double dist = DistanceFrom(from, record);
+        if (found && (found_end > has_end || (found_end == has_end && found_dist <= dist))) continue;
+        found = true;
+        found_end = has_end;
+        found_dist = dist;
+        place = {record.lat, record.lon};
+    }
+    from = place;
+    return found;
+}
+
+// ABC090025, as flight plans are filed, for ABC090/25.
+bool ParseFiledEntry(const std::string& word) {
+    constexpr std::size_t kDigits = 6, kDistanceDigits = 3;
+    ParseEntry(word);
+    if (nav.entry_cnt > 0) return true;
+    if (word.size() < kDigits + 2 || word.size() > kDigits + 5) return false;
+    if (!std::all_of(word.end() - kDigits, word.end(), IsDigit)) return false;
+    std::string entry = word;
+    entry.insert(entry.size() - kDistanceDigits, "/");
+    ParseEntry(entry);
+    return nav.entry_cnt > 0;
+}
+
+void EnterRow(int candidate) {
+    InsertDirectRow(candidate, 0);
+    OpenModification();
+}
+
+bool EnterFix(const RouteWords& words, std::size_t i, std::string& error) {
+    const std::string& word = words.text[i];
+    const FlightPlanLeg& before = plan.FlightPlanMod[LastFix()];
+    LatLon place{before.lat, before.lon};
+    const std::size_t last = words.text.size() - 1;
+    const bool on_airway =
+        i + 1 < last && IsAirway(words.text[i + 1]) &&
+        FindOnAirway(words.text[i + 1], word, i + 2 < last ? words.text[i + 2] : std::string(), place);
+    if (ParseFiledEntry(word)) {
+        EnterRow(NearestCandidate(place));
+        return true;
+    }
+    if (on_airway) {  // a fix that stands in the airway's file only
+        for (int run = 1; LoadAirway(words.text[i + 1], word, run) > 0; ++run) {
+            if (nav.entry_list_pos == 0) continue;
+            if (DistanceFrom(place, nav.EntryCandidates[nav.entry_list_pos]) > 0) continue;
+            EnterRow(nav.entry_list_pos);
+            return true;
+        }
+    }
+    const std::string_view what = i == 1          ? "no such fix, airway or departure"
+                                  : i + 1 == last ? "no such fix, airway or arrival"
+                                                  : "no such fix or airway";
+    error = Told(words, i, what);
+    return false;
+}
+
+// The place on AirwayFixList where a second airway is joined, 0 when the two don't meet. Where they meet more
+// than once, the one that makes the way short: the last of them would often be beyond the turn-off.
+int FindTurnOff(const std::string& second, const std::string& end) {
+    int best = 0, best_legs = 0;
+    for (int run = 1; LoadAirway(second, end, run) > 0; ++run) {
+        for (int i = 1; i <= plan.awy_list_cnt; ++i) {
+            const FlightPlanLeg& fix = plan.AirwayFixList[i];
+            for (int j = 1; j <= nav.entry_cnt; ++j) {
+                const NavRecord& other = nav.EntryCandidates[j];
+                if (i == plan.awy_start_pos || fix.ident != other.ident) continue;
+                if (std::fabs(fix.lat - other.lat) > 0.1) continue;  // a namesake elsewhere
+                const int on_second = nav.entry_list_pos > 0 ? std::abs(j - nav.entry_list_pos) : 0;
+                const int legs = std::abs(i - plan.awy_start_pos) + on_second;
+                if (best != 0 && legs >= best_legs) continue;
+                best = i;
+                best_legs = legs;
+            }
+        }
+    }
+    return best;
+}
+
+void EnterSegment(const std::string& airway, int end) {
+    InsertAirwayPlaceholder(plan.awy_start_leg + 1, airway);
+    OpenModification();
+    InsertAirwaySegment(end);
+}
+
+// Enters the airway at word i as far as the next word tells; `i` moves on to a fix that has been used up.
+bool EnterAirway(const RouteWords& words, std::size_t& i, std::string& error) {
+    const std::string& airway = words.text[i];
+    const std::size_t last = words.text.size() - 1;
+    const int start = LastFix();
+    const std::string start_ident = plan.FlightPlanMod[start].ident;
+    const auto wrong = [&](std::size_t at, std::string what, std::string_view name = {}) {
+        error = Told(words, at, what.append(name));
+        return false;
+    };
+    if (i + 1 >= last) return wrong(i, "the airway needs a fix where it is left");
+    const std::string& next = words.text[i + 1];
+    LoadAirwayTowards(airway, start, next);
+    if (plan.awy_list_cnt == 0) return wrong(i, "the airway doesn't hold ", start_ident);
+    if (const int end = FindFixOnAirway(next); end > 0) {
+        if (end == plan.awy_start_pos) return wrong(i + 1, "the airway is joined at the same fix");
+        EnterSegment(airway, end);
+        ++i;
+        return true;
+    }
+    if (IsAirway(next)) {
+        const int end = FindTurnOff(next, i + 2 < last ? words.text[i + 2] : std::string());
+        if (end == 0) return wrong(i + 1, "the airway doesn't cross ", airway);
+        EnterSegment(airway, end);
+        return true;
+    }
+    return wrong(i + 1,
+                 ParseFiledEntry(next) ? "the fix isn't on airway " + airway : "no such fix or airway");
+}
+
+bool EnterWords(const RouteWords& words, std::string& error) {
+    if (words.text.size() < 2) {
+        error = "a route needs an origin and a destination";
+        return false;
+    }
+    if (!EnterEnds(words, error)) return false;
+    if (words.cruise_alt > 0) perf.pending_cruise_alt = words.cruise_alt;
+    const std::size_t last = words.text.size() - 1;
+    for (std::size_t i = 1; i < last; ++i) {
+        const bool direct = words.text[i - 1] == "DCT" || i == 1 || i + 1 == last;
+        if (words.text[i] == "DCT") continue;
+        const bool entered =
+            !direct && IsAirway(words.text[i]) ? EnterAirway(words, i, error) : EnterFix(words, i, error);
+        if (!entered) return false;
+    }
+    OpenModification();
+    return true;
+}
+
+// Everything that entering a route changes.
+struct RouteBefore {
+    PlanState plan_before = plan;
+    PerfState perf_before = perf;
+    VnavState vnav_before = vnav;
+    LnavState lnav_before = lnav;
+    AirportSlots airports_before = airports;
+
+    void Restore() {
+        plan = std::move(plan_before);
+        perf = perf_before;
+        vnav = vnav_before;
+        lnav = lnav_before;
+        airports = std::move(airports_before);
+    }
+};
+
+}  // namespace
+
+int EnterRouteText(std::string_view text, std::string& error) {
+    RouteBefore before;
+    if (EnterWords(SplitRoute(text), error)) return 1;
+    before.Restore();
+    return 0;
+}
+
+int ExecuteEnteredRoute(std::string& error) {
+    if (plan.mod_cnt < 1 || !IsPlace(plan.FlightPlanMod[plan.mod_cnt])) {
+        error = "no route has been entered";
+        return 0;
+    }
+    while (plan.fms_fpln_active < kRouteActivated) AdvanceRouteState();
+    if (plan.fms_fpln_active != kRouteActive) ExecuteRoute();
+    return 1;
+}
