@@ -1,6 +1,5 @@
 #include "navdata/airport_file.h"
 
-#include <cctype>
 #include <cstdio>
 
 #include "navdata/geodesy.h"
@@ -18,12 +17,6 @@ constexpr int kMaxRunways = 20;
 
 FileBytes ReadNavdata(std::string_view name) {
     return ReadFile(std::string(kNavdataFolder).append(name)).value_or(FileBytes{});
-}
-
-std::string ToUpper(std::string_view text) {
-    std::string upper(text);
-    for (char& c : upper) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
-    return upper;
 }
 
 // A runway without a landing system bears "0" as its frequency and "-" as its ident.
@@ -129,13 +122,13 @@ int LoadAirport(std::string_view ident, AirportData& target) {
     if (airports.loading != 0) return kBusy;
     int found = 0;
     VisitIdent(nav_tables.airport_line_index, ident, [&](int number) {
-        if (nav_tables.airport_lines[number].ident != ident) return true;
+        if (AirportLineIdent(nav_tables.airport_lines[number]) != ident) return true;
         found = number;
         return false;
     });
     if (found == 0 || ident.empty()) return 0;
     airports.loading = 1;
-    target = ParseAirport(ToUpper(nav_tables.airport_lines[found].line));
+    target = ParseAirport(ToUpper(nav_tables.airport_lines[found]));
     airports.loading = 0;
     return 1;
 }

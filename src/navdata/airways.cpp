@@ -32,9 +32,8 @@ void VisitAirway(std::string_view name, int run_wanted, Visit visit) {
     while (auto line = NextDataLine(lines, kAirwayBound)) {
         NextField(*line);
         NextField(*line);
-        const std::string_view ident = NextField(*line), lat = NextField(*line), lon = NextField(*line);
-        if (lon.empty()) continue;
-        visit(AirwayFix{ident, ToNumber(lat), ToNumber(lon)});
+        AirwayFix fix{NextField(*line), 0, 0};
+        if (NextNumber(*line, fix.lat) && NextNumber(*line, fix.lon)) visit(fix);
     }
 }
 

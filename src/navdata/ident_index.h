@@ -2,8 +2,10 @@
 
 #include <bit>
 #include <cstdint>
+#include <string>
 #include <string_view>
 
+#include "navdata/text_fields.h"
 #include "state/nav_tables.h"
 
 // The tables are searched by ident on every key press that enters one; with an index the answer is that of a
@@ -13,6 +15,11 @@ inline std::uint32_t HashIdent(std::string_view ident) {
     std::uint64_t hash = ident.size();
     for (const char c : ident) hash = hash * 131 + static_cast<unsigned char>(c);
     return static_cast<std::uint32_t>(hash * 0x9E3779B97F4A7C15u >> 32);
+}
+
+/// The ICAO code of a line of apts.txt, in upper case.
+inline std::string AirportLineIdent(std::string_view line) {
+    return ToUpper(NextField(line));
 }
 
 /// Indexes rows 1 to `count` of a list by what `ident_of` gives for a row.

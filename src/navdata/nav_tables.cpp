@@ -23,63 +23,63 @@ std::string_view ReadNavdata(std::string_view name, FileBytes& file) {
     return file.Text();
 }
 
-// Room for a row a line, so that a table doesn't move while it grows.
+// Room for the rows that a file of this size may hold, so that a table doesn't move while it grows. What
+// isn't used is never touched and costs nothing.
 template <class Row>
-void ReserveLines(GrowingList<Row>& table, std::string_view text) {
-    table.reserve(static_cast<int>(std::count(text.begin(), text.end(), '\n')) +
-                  2 * GrowingList<Row>::kSlack);
+void ReserveRows(GrowingList<Row>& table, std::string_view text) {
+    constexpr std::size_t kShortLine = 24;
+    table.reserve(static_cast<int>(text.size() / kShortLine) + 2 * GrowingList<Row>::kSlack);
 }
 
-bool EqualNoCase(std::string_view a, std::string_view upper) {
-    return std::equal(a.begin(), a.end(), upper.begin(), upper.end(), [](char x, char y) {
-        return std::toupper(static_cast<unsigned char>(x)) == static_cast<unsigned char>(y);
-    });
-}
-
-constexpr auto kIdentOf = [](const auto& row) { return std::string_view(row.ident); };
+constexpr auto kIdentOf = [](const auto& row) { return row.ident; };
 
 void LoadIntersections(NavTables& t) {
     std::string_view rest = ReadNavdata("ints.txt", t.ints_file);
-    ReserveLines(t.IntersectionTable, rest);
+    ReserveRows(t.IntersectionTable, rest);
     while (auto line = NextDataLine(rest, kTableBound)) {
         const std::string_view ident = NextField(*line), name = NextField(*line);
-        const std::string_view lat = NextField(*line), lon = NextField(*line);
-        if (lon.empty()) continue;
-        t.IntersectionTable[++t.int_cnt] = {ident, name, ToNumber(lat), ToNumber(lon)};
+        double lat = 0, lon = 0;
+        if (!NextNumber(*line, lat) || !NextNumber(*line, lon)) continue;
+        t.IntersectionTable[++t.int_cnt] = {ident, name, lat, lon};
     }
     BuildIdentIndex(t.int_index, t.IntersectionTable, t.int_cnt, kIdentOf);
 }
 
-// A run is read again, bounded by kAirwayBound, when its airway is wanted; so it is told apart by the same
-// bound.
-void ExtendAirwayRuns(NavTables& t, std::string_view physical_line) {
-    while (auto line = NextDataLine(physical_line, kAirwayBound)) {
-        std::string_view fields = *line;
-        const std::string_view name = NextField(fields);
-        if (name.empty()) continue;
-        AirwayRun* run = &t.airway_runs[t.airway_run_cnt];
-        if (t.airway_run_cnt == 0 || run->name != name) {
-            run = &t.airway_runs[++t.airway_run_cnt];
-            *run = {name, {line->data(), 0}};
+bool BearsName(std::string_view line, std::string_view name) {
+    return line.starts_with(name) && line.size() > name.size() && IsBlank(line[name.size()]);
+}
+
+// A run is read again, bounded by kAirwayBound, when its airway is wanted; so it is told apart by that bound.
+void FindAirwayRuns(NavTables& t, std::string_view rest) {
+    AirwayRun run;
+    while (auto line = NextDataLine(rest, kAirwayBound)) {
+        if (run.name.empty() || !BearsName(*line, run.name)) {
+            std::string_view fields = *line;
+            const std::string_view name = NextField(fields);
+            if (name.empty()) continue;
+            if (name != run.name) {
+                if (!run.name.empty()) t.airway_runs[++t.airway_run_cnt] = run;
+                run = {name, *line};
+            }
         }
-        const char* const start = run->lines.data();
-        run->lines = {start, static_cast<std::size_t>(line->data() + line->size() - start)};
+        const char* const start = run.lines.data();
+        run.lines = {start, static_cast<std::size_t>(line->data() + line->size() - start)};
     }
+    if (!run.name.empty()) t.airway_runs[++t.airway_run_cnt] = run;
 }
 
 void LoadAirways(NavTables& t) {
     std::string_view rest = ReadNavdata("awys.txt", t.awys_file);
-    ReserveLines(t.AirwayFixTable, rest);
-    std::string_view rest_for_runs = rest;
+    ReserveRows(t.AirwayFixTable, rest);
     while (auto line = NextDataLine(rest, kTableBound)) {
         NextField(*line);
         NextField(*line);
         const std::string_view ident = NextField(*line);
-        const std::string_view lat = NextField(*line), lon = NextField(*line);
-        if (lon.empty() || ident.size() < 4) continue;
-        t.AirwayFixTable[++t.awy_fix_cnt] = {ident, ident, ToNumber(lat), ToNumber(lon)};
+        double lat = 0, lon = 0;
+        if (ident.size() < 4 || !NextNumber(*line, lat) || !NextNumber(*line, lon)) continue;
+        t.AirwayFixTable[++t.awy_fix_cnt] = {ident, lat, lon};
     }
-    ExtendAirwayRuns(t, rest_for_runs);
+    FindAirwayRuns(t, t.awys_file.Text());
     BuildIdentIndex(t.airway_index, t.airway_runs, t.airway_run_cnt,
                     [](const AirwayRun& run) { return run.name; });
 }
@@ -98,48 +98,51 @@ double LongestRunway(std::string_view tokens) {
 
 void LoadAirports(NavTables& t, double min_runway_ft) {
     std::string_view rest = ReadNavdata("apts.txt", t.apts_file);
-    ReserveLines(t.AirportTable, rest);
-    ReserveLines(t.airport_lines, rest);
+    ReserveRows(t.AirportTable, rest);
+    ReserveRows(t.airport_lines, rest);
     while (auto line = NextDataLine(rest, kTableBound)) {
         std::string_view fields = *line;
         const std::string_view ident = NextField(fields), name = NextField(fields);
         const std::string_view elevation = NextField(fields);
-        const std::string_view lat = NextField(fields), lon = NextField(fields);
-        if (lon.empty()) continue;
-        AirportLine& airport = t.airport_lines[++t.airport_line_cnt];
-        airport = {std::string(ident), *line};
-        for (char& c : airport.ident) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+        double lat = 0, lon = 0;
+        if (!NextNumber(fields, lat) || !NextNumber(fields, lon)) continue;
+        t.airport_lines[++t.airport_line_cnt] = *line;
         const double longest = LongestRunway(fields);
         if (longest < min_runway_ft) continue;
-        t.AirportTable[++t.apt_cnt] = {ident, name, ToNumber(lat), ToNumber(lon), longest, elevation};
+        t.AirportTable[++t.apt_cnt] = {ident, name, lat, lon, longest, elevation};
     }
     BuildIdentIndex(t.apt_index, t.AirportTable, t.apt_cnt, kIdentOf);
-    BuildIdentIndex(t.airport_line_index, t.airport_lines, t.airport_line_cnt, kIdentOf);
+    BuildIdentIndex(t.airport_line_index, t.airport_lines, t.airport_line_cnt, AirportLineIdent);
 }
 
 void LoadNavaids(NavTables& t) {
     std::string_view rest = ReadNavdata("navs.txt", t.navs_file);
-    ReserveLines(t.NavaidTable, rest);
+    ReserveRows(t.NavaidTable, rest);
     while (auto line = NextDataLine(rest, kTableBound)) {
         const std::string_view ident = NextField(*line), name = NextField(*line);
-        const std::string_view lat = NextField(*line), lon = NextField(*line);
+        double lat = 0, lon = 0;
+        NextNumber(*line, lat);
+        NextNumber(*line, lon);
         const std::string_view kind = NextField(*line), freq = NextField(*line);
         if (kind.empty()) continue;
-        const std::string_view type = EqualNoCase(kind, "VOR") ? "V" : "N";
-        t.NavaidTable[++t.nav_cnt] = {ident, name, ToNumber(lat), ToNumber(lon), type, freq};
+        const std::string_view type = ToUpper(kind) == "VOR" ? "V" : "N";
+        t.NavaidTable[++t.nav_cnt] = {ident, name, lat, lon, type, freq};
     }
     BuildIdentIndex(t.nav_index, t.NavaidTable, t.nav_cnt, kIdentOf);
 }
 
 void LoadLandmarks(NavTables& t) {
     std::string_view rest = ReadNavdata("landmarks.txt", t.landmarks_file);
-    ReserveLines(t.LandmarkTable, rest);
+    ReserveRows(t.LandmarkTable, rest);
     char* const text = t.landmarks_file.data.get();
     while (auto line = NextDataLine(rest, kTableBound)) {
-        const std::string_view lat = NextField(*line), lon = NextField(*line), name = NextField(*line);
+        double lat = 0, lon = 0;
+        NextNumber(*line, lat);
+        NextNumber(*line, lon);
+        const std::string_view name = NextField(*line);
         char* const first = text + (name.data() - text);
         std::replace(first, first + name.size(), '_', ' ');
-        t.LandmarkTable[++t.landmark_cnt] = {name, ToNumber(lat), ToNumber(lon)};
+        t.LandmarkTable[++t.landmark_cnt] = {name, lat, lon};
     }
 }
 

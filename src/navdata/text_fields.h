@@ -1,9 +1,11 @@
 #pragma once
 
 #include <optional>
+#include <string>
 #include <string_view>
 
-// Reading the navigation files: bounded lines, fields between blanks, numbers.
+// Reading the navigation files: bounded lines, fields between blanks, numbers. Inline, for the time to load
+// the world's data is spent here.
 
 constexpr std::string_view kNavdataFolder = "\\Velarion\\TZ900\\Navdata\\";
 
@@ -14,15 +16,74 @@ std::optional<std::string_view> NextBoundedLine(std::string_view& rest, std::siz
 /// The same, without the lines that begin with ";".
 std::optional<std::string_view> NextDataLine(std::string_view& rest, std::size_t bound);
 
-/// Cuts the next field off the front of a line; empty at the end. Blanks, tabs and every other control
-/// character divide fields.
-std::string_view NextField(std::string_view& line);
+/// Blanks, tabs and every other control character divide fields.
+inline bool IsBlank(char c) {
+    return static_cast<unsigned char>(c) <= ' ';
+}
 
-/// Cuts the next part off the front of a runway token, at any run of "_"; empty at the end.
-std::string_view NextTokenPart(std::string_view& token);
+/// Cuts the next part off the front of a text, divided by any run of dividers; empty at the end.
+template <class IsDivider>
+std::string_view NextPart(std::string_view& text, IsDivider is_divider) {
+    const char* at = text.data();
+    const char* const end = at + text.size();
+    while (at != end && is_divider(*at)) ++at;
+    const char* const start = at;
+    while (at != end && !is_divider(*at)) ++at;
+    text = {at, static_cast<std::size_t>(end - at)};
+    return {start, static_cast<std::size_t>(at - start)};
+}
+
+/// The next field of a line.
+inline std::string_view NextField(std::string_view& line) {
+    return NextPart(line, IsBlank);
+}
+
+/// The next part of a runway token, divided by "_".
+inline std::string_view NextTokenPart(std::string_view& token) {
+    return NextPart(token, [](char c) { return c == '_'; });
+}
+
+std::string ToUpper(std::string_view text);
 
 /// The number at the start of a text; 0 where there is none.
 double ToNumber(std::string_view text);
 
 /// The same cut to a whole number, held inside an int.
 int ToWholeNumber(std::string_view text);
+
+inline constexpr double kPowersOfTen[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                          1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+
+/// The next field of a line as a number; false, and 0, when there is no further field.
+inline bool NextNumber(std::string_view& line, double& number) {
+    // Nearly all numbers are a few plain digits. With at most 15 of them both the digits and the power of ten
+    // are exact doubles, so that one division rounds right (W. Clinger, "How to Read Floating Point Numbers
+    // Accurately", 1990). What doesn't look like that goes the general road.
+    constexpr std::ptrdiff_t kMaxDigits = 15;
+    const char* at = line.data();
+    const char* const end = at + line.size();
+    while (at != end && IsBlank(*at)) ++at;
+    const char* const start = at;
+    const bool negative = at != end && *at == '-';
+    if (negative) ++at;
+    const char* const first = at;
+    const char* const stop = end - first > kMaxDigits + 1 ? first + kMaxDigits + 1 : end;
+    long long digits = 0;
+    std::ptrdiff_t behind_point = 0;
+    for (; at != stop && *at >= '0' && *at <= '9'; ++at) digits = digits * 10 + (*at - '0');
+    if (at != stop && *at == '.') {
+        const char* const point = at++;
+        for (; at != stop && *at >= '0' && *at <= '9'; ++at) digits = digits * 10 + (*at - '0');
+        behind_point = at - point - 1;
+    }
+    const bool plain = at != first && at - first <= kMaxDigits + (behind_point > 0 ? 1 : 0);
+    if (plain && (at == end || IsBlank(*at))) {
+        number = static_cast<double>(negative ? -digits : digits) / kPowersOfTen[behind_point];
+        line = {at, static_cast<std::size_t>(end - at)};
+        return true;
+    }
+    line = {start, static_cast<std::size_t>(end - start)};
+    const std::string_view field = NextField(line);
+    number = ToNumber(field);
+    return !field.empty();
+}

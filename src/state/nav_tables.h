@@ -15,8 +15,13 @@
 
 struct FixRow {
     std::string_view ident;
-    std::string_view name;    // the ident again for a fix of an airway
+    std::string_view name;
     double lat = 0, lon = 0;  // degrees, north and east positive
+};
+
+struct AirwayFixRow {
+    std::string_view ident;
+    double lat = 0, lon = 0;
 };
 
 struct NavaidRow {
@@ -52,18 +57,13 @@ struct AirwayRun {
     std::string_view lines;
 };
 
-struct AirportLine {
-    std::string ident;  // upper case
-    std::string_view line;
-};
-
 /// Filled by LoadNavTables; all tables count from 1.
 struct NavTables {
     FileBytes ints_file, awys_file, apts_file, navs_file, landmarks_file;
 
     GrowingList<FixRow> IntersectionTable;
     int int_cnt = 0;
-    GrowingList<FixRow> AirwayFixTable;  // fixes only, once for each line that names it
+    GrowingList<AirwayFixRow> AirwayFixTable;  // fixes only, once for each line that names it
     int awy_fix_cnt = 0;
     GrowingList<AirportRow> AirportTable;  // those whose longest runway reaches MinAptRwyLen
     int apt_cnt = 0;
@@ -74,7 +74,7 @@ struct NavTables {
 
     GrowingList<AirwayRun> airway_runs;
     int airway_run_cnt = 0;
-    GrowingList<AirportLine> airport_lines;  // all airports of the file
+    GrowingList<std::string_view> airport_lines;  // all airports of the file
     int airport_line_cnt = 0;
 
     IdentIndex int_index, apt_index, nav_index, airway_index, airport_line_index;
@@ -93,6 +93,16 @@ struct Describe<FixRow> {
     static constexpr Field fields[] = {
         FieldRow<&FixRow::ident>("ident"), FieldRow<&FixRow::name>("name"),  FieldRow<&FixRow::lat>("lat"),
         FieldRow<&FixRow::lon>("lon"),     ConstantField<&kFixType>("type"), ConstantField<&kNoText>("freq"),
+    };
+    static constexpr ValueType type{.kind = ValueKind::kRecord, .fields = fields};
+};
+
+template <>
+struct Describe<AirwayFixRow> {
+    using A = AirwayFixRow;
+    static constexpr Field fields[] = {
+        FieldRow<&A::ident>("ident"), FieldRow<&A::ident>("name"),      FieldRow<&A::lat>("lat"),
+        FieldRow<&A::lon>("lon"),     ConstantField<&kFixType>("type"), ConstantField<&kNoText>("freq"),
     };
     static constexpr ValueType type{.kind = ValueKind::kRecord, .fields = fields};
 };

@@ -43,7 +43,7 @@ struct TunedVor {
 /// and navdata/vor_autotune.
 struct NearestState {
     NearListPair<AirportRow> airports;  // 1700 and 1280 nm
-    NearListPair<FixRow> fixes;         // 600 and 200 nm, fixes of airways
+    NearListPair<AirwayFixRow> fixes;   // 600 and 200 nm, fixes of airways
     NearListPair<NavaidRow> navaids;    // 600 and 320 nm
     NearList<NavaidRow> vors;           // 320 nm of the aircraft
 
