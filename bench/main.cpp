@@ -13,11 +13,13 @@ const std::vector<Figure> kFigures = {
     {"one service call, 60 legs active, p99", "ServiceCall/60", "", "p99_us", "us", 100},
     {"one service call, 300 legs active, mean", "ServiceCall/300", "ServiceCall/60", "", "", 0},
     {"path of 60 legs worked out", "PathOfLegs/60", "Yardstick/GreatCircle", "", "", 50e3},
-    {"all world navigation data loaded, indexed", "LoadNavTables/world", "Yardstick/ReadAndSplitWorld", "", "", 20e6},
+    {"all world navigation data loaded, indexed", "LoadNavTables/world", "Yardstick/ReadAndSplitWorld", "",
+     "", 20e6},
     {"ParseEntry on world data", "ParseEntry/world", "Yardstick/GreatCircle", "", "", 10e3},
     {"LoadAirway on world data", "LoadAirway/world", "Yardstick/GreatCircle", "", "", 1e6},
     {"LoadAirport on world data", "LoadAirport/world", "Yardstick/GreatCircle", "", "", 1e6},
-    {"headless flight, painting off, times real time", "HeadlessFlight", "", "times_real_time", "x", 1000, true},
+    {"headless flight, painting off, times real time", "HeadlessFlight", "", "times_real_time", "x", 1000,
+     true},
     {"memory with world data loaded", "Memory/world", "", "rss_mb", "MB", 80},
     {"its growth over a flight of ten hours", "Memory/world", "", "growth_kb", "kB", 0},
     {"start to first update, world data included", "StartSession/world", "", "", "", 1e9},
@@ -34,13 +36,17 @@ class Collector : public benchmark::ConsoleReporter {
     void ReportRuns(const std::vector<Run>& runs) override {
         for (const Run& run : runs)
             if (!run.error_occurred)
-                results[run.benchmark_name()] = {run.GetAdjustedRealTime() * Nanoseconds(run.time_unit), run.counters};
+                results[run.benchmark_name()] = {run.GetAdjustedRealTime() * Nanoseconds(run.time_unit),
+                                                 run.counters};
         ConsoleReporter::ReportRuns(runs);
     }
 
   private:
     static double Nanoseconds(benchmark::TimeUnit unit) {
-        return unit == benchmark::kSecond ? 1e9 : unit == benchmark::kMillisecond ? 1e6 : unit == benchmark::kMicrosecond ? 1e3 : 1;
+        return unit == benchmark::kSecond        ? 1e9
+               : unit == benchmark::kMillisecond ? 1e6
+               : unit == benchmark::kMicrosecond ? 1e3
+                                                 : 1;
     }
 };
 
@@ -56,7 +62,11 @@ const Result* FindResult(const std::string& name) {
 std::string TimeText(double ns) {
     char text[32];
     const double value = ns >= 1e9 ? ns / 1e9 : ns >= 1e6 ? ns / 1e6 : ns >= 1e3 ? ns / 1e3 : ns;
-    std::snprintf(text, sizeof text, "%.3g %s", value, ns >= 1e9 ? "s" : ns >= 1e6 ? "ms" : ns >= 1e3 ? "us" : "ns");
+    std::snprintf(text, sizeof text, "%.3g %s", value,
+                  ns >= 1e9   ? "s"
+                  : ns >= 1e6 ? "ms"
+                  : ns >= 1e3 ? "us"
+                              : "ns");
     return text;
 }
 
@@ -79,12 +89,14 @@ int PrintFigures() {
             std::snprintf(with_unit, sizeof with_unit, "%.4g %s", number, figure.unit.c_str());
             return figure.counter.empty() ? TimeText(number) : std::string(with_unit);
         };
-        const bool reached = figure.reach == 0 || (figure.at_least ? value >= figure.reach : value <= figure.reach);
+        const bool reached =
+            figure.reach == 0 || (figure.at_least ? value >= figure.reach : value <= figure.reach);
         missed += reached ? 0 : 1;
         std::printf("%-52s %14s %14s", figure.what.c_str(), text(value).c_str(),
                     figure.reach == 0 ? "" : text(figure.reach).c_str());
         if (const Result* yardstick = FindResult(figure.yardstick); yardstick != nullptr && yardstick->ns > 0)
-            std::printf("  %.3g x %s (%s)", value / yardstick->ns, figure.yardstick.c_str(), TimeText(yardstick->ns).c_str());
+            std::printf("  %.3g x %s (%s)", value / yardstick->ns, figure.yardstick.c_str(),
+                        TimeText(yardstick->ns).c_str());
         std::printf("%s\n", reached ? "" : "  NOT REACHED");
     }
     return missed;

@@ -57,7 +57,7 @@ bool Prepare(benchmark::State& state, FakeHost& host) {
         state.SkipWithError("no world navigation data");
         return false;
     }
-    LoadNavTables(0);
+    LoadNavTables();
     sim.plane_lat = 47.45;
     sim.plane_lon = -122.3;
     return true;
@@ -68,7 +68,7 @@ void LoadNavTablesOfTheWorld(benchmark::State& state) {
     FakeHost host;
     if (!Prepare(state, host)) return;
     Compare(
-        state, [] { LoadNavTables(0); },
+        state, [] { LoadNavTables(); },
         [] {
             for (const char* name : {"ints.txt", "awys.txt", "apts.txt", "navs.txt", "landmarks.txt"})
                 benchmark::DoNotOptimize(SplitLinesOf(name));

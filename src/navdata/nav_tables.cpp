@@ -9,6 +9,7 @@
 #include "navdata/ident_index.h"
 #include "navdata/text_fields.h"
 #include "platform/host.h"
+#include "state/cfg.h"
 #include "state/nav.h"
 #include "state/nav_tables.h"
 
@@ -96,7 +97,7 @@ double LongestRunway(std::string_view tokens) {
     return longest;
 }
 
-void LoadAirports(NavTables& t, double min_runway_ft) {
+void LoadAirports(NavTables& t) {
     std::string_view rest = ReadNavdata("apts.txt", t.apts_file);
     ReserveRows(t.AirportTable, rest);
     ReserveRows(t.airport_lines, rest);
@@ -108,7 +109,7 @@ void LoadAirports(NavTables& t, double min_runway_ft) {
         if (!NextNumber(fields, lat) || !NextNumber(fields, lon)) continue;
         t.airport_lines[++t.airport_line_cnt] = *line;
         const double longest = LongestRunway(fields);
-        if (longest < min_runway_ft) continue;
+        if (longest < cfg.MinAptRwyLen) continue;
         t.AirportTable[++t.apt_cnt] = {ident, name, lat, lon, longest, elevation};
     }
     BuildIdentIndex(t.apt_index, t.AirportTable, t.apt_cnt, kIdentOf);
@@ -167,17 +168,17 @@ CycleDate ParseCycleDate(std::string_view text) {
 
 }  // namespace
 
-void LoadNavTables(double min_runway_ft) {
+void LoadNavTables() {
     nav_tables = {};
     LoadIntersections(nav_tables);
     LoadAirways(nav_tables);
-    LoadAirports(nav_tables, min_runway_ft);
+    LoadAirports(nav_tables);
     LoadNavaids(nav_tables);
     LoadLandmarks(nav_tables);
     nav.nearest_refresh_due = 1;
 }
 
-void CheckNavdataDates(bool check_status) {
+void CheckNavdataDates() {
     nav.airac_cycle_text.clear();
     nav.airac_range_text.clear();
     nav.airac_range_short.clear();
@@ -200,7 +201,7 @@ void CheckNavdataDates(bool check_status) {
         }
         const int today = Host().machine_date();
         const bool valid = first.number <= today && today <= last.number;
-        nav.navdata_out_of_date = !valid && check_status;
+        nav.navdata_out_of_date = !valid && cfg.CheckNavdataStatus == 1;
         return;
     }
 }

@@ -1,12 +1,11 @@
 #pragma once
 
 /// Reads ints.txt, awys.txt, apts.txt, navs.txt and landmarks.txt into `nav_tables`, in that order, and
-/// indexes them. A missing file leaves its table empty; a line that doesn't fit is passed over. Airports
-/// whose longest runway is below `min_runway_ft` stay out of AirportTable, and so unknown to the entry
-/// parser.
-void LoadNavTables(double min_runway_ft);
+/// indexes them. A missing file leaves its table empty; a line that doesn't fit is passed over. Airports whose
+/// longest runway is below `cfg.MinAptRwyLen` stay out of AirportTable, and so unknown to the entry parser.
+void LoadNavTables();
 
 /// Reads the validity of the database from the ";AIRAC" line of navs.txt, fills the texts that show it, and
-/// sets `navdata_out_of_date` when the date of the machine's clock lies outside and `check_status` is on.
-/// Without such a line the texts stay empty and nothing is set.
-void CheckNavdataDates(bool check_status);
+/// sets `nav.navdata_out_of_date` when the date of the machine's clock lies outside and
+/// `cfg.CheckNavdataStatus` is 1. Without such a line the texts stay empty and nothing is set.
+void CheckNavdataDates();
