@@ -29,5 +29,5 @@ inline void PutRouteNavdata(const FakeHost& host) {
         "ORIG ORIGIN 430 39.0 10.0 16_9000_39.02_9.99_160.0_0_-_0 34_9000_38.98_10.01_340.0_110.30_IORG_0\n"
         "DEST DESTINATION 1200 45.0 10.0 09_8000_45.0_9.98_90.0_0_-_0 27_8000_45.0_10.02_270.0_0_-_0\n"
         "ALTN ALTERNATE 50 45.0 12.0 18_7000_45.01_12.0_180.0_0_-_0\n");
-    LoadNavTables(0);
+    LoadNavTables();
 }
