@@ -66,12 +66,6 @@ double BaseDistance(double angle, double radius, double speed) {
     return tangent * ValueFor(kFactorOfSpeed, speed) * ValueFor(kFactorOfAngle, angle);
 }
 
-// The smaller difference of two bearings, 0 to 180.
-double Apart(double a, double b) {
-    const double difference = FoldBearing(a - b);
-    return std::min(difference, 360 - difference);
-}
-
 }  // namespace
 
 double FoldBearing(double bearing) {
@@ -84,9 +78,14 @@ double FoldCourse(double course) {
     return folded < 0.5 ? folded + 360 : folded;
 }
 
+double BearingDifference(double a, double b) {
+    const double difference = FoldBearing(a - b);
+    return std::min(difference, 360 - difference);
+}
+
 int AngleBetween(double a, double b) {
     constexpr double kRoundingNoise = 1e-9;  // 90.3 - 80.3 is ten degrees
-    return static_cast<int>(Apart(a, b) + kRoundingNoise);
+    return static_cast<int>(BearingDifference(a, b) + kRoundingNoise);
 }
 
 int TurnSide(double from, double to) {
@@ -138,14 +137,15 @@ LegPosition LocateOnLeg(double lat, double lon, double from_lat, double from_lon
 }
 
 bool TargetFixPassed(double lat, double lon, double heading, double course, double fix_lat, double fix_lon) {
-    if (Apart(heading, course) > 90) return false;
+    if (BearingDifference(heading, course) > 90) return false;
     const double to_fix = GreatCircle(lat, lon, fix_lat, fix_lon).bearing;
-    if (Apart(to_fix, course) <= 90) return false;
+    if (BearingDifference(to_fix, course) <= 90) return false;
     constexpr double kSideDistance = 22;
     for (const double across : {-90.0, 90.0}) {
         const LatLon side = ProjectPoint(fix_lat, fix_lon, FoldBearing(course + across), kSideDistance);
         const double to_side = GreatCircle(lat, lon, side.lat, side.lon).bearing;
-        if (Apart(to_side, course) > 90 && TurnSide(course, to_side) != TurnSide(course, to_fix)) return true;
+        if (BearingDifference(to_side, course) > 90 && TurnSide(course, to_side) != TurnSide(course, to_fix))
+            return true;
     }
     return false;
 }

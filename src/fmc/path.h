@@ -10,7 +10,8 @@ double FoldBearing(double bearing);
 /// A magnetic course as it is shown and flown: 0.5 to below 360.5, so that north reads 360 and not 000.
 double FoldCourse(double course);
 
-/// The smaller difference of two bearings, 0 to 180, cut to whole degrees.
+/// The smaller difference of two bearings, 0 to 180; the second form is cut to whole degrees.
+double BearingDifference(double a, double b);
 int AngleBetween(double a, double b);
 
 constexpr int kTurnLeft = 1;

@@ -90,7 +90,7 @@ bool IsPointReached(const Pattern& pattern) {
     if (progress.to_point.dist <= 0.25 * pattern.length) return true;
     if (lnav.hold_point == 0) return progress.to_point.dist <= lnav.wpt_chg_dist;
     return progress.to_point.dist > 2.5 * progress.segment.dist ||
-           AngleBetween(progress.to_point.bearing, progress.segment.bearing) > 90;
+           BearingDifference(progress.to_point.bearing, progress.segment.bearing) > 90;
 }
 
 void FlyToNextPoint() {

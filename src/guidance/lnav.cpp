@@ -53,7 +53,7 @@ void FollowActiveLeg() {
 bool IsOverflownOnWideTurn() {
     return lnav.lnav_engaged == 1 && sim.ap_master != 0 && lnav.wpt_dist < 10 &&
            plan.stpos < plan.fp_cnt - 1 && ToLeg().hold_pos == 0 &&
-           AngleBetween(lnav.wpt_brg + ReferenceVariation(), lnav.course_here) > 90;
+           BearingDifference(lnav.wpt_brg + ReferenceVariation(), lnav.course_here) > 90;
 }
 
 bool IsTargetFixPassed() {
@@ -140,7 +140,7 @@ bool IsFixReached(bool whatever_heading) {
     if (lnav.holding == 1) return false;
     if (forced || lnav.wpt_dist == 0 || whatever_heading) return true;
     if (IsVectorsLegActive()) return false;
-    return AngleBetween(TrueHeading(), lnav.course_here) < 91;
+    return BearingDifference(TrueHeading(), lnav.course_here) < 91;
 }
 
 double LookaheadDistance() {
@@ -184,8 +184,8 @@ void SteerAlongLeg() {
     AimAt(ProjectPoint(leg.from_lat, leg.from_lon, FoldBearing(lnav.leg_crs + sim.mgvar),
                        flown + lnav.lookahead));
     // Far from the leg the aim point may lie beside the aircraft: then it closes on the leg at a fixed angle.
-    constexpr int kWidestAngle = 15, kClosingAngle = 10;
-    if (AngleBetween(lnav.fms_hdg, lnav.wpt_brg) > kWidestAngle)
+    constexpr double kWidestAngle = 15, kClosingAngle = 10;
+    if (BearingDifference(lnav.fms_hdg, lnav.wpt_brg) > kWidestAngle)
         lnav.fms_hdg =
             FoldBearing(TurnSide(lnav.wpt_brg, lnav.fms_hdg) == kTurnLeft ? lnav.wpt_brg - kClosingAngle
                                                                           : lnav.wpt_brg + kClosingAngle);
@@ -196,8 +196,9 @@ void TurnAsDemanded() {
     const FlightPlanLeg& passed = plan.FlightPlan[LegBefore(plan.stpos)];
     if (passed.dep_turn != kTurnLeft && passed.dep_turn != kTurnRight) return;
     const double heading = FoldBearing(sim.mag_hdg + sim.mgvar - ReferenceVariation());
-    constexpr int kSettled = 10;  // an overshoot is no turn the other way
-    if (AngleBetween(heading, lnav.fms_hdg) <= kSettled || TurnSide(heading, lnav.fms_hdg) == passed.dep_turn)
+    constexpr double kSettled = 10;  // an overshoot is no turn the other way
+    if (BearingDifference(heading, lnav.fms_hdg) <= kSettled ||
+        TurnSide(heading, lnav.fms_hdg) == passed.dep_turn)
         return;
     if (GreatCircle(sim.plane_lat, sim.plane_lon, passed.lat, passed.lon).dist > lnav.passed_chg_dist) return;
     lnav.fms_hdg = FoldBearing(passed.dep_turn == kTurnLeft ? heading - 90 : heading + 90);

@@ -1,0 +1,202 @@
+// The system's lateral guidance and the stand-in aircraft with AutoflightLogic, tied together as the
+// simulator ties them: what the one publishes the other flies.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+#include <vector>
+
+#include "fmc/path.h"
+#include "guidance/autoflight.h"
+#include "guidance/lnav.h"
+#include "host/aircraft/aircraft.h"
+#include "host/aircraft/tokens.h"
+#include "host/autoflight/autoflight_logic.h"
+#include "host/world/world.h"
+#include "state/lnav.h"
+#include "state/plan.h"
+#include "state/sim.h"
+#include "state/time_base.h"
+#include "support/fake_host.h"
+
+namespace {
+
+struct Fix {
+    double lat, lon;
+};
+
+struct Air {
+    double altitude, ias;
+    double wind_from, wind_kt;
+};
+
+class LateralFlight {
+  public:
+    LateralFlight(const std::vector<Fix>& fixes, const Air& air) : altitude_(air.altitude) {
+        host::world = {};
+        for (const Fix& fix : fixes) {
+            FlightPlanLeg& leg = plan.FlightPlan[plan.fp_cnt];
+            leg.ident = "FIX" + std::to_string(plan.fp_cnt++);
+            leg.lat = fix.lat;
+            leg.lon = fix.lon;
+        }
+        --plan.fp_cnt;
+        plan.stpos = 1;
+        plan.fms_fpln_active = 3;
+        plan.ActiveLeg = {"FIX0", fixes[0].lat, fixes[0].lon, "FIX1", fixes[1].lat, fixes[1].lon, 0, 0};
+        aircraft.air.wind_from = air.wind_from;
+        aircraft.air.wind_kt = air.wind_kt;
+        const double course = GreatCircle(fixes[0].lat, fixes[0].lon, fixes[1].lat, fixes[1].lon).bearing;
+        PlaceAircraftAt(aircraft, fixes[0].lat, fixes[0].lon, air.altitude, course, air.ias, 0);
+        host::SetToken(75, 1013.25);
+        host::SetToken(116, air.ias);
+        host::SetCalc("(A:AUTOPILOT ALTITUDE LOCK VAR, feet)", air.altitude);
+        FillTokens(aircraft);
+        const std::pair<const char*, int> presses[] = {{"at_armed_left", 1},
+                                                       {"at_mode_clicked", 1},
+                                                       {"TZ_MCP_L_AP_Button", 1},
+                                                       {"ap_vert_mode_clicked", 1},
+                                                       {"ap_lat_mode_clicked", 6}};
+        for (const auto& [name, value] : presses) host::SetNamedValue(name, value);
+    }
+
+    void Tick() {
+        time_base.tick_phase = (time_base.tick_phase + 1) % 18;
+        time_base.tick2s_phase = (time_base.tick2s_phase + 1) % 36;
+        TakeSnapshot();
+        LnavUpdate();
+        lnav.lnav_engaged = host::NamedValue("ap_lat_mode") == 6 && lnav.plan_finished == 0;
+        host::SetNamedValue("lnav_hdg", IsHoldPatternFlown() ? lnav.hold_hdg : lnav.fms_hdg);
+        host::SetNamedValue("xtk_err_dist", lnav.xtk);
+        const host::AutoflightCommands commands = StepAutoflight(autoflight_logic, kTick);
+        if (commands.flies) {
+            aircraft.controls.bank = commands.bank;
+            aircraft.controls.path = commands.path;
+        }
+        if (commands.moves_levers) aircraft.controls.thrust_lever = commands.thrust_lever;
+        StepAircraft(aircraft, kTick);
+        FillTokens(aircraft);
+        seconds += kTick;
+    }
+
+    LegPosition Place() const {
+        const FlightPlanLeg& to = plan.FlightPlan[plan.stpos];
+        return LocateOnLeg(sim.plane_lat, sim.plane_lon, plan.ActiveLeg.from_lat, plan.ActiveLeg.from_lon,
+                           to.lat, to.lon);
+    }
+
+    static constexpr double kTick = 1 / 18.0;
+    host::Aircraft aircraft;
+    host::AutoflightLogic autoflight_logic;
+    double seconds = 0;
+
+  private:
+    void TakeSnapshot() const {
+        sim.plane_lat = Latitude(aircraft);
+        sim.plane_lon = Longitude(aircraft);
+        sim.mgvar = host::TokenOf(82);
+        sim.mag_hdg = host::TokenOf(81);
+        sim.true_hdg = host::TokenOf(86);
+        sim.ground_speed_kt = aircraft.ground_speed;
+        sim.tas_kt = aircraft.tas;
+        sim.ias_kt = aircraft.ias;
+        sim.radio_alt_ft = sim.ind_alt_ft = altitude_;
+        sim.ap_master = static_cast<int>(host::TokenOf(106));
+    }
+    double altitude_;
+};
+
+TEST(LateralFlightTest, RoutesAreFlownFixByFixOnTheirLegs) {
+    constexpr Air kCruise = {35000, 280, 0, 0}, kWindy = {37000, 265, 300, 110}, kLow = {5000, 220, 200, 35};
+    const struct {
+        const char* what;
+        Air air;
+        std::vector<Fix> fixes;
+    } routes[] = {
+        {"straight", kCruise, {{47, -122}, {47, -119}, {47, -116}}},
+        {"jet stream across", kWindy, {{47, -122}, {48, -121}, {49.5, -120.5}, {50, -118}}},
+        {"turns of every size",
+         kWindy,
+         {{47, -122}, {47, -121}, {48, -120}, {47, -119}, {47, -118}, {46, -118}, {46, -117}}},
+        {"terminal area",
+         kLow,
+         {{47, -122},
+          {47, -121.7},
+          {47.3, -121.5},
+          {47.1, -121.2},
+          {47, -121},
+          {46.8, -121},
+          {46.8, -120.5}}},
+        {"nearly back", kCruise, {{47, -122}, {47, -120}, {47.2, -121}, {48, -121}}},
+        {"over an ocean", kWindy, {{51, -10}, {55, -20}, {56, -30}, {56, -40}, {54, -50}}},
+        {"over the date line", kCruise, {{50, 170}, {52, 179}, {52, -175}, {50, -165}}},
+        {"round the pole", kCruise, {{80, -60}, {87, -30}, {88, 90}, {80, 120}}},
+        {"over the pole", kCruise, {{85, 0}, {89.5, 10}, {85, 180}, {80, 180}}},
+        {"southern ocean", kWindy, {{-45, 170}, {-68, 175}, {-74, -160}, {-60, -120}}},
+    };
+    for (const auto& route : routes) {
+        SCOPED_TRACE(route.what);
+        const FakeHost fake;
+        LateralFlight flight(route.fixes, route.air);
+        double length = 0;
+        for (std::size_t i = 1; i < route.fixes.size(); ++i)
+            length += GreatCircle(route.fixes[i - 1].lat, route.fixes[i - 1].lon, route.fixes[i].lat,
+                                  route.fixes[i].lon)
+                          .dist;
+        const double slowest = flight.aircraft.tas - route.air.wind_kt;
+        int leg = 1;
+        double near_for = 0, worst = 0;
+        while (lnav.plan_finished == 0 && flight.seconds < (length + 60) / slowest * 3600) {
+            flight.Tick();
+            if (plan.stpos != leg) {
+                ASSERT_EQ(plan.stpos, leg + 1) << "each fix once and in order";
+                leg = plan.stpos;
+                near_for = 0;
+            }
+            // Established: within the limit for a quarter of a minute; from then on it must stay there.
+            const double cross_track = flight.Place().cross_track;
+            if (near_for >= 15) worst = std::max(worst, cross_track);
+            near_for = cross_track < 0.3 || near_for >= 15 ? near_for + LateralFlight::kTick : 0;
+        }
+        EXPECT_EQ(lnav.plan_finished, 1) << "the last fix is reached without a detour";
+        EXPECT_EQ(plan.stpos, plan.fp_cnt);
+        EXPECT_LT(worst, 0.3);
+        EXPECT_NEAR(flight.aircraft.altitude, route.air.altitude, 20);
+        EXPECT_LT(
+            GreatCircle(sim.plane_lat, sim.plane_lon, route.fixes.back().lat, route.fixes.back().lon).dist,
+            2.5);
+    }
+}
+
+TEST(LateralFlightTest, AHoldIsFlownUntilItsExitIsExecuted) {
+    const FakeHost fake;
+    LateralFlight flight({{47, -122}, {47, -121}, {47, -119}}, {14000, 230, 250, 40});
+    HoldRecord& hold = plan.HoldList[1];
+    plan.hold_cnt = 1;
+    hold.leg = plan.FlightPlan[1].hold_pos = 1;
+    hold.inbound_crs = 73;
+    hold.magvar = 17;
+    hold.points[0].lat = 47;
+    hold.points[0].lon = -121;
+    int rounds = 0, last_point = 0;
+    double farthest = 0;
+    while (rounds < 3 && flight.seconds < 3600) {
+        flight.Tick();
+        if (lnav.hold_point == 1 && last_point == 4) ++rounds;
+        last_point = lnav.hold_point;
+        if (lnav.holding == 1)
+            farthest = std::max(farthest, GreatCircle(sim.plane_lat, sim.plane_lon, 47, -121).dist);
+    }
+    EXPECT_EQ(rounds, 3);
+    EXPECT_EQ(plan.stpos, 1);
+    EXPECT_LT(farthest, 1.5 * hold.leg_dist * 1.5);
+    lnav.hold_exit = 3;
+    for (int i = 0; i < 18; ++i) flight.Tick();
+    EXPECT_EQ(plan.stpos, 2);
+    while (lnav.plan_finished == 0 && flight.seconds < 7200) flight.Tick();
+    EXPECT_LT(GreatCircle(sim.plane_lat, sim.plane_lon, 47, -119).dist, 2);
+}
+
+}  // namespace
