@@ -25,8 +25,9 @@ bool IsTrueReference() {
     return NamedValue("TZ_OH_HDG_REF_Button") == 1;
 }
 
+// Before guidance has spoken at all, its variables read 0, a side of the track too.
 bool HasLnavHeading() {
-    return NamedValue("lnav_hdg") != kNoHeading;
+    return NamedValue("lnav_hdg") != kNoHeading && NamedValue("xtk_err_dir") != 0;
 }
 
 // A bank that turns the track by an error within a few seconds, the same at every speed.

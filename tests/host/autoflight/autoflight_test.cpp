@@ -28,6 +28,7 @@ class AutoflightTest : public testing::Test {
         PlaceAircraftAt(aircraft, 0, 0, 30000, 90, 280, 0);
         FillTokens(aircraft);
         SetNamedValue("lnav_hdg", 999);
+        SetNamedValue("xtk_err_dir", 1);
         SetNamedValue("at_armed_left", 1);
         Press("at_mode_clicked", 1);
     }
