@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <span>
 
 #include "state/variable.h"
@@ -19,9 +20,10 @@ struct AutoflightState {
     int ap_disc_lamp = 0;     // the warning lamp is lit for it
     // ticks left of the boxes on the FMA
     int ap_status_timer = 0, fma_roll_timer = 0, fma_pitch_timer = 0, fma_at_timer = 0;
-    double spd_mean = 0;       // kt, see UpdateSpeedTrend
-    double spd_lookahead = 0;  // kt
-    double spd_trend = 0;      // kt
+    std::array<double, 18> spd_ring = {};  // airspeed_smooth by tick_phase
+    double spd_mean = 0;                   // kt, see UpdateSpeedTrend
+    double spd_lookahead = 0;              // kt
+    double spd_trend = 0;                  // kt
 };
 
 extern AutoflightState autoflight;

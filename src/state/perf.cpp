@@ -72,6 +72,13 @@ constexpr Variable kRows[] = {
     {"dist_to_tod", &perf.dist_to_tod},
     {"dist_to_dest", &perf.dist_to_dest},
     {"dest_brg", &perf.dest_brg},
+    {"v1", &perf.v1},
+    {"vr", &perf.vr},
+    {"v2", &perf.v2},
+    {"vref", &perf.vref},
+    {"to_flaps", &perf.to_flaps},
+    {"ldg_flaps", &perf.ldg_flaps},
+    {"takeoff_flap_list", &perf.takeoff_flap_list},
     {"fplog_mode", &perf.fplog_mode},
 };
 }  // namespace

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <span>
+#include <string>
 
 #include "state/variable.h"
 
@@ -54,7 +55,12 @@ struct PerfState {
     double dest_brg = 0;                                        // degrees magnetic
     double final_point_lat = 0, final_point_lon = 0;            // 5 nm before the destination runway
     int final_point_set = 0;
-    int fplog_mode = -1;  // flight phase of the flight log
+    // takeoff and landing
+    int v1 = 0, vr = 0, v2 = 0;  // kt, 0 = none
+    double vref = 0;             // kt, 0 = none
+    int to_flaps = 0, ldg_flaps = 0;
+    std::string takeoff_flap_list = ",5,15,20,";  // settings that the variant has
+    int fplog_mode = -1;                          // flight phase of the flight log
 };
 
 extern PerfState perf;

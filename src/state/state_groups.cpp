@@ -3,14 +3,16 @@
 #include "state/airports.h"
 #include "state/autoflight.h"
 #include "state/cdu.h"
-#include "state/displays.h"
-#include "state/electrical.h"
 #include "state/cfg.h"
 #include "state/cockpit.h"
+#include "state/displays.h"
+#include "state/electrical.h"
 #include "state/host_link.h"
 #include "state/identity.h"
+#include "state/irs.h"
 #include "state/keyboard.h"
 #include "state/lnav.h"
+#include "state/module_life.h"
 #include "state/nav.h"
 #include "state/nav_tables.h"
 #include "state/nearest.h"
@@ -36,6 +38,8 @@ constexpr StateGroup kGroups[] = {
     {"cfg", Reset<&cfg>, &kCfgVariables},
     {"identity", Reset<&identity>, &kIdentityVariables},
     {"weights", Reset<&weights>, &kWeightVariables},
+    {"irs", Reset<&irs>, &kIrsVariables},
+    {"module_life", Reset<&module_life>, &kModuleLifeVariables},
     {"cockpit", Reset<&cockpit>, &kCockpitVariables},
     {"keyboard", Reset<&keyboard>, &kKeyboardVariables},
     {"placement", Reset<&placement>, &kPlacementVariables},

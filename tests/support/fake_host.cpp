@@ -45,6 +45,16 @@ int FindSlot(std::string_view name) {
     return found == slots.end() ? -1 : static_cast<int>(found - slots.begin());
 }
 
+// A place that an unregistered name has left is taken again from the back, so that ids kept too long show.
+void MakeSlot(std::string_view name) {
+    const auto left =
+        std::find_if(slots.rbegin(), slots.rend(), [](const Slot& slot) { return slot.name.empty(); });
+    if (left == slots.rend())
+        slots.push_back({std::string(name)});
+    else
+        *left = {std::string(name)};
+}
+
 Slot* SlotOf(int id) {
     return id >= 0 && id < static_cast<int>(slots.size()) ? &slots[static_cast<std::size_t>(id)] : nullptr;
 }
@@ -73,7 +83,7 @@ constexpr HostOperations kOperations = {
         [](const char* name) {
             if (Fails("register_named_var")) return;
             fake->registered_names.emplace_back(name);
-            if (FindSlot(name) < 0) slots.push_back({name});
+            if (FindSlot(name) < 0) MakeSlot(name);
         },
     .unregister_named_var =
         [](const char* name) {
@@ -281,7 +291,7 @@ double& FakeHost::NamedVar(std::string_view name) {
     if (FindSlot(name) < 0) {
         // References that tests hold stay good as long as the list doesn't move.
         if (slots.capacity() < 2000) slots.reserve(2000);
-        slots.push_back({std::string(name)});
+        MakeSlot(name);
     }
     return SlotOf(FindSlot(name))->value;
 }

@@ -1,0 +1,131 @@
+#include "module/lifecycle.h"
+
+#include <string_view>
+
+#include "frame/aircraft.h"
+#include "frame/configuration.h"
+#include "frame/key_hook.h"
+#include "frame/keyboard_capture.h"
+#include "frame/named_variables.h"
+#include "frame/sim_client.h"
+#include "module/service_cycle.h"
+#include "navdata/nav_tables.h"
+#include "platform/host.h"
+#include "platform/state_lock.h"
+#include "state/cfg.h"
+#include "state/identity.h"
+#include "state/module_life.h"
+#include "state/plan.h"
+#include "state/sound.h"
+#include "state/state_groups.h"
+#include "state/time_base.h"
+
+namespace {
+
+constexpr int kTimerPeriodMs = 1;
+constexpr int kReservedLegs = 150;
+constexpr int kReservedRows = 60;
+
+void ReserveContainers() {
+    plan.FlightPlan.reserve(kReservedLegs);
+    plan.FlightPlanMod.reserve(kReservedLegs);
+    plan.AirwayFixList.reserve(kReservedLegs);
+    plan.Route.reserve(kReservedRows);
+}
+
+// Whatever a teardown has taken away comes back here.
+void EnsureRegistered() {
+    AddKeyEventHook();
+    RegisterNamedVars();
+    module_life.gdi_started = 1;
+}
+
+void Teardown() {
+    module_life.kill_pending = 0;
+    RemoveKeyEventHook();
+    UnregisterNamedVars();
+    module_life.gdi_started = 0;
+    ReleaseKeyboard();
+}
+
+void PreInitialize() {
+    module_life.tcas_targets_variable = Host().bind_shared_pointer("tcas_targets");
+    module_life.tcas_count_variable = Host().bind_shared_pointer("tcas_target_cnt");
+    EnsureRegistered();
+    if (cfg.config_read == 0) {
+        ReadConfig();
+        LoadAircraft();
+    }
+    if (module_life.navdata_read == 0) {
+        LoadNavTables();
+        CheckNavdataDates();
+        module_life.navdata_read = 1;
+    }
+}
+
+void ConnectToWindow() {
+    if (cfg.simver == 0) DetectHost();
+    if (module_life.kill_pending == 1) Teardown();
+    EnsureRegistered();
+    const std::string previous = identity.aircraft;
+    ReadAircraftTitle();
+    // Another aircraft of the family has been loaded: what is known of the last one no longer holds.
+    if (identity.aircraft != previous) identity.aircraft_identified = 0;
+    if (identity.aircraft_identified == 0) IdentifyAircraft();
+}
+
+}  // namespace
+
+void ModuleInit() {
+    const StateLock lock;
+    ResetSystemState();
+    Host().set_timer_period(kTimerPeriodMs);
+    time_base.startup_msg_ticks = 0;
+    sound.dsound_ok = Host().open_sound_device();
+    module_life.weather_folder = AppDataFolder() + "\\Hifi\\AS_P3Dv4\\Weather";
+    const std::string weather_module = RootFolder() + "\\as_srv\\as_connect_64.dll";
+    module_life.activesky_loaded = Host().is_library_loaded(weather_module.c_str());
+    OpenSimClient();
+    ReserveContainers();
+}
+
+void ModuleDeinit() {
+    const StateLock lock;
+    Host().set_timer_period(0);
+    CloseSimClient();
+    Teardown();  // a host that unloads without a disconnect
+    if (sound.dsound_ok == 1) Host().close_sound_device();
+    ResetSystemState();
+}
+
+void ServerCallback(GaugeInstance* instance, int32_t service_id) {
+    const StateLock lock;
+    switch (service_id) {
+        case kServicePreInstall:
+            module_life.gdi_started = 1;
+            break;
+        case kServicePostInstall:
+        case kServicePostInitialize:
+            EnsureRegistered();
+            break;
+        case kServicePreInitialize:
+            PreInitialize();
+            break;
+        case kServicePreUpdate: {
+            const char* parameters = instance != nullptr ? instance->parameters : nullptr;
+            RunUpdateCycle(parameters != nullptr && std::string_view(parameters) == "VC");
+            break;
+        }
+        case kServicePreKill:
+            module_life.kill_pending = 1;
+            break;
+        case kServiceConnectToWindow:
+            ConnectToWindow();
+            break;
+        case kServiceDisconnect:
+            Teardown();
+            break;
+        default:
+            break;
+    }
+}

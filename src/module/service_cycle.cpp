@@ -1,0 +1,75 @@
+#include "module/service_cycle.h"
+
+#include <cstring>
+
+#include "frame/aircraft.h"
+#include "frame/key_events.h"
+#include "frame/keyboard_capture.h"
+#include "frame/named_variables.h"
+#include "frame/tokens.h"
+#include "module/delayed_start.h"
+#include "module/main_update.h"
+#include "module/tick_outputs.h"
+#include "platform/host.h"
+#include "state/displays.h"
+#include "state/identity.h"
+#include "state/module_life.h"
+#include "state/plan.h"
+#include "state/sim.h"
+#include "state/time_base.h"
+
+namespace {
+
+constexpr double kDelayedStartSeconds = 4;
+constexpr double kOutputsSeconds = 8;
+constexpr int kMaxIdentifyAttempts = 10;
+constexpr int kMainPanelWindow = 0;
+constexpr int kSecondPanelWindow = 37;
+
+void CopyTraffic() {
+    if (module_life.tcas_targets_variable == nullptr) return;
+    std::memcpy(&module_life.tcas_targets, module_life.tcas_targets_variable,
+                sizeof module_life.tcas_targets);
+    if (module_life.tcas_count_variable != nullptr)
+        std::memcpy(&module_life.tcas_target_cnt, module_life.tcas_count_variable,
+                    sizeof module_life.tcas_target_cnt);
+}
+
+// The gear can't be up on the ground, wherever the lever of the model stands.
+void CheckGearLever() {
+    if (sim.on_ground == 0 || ReadNamedVar(NamedVar("gearleverpos")) <= 0) return;
+    WriteNamedVar(NamedVar("gearleverpos"), 0);
+    SendKeyEvent(kKeyGearDown, 0);
+}
+
+void IdentifyLateAircraft() {
+    if (identity.aircraft_identified == 1 || identity.identify_attempts >= kMaxIdentifyAttempts) return;
+    ++identity.identify_attempts;
+    ReadAircraftTitle();
+    IdentifyAircraft();
+}
+
+}  // namespace
+
+void RunUpdateCycle(bool virtual_cockpit) {
+    CopyTraffic();
+    PollKeyboard();
+    const double now = ReadToken(kTokenAbsoluteTime);
+    if (time_base.flight_time_base == 0) time_base.flight_time_base = now;
+    const double since_start = now - time_base.flight_time_base;
+    if (module_life.startup_done == 0 && since_start > kDelayedStartSeconds) DelayedStart();
+    MainUpdate();
+    if (time_base.tick2s_phase == 35) {
+        plan.rebuild_latch = 0;
+        CheckGearLever();
+    }
+    IdentifyLateAircraft();
+    const bool main_panel_visible = IsWindowVisible(kMainPanelWindow) != 0;
+    displays.cockpit_2d_active = main_panel_visible ? 1 : 0;
+    if (main_panel_visible && IsWindowVisible(kSecondPanelWindow) != 0) ToggleWindow(kMainPanelWindow);
+    if (virtual_cockpit && main_panel_visible) return;
+    if (since_start > kOutputsSeconds) {
+        time_base.frame_phase = time_base.frame_phase >= 17 ? 0 : time_base.frame_phase + 1;
+        TickOutputs();
+    }
+}

@@ -1,0 +1,47 @@
+#include "systems/irs.h"
+
+#include "frame/named_variables.h"
+#include "state/cfg.h"
+#include "state/cockpit.h"
+#include "state/irs.h"
+#include "state/side.h"
+
+namespace {
+
+constexpr int kTicksPerSecond = 18;
+
+struct IrsUnit {
+    int CockpitState::*knob;
+    int IrsState::*timer;
+    int IrsState::*aligned;
+    NamedVarRef switch_variable;
+};
+constexpr IrsUnit kUnits[] = {
+    {&CockpitState::irs_left_knob, &IrsState::irs_timer_l, &IrsState::irs_left,
+     NamedVar("TZ_OH_IRS_LEFT_Switch")},
+    {&CockpitState::irs_right_knob, &IrsState::irs_timer_r, &IrsState::irs_right,
+     NamedVar("TZ_OH_IRS_RIGHT_Switch")},
+};
+
+}  // namespace
+
+void ToggleIrsKnob(int side) {
+    const IrsUnit& unit = kUnits[side == kFirstOfficer ? 1 : 0];
+    cockpit.*unit.knob = cockpit.*unit.knob == 0 ? 1 : 0;
+    if (cockpit.*unit.knob == 1)
+        irs.*unit.timer = cfg.IrsAlignSecs * kTicksPerSecond;
+    else
+        irs.*unit.aligned = 0;
+    WriteNamedVar(unit.switch_variable, cockpit.*unit.knob);
+}
+
+void StepIrs() {
+    for (const IrsUnit& unit : kUnits) {
+        int& timer = irs.*unit.timer;
+        if (timer <= 0) continue;
+        if (cockpit.*unit.knob == 0)
+            timer = 0;
+        else if (--timer == 0)
+            irs.*unit.aligned = 1;
+    }
+}
