@@ -92,8 +92,8 @@ void SetQuantity(int definition, double quantity) {
 }
 
 void PlaceAircraft() {
-    constexpr double kMinIas = 170, kMaxIas = 340;
-    if (placement.place_alt > 1000) SendKeyEvent(kKeyAltitudeSet, static_cast<int>(placement.place_alt));
+    constexpr int kMinIas = 170, kMaxIas = 340;
+    if (placement.place_alt > 1000) SendKeyEvent(kKeyAltitudeSet, WholeNumber(placement.place_alt));
     const InitialPosition position = {
         placement.place_lat,
         placement.place_lon,
@@ -102,7 +102,7 @@ void PlaceAircraft() {
         -1,
         placement.place_hdg,
         0,
-        static_cast<std::uint32_t>(std::clamp(placement.place_ias, kMinIas, kMaxIas))};
+        static_cast<std::uint32_t>(std::clamp(WholeNumber(placement.place_ias), kMinIas, kMaxIas))};
     if (placement.place_left_fuel > 0 || placement.place_right_fuel > 0) {
         SetQuantity(kDataRightMain, placement.place_right_fuel);
         SetQuantity(kDataLeftMain, placement.place_left_fuel);

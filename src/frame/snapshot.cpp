@@ -114,10 +114,8 @@ constexpr Door kDoors[] = {
     {"(L:TZ_CargoDoor_bulk, bool)", &SimSnapshot::door_bulk_cargo},
 };
 
-/// A host value that should be a whole number; out of range or no number gives 0.
 int WholeToken(int token) {
-    const double value = ReadToken(token);
-    return std::fabs(value) < 2e9 ? static_cast<int>(value) : 0;
+    return WholeNumber(ReadToken(token));
 }
 
 /// Degrees in 0 to below 360.
@@ -254,9 +252,9 @@ void ReadRestOfSnapshot() {
 }
 
 void ReadSlowValues() {
-    sim.day = static_cast<int>(EvalCalc("(E:LOCAL DAY OF MONTH,enum)"));
-    sim.month = static_cast<int>(EvalCalc("(E:LOCAL MONTH OF YEAR,enum)"));
-    sim.day_of_week = static_cast<int>(EvalCalc("(E:LOCAL DAY OF WEEK,enum)"));
+    sim.day = WholeNumber(EvalCalc("(E:LOCAL DAY OF MONTH,enum)"));
+    sim.month = WholeNumber(EvalCalc("(E:LOCAL MONTH OF YEAR,enum)"));
+    sim.day_of_week = WholeNumber(EvalCalc("(E:LOCAL DAY OF WEEK,enum)"));
     sim.year = WholeToken(kTokenYear);
     sim.day_of_year = WholeToken(kTokenDayOfYear);
     sim.empty_weight = EvalCalc("(A:EMPTY WEIGHT,pounds)");

@@ -55,9 +55,9 @@ void StartSystemsRunning() {
 
 void ReadModelValues() {
     sim.v_mo_kt = ReadNamedVar(NamedVar("TZ_V_MO"));
-    cockpit.ovhd_ldg_lights_l_switch = static_cast<int>(ReadNamedVar(NamedVar("TZ_OH_LDG_LEFT_Switch")));
-    cockpit.ovhd_nose_lights_switch = static_cast<int>(ReadNamedVar(NamedVar("TZ_OH_LDG_NSE_Switch")));
-    cockpit.ovhd_ldg_lights_r_switch = static_cast<int>(ReadNamedVar(NamedVar("TZ_OH_LDG_RIGHT_Switch")));
+    cockpit.ovhd_ldg_lights_l_switch = WholeNumber(ReadNamedVar(NamedVar("TZ_OH_LDG_LEFT_Switch")));
+    cockpit.ovhd_nose_lights_switch = WholeNumber(ReadNamedVar(NamedVar("TZ_OH_LDG_NSE_Switch")));
+    cockpit.ovhd_ldg_lights_r_switch = WholeNumber(ReadNamedVar(NamedVar("TZ_OH_LDG_RIGHT_Switch")));
 }
 
 }  // namespace

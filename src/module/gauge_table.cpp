@@ -2,13 +2,14 @@
 
 #include "display/gauge.h"
 #include "module/lifecycle.h"
+#include "module/mcp_gauge.h"
 
 namespace {
 
 constexpr int32_t kMouseOnly = 800;
 constexpr int32_t kPainted = 1000;
 
-constexpr GaugeHeader kGauges[] = {
+const GaugeHeader kGauges[] = {
     {"SERVER", kMouseOnly, ServerCallback},
     {"DU_CAPT_OUTB_2D", kPainted, ServePaintedGauge},
     {"DU_CAPT_OUTB_VC", kPainted, ServePaintedGauge},
@@ -40,7 +41,7 @@ constexpr GaugeHeader kGauges[] = {
     {"FO_EFB_MC", kPainted, ServePaintedGauge},
     {"STBY_PFD", kPainted, ServePaintedGauge},
     {"HUD", kPainted, ServePaintedGauge},
-    {"MCP", kMouseOnly},
+    {"MCP", kMouseOnly, nullptr, McpMouseAreas().data(), static_cast<int32_t>(McpMouseAreas().size())},
     {"WINTOG", kMouseOnly},
     {"GEAR_AUTOBRAKE", kMouseOnly},
     {"CAPT_DU_MODE", kMouseOnly},

@@ -71,10 +71,11 @@ void SystemsEvery3s() {
 // The third of the once-a-second groups.
 void SystemsSecond3() {
     UpdateFlapSpeedRow();
+    ReadAttitudeSwitches();
 }
 
 void UpdateExecLamps() {
-    cockpit.autobrake_switch = static_cast<int>(ReadNamedVar(NamedVar("auto_brake_switch")));
+    cockpit.autobrake_switch = WholeNumber(ReadNamedVar(NamedVar("auto_brake_switch")));
     const int lit = plan.fms_fpln_active == 2 || plan.fms_fpln_active == 4 ? 1 : 0;
     WriteNamedVar(NamedVar("TZ_FMC_EXEC_L_Annun"), lit);
     WriteNamedVar(NamedVar("TZ_FMC_EXEC_R_Annun"), lit);

@@ -1,5 +1,6 @@
 #include "platform/host.h"
 
+#include <cmath>
 #include <cstring>
 
 namespace {
@@ -87,6 +88,10 @@ std::string TakeText(Operation&& operation) {
 }
 
 }  // namespace
+
+int WholeNumber(double value) {
+    return std::fabs(value) < 2147483647.0 ? static_cast<int>(value) : 0;
+}
 
 void UseHost(const HostOperations* operations) {
     const bool usable = operations != nullptr && operations->version >= kHostOperationsVersion;

@@ -1,6 +1,7 @@
 #include "systems/irs.h"
 
 #include "frame/named_variables.h"
+#include "platform/host.h"
 #include "state/cfg.h"
 #include "state/cockpit.h"
 #include "state/irs.h"
@@ -44,4 +45,11 @@ void StepIrs() {
         else if (--timer == 0)
             irs.*unit.aligned = 1;
     }
+}
+
+void ReadAttitudeSwitches() {
+    cockpit.TZ_MAIN_AIRDATA_ATT_L_Switch =
+        WholeNumber(ReadNamedVar(NamedVar("TZ_MAIN_AIRDATA_ATT_L_Switch")));
+    cockpit.TZ_MAIN_AIRDATA_ATT_R_Switch =
+        WholeNumber(ReadNamedVar(NamedVar("TZ_MAIN_AIRDATA_ATT_R_Switch")));
 }

@@ -6,3 +6,6 @@ void ToggleIrsKnob(int side);
 
 /// One tick of the alignment timers; they run in pause too. Position and movement don't matter.
 void StepIrs();
+
+/// Reads the two alternate attitude switches, once a second; they only give alerts.
+void ReadAttitudeSwitches();

@@ -74,6 +74,24 @@ TEST(GaugeTable, Has41GaugesInOrder) {
     EXPECT_EQ(painted, 24);
 }
 
+TEST(GaugeTable, TheMcpHasItsMouseAreas) {
+    Simulator sim_host;
+    sim_host.Start();
+    const GaugeHeader& mcp = Gauges()[31];
+    ASSERT_STREQ(mcp.name, "MCP");
+    const auto press = [&](std::string_view area) {
+        for (int i = 0; i < mcp.mouse_count; ++i)
+            if (mcp.mouse[i].name == area) return mcp.mouse[i].callback(nullptr, kMouseLeftSingle);
+        return -1;
+    };
+    EXPECT_EQ(press("lnav"), 0);
+    EXPECT_EQ(sim_host.host.NamedVar("ap_lat_mode_clicked"), 6);
+    sim.ap_spdbug = 250;
+    EXPECT_EQ(press("spd -10"), 0);
+    EXPECT_EQ(sim_host.host.events, (Events{{0x101f5, 240}}));
+    EXPECT_EQ(press("nothing"), -1);
+}
+
 TEST(ServiceCycle, BringUpReadsConfigurationAircraftAndHost) {
     Simulator sim_host;
     sim_host.host.PutFile("Velarion/tz900.cfg", "AccelHt=1200\n");
