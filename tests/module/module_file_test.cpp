@@ -14,10 +14,11 @@
 #include "frame/tokens.h"
 #include "module/linkage.h"
 #include "support/fake_host.h"
+#include "support/paths.h"
 
 namespace {
 
-const std::string kModuleFile = std::string(TZ900_BINARY_DIR) + "/tz900.gau";
+const std::string kModuleFile = BinaryDir() + "/tz900.gau";
 
 // Names of the defined global symbols of a 64-bit ELF file's dynamic table.
 std::set<std::string> ExportedSymbols(const std::string& path) {

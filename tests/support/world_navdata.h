@@ -3,10 +3,11 @@
 #include <filesystem>
 
 #include "support/fake_host.h"
+#include "support/paths.h"
 
 /// The folder of the world's navigation data beside the source tree; it may be missing.
 inline std::filesystem::path WorldNavdata() {
-    return std::filesystem::path(TZ900_SOURCE_DIR) / "../shared/data/navdata-world";
+    return std::filesystem::path(SourceDir()) / "../shared/data/navdata-world";
 }
 
 /// Lets the fake's root hold that folder as its navigation data; false when it is missing.

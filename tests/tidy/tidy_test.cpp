@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+#include "support/paths.h"
+
 // The house rules, each with its remedy in the message.
 
 namespace {
@@ -21,7 +23,7 @@ struct Line {
 
 std::vector<fs::path> SourceFiles(const std::string& top) {
     std::vector<fs::path> files;
-    for (const auto& entry : fs::recursive_directory_iterator(fs::path(TZ900_SOURCE_DIR) / top)) {
+    for (const auto& entry : fs::recursive_directory_iterator(fs::path(SourceDir()) / top)) {
         const std::string extension = entry.path().extension();
         if (extension == ".cpp" || extension == ".h" || extension == ".js") files.push_back(entry.path());
     }
@@ -32,7 +34,7 @@ std::vector<fs::path> SourceFiles(const std::string& top) {
 std::vector<Line> LinesOf(const fs::path& file) {
     std::vector<Line> lines;
     std::ifstream in(file);
-    const std::string name = fs::relative(file, TZ900_SOURCE_DIR).string();
+    const std::string name = fs::relative(file, SourceDir()).string();
     int number = 0;
     for (std::string text; std::getline(in, text);)
         lines.push_back({name + ":" + std::to_string(++number), text});
@@ -59,7 +61,7 @@ TEST(Tidy, IncludesPointForward) {
         return std::find(kOrder.begin(), kOrder.end(), folder) - kOrder.begin();
     };
     for (const fs::path& file : SourceFiles("src")) {
-        const std::string folder = FolderOf(fs::relative(file, fs::path(TZ900_SOURCE_DIR) / "src").string());
+        const std::string folder = FolderOf(fs::relative(file, fs::path(SourceDir()) / "src").string());
         EXPECT_LT(place(folder), static_cast<long>(kOrder.size()))
             << folder << ": a folder that the order lacks";
         for (const Line& line : LinesOf(file)) {
@@ -96,7 +98,7 @@ TEST(Tidy, OnlyPlatformTouchesTheOperatingSystem) {
     const std::regex system_header(
         R"(^#include <(sys/|unistd|fcntl|dlfcn|pthread|netinet|arpa|fstream|filesystem))");
     for (const fs::path& file : SourceFiles("src")) {
-        const std::string name = fs::relative(file, TZ900_SOURCE_DIR).string();
+        const std::string name = fs::relative(file, SourceDir()).string();
         if (name.starts_with("src/platform/")) continue;
         for (const Line& line : LinesOf(file))
             EXPECT_FALSE(std::regex_search(line.text, system_header))
