@@ -85,6 +85,7 @@ int EnterDestination(std::string_view ident) {
             if (IsOfArrival(plan.FlightPlanMod[i])) RemoveModLegs(i, 1);
         MergeNeighbourDiscos();
     }
+    RemoveHold(plan.mod_cnt);
     FlightPlanLeg& last = plan.FlightPlanMod[plan.mod_cnt];
     last = AirportLeg(airports.dest_airport);
     last.mod_flag = plan.fms_fpln_active == kRouteModified;
@@ -110,8 +111,8 @@ int SelectOriginRunway(std::string_view runway) {
     const RunwayData& chosen = airports.origin_airport.runways[place];
     plan.ends_mod.dep_runway = runway;
     plan.ends_mod.fms_dep_rwy_pos = place;
-    if (plan.fms_fpln_active == kRouteActive) {
-        AdvanceRouteState();
+    if (plan.fms_fpln_active >= kRouteActive) {
+        OpenModification();
         return 1;
     }
     plan.ends.dep_runway = runway;

@@ -12,8 +12,8 @@ int EnterOrigin(std::string_view ident);
 /// and the old arrival's legs are removed. 1, or 0 when the airport isn't in the database.
 int EnterDestination(std::string_view ident);
 
-/// Selects a runway of the origin ("16L"); 0 when it has none of that name. Below state 3 and in state 4 the
-/// first leg of the lists moves to its threshold; in state 3 a modification is opened.
+/// Selects a runway of the origin ("16L"); 0 when it has none of that name. Below state 3 the first leg of
+/// both lists moves to its threshold; afterwards it is a modification, and EXEC moves the leg.
 int SelectOriginRunway(std::string_view runway);
 
 /// Selects a runway of the destination for the working copy; EXEC puts the last leg on its threshold. 0 when

@@ -19,15 +19,14 @@ bool IsDigit(char c) {
     return c >= '0' && c <= '9';
 }
 
-// The number of an ident of the form prefix and digits, 0 for any other.
+// The number of an ident of the form prefix and number of at least two digits, 0 for any other.
 int MadeNumber(std::string_view ident, std::string_view prefix) {
-    if (ident.size() < prefix.size() + 2 || ident.size() > prefix.size() + 4) return 0;
     if (!ident.starts_with(prefix)) return 0;
+    const std::string_view digits = ident.substr(prefix.size());
+    const bool is_form = digits.size() == 2 || (digits.size() == 3 && digits[0] != '0');
+    if (!is_form || !std::all_of(digits.begin(), digits.end(), IsDigit)) return 0;
     int number = 0;
-    for (const char c : ident.substr(prefix.size())) {
-        if (!IsDigit(c)) return 0;
-        number = number * 10 + (c - '0');
-    }
+    for (const char c : digits) number = number * 10 + (c - '0');
     return number;
 }
 

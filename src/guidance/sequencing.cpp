@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdio>
 
+#include "fmc/flight_log.h"
 #include "fmc/path.h"
 #include "fmc/predictions.h"
 #include "fmc/route.h"
@@ -92,6 +93,7 @@ void SequenceLeg() {
         return;
     }
     FlightPlanLeg& passed = plan.FlightPlan[plan.stpos];
+    FlightLogStep(true);
     ReportPosition(passed);
     ClearConstraint(passed);
     lnav.last_fix_lat = passed.lat;

@@ -7,6 +7,7 @@
 #include "state/cockpit.h"
 #include "state/displays.h"
 #include "state/electrical.h"
+#include "state/flight_log.h"
 #include "state/host_link.h"
 #include "state/identity.h"
 #include "state/irs.h"
@@ -52,6 +53,7 @@ constexpr StateGroup kGroups[] = {
     {"airports", Reset<&airports>, &kAirportVariables},
     {"plan", Reset<&plan>, &kPlanVariables},
     {"perf", Reset<&perf>, &kPerfVariables},
+    {"flight_log", Reset<&flight_log>, &kFlightLogVariables},
     {"vnav", Reset<&vnav>, &kVnavVariables},
     {"lnav", Reset<&lnav>, &kLnavVariables},
     {"autoflight", Reset<&autoflight>, &kAutoflightVariables},

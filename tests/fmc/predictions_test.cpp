@@ -1,0 +1,135 @@
+#include "fmc/predictions.h"
+
+#include <gtest/gtest.h>
+
+#include "state/cfg.h"
+#include "state/identity.h"
+#include "state/perf.h"
+#include "state/plan.h"
+#include "state/sim.h"
+#include "state/state_groups.h"
+#include "state/vnav.h"
+
+namespace {
+
+class Predictions : public testing::Test {
+  protected:
+    Predictions() { ResetSystemState(); }
+};
+
+TEST_F(Predictions, EconomySpeedsFollowTheirTables) {
+    const struct {
+        double weight;
+        int index;
+        double climb;
+    } kClimb[] = {
+        {200000, 0, 288},  {200000, 50, 292},  {220000, 100, 298}, {300000, 200, 316}, {360000, 340, 343},
+        {100000, -1, 288}, {360000, 999, 343}, {330000, 100, 313}, {600000, 340, 350}, {310000, 0, 298},
+    };
+    for (const auto& test : kClimb) {
+        perf.gross_weight = test.weight;
+        EXPECT_EQ(EconClimbSpeed(test.index), test.climb) << test.weight << " " << test.index;
+    }
+    perf.gross_weight = 200000;
+    EXPECT_EQ(EconDescentSpeed(0), 282);
+    EXPECT_EQ(EconDescentSpeed(80), 289);   // between 287 and 290: 288.5
+    EXPECT_EQ(EconDescentSpeed(999), 290);  // held at 119: 290.25
+    perf.gross_weight = 900000;
+    EXPECT_EQ(EconDescentSpeed(20), 311);
+}
+
+TEST_F(Predictions, CruiseMachRisesWithIndexHeightAndWeight) {
+    for (double weight = 180000; weight < 560000; weight += 7000)
+        for (double altitude = 5000; altitude < 46000; altitude += 1300)
+            for (const int index : {0, 149, 150, 999, kLongRangeCruise}) {
+                perf.gross_weight = weight;
+                const double mach = EconCruiseMach(index, altitude);
+                EXPECT_GE(mach, 0.363);
+                EXPECT_LE(mach, 0.89);
+                EXPECT_LE(mach, EconCruiseMach(index, altitude + 1000) + 1e-12);
+                EXPECT_GE(EconCruiseMach(150, altitude), EconCruiseMach(0, altitude));
+                EXPECT_GE(EconCruiseMach(0, altitude), EconCruiseMach(kLongRangeCruise, altitude));
+                perf.gross_weight = weight + 10000;
+                EXPECT_LE(mach, EconCruiseMach(index, altitude) + 1e-12);
+            }
+}
+
+TEST_F(Predictions, LimitsAndFactorsAreThoseOfTheAircraft) {
+    perf.gross_weight = 500000;
+    EXPECT_EQ(MaxAltitude(), 377);
+    perf.gross_weight = 400000;
+    EXPECT_EQ(MaxAltitude(), 418);
+    identity.aircraft_model = "900-10";
+    EXPECT_EQ(MaxAltitude(), 411);
+    identity.aircraft_model = "900-8";
+    perf.gross_weight = 250000;
+    EXPECT_EQ(MaxAltitude(), 431);
+    const struct {
+        int index;
+        double factor;
+    } kFactors[] = {{-1, 0},      {0, -0.03},   {5, -0.02645}, {50, 0.0055},
+                    {100, 0.041}, {999, 0.112}, {5000, 0.112}};
+    for (const auto& test : kFactors) {
+        perf.cost_index = test.index;
+        EXPECT_NEAR(PerfFactor(), test.factor, 1e-9) << test.index;
+    }
+    EXPECT_NEAR(IasToMach(280, 30000), 0.7317, 1e-4);
+    EXPECT_NEAR(IasToMach(250, 0), 250 / 661.48, 1e-3);  // sea level: the speed of sound is 661.48 kt
+    EXPECT_EQ(PlanningTas(300, 20000), 390);
+}
+
+TEST_F(Predictions, ClimbTakesTheNearestRowAndWeight) {
+    EXPECT_EQ(ClimbRate(400000, 10000).rate, 2500);
+    EXPECT_EQ(ClimbRate(400000, 10000).fuel_flow, 28300);
+    EXPECT_EQ(ClimbRate(350000, 7500).rate, 4200);  // ties go to the first
+    EXPECT_EQ(ClimbRate(900000, 90000).rate, 600);
+    cfg.RocTest = 0;
+    EXPECT_EQ(ClimbRate(400000, 10000).rate, 3300);
+}
+
+TEST_F(Predictions, CostIndexRowsSpareSpeedsSetByHand) {
+    perf.climb_mach_manual = 1;
+    ApplyCostIndexRow(true, 155);
+    EXPECT_EQ(perf.climb_ias, 332);
+    EXPECT_EQ(perf.climb_mach, 0);
+    EXPECT_EQ(perf.descent_mach, 0.843);
+    ApplyCostIndexRow(false, 40);
+    EXPECT_EQ(perf.pending_cruise_mach, 0.830);
+    EXPECT_EQ(perf.cruise_mach, 0.853);
+    ApplyCostIndexRow(true, 41);
+    EXPECT_EQ(perf.climb_ias, 332);
+}
+
+TEST_F(Predictions, DistancesPassOverWhatIsNotFlown) {
+    const struct {
+        const char *ident, *via;
+        double lat;
+    } kLegs[] = {{"ORIG", "", 39},
+                 {"ALPHA", "", 40},
+                 {"DISCO", "", 0},
+                 {"BRAVO", "", 41},
+                 {"CHARL", "MISSED APPR", 60},
+                 {"DEST", "", 42}};
+    for (const auto& leg : kLegs) {
+        plan.FlightPlan[plan.fp_cnt].ident = leg.ident;
+        plan.FlightPlan[plan.fp_cnt].via = leg.via;
+        plan.FlightPlan[plan.fp_cnt++].lat = leg.lat;
+    }
+    --plan.fp_cnt;
+    sim.plane_lat = 39.5;
+    sim.mgvar = 3;
+    ComputeDistances(1);
+    EXPECT_EQ(perf.dist_to_dest, 0);  // no plan yet
+    plan.stpos = 1;
+    vnav.toc_lat = 39.75;
+    vnav.toc_stpos = 0;
+    vnav.tod_lat = 41.5;
+    vnav.tod_stpos = 3;
+    ComputeDistances(1);
+    EXPECT_NEAR(perf.dist_to_dest, 150, 1e-6);
+    EXPECT_NEAR(perf.dist_to_toc, 15, 1e-6);
+    EXPECT_NEAR(perf.dist_to_tod, 120, 1e-6);
+    EXPECT_NEAR(perf.dest_brg, 357, 1e-6);
+}
+
+}  // namespace

@@ -1,0 +1,625 @@
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "fmc/demo_navdata.h"
+#include "fmc/edit_legs.h"
+#include "fmc/endpoints.h"
+#include "fmc/execute_route.h"
+#include "fmc/holds.h"
+#include "fmc/insert_fix.h"
+#include "fmc/leg_list.h"
+#include "fmc/route.h"
+#include "fmc/route_airway.h"
+#include "fmc/route_operations.h"
+#include "fmc/route_rows.h"
+#include "fmc/route_text.h"
+#include "navdata/parse_entry.h"
+#include "state/cdu.h"
+#include "state/cfg.h"
+#include "state/lnav.h"
+#include "state/perf.h"
+#include "state/plan.h"
+#include "state/side.h"
+#include "state/sim.h"
+#include "state/vnav.h"
+
+namespace {
+
+std::string Idents(const GrowingList<FlightPlanLeg>& legs, int count) {
+    std::string text;
+    for (int i = 0; i <= count; ++i) text += (i > 0 ? " " : "") + legs[i].ident;
+    return text;
+}
+std::string ModLegs() {
+    return Idents(plan.FlightPlanMod, plan.mod_cnt);
+}
+std::string ActiveLegs() {
+    return Idents(plan.FlightPlan, plan.fp_cnt);
+}
+std::string Rows() {
+    std::string text;
+    for (int i = 1; i <= plan.route_cnt; ++i) {
+        const RouteRow& row = plan.Route[i];
+        text += (i > 1 ? ", " : "") + row.via + (row.via_type.empty() ? "" : "(" + row.via_type + ")") + " " +
+                (row.to.empty() ? "-" : row.to);
+    }
+    return text;
+}
+
+class RouteModel : public testing::Test {
+  protected:
+    RouteModel() {
+        PutRouteNavdata(host);
+        sim.on_ground = 1;
+        sim.plane_lat = 39;
+        sim.plane_lon = 10;
+    }
+
+    static void Enter(std::string_view route) {
+        std::string error;
+        ASSERT_EQ(EnterRouteText(route, error), 1) << error;
+    }
+    static void EnterAndExecute(std::string_view route) {
+        Enter(route);
+        std::string error;
+        ASSERT_EQ(ExecuteEnteredRoute(error), 1) << error;
+    }
+    // As a page does it: an operation, then the modification is opened.
+    static std::string Op(std::string_view line) {
+        std::string result, error;
+        if (RunRouteOperation(line, result, error) == 0) return error;
+        return result;
+    }
+    static void InsertEntry(int position, std::string_view entry, bool replace) {
+        ParseEntry(entry);
+        ASSERT_GT(nav.entry_cnt, 0) << entry;
+        InsertFixAt(position, 1, replace);
+        OpenModification();
+    }
+
+    FakeHost host;
+};
+
+TEST_F(RouteModel, StateAdvancesInItsCircleAndPreparesTheAircraftOnTheGround) {
+    cfg.SetMCPCruiseAltonFlightPlanLoad = 1;
+    cfg.LoadFuelonFlightPlanLoad = 1;
+    plan.stpos = plan.mod_stpos = 4;
+    for (const int next : {1, 2, 3, 4, 3}) {
+        AdvanceRouteState();
+        EXPECT_EQ(plan.fms_fpln_active, next);
+    }
+    EXPECT_EQ(plan.pending_stpos, 4);
+    EXPECT_TRUE(host.events.empty());
+    perf.pending_cruise_alt = 999;
+    AdvanceRouteState();
+    EXPECT_TRUE(host.events.empty());
+    perf.pending_cruise_alt = 35000;
+    perf.planned_fuel = 90000;
+    AdvanceRouteState();
+    ASSERT_EQ(host.events.size(), 1u);
+    EXPECT_EQ(host.events[0], (std::pair{66124, 35000}));
+    EXPECT_EQ(perf.fuel_load_due, 1);
+    perf.fuel_load_due = 0;
+    sim.ground_speed_kt = 5;
+    AdvanceRouteState();
+    EXPECT_EQ(host.events.size(), 1u);
+    EXPECT_EQ(perf.fuel_load_due, 0);
+}
+
+TEST_F(RouteModel, RowsStandForAirwaysAndDirects) {
+    Enter("ORIG AAA Q1 CCC Q2 EASTX LONER DEST");
+    EXPECT_EQ(Rows(), "DIRECT AAA, Q1(AWY) CCC, Q2(AWY) EASTX, DIRECT LONER");
+    // An airway without an end shows its name and no fix, and never reaches the active route.
+    InsertAirwayPlaceholder(plan.mod_cnt, "Q3");
+    EXPECT_EQ(Rows(), "DIRECT AAA, Q1(AWY) CCC, Q2(AWY) EASTX, DIRECT LONER, Q3(AWY) -");
+    EXPECT_EQ(FindRouteFix(5, false), 0);
+    EXPECT_EQ(FindRouteFix(2, true), 4);
+    EXPECT_EQ(FindRouteFix(0, false), 0);
+    EXPECT_EQ(FindRouteFix(9, false), 0);
+    ExecuteRoute();
+    EXPECT_EQ(ActiveLegs(), "ORIG AAA AAFIX BBFIX CCC EASTX LONER DEST");
+    EXPECT_EQ(plan.stpos, 1);
+}
+
+TEST_F(RouteModel, AirwaysFillFromTheStartFixInBothDirections) {
+    Enter("ORIG CCC DEST");
+    LoadAirway("#Q1", 2, 1, kCaptain);
+    EXPECT_EQ(plan.awy_list_cnt, 6);
+    EXPECT_EQ(plan.awy_start_pos, 4);
+    EXPECT_EQ(FindFixOnAirway("EEE"), 6);
+    EXPECT_EQ(FindFixOnAirway("LONER"), 0);
+    for (const int wrong : {4, 0, -1, 7}) {
+        InsertAirwaySegment(wrong);
+        EXPECT_EQ(ModLegs(), "ORIG CCC DEST");
+    }
+    InsertAirwayPlaceholder(2, "Q1");
+    InsertAirwaySegment(2);
+    EXPECT_EQ(ModLegs(), "ORIG CCC BBFIX AAFIX DEST");
+    LoadAirway("Q3", 2, 1, kCaptain);
+    EXPECT_EQ(plan.awy_list_cnt, 0);
+    LoadAirway("NONE", 2, 1, kCaptain);
+    EXPECT_EQ(plan.awy_list_cnt, 0);
+    // Where the route already goes on from the last fix, it stands once.
+    Enter("ORIG AAA CCC DEST");
+    LoadAirway("Q1", 2, 1, kCaptain);
+    InsertAirwaySegment(FindFixOnAirway("CCC"));
+    EXPECT_EQ(ModLegs(), "ORIG AAA AAFIX BBFIX CCC DEST");
+}
+
+TEST_F(RouteModel, InsertedFixesOpenADiscontinuityUnlessTheyReplace) {
+    EnterAndExecute("ORIG AAA CCC EEE DEST");
+    InsertEntry(2, "LONER", true);
+    EXPECT_EQ(ModLegs(), "ORIG AAA LONER CCC EEE DEST");
+    EXPECT_EQ(plan.fms_fpln_active, kRouteModified);
+    InsertEntry(4, "EASTX", false);
+    EXPECT_EQ(ModLegs(), "ORIG AAA LONER CCC EASTX DISCO EEE DEST");
+    InsertEntry(5, "WWFIX", false);  // one stands there already
+    EXPECT_EQ(ModLegs(), "ORIG AAA LONER CCC EASTX WWFIX DISCO EEE DEST");
+    EXPECT_EQ(plan.FlightPlanMod[2].mod_flag, 1);
+    InsertFixAt(1, nav.entry_cnt + 1, true);
+    EXPECT_EQ(plan.mod_cnt, 8);
+    EXPECT_EQ(ActiveLegs(), "ORIG AAA CCC EEE DEST");
+    EXPECT_EQ(plan.FlightPlan[1].mod_flag, 0);
+}
+
+TEST_F(RouteModel, PositionsGetMadeNamesThatNoOtherLegHas) {
+    Enter("ORIG CCC DEST");
+    // Half a degree of latitude is 30 nm: 30 nm towards DEST, then back from there towards CCC.
+    plan.along_track_nm = 30;
+    InsertFixAt(1, 0, true);
+    EXPECT_EQ(ModLegs(), "ORIG CCC CCC01 DEST");
+    EXPECT_NEAR(plan.FlightPlanMod[2].lat, 42.5, 1e-6);
+    EXPECT_EQ(plan.along_track_nm, 0);
+    plan.along_track_nm = -12;
+    InsertFixAt(2, 0, true);
+    EXPECT_EQ(ModLegs(), "ORIG CCC CCC0101 CCC01 DEST");
+    EXPECT_NEAR(plan.FlightPlanMod[2].lat, 42.3, 1e-6);
+    InsertEntry(1, "CCC180/60", true);
+    EXPECT_EQ(plan.FlightPlanMod[1].ident, "CCC02");
+    EXPECT_NEAR(plan.FlightPlanMod[1].lat, 41, 0.01);
+    EXPECT_EQ(plan.FlightPlanMod[1].type, "WPT");
+    InsertEntry(1, "N4130.5W00130.5", true);
+    InsertEntry(1, "N4130.5W00130.5", true);
+    EXPECT_EQ(ModLegs(), "ORIG WPT02 WPT01 CCC02 CCC CCC0101 CCC01 DEST");
+    InsertEntry(1, "EEE150/AAA060", true);
+    EXPECT_EQ(plan.FlightPlanMod[1].ident, "EEE01");
+}
+
+TEST_F(RouteModel, DeletedLegsLeaveOneDiscontinuity) {
+    Enter("ORIG AAA BBFIX CCC DDFIX DEST");
+    DeleteLegWithDiscontinuity(2, false, kCaptain);
+    EXPECT_EQ(ModLegs(), "ORIG AAA DISCO CCC DDFIX DEST");
+    EXPECT_TRUE(plan.FlightPlanMod[2].type.empty());
+    EXPECT_EQ(plan.FlightPlanMod[2].alt_restr, kNone);
+    DeleteLegWithDiscontinuity(4, false, kCaptain);
+    EXPECT_EQ(ModLegs(), "ORIG AAA DISCO CCC DISCO DEST");
+    DeleteLegWithDiscontinuity(3, false, kCaptain);
+    EXPECT_EQ(ModLegs(), "ORIG AAA DISCO DEST");
+    for (const int end : {0, 3, 9}) DeleteLegWithDiscontinuity(end, false, kCaptain);
+    EXPECT_EQ(ModLegs(), "ORIG AAA DISCO DEST");
+    DeleteLegWithDiscontinuity(2, true, kCaptain);
+    EXPECT_EQ(ModLegs(), "ORIG AAA DEST");
+}
+
+TEST_F(RouteModel, RowsGoAsBlocks) {
+    const struct {
+        const char *route, *operation, *result, *legs;
+    } kCases[] = {
+        {"ORIG AAA Q1 CCC LONER DEST", "RemoveToRow 2", "1", "ORIG AAA DISCO LONER DEST"},
+        {"ORIG AAA LONER DEST", "RemoveToRow 2", "1", "ORIG AAA DISCO DEST"},
+        {"ORIG AAA DEST", "RemoveToRow 1", "1", "ORIG DEST"},
+        {"ORIG AAA DEST", "RemoveToRow 2", "0", "ORIG AAA DEST"},
+        {"ORIG AAA DEST", "RemoveToRow 0", "0", "ORIG AAA DEST"},
+        {"ORIG AAA Q1 CCC LONER DEST", "RemoveViaRow 2", "1", "ORIG AAA CCC LONER DEST"},
+        {"ORIG AAA Q1 CCC LONER DEST", "RemoveViaRow 3", "0", "ORIG AAA AAFIX BBFIX CCC LONER DEST"},
+        {"ORIG AAA Q1 CCC DEST", "RemoveViaRow 7", "0", "ORIG AAA AAFIX BBFIX CCC DEST"},
+    };
+    for (const auto& test : kCases) {
+        EnterAndExecute(test.route);
+        EXPECT_EQ(Op(test.operation), test.result) << test.operation;
+        EXPECT_EQ(ModLegs(), test.legs) << test.route << ": " << test.operation;
+        EXPECT_EQ(plan.fms_fpln_active, std::string(test.result) == "1" ? kRouteModified : kRouteActive);
+    }
+    EXPECT_EQ(Rows(), "DIRECT AAA, Q1(AWY) CCC");
+}
+
+TEST_F(RouteModel, ExecStepsOverADiscontinuityAndKeepsThePlanInBounds) {
+    perf.pending_cruise_alt = 35000;
+    EnterAndExecute("ORIG AAA CCC DEST");
+    EXPECT_EQ(plan.stpos, 1);
+    EXPECT_EQ(plan.pending_stpos, 0);
+    DeleteLegWithDiscontinuity(1, false, kCaptain);
+    OpenModification();
+    plan.FlightPlanMod[2].step_alt = 39000;
+    ExecuteRoute();
+    EXPECT_EQ(ActiveLegs(), "ORIG DISCO CCC DEST");
+    EXPECT_EQ(plan.stpos, 2);
+    EXPECT_EQ(plan.mod_stpos, 2);
+    EXPECT_EQ(plan.ActiveLeg.from, "ORIG");
+    EXPECT_EQ(plan.ActiveLeg.to, "CCC");
+    EXPECT_NEAR(lnav.leg_len, 180, 0.01);  // 39 N to 42 N
+    EXPECT_EQ(perf.cruise_alt, 39000);
+}
+
+TEST_F(RouteModel, ADirectToStartsPastTheTurn) {
+    EnterAndExecute("ORIG AAA BBFIX CCC EEE DEST");
+    sim.on_ground = 0;
+    sim.plane_lat = 40.5;
+    sim.ground_speed_kt = 360;
+    const auto direct_to = [](double heading) {
+        EraseModification();
+        sim.true_hdg = heading;
+        ConnectLegs(plan.stpos, 3, kCaptain);
+    };
+    direct_to(8);
+    EXPECT_EQ(plan.fms_fpln_active, kRouteModified);
+    EXPECT_EQ(ModLegs(), "ORIG CCC EEE DEST");
+    EXPECT_EQ(plan.pending_stpos, 1);
+    EXPECT_EQ(plan.ActiveLegMod.from, "DIRECT");
+    EXPECT_EQ(plan.ActiveLegMod.to, "CCC");
+    EXPECT_EQ(plan.ActiveLeg.to, "AAA");
+    ExecuteRoute();
+    EXPECT_EQ(plan.ActiveLeg.from, "DIRECT");
+    EXPECT_EQ(plan.ActiveLeg.to, "CCC");
+    EXPECT_EQ(plan.ActiveLeg.from_lat, 40.5);
+    EXPECT_EQ(plan.ActiveLeg.from_lon, 10);
+    EXPECT_EQ(plan.ActiveLeg.direct_flag, 1);
+    EXPECT_EQ(plan.stpos, 1);
+    // A later modification doesn't move its start.
+    sim.plane_lat = 41;
+    InsertEntry(2, "DDFIX", true);
+    ExecuteRoute();
+    EXPECT_EQ(plan.ActiveLeg.from, "DIRECT");
+    EXPECT_EQ(plan.ActiveLeg.from_lat, 40.5);
+
+    // 90 degrees to turn left at 360 kt: 2.5 nm on 045, which is 1.768 nm north and east.
+    EnterAndExecute("ORIG AAA BBFIX CCC EEE DEST");
+    sim.plane_lat = 40.5;
+    direct_to(90);
+    ExecuteRoute();
+    EXPECT_NEAR(plan.ActiveLeg.from_lat, 40.5 + 1.768 / 60, 1e-4);
+    EXPECT_NEAR(plan.ActiveLeg.from_lon, 10 + 1.768 / 60 / 0.7602, 1e-4);
+    // Slow, to the right: 1.25 nm on 315, of 270 to be turned to 360.
+    EnterAndExecute("ORIG AAA BBFIX CCC EEE DEST");
+    sim.ground_speed_kt = 149;
+    direct_to(270);
+    ExecuteRoute();
+    EXPECT_NEAR(plan.ActiveLeg.from_lat, 40.5 + 0.8839 / 60, 1e-4);
+    EXPECT_NEAR(plan.ActiveLeg.from_lon, 10 - 0.8839 / 60 / 0.7602, 1e-4);
+}
+
+TEST_F(RouteModel, OtherConnectionsOnlyTakeOutWhatLiesBetween) {
+    EnterAndExecute("ORIG AAA BBFIX CCC EEE DEST");
+    ConnectLegs(2, 4, kCaptain);
+    EXPECT_EQ(ModLegs(), "ORIG AAA BBFIX EEE DEST");
+    EXPECT_EQ(plan.direct_to_pending, 0);
+    ConnectLegs(3, 2, kCaptain);
+    ConnectLegs(-1, 2, kCaptain);
+    ConnectLegs(2, 9, kCaptain);
+    EXPECT_EQ(ModLegs(), "ORIG AAA BBFIX EEE DEST");
+}
+
+TEST_F(RouteModel, EraseBringsEverythingBack) {
+    EnterAndExecute("ORIG/16 AAA BBFIX CCC DEST/09");
+    MarkHold(2, false, 1);
+    OpenModification();
+    ExecuteRoute();
+    ASSERT_EQ(plan.hold_cnt, 1);
+    const std::string rows = Rows();
+    ASSERT_EQ(EnterDestination("ALTN"), 1);
+    SelectOriginRunway("34");
+    RemoveToRow(2);
+    MarkHold(1, false, 0);
+    perf.pending_climb_ias = 300;
+    perf.pending_cruise_alt = 39000;
+    EXPECT_EQ(ModLegs(), "ORIG AAA DISCO CCC ALTN");
+    EXPECT_EQ(plan.ends.dest, "DEST");
+    EXPECT_EQ(plan.ends_mod.dest, "ALTN");
+    EraseModification();
+    EXPECT_EQ(ModLegs(), "ORIG AAA BBFIX CCC DEST");
+    EXPECT_EQ(Rows(), rows);
+    EXPECT_EQ(plan.ends_mod.dest, "DEST");
+    EXPECT_EQ(plan.ends_mod.dep_runway, "16");
+    EXPECT_EQ(plan.procedures.arr_appr_rwy, "09");
+    ASSERT_EQ(plan.hold_cnt, 1);
+    EXPECT_EQ(plan.HoldList[1].ident, "BBFIX");
+    EXPECT_EQ(plan.FlightPlanMod[2].hold_pos, 1);
+    EXPECT_EQ(perf.pending_climb_ias, 0);
+    EXPECT_EQ(perf.pending_cruise_alt, 0);
+    EXPECT_EQ(plan.fms_fpln_active, kRouteActive);
+}
+
+TEST_F(RouteModel, HoldsFollowTheirLegs) {
+    Enter("ORIG AAA BBFIX CCC EEE DEST");
+    MarkHold(3, false, 2);
+    MarkHold(1, false, 0);
+    MarkHold(3, false, 2);  // has one
+    MarkHold(9, false, 2);
+    ASSERT_EQ(plan.hold_cnt, 2);
+    const HoldRecord& first = plan.HoldList[1];
+    EXPECT_EQ(first.ident, "AAA");
+    EXPECT_EQ(first.pending_leg, 1);
+    EXPECT_EQ(first.leg, 0);
+    EXPECT_EQ(first.right_turn, 1);
+    EXPECT_EQ(first.leg_time, 1);
+    // Inbound north, less the variation at 40 N 10 E.
+    EXPECT_EQ(first.inbound_crs, first.magvar > 0 ? 360 - first.magvar : -first.magvar);
+    EXPECT_EQ(plan.FlightPlanMod[3].hold_pos, 2);
+    InsertEntry(2, "LONER", true);
+    EXPECT_EQ(plan.HoldList[2].pending_leg, 4);
+    std::string error;
+    ASSERT_EQ(ExecuteEnteredRoute(error), 1);
+    EXPECT_EQ(plan.HoldList[2].leg, 4);
+    EXPECT_EQ(plan.HoldList[2].pending_leg, 0);
+    EXPECT_EQ(plan.FlightPlan[4].hold_pos, 2);
+    // The hold being flown is left when its leg goes; the page of the last hold closes.
+    plan.stpos = plan.mod_stpos = 4;
+    lnav.holding = 1;
+    cdu[0].fms_page = 39;
+    RemoveHold(1);
+    EXPECT_EQ(cdu[0].fms_page, 39);
+    DeleteLegWithDiscontinuity(4, false, kCaptain);
+    EXPECT_EQ(plan.hold_cnt, 0);
+    EXPECT_EQ(lnav.hold_exit, 4);
+    EXPECT_EQ(cdu[0].fms_page, 6);
+    Enter("ORIG AAA AAFIX BBFIX CCC DDFIX EEE LONER EASTX WWFIX DEST");
+    for (int leg = 1; leg <= 9; ++leg) MarkHold(leg, false, leg - 1);
+    EXPECT_EQ(plan.hold_cnt, kMostHolds);
+}
+
+TEST_F(RouteModel, SequencingMovesAPendingModificationOn) {
+    EnterAndExecute("ORIG AAA BBFIX CCC EEE DEST");
+    const auto sequence_to = [](int leg) {
+        plan.stpos = leg;
+        FollowSequencing();
+    };
+    sequence_to(2);
+    EXPECT_EQ(plan.mod_stpos, 2);
+    // The next leg still stands, one place further back.
+    InsertEntry(3, "LONER", true);
+    EXPECT_EQ(plan.pending_stpos, 2);
+    sequence_to(3);
+    EXPECT_EQ(plan.pending_stpos, 4);
+    ExecuteRoute();
+    EXPECT_EQ(plan.ActiveLeg.to, "CCC");
+    // The leg flown to has been taken out: the passed one is left behind all the same.
+    ConnectLegs(3, 4, kCaptain);
+    DeleteLegWithDiscontinuity(5, false, kCaptain);
+    OpenModification();
+    EXPECT_EQ(ModLegs(), "ORIG AAA BBFIX LONER CCC DISCO DEST");
+    sequence_to(5);
+    ExecuteRoute();
+    EXPECT_EQ(plan.ActiveLeg.to, "DEST");
+}
+
+TEST_F(RouteModel, SpeedsAndLevelsFollowAtExec) {
+    Enter("ORIG AAA DEST");
+    perf.climb_ias = perf.cruise_ias = perf.descent_ias = 280;
+    perf.cruise_mach_manual = 1;
+    perf.cruise_mach = 0.81;
+    perf.pending_cruise_alt = 35000;
+    perf.pending_step_size = -1;
+    perf.gross_weight = 400000;
+    perf.cruise_alt = 12000;  // of the flight before
+    std::string error;
+    ExecuteEnteredRoute(error);
+    // 280 kt at 30000 ft: 228.714 K, speed of sound 589.33 kt, and 1.54 x 280 of it.
+    EXPECT_NEAR(perf.climb_mach, 0.7317, 1e-4);
+    EXPECT_EQ(perf.cruise_mach, 0.81);
+    EXPECT_EQ(perf.cruise_alt, 35000);
+    EXPECT_EQ(perf.init_cruise_alt, 35000);
+    EXPECT_EQ(perf.fms_step_to_alt, 39000);
+    EXPECT_EQ(vnav.cross_at_elev, 35000);
+    perf.pending_cost_index = 100;
+    perf.pending_step_size = 7000;
+    AdvanceRouteState();
+    ExecuteRoute();
+    EXPECT_EQ(perf.cost_index, 100);
+    EXPECT_EQ(perf.cruise_mach_manual, 0);
+    EXPECT_EQ(perf.fms_step_to_alt, 0);  // 42000 is above the maximum of 41800
+    EXPECT_NEAR(perf.perf_factor, 10 * 0.0071 - 0.03, 1e-9);
+}
+
+TEST(StepToAltitude, TakesTheNextLevelOfItsKind) {
+    const struct {
+        double cruise;
+        int size;
+        double entered, step_to;
+    } kCases[] = {
+        {35000, 0, 0, 0},      {35000, 0, 37000, 37000}, {35000, -1, 0, 39000},   {39000, -2, 0, 41000},
+        {40000, -2, 0, 43000}, {41000, -2, 0, 45000},    {41001, -2, 0, 0},       {43000, -2, 0, 47000},
+        {49000, -2, 0, 53000}, {40999, -2, 0, 42999},    {33000, 3000, 0, 36000},
+    };
+    for (const auto& test : kCases)
+        EXPECT_EQ(StepToAltitude(test.cruise, test.size, test.entered), test.step_to)
+            << test.cruise << " " << test.size;
+}
+
+TEST_F(RouteModel, ANewOriginStartsANewRoute) {
+    EnterAndExecute("ORIG/34 AAA CCC DEST");
+    MarkHold(1, false, 0);
+    EXPECT_EQ(EnterOrigin("NONE"), 0);
+    EXPECT_EQ(plan.fms_fpln_active, kRouteActive);
+    EXPECT_EQ(EnterOrigin("DEST"), 1);
+    EXPECT_EQ(plan.fms_fpln_active, kRouteNone);
+    EXPECT_EQ(plan.stpos, kNoPlan);
+    EXPECT_EQ(plan.hold_cnt, 0);
+    EXPECT_EQ(plan.fp_cnt, 1);
+    EXPECT_EQ(plan.FlightPlan[0].ident, "DEST");
+    EXPECT_EQ(plan.ends.dep_runway, kNotSelected);
+    std::string error;
+    EXPECT_EQ(ExecuteEnteredRoute(error), 0);
+    EXPECT_FALSE(error.empty());
+    EXPECT_EQ(EnterDestination("ORIG"), 1);
+    EXPECT_EQ(plan.stpos, 1);
+    EXPECT_EQ(ExecuteEnteredRoute(error), 1);
+    EXPECT_EQ(ActiveLegs(), "DEST ORIG");
+    ClearFlightPlan();
+    EXPECT_EQ(plan.stpos, kNoPlan);
+    EXPECT_EQ(plan.fp_cnt, 0);
+    EXPECT_EQ(perf.clb_burn, 33000);
+    EXPECT_EQ(perf.crz_burn, 8500);
+    EXPECT_EQ(perf.des_burn, 3500);
+    EXPECT_EQ(perf.default_climb_rate, 3300);
+}
+
+TEST_F(RouteModel, OperationsAreCheckedBeforeTheyRun) {
+    Enter("ORIG AAA Q1 CCC DEST");
+    const struct {
+        const char *line, *answer;
+    } kCases[] = {
+        {"RemoveToRow", "wrong number of arguments, right is: RemoveToRow ROW"},
+        {"RemoveToRow 1 2", "wrong number of arguments, right is: RemoveToRow ROW"},
+        {"RemoveToRow x", "RemoveToRow: \"x\" isn't a number"},
+        {"InsertFixAt 1 99 0", "InsertFixAt: \"99\" isn't the number of a candidate"},
+        {"InsertFixAt 1 0 2", "InsertFixAt: \"2\" isn't 0 or 1"},
+        {"ConnectLegs 1 2 7", "ConnectLegs: \"7\" isn't a side, 1 or 2"},
+        {"LoadAirway Q1 2 NONE 1", "LoadAirway: \"NONE\" isn't a leg, by its number or ident"},
+        {"LoadAirway Q1 2 AAA 1", ""},
+        {"FindFixOnAirway CCC", "4"},
+        {"FindRouteFix 2 1", "4"},
+        {"  RebuildRouteRows ", ""},
+    };
+    for (const auto& test : kCases) EXPECT_EQ(Op(test.line), test.answer) << test.line;
+    EXPECT_EQ(Op("Nothing").substr(0, 38), "unknown operation \"Nothing\"; known are");
+    EXPECT_EQ(ModLegs(), "ORIG AAA AAFIX BBFIX CCC DEST");
+}
+
+// What must hold whatever the crew does.
+void ExpectInvariants(const std::string& after) {
+    for (const auto* list : {&plan.FlightPlan, &plan.FlightPlanMod}) {
+        const int count = list == &plan.FlightPlan ? plan.fp_cnt : plan.mod_cnt;
+        ASSERT_GE(count, 0) << after;
+        ASSERT_GE(list->size(), count + 2) << after;
+        for (int i = 1; i <= count; ++i)
+            ASSERT_FALSE(IsDisco((*list)[i]) && IsDisco((*list)[i - 1]))
+                << after << ": " << Idents(*list, count);
+        for (int i = count + 1; i < count + 3; ++i) ASSERT_TRUE((*list)[i].ident.empty()) << after;
+    }
+    for (int i = 0; i <= plan.fp_cnt; ++i) ASSERT_NE(plan.FlightPlan[i].ident, "THEN") << after;
+    ASSERT_LE(plan.hold_cnt, kMostHolds) << after;
+    for (int i = 1; i <= plan.hold_cnt; ++i) {
+        const int leg = HoldLegInModification(plan.HoldList[i]);
+        ASSERT_GE(leg, 1) << after;
+        ASSERT_LE(leg, plan.mod_cnt) << after;
+        ASSERT_LE(plan.HoldList[i].leg, plan.fp_cnt) << after;
+        ASSERT_EQ(plan.FlightPlanMod[leg].hold_pos, i) << after;
+        ASSERT_EQ(plan.FlightPlanMod[leg].ident, plan.HoldList[i].ident) << after;
+        const int before = i > 1 ? HoldLegInModification(plan.HoldList[i - 1]) : 0;
+        ASSERT_LT(before, leg) << after;
+    }
+    if (plan.fms_fpln_active >= kRouteActive) {
+        ASSERT_GE(plan.stpos, 1) << after;
+        ASSERT_LE(plan.stpos, plan.fp_cnt) << after;
+        ASSERT_GE(plan.mod_stpos, 1) << after;
+        ASSERT_LE(plan.mod_stpos, plan.mod_cnt) << after;
+    }
+    ASSERT_LE(plan.mod_bod_pos, plan.mod_cnt) << after;
+    const std::string rows = Rows();
+    RebuildRouteRows();
+    ASSERT_EQ(Rows(), rows) << after;
+}
+
+TEST_F(RouteModel, HoldsItsInvariantsUnderRandomEdits) {
+    std::mt19937 random(20261124);
+    const auto any = [&](int low, int high) {
+        return std::uniform_int_distribution(low, std::max(low, high))(random);
+    };
+    const char* const kEntries[] = {"AAA",     "CCC",   "DUPLE",           "LONER",         "CCC090/25",
+                                    "N45W120", "5060N", "N4130.5W00130.5", "EEE150/AAA060", "ORIG"};
+    const char* const kAirways[] = {"Q1", "Q2", "Q3", "NONE"};
+    Enter("ORIG AAA Q1 CCC Q2 EASTX DUPLE DEST");
+    for (int step = 0; step < 20000; ++step) {
+        const int leg = any(-1, plan.mod_cnt + 1), row = any(0, plan.route_cnt + 1);
+        std::string line;
+        switch (any(0, 17)) {
+            case 0:
+                ExecuteRoute();
+                line = "ExecuteRoute";
+                break;
+            case 1:
+                EraseModification();
+                line = "EraseModification";
+                break;
+            case 2:
+                line = "RemoveToRow";
+                RemoveToRow(row);
+                break;
+            case 3:
+                line = "RemoveViaRow";
+                RemoveViaRow(row);
+                break;
+            case 4:
+                line = "ConnectLegs";
+                ConnectLegs(leg, any(leg, plan.mod_cnt), 1);
+                break;
+            case 5:
+                line = "DeleteLeg";
+                DeleteLegWithDiscontinuity(leg, any(0, 4) == 0, 1);
+                OpenModification();
+                break;
+            case 6:
+            case 7:
+            case 8:
+                line = "InsertFixAt";
+                if (plan.mod_cnt < 40) InsertEntry(leg, kEntries[any(0, 9)], any(0, 1) == 1);
+                break;
+            case 9:
+                line = "along-track";
+                plan.along_track_nm = any(-20, 20);
+                if (plan.mod_cnt < 40) InsertFixAt(leg, 0, true);
+                plan.along_track_nm = 0;
+                break;
+            case 10:
+                line = "MarkHold";
+                MarkHold(leg, false, leg - 1);
+                break;
+            case 11:
+                line = "RemoveHold";
+                RemoveHold(leg);
+                break;
+            case 12:
+                line = "airway";
+                LoadAirway(kAirways[any(0, 3)], row, leg, 1);
+                if (plan.mod_cnt > 40) break;
+                if (any(0, 1) == 1 && plan.awy_list_cnt > 0)
+                    InsertAirwayPlaceholder(plan.awy_start_leg + 1, plan.awy_name);
+                InsertAirwaySegment(any(0, plan.awy_list_cnt + 1));
+                OpenModification();
+                break;
+            case 13:
+                line = "NormalizeLegs";
+                NormalizeLegs();
+                break;
+            case 14:
+                line = "InsertDirectRow";
+                ParseEntry(kEntries[any(0, 9)]);
+                if (plan.mod_cnt < 40) InsertDirectRow(any(0, 2), row);
+                break;
+            case 15:
+                line = "EnterDestination";
+                if (any(0, 9) == 0) EnterDestination(any(0, 1) == 1 ? "DEST" : "ALTN");
+                break;
+            case 16:
+                line = "sequence";
+                if (plan.fms_fpln_active >= kRouteActive && plan.stpos < plan.fp_cnt) {
+                    ++plan.stpos;
+                    if (IsDisco(plan.FlightPlan[plan.stpos])) ++plan.stpos;
+                    FollowSequencing();
+                }
+                break;
+            case 17:
+                line = "EnterOrigin";
+                if (any(0, 99) == 0) EnterOrigin("ORIG");
+                if (any(0, 299) == 0) ClearFlightPlan();
+                if (plan.mod_cnt < 1) Enter("ORIG AAA Q1 CCC Q2 EASTX DUPLE DEST");
+                break;
+        }
+        line +=
+            " at " + std::to_string(leg) + ", row " + std::to_string(row) + ", step " + std::to_string(step);
+        ASSERT_NO_FATAL_FAILURE(ExpectInvariants(line));
+    }
+}
+
+}  // namespace
