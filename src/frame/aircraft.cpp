@@ -123,12 +123,19 @@ void DetectHost() {
 }
 
 void ReadAircraftTitle() {
-    identity.aircraft = EvalCalcText("(A:TITLE,string)");
-    LowerCase(identity.aircraft);
+    std::string title = EvalCalcText("(A:TITLE,string)");
+    LowerCase(title);
+    // Another aircraft of the family has been loaded: what is known of the last one no longer holds.
+    if (title != identity.aircraft) {
+        const int attempts = identity.identify_attempts;
+        identity = {};
+        identity.aircraft = title;
+        identity.identify_attempts = attempts;
+    }
     identity.registration = EvalCalcText("(A:ATC ID,string)");
 }
 
-bool IdentifyAircraft() {
+bool ScanAircraftCfg() {
     if (identity.aircraft.empty()) return false;
     const std::string folder = cfg.simver == 9 ? "\\Aircraft\\" : "\\SimObjects\\Airplanes\\";
     int airframes = 0;

@@ -9,6 +9,7 @@
 #include "state/cfg.h"
 #include "state/perf.h"
 #include "state/sim.h"
+#include "state/sound.h"
 #include "state/time_base.h"
 
 namespace {
@@ -247,6 +248,7 @@ void ReadRestOfSnapshot() {
     sim.adf2_radial = EvalCalc("(A:ADF RADIAL:2,degrees)");
     sim.host_tas_kt = EvalCalc("(A:AIRSPEED TRUE, knots)");
     sim.accel_z = EvalCalc("(A:ACCELERATION BODY Z,Feet per second squared)");
+    sound.slew_active = EvalCalc("(A:IS SLEW ACTIVE,bool)") != 0 ? 1 : 0;
     sim.utc_hours = WholeToken(kTokenUtcHour);
     sim.utc_minutes = WholeToken(kTokenUtcMinute);
 }

@@ -67,11 +67,8 @@ void ConnectToWindow() {
     if (cfg.simver == 0) DetectHost();
     if (module_life.kill_pending == 1) Teardown();
     EnsureRegistered();
-    const std::string previous = identity.aircraft;
     ReadAircraftTitle();
-    // Another aircraft of the family has been loaded: what is known of the last one no longer holds.
-    if (identity.aircraft != previous) identity.aircraft_identified = 0;
-    if (identity.aircraft_identified == 0) IdentifyAircraft();
+    if (identity.aircraft_identified == 0) ScanAircraftCfg();
 }
 
 }  // namespace

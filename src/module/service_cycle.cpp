@@ -46,7 +46,7 @@ void IdentifyLateAircraft() {
     if (identity.aircraft_identified == 1 || identity.identify_attempts >= kMaxIdentifyAttempts) return;
     ++identity.identify_attempts;
     ReadAircraftTitle();
-    IdentifyAircraft();
+    ScanAircraftCfg();
 }
 
 }  // namespace

@@ -5,7 +5,7 @@
 
 #include "state/variable.h"
 
-/// Which aircraft the module sits in. Filled by IdentifyAircraft; empty texts = not known.
+/// Which aircraft the module sits in. Filled by ScanAircraftCfg; empty texts = not known.
 struct AircraftIdentity {
     std::string aircraft;              // title of the loaded aircraft, lower case
     std::string registration;          // as the host has it

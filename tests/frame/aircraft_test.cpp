@@ -37,7 +37,7 @@ panel=hires
 std::string Identify(const char* title) {
     identity = {};
     identity.aircraft = title;
-    if (!IdentifyAircraft()) return "not found";
+    if (!ScanAircraftCfg()) return "not found";
     return identity.aircraft_model + "," + identity.aircraft_sim_name + "," + identity.engine_model + "," +
            identity.airline_code + "," + identity.airline_voice_folder + "," +
            std::to_string(identity.panel_hires);

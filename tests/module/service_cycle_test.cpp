@@ -360,6 +360,9 @@ TEST(ServiceCycle, TeardownAndReconnectKeepConfigurationAndNavigationData) {
     EXPECT_EQ(cfg.AccelHt, 1500);  // not read again
     EXPECT_EQ(module_life.startup_done, 1);
     EXPECT_EQ(host.key_hooks.size(), 1u);
+    host.calc_texts["(A:TITLE,string)"] = "Something else";
+    sim_host.Serve(kServiceConnectToWindow);
+    EXPECT_EQ(identity.aircraft_model, "");  // not that of the aircraft before
     ModuleDeinit();
     EXPECT_TRUE(host.key_hooks.empty());
     EXPECT_EQ(host.timer_period, 0);
