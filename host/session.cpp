@@ -10,6 +10,7 @@
 
 #include "host/module_library.h"
 #include "host/root_folder.h"
+#include "host/world/cockpit_model.h"
 #include "host/world/terrain.h"
 #include "host/world/world.h"
 
@@ -67,6 +68,7 @@ bool PrepareSession(Session& session, std::string& error) {
         error = "no Aircraft.cfg under the root has the title \"" + settings.title + "\"";
         return false;
     }
+    CreateCockpitModel();
     world.root = settings.root;
     world.app_data = settings.root;
     world.navdata = settings.navdata;
