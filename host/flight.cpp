@@ -1,5 +1,6 @@
 #include "host/flight.h"
 
+#include <cmath>
 #include <string_view>
 
 #include "host/aircraft/magnetic_variation.h"
@@ -34,6 +35,15 @@ void ApplyOutsideTemperature() {
     aircraft.air.isa_deviation = *flight.outside_c + kZeroCelsius - Temperature(altitude, aircraft.air);
 }
 
+// The mode control panel's windows open at what the aircraft does.
+void SetPanelWindows(const Placement& placement) {
+    constexpr double kStandingSpeed = 200;
+    SetToken(116, placement.ias > 0 ? std::round(placement.ias) : kStandingSpeed);
+    SetToken(107, std::round(placement.heading));
+    SetToken(120, 0);
+    SetCalc("(A:AUTOPILOT ALTITUDE LOCK VAR, feet)", std::round(placement.alt_ft / 100) * 100);
+}
+
 void FollowTerrain() {
     Aircraft& aircraft = flight.aircraft;
     constexpr double kHigh = 5000;  // above it the ground is looked at once a second
@@ -60,6 +70,7 @@ void PlaceAircraft(const Placement& placement) {
     flight.autoflight.smooth_ias = 0;
     SetToken(kTokenBaro, placement.alt_ft < kTransitionAltitude ? aircraft.air.qnh : kStandardHpa);
     FillTokens(aircraft);
+    SetPanelWindows(placement);
     SetToken(328, 0);
     SetToken(331, aircraft.controls.gear);
 }

@@ -54,7 +54,6 @@ bool IsNeedleAlive(double needle) {
 }
 
 void EngageOrArmLnav(AutoflightLogic& logic, const FlightValues& now) {
-    if (!HasLnavHeading()) return;
     const bool near_leg = std::fabs(NamedValue("xtk_err_dist")) <= kLnavCaptureNm;
     if (near_leg && !now.on_ground && now.radio_altitude > kLnavEngageFt) {
         logic.lateral = kLnav;
@@ -75,7 +74,8 @@ void TakeRequest(AutoflightLogic& logic, const FlightValues& now) {
     logic.lnav_request = request;
     switch (request) {
         case kLnav:
-            if (last != kLnav) EngageOrArmLnav(logic, now);
+            if (!HasLnavHeading()) return;  // it waits until guidance has published the route
+            if (logic.lateral != kLnav) EngageOrArmLnav(logic, now);
             break;
         case kHeadingSelect:
             SelectDirection(logic);
@@ -102,7 +102,7 @@ void TakeRequest(AutoflightLogic& logic, const FlightValues& now) {
 }
 
 void CaptureArmedMode(AutoflightLogic& logic, const FlightValues& now) {
-    if (logic.lateral_armed == kLnav) EngageOrArmLnav(logic, now);
+    if (logic.lateral_armed == kLnav && HasLnavHeading()) EngageOrArmLnav(logic, now);
     if (logic.lateral_armed == kLocalizer && IsLocalizerReceived() && IsNeedleAlive(TokenOf(40))) {
         logic.lateral = kLocalizer;
         logic.lateral_armed = kLateralNone;
@@ -111,6 +111,14 @@ void CaptureArmedMode(AutoflightLogic& logic, const FlightValues& now) {
         logic.lateral = kFinalApproachCourse;
         logic.lateral_armed = kLateralNone;
     }
+}
+
+// The route is gone.
+void DropLnav(AutoflightLogic& logic, const FlightValues& now) {
+    if (logic.lateral != kLnav && logic.lateral_armed != kLnav) return;
+    if (logic.lateral == kLnav) HoldDirection(logic, now);
+    if (logic.lateral_armed == kLnav) logic.lateral_armed = kLateralNone;
+    SetNamedValue("ap_lat_mode_clicked", kLateralNone);
 }
 
 }  // namespace
@@ -127,7 +135,7 @@ void HoldDirection(AutoflightLogic& logic, const FlightValues& now) {
 void UpdateLateralMode(AutoflightLogic& logic, const FlightValues& now) {
     TakeRequest(logic, now);
     CaptureArmedMode(logic, now);
-    if (logic.lateral == kLnav && !HasLnavHeading()) HoldDirection(logic, now);
+    if (!HasLnavHeading()) DropLnav(logic, now);
     if (logic.lateral == kLocalizer && now.on_ground) logic.lateral = kRollout;
     // The panel may turn its window from heading to track.
     if (logic.lateral == kHeadingSelect || logic.lateral == kTrackSelect)

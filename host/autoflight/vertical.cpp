@@ -80,8 +80,12 @@ double SelectedAltitude() {
 }
 
 double SelectedSpeed(const FlightValues& now) {
-    if (NamedValue("tz_mach_status") == 1 && now.mach > 0.3) return now.ias * TokenOf(118) / now.mach;
-    return TokenOf(116);
+    const bool mach_window = NamedValue("tz_mach_status") == 1 && now.mach > 0.3;
+    const double window = mach_window ? now.ias * TokenOf(118) / now.mach : TokenOf(116);
+    constexpr double kMostMach = 0.89;
+    const double fastest =
+        now.mach > 0.3 ? std::min(NamedValue("TZ_V_MO"), now.ias * kMostMach / now.mach) : 360;
+    return std::max(std::min(window, fastest), NamedValue("TZ_V_A"));
 }
 
 void UpdateVerticalMode(AutoflightLogic& logic, const FlightValues& now) {

@@ -14,7 +14,8 @@ double VerticalPath(const AutoflightLogic& logic, const FlightValues& now, doubl
 /// The altitude of the panel's window, ft.
 double SelectedAltitude();
 
-/// The speed of the panel's window as knots IAS at this height, a Mach window included.
+/// The speed of the panel's window as knots IAS at this height, a Mach window included, within what the
+/// aircraft can fly.
 double SelectedSpeed(const FlightValues& now);
 
 }  // namespace host
