@@ -1,5 +1,6 @@
 #include "module/main_update.h"
 
+#include "fmc/flight_log.h"
 #include "frame/aircraft.h"
 #include "frame/key_events.h"
 #include "frame/snapshot.h"
@@ -105,5 +106,6 @@ void MainUpdate() {
     ReadSimRate();
     ActAtTopOfDescent();
     ActNearDestination();
+    FlightLogStep(false);
     SetDecisionHeight();
 }
