@@ -1,6 +1,10 @@
 #include "navdata/nearest.h"
 
+#include <array>
 #include <cmath>
+#include <string>
+#include <tuple>
+#include <utility>
 
 #include "navdata/geodesy.h"
 #include "navdata/vor_autotune.h"
@@ -19,17 +23,28 @@ bool HasMoved(const NearList<Row>& list, double lat, double lon, double limit_nm
     return list.built == 0 || GreatCircle(list.lat, list.lon, lat, lon).dist > limit_nm;
 }
 
-// Takes the rows of `source` within a radius that `wanted` accepts. The latitude sifts nine rows out of ten
-// before any trigonometry.
+// Half the width, in degrees of longitude, of a circle on the sphere; 180 when it holds a pole.
+double HalfWidthInLongitude(double lat, double radius_deg) {
+    if (std::fabs(lat) + radius_deg >= 89.9) return 180;
+    return std::asin(std::sin(radius_deg * kRadPerDeg) / std::cos(lat * kRadPerDeg)) * kDegPerRad;
+}
+
+// Takes the rows of `source` within a radius that `wanted` accepts. The circle's box sifts most rows before
+// any trigonometry.
 template <class Row, class Wanted>
 void Rebuild(NearList<Row>& list, const GrowingList<Row>& source, int source_cnt, double lat, double lon,
              double radius_nm, Wanted wanted) {
-    const double lat_band = radius_nm / 60 + 0.01;
+    constexpr double kMargin = 0.01;
+    const double lat_band = radius_nm / 60 + kMargin;
+    const double lon_band = HalfWidthInLongitude(lat, lat_band) + kMargin;
     list.cnt = 0;
     for (int i = 1; i <= source_cnt; ++i) {
         const Row& row = source[i];
-        if (std::fabs(row.lat - lat) > lat_band || !wanted(row)) continue;
-        if (GreatCircle(lat, lon, row.lat, row.lon).dist <= radius_nm) list.rows[++list.cnt] = row;
+        if (std::fabs(row.lat - lat) > lat_band) continue;
+        const double lon_diff = std::fabs(row.lon - lon);
+        if (lon_diff > lon_band && lon_diff < 360 - lon_band) continue;
+        if (!wanted(row) || GreatCircle(lat, lon, row.lat, row.lon).dist > radius_nm) continue;
+        list.rows[++list.cnt] = row;
     }
     list.lat = lat;
     list.lon = lon;
@@ -59,30 +74,29 @@ void Forget(NearListPair<Row>& pair) {
     pair.far.built = pair.near.built = 0;
 }
 
-double AlternateDistance(const AltnRecord& row) {
-    constexpr double kEmptyRowNm = 99999;
-    return row.lat == 0 ? kEmptyRowNm : GreatCircle(sim.plane_lat, sim.plane_lon, row.lat, row.lon).dist;
-}
+// A row of the alternates with its distance from the aircraft.
+struct Alternate {
+    AltnRecord record;
+    double dist = 99999;  // nm; that of an empty row
+};
+using Alternates = std::array<Alternate, std::tuple_size_v<decltype(nearest.AltnRows)>>;
 
-// Puts an airport into the row and moves what stood there, and behind, one free row down.
-void InsertAlternate(std::size_t at, AltnRecord record) {
-    for (std::size_t i = at; i < nearest.AltnRows.size(); ++i)
-        if (nearest.AltnRows[i].fixed == 0) std::swap(nearest.AltnRows[i], record);
-}
-
-void OfferAlternate(const AirportRow& airport) {
+bool MayBeAlternate(const AirportRow& airport) {
     constexpr double kMinRunwayFt = 4800;
-    if (airport.longest_runway < kMinRunwayFt) return;
-    if (airport.ident == airports.origin_airport.ident || airport.ident == airports.dest_airport.ident)
-        return;
-    for (std::size_t i = 1; i < nearest.AltnRows.size(); ++i)
-        if (nearest.AltnRows[i].ident == airport.ident && nearest.AltnRows[i].lat == airport.lat) return;
+    return airport.longest_runway >= kMinRunwayFt && airport.ident != airports.origin_airport.ident &&
+           airport.ident != airports.dest_airport.ident;
+}
+
+// Puts an airport before the first free row that is farther; what stood there, and behind, moves one free row
+// down.
+void OfferAlternate(Alternates& rows, const AirportRow& airport) {
     const double dist = GreatCircle(sim.plane_lat, sim.plane_lon, airport.lat, airport.lon).dist;
-    for (std::size_t i = 1; i < nearest.AltnRows.size(); ++i) {
-        const AltnRecord& row = nearest.AltnRows[i];
-        if (row.fixed != 0 || AlternateDistance(row) <= dist) continue;
-        return InsertAlternate(i, {std::string(airport.ident), airport.lat, airport.lon, 0, {}});
-    }
+    if (dist >= rows.back().dist && rows.back().record.fixed == 0) return;
+    for (const Alternate& row : rows)
+        if (row.record.ident == airport.ident && row.record.lat == airport.lat) return;
+    Alternate moved{{std::string(airport.ident), airport.lat, airport.lon, 0, {}}, dist};
+    for (std::size_t i = 1; i < rows.size(); ++i)
+        if (rows[i].record.fixed == 0 && rows[i].dist > moved.dist) std::swap(rows[i], moved);
 }
 
 }  // namespace
@@ -100,9 +114,14 @@ bool NearNavaids(double lat, double lon) {
 }
 
 void BuildAltnList() {
-    for (AltnRecord& row : nearest.AltnRows)
-        if (row.fixed == 0) row = {};
-    for (int i = 1; i <= nearest.airports.far.cnt; ++i) OfferAlternate(nearest.airports.far.rows[i]);
+    Alternates rows;
+    for (std::size_t i = 1; i < rows.size(); ++i)
+        if (nearest.AltnRows[i].fixed != 0) rows[i].record = nearest.AltnRows[i];
+    for (int i = 1; i <= nearest.airports.far.cnt; ++i) {
+        const AirportRow& airport = std::as_const(nearest.airports.far.rows)[i];
+        if (MayBeAlternate(airport)) OfferAlternate(rows, airport);
+    }
+    for (std::size_t i = 1; i < rows.size(); ++i) nearest.AltnRows[i] = std::move(rows[i].record);
 }
 
 void RefreshNearest() {

@@ -10,6 +10,7 @@
 #include "navdata/geodesy.h"
 #include "navdata/nav_tables.h"
 #include "state/plan.h"
+#include "support/paths.h"
 #include "support/world_navdata.h"
 
 // Real routes must enter as they are filed: every fix known, every airway joined, no absurd turn.
@@ -42,7 +43,7 @@ TEST(RealRoutes, FiftyJoinOnWorldData) {
     FakeHost host;
     if (!UseWorldNavdata(host)) GTEST_SKIP() << "no world navigation data";
     LoadNavTables();
-    std::ifstream file(TZ900_SOURCE_DIR "/tests/world/routes_world.txt");
+    std::ifstream file(SourceDir() + "/tests/world/routes_world.txt");
     int routes = 0, date_line = 0, polar = 0;
     for (std::string line; std::getline(file, line);) {
         if (line.empty() || line[0] == '#') continue;
@@ -68,7 +69,7 @@ TEST(RealRoutes, FiftyJoinOnWorldData) {
 // Those that the demonstration's README offers for a try.
 TEST(RealRoutes, TheDemonstrationsOwnJoin) {
     FakeHost host;
-    const std::string root = TZ900_SOURCE_DIR "/data/root";
+    const std::string root = SourceDir() + "/data/root";
     std::filesystem::copy(root, host.root, std::filesystem::copy_options::recursive);
     LoadNavTables();
     std::ifstream readme(root + "/README");
