@@ -77,10 +77,12 @@ void SwitchAutothrottleArm() {
     WriteNamedVar(NamedVar("at_armed_right"), armed);
 }
 
+// The host carries events out on a later tick; the window moves at once, so that quick turns add up.
 void TurnHeading(int detents) {
     const bool engaged = autoflight.ap_master_l != 0 || autoflight.ap_master_r != 0;
     if (engaged && autoflight.ap_lat_mode == kModeLnav) return;
-    SendKeyEvent(kEventHeadingSet, static_cast<int>(std::lround(FoldBearing(sim.ap_hdgbug + detents))) % 360);
+    sim.ap_hdgbug = FoldBearing(sim.ap_hdgbug + detents);
+    SendKeyEvent(kEventHeadingSet, static_cast<int>(std::lround(sim.ap_hdgbug)) % 360);
 }
 
 void TurnVerticalSpeedWheel(int detents) {
@@ -123,8 +125,9 @@ bool TurnMcpKnob(std::string_view name, int detents) {
     }
     for (const Knob& knob : kKnobs) {
         if (knob.name != name) continue;
-        const double value = std::clamp(sim.*knob.shown + detents * knob.step, knob.low, knob.high);
-        SendKeyEvent(knob.event, static_cast<int>(std::lround(value)));
+        double& shown = sim.*knob.shown;
+        shown = std::clamp(shown + detents * knob.step, knob.low, knob.high);
+        SendKeyEvent(knob.event, static_cast<int>(std::lround(shown)));
         return true;
     }
     return false;

@@ -212,6 +212,10 @@ TEST_F(McpTest, KnobsStopAtTheirLimits) {
         EXPECT_TRUE(TurnMcpKnob(row.knob, row.detents));
         EXPECT_EQ(host.events, row.events) << row.knob << row.detents;
     }
+    host.events.clear();
+    sim.ap_spdbug = 250;
+    for (int i = 0; i < 3; ++i) TurnMcpKnob("spd", 1);  // within one tick
+    EXPECT_EQ(host.events.back(), std::pair(66037, 253));
     // LNAV under an engaged autopilot keeps the heading window
     autoflight.ap_master_l = 1;
     autoflight.ap_lat_mode = 6;
