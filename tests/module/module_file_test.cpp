@@ -10,6 +10,7 @@
 #include <iterator>
 #include <set>
 #include <string>
+#include <vector>
 
 #include "frame/tokens.h"
 #include "module/linkage.h"
@@ -46,8 +47,31 @@ std::set<std::string> ExportedSymbols(const std::string& path) {
     return names;
 }
 
-// Loads the module into the fake simulator, starts it, runs it past its start and disconnects it.
-void LoadRunUnload(FakeHost& host) {
+// Every variable of the module with its value, a line each.
+std::string AllVariables(const InspectionTable& table) {
+    std::vector<std::string> names;
+    table.list_variables(
+        "",
+        [](void* list, const char* name, const char*) {
+            static_cast<std::vector<std::string>*>(list)->emplace_back(name);
+        },
+        &names);
+    std::string text;
+    for (const std::string& name : names)
+        table.read_variable(
+            name.c_str(),
+            [](void* all, const char* path, const char* value) {
+                static_cast<std::string*>(all)->append(path).append("=").append(value).append("\n");
+            },
+            &text);
+    return text;
+}
+
+// Loads the module into the fake simulator, starts it, runs it past its start and disconnects it. Gives the
+// state that it ran in.
+void LoadRunUnload(FakeHost& host, std::string& state) {
+    host.tokens[kTokenTick18] = 1000;
+    host.tokens[kTokenAbsoluteTime] = 1e9;
     void* library = dlopen(kModuleFile.c_str(), RTLD_NOW | RTLD_LOCAL);
     ASSERT_NE(library, nullptr) << dlerror();
     auto* imports = static_cast<ModuleImports*>(dlsym(library, "ImportTable"));
@@ -67,6 +91,7 @@ void LoadRunUnload(FakeHost& host) {
         linkage->gauges[0].service(&server, kServicePreKill);
         linkage->gauges[0].service(&server, kServiceDisconnect);
     }
+    state = AllVariables(*linkage->inspection);
     linkage->module_deinit();
     dlclose(library);
     EXPECT_EQ(dlopen(kModuleFile.c_str(), RTLD_NOW | RTLD_NOLOAD), nullptr) << "the module has not left";
@@ -78,12 +103,15 @@ TEST(ModuleFile, ExportsTwoSymbols) {
 
 TEST(ModuleFile, ComesAndGoesAHundredTimesWithoutATrace) {
     FakeHost host;
-    host.tokens[kTokenAbsoluteTime] = 1e9;
     host.PutFile("Velarion/tz900.cfg", "AccelHt=1000\n");
     host.PutFile("Velarion/TZ900/Navdata/ints.txt", "ABC 47.5 -122.5\n");
     std::size_t settled = 0;
+    std::string first_state;
     for (int time = 0; time < 100; ++time) {
-        LoadRunUnload(host);
+        std::string state;
+        LoadRunUnload(host, state);
+        if (time == 0) first_state = state;
+        EXPECT_EQ(state, first_state) << "at time " << time;
         EXPECT_TRUE(host.key_hooks.empty());
         EXPECT_EQ(host.sim_handler, nullptr);
         host.events.clear();
