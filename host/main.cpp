@@ -1,6 +1,7 @@
 #include <CLI/CLI.hpp>
 #include <iostream>
 
+#include "host/fly/fly.h"
 #include "host/scenario/scenario.h"
 
 int main(int argc, char** argv) {
@@ -12,7 +13,19 @@ int main(int argc, char** argv) {
     run->add_option("FILE", files, "scenario files in turn; - is standard input")->required();
     run->footer(host::ScenarioHelp());
 
+    host::FlyOptions fly_options;
+    fly_options.demo_root = TZ900_DEMO_ROOT;
+    CLI::App* fly = app.add_subcommand("fly", "Fly a route from fix to fix and print the flight log");
+    fly->add_flag("--headless", fly_options.headless, "as fast as the machine allows, to the end");
+    fly->add_option("--rate", fly_options.rate, "times real time")->check(CLI::Range(0.1, 64.0));
+    fly->add_option("--route", fly_options.route, "a filed route text instead of the demonstration's");
+    fly->add_option("--root", fly_options.root, "the simulator's root folder")->check(CLI::ExistingDirectory);
+    fly->add_option("--navdata", fly_options.navdata, "the navigation data folder")
+        ->check(CLI::ExistingDirectory);
+    fly->add_option("--aircraft", fly_options.aircraft, "the title of an aircraft under the root");
+
     CLI11_PARSE(app, argc, argv);
+    if (*fly) return host::Fly(fly_options);
     std::ios::sync_with_stdio(false);
     return host::RunScenarioFiles(files, TZ900_DEMO_ROOT);
 }

@@ -112,6 +112,19 @@ void TickSession(Session& session, bool paused_frame) {
     CallAll(session, kServicePreUpdate);
 }
 
+bool PressMouseArea(Session& session, const std::string& gauge, const std::string& area, bool right) {
+    for (PanelGauge& panel : session.gauges) {
+        const GaugeHeader& header = *panel.instance.gauge;
+        if (gauge != header.name) continue;
+        for (int i = 0; i < header.mouse_count; ++i) {
+            if (area != header.mouse[i].name) continue;
+            header.mouse[i].callback(&panel.instance, right ? kMouseRightSingle : kMouseLeftSingle);
+            return true;
+        }
+    }
+    return false;
+}
+
 void StopSession(Session& session) {
     if (session.linkage != nullptr) {
         CallAll(session, kServicePreKill);

@@ -1,4 +1,5 @@
 #include <chrono>
+#include <cstdlib>
 #include <filesystem>
 
 #include "host/root_folder.h"
@@ -115,6 +116,26 @@ void Warp(Scenario&, const std::vector<Word>& words) {
     FillClockTokens();
 }
 
+// A button by its name, a bar by "up" or "down", a knob by detents: ten of them are one big step.
+void Mcp(Scenario& scenario, const std::vector<Word>& words) {
+    const std::string control = words[1].text;
+    const auto press = [&](const std::string& area) { return PressMouseArea(scenario.session, "MCP", area); };
+    if (words.size() == 2) {
+        if (!press(control)) throw CommandError{"the MCP has no button \"" + control + "\""};
+        return;
+    }
+    if (control == "alt" && words[2].text == "push") throw CommandError{"not available yet"};
+    if (words[2].text == "up" || words[2].text == "down") {
+        if (!press(control + ' ' + words[2].text)) throw CommandError{"only the bar moves up and down"};
+        return;
+    }
+    const int detents = IntWord(words[2], "a number of detents");
+    const bool big = detents % 10 == 0;
+    const std::string area = control + (detents < 0 ? " -" : " +") + (big ? "10" : "1");
+    for (int left = std::abs(big ? detents / 10 : detents); left > 0; --left)
+        if (!press(area)) throw CommandError{"the MCP has no knob \"" + control + "\"; spd hdg alt vswheel"};
+}
+
 void NotYet(Scenario&, const std::vector<Word>&) {
     throw CommandError{"not available yet"};
 }
@@ -136,7 +157,7 @@ std::vector<Command> HostSideCommands() {
         {"route", "\"ORIG[/RWY] FIX AIRWAY FIX ... DEST[/RWY]\"", "route \"KSEA BTG J1 OED KSFO\"",
          Command::kAfter, 1, 1, Route},
         {"exec", "", "exec", Command::kAfter, 0, 0, Exec},
-        {"mcp", "CONTROL [N|up|down]", "", Command::kAfter, 1, 2, NotYet},
+        {"mcp", "CONTROL [N|up|down]", "mcp hdg 10", Command::kAfter, 1, 2, Mcp},
         {"age", "FILE HOURS", "age Velarion/tz900.cfg 24", Command::kAfter, 2, 2, Age},
         {"efb", "L|R X Y", "", Command::kAnytime, 3, 3, NotYet},
         {"terrain", "flat METRES | model", "terrain flat 100", Command::kAnytime, 1, 2, Terrain},
