@@ -35,14 +35,14 @@ void PlaceGauges(Session& session) {
     }
 }
 
-void CallAll(Session& session, int service) {
+}  // namespace
+
+void CallGauges(Session& session, int service) {
     for (PanelGauge& gauge : session.gauges) {
         if (gauge.in_2d_panel && !world.windows[kMainPanelWindow]) continue;
         if (gauge.instance.gauge->service != nullptr) gauge.instance.gauge->service(&gauge.instance, service);
     }
 }
-
-}  // namespace
 
 bool PrepareSession(Session& session, std::string& error) {
     SessionSettings& settings = session.settings;
@@ -99,7 +99,7 @@ bool StartSession(Session& session, std::string& error) {
     PlaceGauges(session);
     for (const int service : {kServiceConnectToWindow, kServicePreInstall, kServicePostInstall,
                               kServicePreInitialize, kServicePostInitialize, kServicePreUpdate})
-        CallAll(session, service);
+        CallGauges(session, service);
     return true;
 }
 
@@ -109,7 +109,7 @@ void TickSession(Session& session, bool paused_frame) {
         AdvanceClock();
         StepFlight(session.settings.fdm);
     }
-    CallAll(session, kServicePreUpdate);
+    CallGauges(session, kServicePreUpdate);
 }
 
 bool PressMouseArea(Session& session, const std::string& gauge, const std::string& area, bool right) {
@@ -127,8 +127,8 @@ bool PressMouseArea(Session& session, const std::string& gauge, const std::strin
 
 void StopSession(Session& session) {
     if (session.linkage != nullptr) {
-        CallAll(session, kServicePreKill);
-        CallAll(session, kServiceDisconnect);
+        CallGauges(session, kServicePreKill);
+        CallGauges(session, kServiceDisconnect);
         session.linkage->module_deinit();
         session.linkage = nullptr;
         UnloadModule(session.library);

@@ -52,6 +52,9 @@ std::string AirportsFile(const SessionSettings& settings);
 /// One pre-update call of each gauge; the 18 Hz counter moves by one, or stands still in a paused frame.
 void TickSession(Session& session, bool paused_frame);
 
+/// One service call of every gauge that is on a panel now.
+void CallGauges(Session& session, int service);
+
 /// Presses a mouse area of a gauge by its name. False when there is no such gauge or area.
 bool PressMouseArea(Session& session, const std::string& gauge, const std::string& area, bool right = false);
 
