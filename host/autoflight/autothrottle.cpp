@@ -28,7 +28,9 @@ void UpdateThrottleMode(AutoflightLogic& logic, const FlightValues& now) {
     }
     if (request == kRequestThrustReference) logic.throttle = kThrustReference;
     if (request == kRequestSpeed) logic.throttle = kSpeed;
-    if (logic.throttle == kThrottleNone || now.on_ground) return;
+    // A level change wakes an armed autothrottle.
+    const bool woken = logic.throttle != kThrottleNone || logic.vertical == kFlightLevelChange;
+    if (!woken || now.on_ground) return;
     // In the air the pitch mode decides: pitch holds the speed, then thrust is fixed; else thrust holds it.
     if (logic.vertical == kFlightLevelChange)
         logic.throttle = SelectedAltitude() > now.altitude ? kThrust : kIdle;
