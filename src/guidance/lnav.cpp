@@ -6,6 +6,7 @@
 #include "fmc/holds.h"
 #include "fmc/path.h"
 #include "fmc/vertical_segment.h"
+#include "frame/key_events.h"
 #include "frame/named_variables.h"
 #include "guidance/holds.h"
 #include "guidance/sequencing.h"
@@ -20,7 +21,6 @@
 
 namespace {
 
-constexpr int kEventHeadingBugSet = 0x101fa;
 constexpr int kForcedPassPhase = 8;
 constexpr double kSequenceNow = -1;  // of wpt_dist
 constexpr double kAirborneFt = 400;  // radio altitude below which the plan stands still
@@ -219,7 +219,7 @@ void SendHeadingToHost() {
         return;
     if (lnav.fms_hdg == lnav.sent_fms_hdg) return;
     lnav.sent_fms_hdg = lnav.fms_hdg;
-    SendKeyEvent(kEventHeadingBugSet, static_cast<int>(std::lround(lnav.fms_hdg)));
+    SendKeyEvent(kKeyHeadingSet, static_cast<int>(std::lround(lnav.fms_hdg)));
 }
 
 void RunPass(bool overflown) {

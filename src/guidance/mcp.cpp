@@ -5,7 +5,9 @@
 #include <cstdlib>
 
 #include "fmc/path.h"
+#include "frame/key_events.h"
 #include "frame/named_variables.h"
+#include "frame/tokens.h"
 #include "platform/host.h"
 #include "state/autoflight.h"
 #include "state/cfg.h"
@@ -17,8 +19,6 @@ namespace {
 
 constexpr int kModeLnav = 6;
 constexpr int kPfcDisconnected = 4;
-constexpr int kEventAutothrottleArm = 0x10144;
-constexpr int kTokenAutothrottleArmed = 123;
 
 struct Button {
     std::string_view name;
@@ -36,18 +36,18 @@ constexpr NamedVarRef kAutopilot = NamedVar("TZ_MCP_L_AP_Button");
 
 constexpr Button kButtons[] = {
     {"lnav", kLateral, kModeLnav, 10},
-    {"hdgsel", kLateral, 3, 15, 0x100bd, &ConfigState::LnavDefAp},
-    {"hdghold", kLateral, 2, 15, 0x100bd, &ConfigState::LnavDefAp},
+    {"hdgsel", kLateral, 3, 15, kKeyHeadingHold, &ConfigState::LnavDefAp},
+    {"hdghold", kLateral, 2, 15, kKeyHeadingHold, &ConfigState::LnavDefAp},
     {"loc", kLateral, 7, 15},
     {"vnav", kVertical, 5, 15},
     {"flch", kVertical, 4, 15},
     {"vs", kVertical, 2, 15},
-    {"althold", kVertical, 1, 15, 0x100be, &ConfigState::LnavDefAp},
-    {"app", kVertical, 10, 15, 0x100bc, &ConfigState::LnavDefAp},
-    {"at", kThrust, 1, 10, 0x10143, &ConfigState::RealismMode},
+    {"althold", kVertical, 1, 15, kKeyAltitudeHold, &ConfigState::LnavDefAp},
+    {"app", kVertical, 10, 15, kKeyApproachHold, &ConfigState::LnavDefAp},
+    {"at", kThrust, 1, 10, kKeyAutothrottleMode, &ConfigState::RealismMode},
     {"clbcon", kThrust, 5, 10},
-    {"apl", kAutopilot, 1, 15, 0x1002c, &ConfigState::RealismMode},
-    {"apr", kAutopilot, 1, 15, 0x1002c, &ConfigState::RealismMode},
+    {"apl", kAutopilot, 1, 15, kKeyAutopilotMaster, &ConfigState::RealismMode},
+    {"apr", kAutopilot, 1, 15, kKeyAutopilotMaster, &ConfigState::RealismMode},
 };
 
 struct Knob {
@@ -59,18 +59,15 @@ struct Knob {
 };
 
 constexpr Knob kKnobs[] = {
-    {"spd", 0x101f5, &SimSnapshot::ap_spdbug, 1, 100, 399},
-    {"alt", 0x1024c, &SimSnapshot::apalt, 100, 0, 50000},
+    {"spd", kKeySpeedSet, &SimSnapshot::ap_spdbug, 1, 100, 399},
+    {"alt", kKeyAltitudeSet, &SimSnapshot::apalt, 100, 0, 50000},
 };
-
-constexpr int kEventHeadingSet = 0x101fa;
-constexpr int kEventVerticalSpeedUp = 0x10166, kEventVerticalSpeedDown = 0x10167;
 
 void SwitchAutothrottleArm() {
     int armed = autoflight.at_armed_left == 1 ? 0 : 1;
     if (cfg.RealismMode == 1 && cfg.LnavDefAp == 1) {
         armed = ReadToken(kTokenAutothrottleArmed) != 0 ? 1 : 0;
-        SendKeyEvent(kEventAutothrottleArm, 0);
+        SendKeyEvent(kKeyAutothrottleArm, 0);
     }
     autoflight.at_armed_left = autoflight.at_armed_right = armed;
     WriteNamedVar(NamedVar("at_armed_left"), armed);
@@ -82,14 +79,14 @@ void TurnHeading(int detents) {
     const bool engaged = autoflight.ap_master_l != 0 || autoflight.ap_master_r != 0;
     if (engaged && autoflight.ap_lat_mode == kModeLnav) return;
     sim.ap_hdgbug = FoldBearing(sim.ap_hdgbug + detents);
-    SendKeyEvent(kEventHeadingSet, static_cast<int>(std::lround(sim.ap_hdgbug)) % 360);
+    SendKeyEvent(kKeyHeadingSet, static_cast<int>(std::lround(sim.ap_hdgbug)) % 360);
 }
 
 void TurnVerticalSpeedWheel(int detents) {
     constexpr double kLowest = -8000, kHighest = 6000;
     if (detents > 0 ? sim.ap_vsbug >= kHighest : sim.ap_vsbug <= kLowest) return;
     for (int i = std::abs(detents); i > 0; --i)
-        SendKeyEvent(detents > 0 ? kEventVerticalSpeedUp : kEventVerticalSpeedDown, 0);
+        SendKeyEvent(detents > 0 ? kKeyVerticalSpeedUp : kKeyVerticalSpeedDown, 0);
 }
 
 }  // namespace

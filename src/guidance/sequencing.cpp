@@ -8,6 +8,7 @@
 #include "fmc/predictions.h"
 #include "fmc/route.h"
 #include "fmc/vertical_segment.h"
+#include "frame/key_events.h"
 #include "guidance/vnav.h"
 #include "platform/host.h"
 #include "state/cfg.h"
@@ -19,7 +20,6 @@
 
 namespace {
 
-constexpr int kEventAltitudeSet = 0x1024c;
 constexpr double kKgPerLb = 0.45359237;
 
 void ReportPosition(const FlightPlanLeg& passed) {
@@ -38,7 +38,7 @@ void LookAtStepClimb(const FlightPlanLeg& passed) {
     if (passed.step_alt <= perf.cruise_alt) return;
     if (vnav.toc == 1) vnav.step_due = 1;
     if (cfg.autostepclimb == 1 && perf.cruise_alt < perf.fms_step_to_alt)
-        SendKeyEvent(kEventAltitudeSet, static_cast<int>(passed.step_alt));
+        SendKeyEvent(kKeyAltitudeSet, static_cast<int>(passed.step_alt));
 }
 
 // A passed fix no longer constrains.

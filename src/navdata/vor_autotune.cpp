@@ -4,6 +4,8 @@
 #include <cmath>
 #include <utility>
 
+#include "frame/key_events.h"
+#include "frame/tokens.h"
 #include "navdata/geodesy.h"
 #include "platform/host.h"
 #include "state/nearest.h"
@@ -19,7 +21,7 @@ constexpr int kRouteActive = 3;
 struct NavRadio {
     int token, event;
 };
-constexpr NavRadio kNav1 = {24, 0x100ac}, kNav2 = {27, 0x100ad};
+constexpr NavRadio kNav1 = {kTokenNav1Freq, kKeyNav1FreqSet}, kNav2 = {kTokenNav2Freq, kKeyNav2FreqSet};
 
 // Keeps the nine nearest, in order, by insertion: few rows get past the ninth.
 void FindNearestVors() {

@@ -3,11 +3,15 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <iterator>
+#include <random>
 
+#include "frame/aircraft.h"
 #include "frame/sim_client.h"
 #include "frame/tokens.h"
 #include "state/cfg.h"
 #include "state/cockpit.h"
+#include "state/identity.h"
 #include "state/perf.h"
 #include "state/sim.h"
 #include "state/variable_directory.h"
@@ -92,6 +96,48 @@ TEST(Configuration, LongLinesAndHostileBytes) {
     ReadConfig();
     EXPECT_EQ(cfg.PanelState.size(), 299 - std::strlen("PanelState="));
     EXPECT_EQ(cfg.LdgFlaps, 25);
+}
+
+TEST(Configuration, RandomBytesDoNoHarm) {
+    std::mt19937 random(1);
+    constexpr std::string_view kPieces[] = {"IrsAlignSecs=",
+                                            "PfcSwitch=",
+                                            "WeightUnit=",
+                                            "DuFont=",
+                                            "PfdSkyColor=",
+                                            "HiFiSnapshotDir=",
+                                            "TzPasFASeatedRwyDist=",
+                                            "Weather\\",
+                                            "-1e308",
+                                            "99999999999999",
+                                            ",",
+                                            ";",
+                                            "=",
+                                            "\n",
+                                            "\r",
+                                            "[fltsim.",
+                                            "title=",
+                                            "LeftMain=",
+                                            "Units=2"};
+    for (int round = 0; round < 300; ++round) {
+        FakeHost host;
+        std::string text;
+        for (int i = 0; i < 60; ++i) {
+            if (random() % 3 != 0)
+                text += kPieces[random() % std::size(kPieces)];
+            else
+                text += static_cast<char>(random());
+        }
+        host.PutFile(kFile, text);
+        host.PutFile("../appdata/Velarion/tz900_fuel.cfg", text);
+        host.PutFile("SimObjects/Airplanes/A/Aircraft.cfg", text);
+        host.tokens[kTokenFuelWeightPerGallon] = 6.7;
+        ReadConfig();
+        LoadStoredFuel();
+        identity.aircraft = "x";
+        ScanAircraftCfg();
+        EXPECT_TRUE(WriteConfig());
+    }
 }
 
 TEST(Configuration, EachKeyIsWrittenByItsTest) {
