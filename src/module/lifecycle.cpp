@@ -8,11 +8,13 @@
 #include "frame/keyboard_capture.h"
 #include "frame/named_variables.h"
 #include "frame/sim_client.h"
+#include "module/control_table.h"
 #include "module/service_cycle.h"
 #include "navdata/nav_tables.h"
 #include "platform/host.h"
 #include "platform/state_lock.h"
 #include "state/cfg.h"
+#include "state/host_link.h"
 #include "state/identity.h"
 #include "state/module_life.h"
 #include "state/plan.h"
@@ -36,7 +38,10 @@ void ReserveContainers() {
 // Whatever a teardown has taken away comes back here.
 void EnsureRegistered() {
     AddKeyEventHook();
+    const bool variables_are_new = host_link.named_vars_registered == 0;
     RegisterNamedVars();
+    // New variables read 0: without this the poll would take each for a press of its control.
+    if (variables_are_new && module_life.startup_done == 1) WriteControlVariables();
     module_life.gdi_started = 1;
 }
 

@@ -357,7 +357,8 @@ TEST(ServiceCycle, TeardownAndReconnectKeepConfigurationAndNavigationData) {
     sim_host.Serve(kServiceDisconnect);
     EXPECT_TRUE(host.key_hooks.empty());
     sim_host.Serve(kServicePreInitialize);
-    EXPECT_EQ(cfg.AccelHt, 1500);  // not read again
+    EXPECT_EQ(cfg.AccelHt, 1500);                         // not read again
+    EXPECT_EQ(host.NamedVar("TZ_OH_ELE_BAT_Button"), 1);  // the model shows the shadow again
     EXPECT_EQ(module_life.startup_done, 1);
     EXPECT_EQ(host.key_hooks.size(), 1u);
     host.calc_texts["(A:TITLE,string)"] = "Something else";
