@@ -124,8 +124,10 @@ void NormalizeLegs() {
     MergeNeighbourDiscos();
     for (int i = 1; i <= plan.mod_cnt; ++i) {
         if (legs[i].ident != "VECTORS") continue;
-        legs[i].lat = legs[i - 1].lat;
-        legs[i].lon = legs[i - 1].lon;
+        const int before = PlaceBefore(legs, i);
+        if (before < 0) continue;
+        legs[i].lat = legs[before].lat;
+        legs[i].lon = legs[before].lon;
     }
     RebuildRouteRows();
 }

@@ -21,6 +21,10 @@ int HoldAt(int leg) {
     return 0;
 }
 
+bool IsFlown(const HoldRecord& hold) {
+    return lnav.holding == 1 && hold.leg > 0 && hold.leg == plan.stpos;
+}
+
 void ClearHoldPositions(GrowingList<FlightPlanLeg>& legs, int count) {
     for (int i = 0; i <= count; ++i) legs[i].hold_pos = 0;
 }
@@ -28,14 +32,15 @@ void ClearHoldPositions(GrowingList<FlightPlanLeg>& legs, int count) {
 }  // namespace
 
 int HoldLegInModification(const HoldRecord& hold) {
+    if (hold.pending_leg == kHoldTakenOut) return 0;
     return hold.pending_leg > 0 ? hold.pending_leg : hold.leg;
 }
 
 void RenumberHolds() {
     GrowingList<HoldRecord>& holds = plan.HoldList;
+    const auto place = [&](int i) { return holds[i].pending_leg > 0 ? holds[i].pending_leg : holds[i].leg; };
     for (int i = 2; i <= plan.hold_cnt; ++i)
-        for (int j = i; j > 1 && HoldLegInModification(holds[j]) < HoldLegInModification(holds[j - 1]); --j)
-            std::swap(holds[j], holds[j - 1]);
+        for (int j = i; j > 1 && place(j) < place(j - 1); --j) std::swap(holds[j], holds[j - 1]);
     ClearHoldPositions(plan.FlightPlan, plan.fp_cnt);
     ClearHoldPositions(plan.FlightPlanMod, plan.mod_cnt);
     for (int i = 1; i <= plan.hold_cnt; ++i) {
@@ -72,13 +77,18 @@ void MarkHold(int leg, bool active, int prev_leg) {
 }
 
 void RemoveHold(int leg) {
-    if (const int hold = HoldAt(leg); hold > 0 && leg > 0) RemoveHoldRecord(hold);
+    const int index = leg > 0 ? HoldAt(leg) : 0;
+    if (index == 0) return;
+    HoldRecord& hold = plan.HoldList[index];
+    if (!IsFlown(hold)) return RemoveHoldRecord(index);
+    hold.pending_leg = kHoldTakenOut;
+    RenumberHolds();
 }
 
 void RemoveHoldRecord(int hold) {
     if (hold < 1 || hold > plan.hold_cnt) return;
     GrowingList<HoldRecord>& holds = plan.HoldList;
-    if (lnav.holding == 1 && holds[hold].leg > 0 && holds[hold].leg == plan.stpos) {
+    if (IsFlown(holds[hold])) {
         lnav.hold_exit = 4;
         lnav.holding = 0;
         lnav.hold_point = 0;
@@ -98,6 +108,8 @@ void RemoveAllHolds() {
 }
 
 void PromoteHolds() {
+    for (int i = plan.hold_cnt; i >= 1; --i)
+        if (plan.HoldList[i].pending_leg == kHoldTakenOut) RemoveHoldRecord(i);
     for (int i = 1; i <= plan.hold_cnt; ++i) {
         HoldRecord& hold = plan.HoldList[i];
         if (hold.pending_leg > 0) hold.leg = std::exchange(hold.pending_leg, 0);

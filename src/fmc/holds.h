@@ -3,17 +3,18 @@
 #include "state/plan.h"
 
 constexpr int kMostHolds = 8;
+constexpr int kHoldTakenOut = -1;  // pending_leg of the hold being flown, when the working copy has lost it
 
 /// Adds a hold at a leg of FlightPlanMod (of FlightPlan with `active`, then in force at once): right turns of
 /// one minute, inbound on the course from `prev_leg`. Refused when eight stand, when the leg has one, or when
 /// it is no place.
 void MarkHold(int leg, bool active, int prev_leg);
 
-/// Removes the hold of a leg of FlightPlanMod, at once and for the active route too. The hold being flown is
-/// left by it (`hold_exit` 4). With the last hold the HOLD page gives way to LEGS. No hold there: nothing.
+/// Removes the hold of a leg of FlightPlanMod. The hold being flown goes on until EXEC, and is then left
+/// (`hold_exit` 4). With the last hold the HOLD page gives way to LEGS. No hold there: nothing.
 void RemoveHold(int leg);
 
-/// Removes a hold by its place in HoldList, from 1.
+/// Removes a hold by its place in HoldList, from 1, at once.
 void RemoveHoldRecord(int hold);
 void RemoveAllHolds();
 

@@ -48,18 +48,17 @@ FlightPlanLeg DirectLeg(std::string ident, double lat, double lon) {
     return leg;
 }
 
-// The place towards which an along-track offset is measured; the reference itself when there is none.
-const FlightPlanLeg& NeighbourPlace(int position, bool ahead) {
-    GrowingList<FlightPlanLeg>& legs = plan.FlightPlanMod;
-    if (!ahead) return legs[std::max(PlaceBefore(legs, position), 0)];
+// The place towards which an along-track offset is measured, -1 when there is none.
+int NeighbourPlace(int position, bool ahead) {
+    if (!ahead) return PlaceBefore(plan.FlightPlanMod, position);
     for (int i = position + 1; i <= plan.mod_cnt; ++i)
-        if (IsPlace(legs[i])) return legs[i];
-    return legs[position];
+        if (IsPlace(plan.FlightPlanMod[i])) return i;
+    return -1;
 }
 
-FlightPlanLeg AlongTrackLeg(int position, double offset) {
+FlightPlanLeg AlongTrackLeg(int position, int towards, double offset) {
     const FlightPlanLeg& reference = plan.FlightPlanMod[position];
-    const FlightPlanLeg& neighbour = NeighbourPlace(position, offset > 0);
+    const FlightPlanLeg& neighbour = plan.FlightPlanMod[towards];
     const double bearing = GreatCircle(reference.lat, reference.lon, neighbour.lat, neighbour.lon).bearing;
     const LatLon point = ProjectPoint(reference.lat, reference.lon, bearing, std::fabs(offset));
     return DirectLeg(MadeName(reference.ident), point.lat, point.lon);
@@ -112,9 +111,10 @@ void InsertFixAt(int position, int candidate, bool replace) {
     if (plan.along_track_nm != 0) {
         const double offset = plan.along_track_nm;
         plan.along_track_nm = 0;
-        if (!IsPlace(plan.FlightPlanMod[position])) return;
-        FlightPlanLeg leg = AlongTrackLeg(position, offset);
-        if (offset > 0) position = std::min(position + 1, plan.mod_cnt);
+        const int towards = NeighbourPlace(position, offset > 0);
+        if (!IsPlace(plan.FlightPlanMod[position]) || towards < 0) return;
+        FlightPlanLeg leg = AlongTrackLeg(position, towards, offset);
+        if (offset > 0) ++position;
         PlaceLeg(position, std::move(leg));
     } else {
         const NavRecord* entry = Candidate(candidate);

@@ -16,6 +16,7 @@ void ShiftReferences(int first, int offset) {
         if (leg >= first) hold.pending_leg = leg + offset;
     }
     if (plan.mod_bod_pos >= first) plan.mod_bod_pos += offset;
+    if (plan.awy_start_leg >= first) plan.awy_start_leg += offset;
 }
 
 }  // namespace
@@ -65,10 +66,8 @@ void RemoveModLegs(int first, int count) {
     count = std::min(count, plan.mod_cnt - first + 1);
     if (count <= 0) return;
     const int behind = first + count;
-    for (int i = plan.hold_cnt; i >= 1; --i) {
-        const int leg = HoldLegInModification(plan.HoldList[i]);
-        if (leg >= first && leg < behind) RemoveHoldRecord(i);
-    }
+    for (int i = first; i < behind; ++i) RemoveHold(i);
+    if (plan.awy_start_leg >= first && plan.awy_start_leg < behind) plan.awy_start_pos = 0;
     GrowingList<FlightPlanLeg>& legs = plan.FlightPlanMod;
     static_cast<void>(legs[plan.mod_cnt + 1]);
     for (int i = behind; i <= plan.mod_cnt; ++i) legs[i - count] = std::move(legs[i]);

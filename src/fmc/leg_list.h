@@ -3,7 +3,7 @@
 #include "state/plan.h"
 
 // The edits that all operations on FlightPlanMod are made of. What points into the list moves with its legs:
-// holds, `mod_bod_pos`, and from state 3 on the pending active leg.
+// holds, `mod_bod_pos`, the start of the airway in work, and from state 3 on the pending active leg.
 
 bool IsDisco(const FlightPlanLeg& leg);
 bool IsThen(const FlightPlanLeg& leg);  // airway without an end

@@ -23,7 +23,7 @@ constexpr int kEventMcpAltitude = 66124;
 void PrepareAircraftForRoute() {
     constexpr double kStanding = 5;
     constexpr double kLowestCruise = 1000;
-    if (sim.on_ground == 0 || sim.ground_speed_kt >= kStanding) return;
+    if (sim.ground_speed_kt >= kStanding) return;
     if (cfg.LoadFuelonFlightPlanLoad == 1 && perf.planned_fuel > 0) perf.fuel_load_due = 1;
     if (cfg.SetMCPCruiseAltonFlightPlanLoad == 1 && perf.pending_cruise_alt >= kLowestCruise)
         SendKeyEvent(kEventMcpAltitude, static_cast<int>(std::min(perf.pending_cruise_alt, 99999.0)));

@@ -187,8 +187,12 @@ bool EnterFix(const RouteWords& words, std::size_t i, std::string& error) {
         i + 1 < last && IsAirway(words.text[i + 1]) &&
         FindOnAirway(words.text[i + 1], word, i + 2 < last ? words.text[i + 2] : std::string(), place);
     if (ParseFiledEntry(word)) {
-        EnterRow(NearestCandidate(place));
-        return true;
+        const int nearest = NearestCandidate(place);
+        constexpr double kSamePlace = 5;  // nm; navaids and airways may be surveyed apart
+        if (!on_airway || DistanceFrom(place, nav.EntryCandidates[nearest]) < kSamePlace) {
+            EnterRow(nearest);
+            return true;
+        }
     }
     if (on_airway) {  // a fix that stands in the airway's file only
         for (int run = 1; LoadAirway(words.text[i + 1], word, run) > 0; ++run) {

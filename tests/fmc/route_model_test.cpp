@@ -353,14 +353,25 @@ TEST_F(RouteModel, HoldsFollowTheirLegs) {
     EXPECT_EQ(plan.HoldList[2].leg, 4);
     EXPECT_EQ(plan.HoldList[2].pending_leg, 0);
     EXPECT_EQ(plan.FlightPlan[4].hold_pos, 2);
-    // The hold being flown is left when its leg goes; the page of the last hold closes.
+    // The hold being flown is left when its leg has gone by EXEC; the page of the last hold closes.
     plan.stpos = plan.mod_stpos = 4;
     lnav.holding = 1;
     cdu[0].fms_page = 39;
     RemoveHold(1);
     EXPECT_EQ(cdu[0].fms_page, 39);
     DeleteLegWithDiscontinuity(4, false, kCaptain);
+    OpenModification();
+    EXPECT_EQ(lnav.holding, 1);
+    EXPECT_EQ(plan.FlightPlanMod[4].hold_pos, 0);
+    EraseModification();
+    EXPECT_EQ(plan.FlightPlanMod[4].hold_pos, 2);
+    RemoveHold(1);
+    ConnectLegs(4, 5, kCaptain);
+    EXPECT_EQ(plan.hold_cnt, 1);
+    EXPECT_EQ(lnav.holding, 1);
+    ExecuteRoute();
     EXPECT_EQ(plan.hold_cnt, 0);
+    EXPECT_EQ(lnav.holding, 0);
     EXPECT_EQ(lnav.hold_exit, 4);
     EXPECT_EQ(cdu[0].fms_page, 6);
     Enter("ORIG AAA AAFIX BBFIX CCC DDFIX EEE LONER EASTX WWFIX DEST");
@@ -500,6 +511,7 @@ void ExpectInvariants(const std::string& after) {
     for (int i = 0; i <= plan.fp_cnt; ++i) ASSERT_NE(plan.FlightPlan[i].ident, "THEN") << after;
     ASSERT_LE(plan.hold_cnt, kMostHolds) << after;
     for (int i = 1; i <= plan.hold_cnt; ++i) {
+        if (plan.HoldList[i].pending_leg == kHoldTakenOut) continue;
         const int leg = HoldLegInModification(plan.HoldList[i]);
         ASSERT_GE(leg, 1) << after;
         ASSERT_LE(leg, plan.mod_cnt) << after;
