@@ -364,7 +364,7 @@ TEST_F(RouteModel, HoldsFollowTheirLegs) {
     EXPECT_EQ(lnav.holding, 1);
     EXPECT_EQ(plan.FlightPlanMod[4].hold_pos, 0);
     EraseModification();
-    EXPECT_EQ(plan.FlightPlanMod[4].hold_pos, 2);
+    EXPECT_EQ(plan.FlightPlanMod[4].hold_pos, 1);
     RemoveHold(1);
     ConnectLegs(4, 5, kCaptain);
     EXPECT_EQ(plan.hold_cnt, 1);
