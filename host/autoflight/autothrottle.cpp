@@ -20,7 +20,7 @@ bool IsArmed() {
 }  // namespace
 
 void UpdateThrottleMode(AutoflightLogic& logic, const FlightValues& now) {
-    const int request = static_cast<int>(NamedValue("at_mode_clicked"));
+    const int request = PanelRequest("at_mode_clicked");
     if (request != 0) SetNamedValue("at_mode_clicked", 0);
     if (!IsArmed()) {
         logic.throttle = kThrottleNone;

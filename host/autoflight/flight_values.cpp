@@ -26,6 +26,12 @@ double Slew(double value, double target, double step) {
     return value + std::clamp(target - value, -step, step);
 }
 
+int PanelRequest(const char* variable) {
+    const double value = NamedValue(variable);
+    constexpr double kHighestMode = 99;
+    return value >= 0 && value <= kHighestMode ? static_cast<int>(value) : 0;
+}
+
 FlightValues ReadFlightValues() {
     FlightValues now;
     now.magnetic_heading = TokenOf(81);

@@ -15,6 +15,9 @@ struct FlightValues {
 };
 FlightValues ReadFlightValues();
 
+/// A request of the panel: the variable's value when it can be one, else 0.
+int PanelRequest(const char* variable);
+
 /// A bearing difference, -180 to 180, right positive.
 double Difference(double from, double to);
 double FoldDegrees(double degrees);

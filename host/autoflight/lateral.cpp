@@ -39,7 +39,8 @@ double BankForError(double error, const FlightValues& now, double most) {
 }
 
 bool IsLocalizerReceived() {
-    return (static_cast<int>(TokenOf(46)) & 0x80) != 0 && TokenOf(49) > 0;
+    constexpr double kLocalizerBit = 0x80, kCodesRange = 0x100;
+    return std::fmod(TokenOf(46), kCodesRange) >= kLocalizerBit && TokenOf(49) > 0;
 }
 
 // Flies a beam: its course, bent towards the needle. A full needle asks for the widest cut.
@@ -69,7 +70,7 @@ void SelectDirection(AutoflightLogic& logic) {
 }
 
 void TakeRequest(AutoflightLogic& logic, const FlightValues& now) {
-    const int request = static_cast<int>(NamedValue("ap_lat_mode_clicked"));
+    const int request = PanelRequest("ap_lat_mode_clicked");
     const int last = logic.lnav_request;
     logic.lnav_request = request;
     switch (request) {

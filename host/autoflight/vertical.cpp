@@ -31,7 +31,7 @@ void HoldAltitude(AutoflightLogic& logic, double altitude) {
 }
 
 void TakeRequest(AutoflightLogic& logic, const FlightValues& now) {
-    const int request = static_cast<int>(NamedValue("ap_vert_mode_clicked"));
+    const int request = PanelRequest("ap_vert_mode_clicked");
     if (request == 0) return;
     SetNamedValue("ap_vert_mode_clicked", 0);
     switch (request) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "platform/host.h"
 #include "state/sim.h"
 
 namespace {
@@ -85,7 +86,7 @@ double BearingDifference(double a, double b) {
 
 int AngleBetween(double a, double b) {
     constexpr double kRoundingNoise = 1e-9;  // 90.3 - 80.3 is ten degrees
-    return static_cast<int>(BearingDifference(a, b) + kRoundingNoise);
+    return WholeNumber(BearingDifference(a, b) + kRoundingNoise);
 }
 
 int TurnSide(double from, double to) {

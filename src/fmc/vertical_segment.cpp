@@ -27,9 +27,9 @@ double ConstraintAltitude(const FlightPlanLeg& leg, double window_limit) {
 // At or above: the following constraints that the same altitude satisfies prolong the segment.
 int ProlongSegment(int start) {
     int end = start;
-    const double altitude = plan.FlightPlan[start].alt_restr;
+    const double altitude = FlightPlanLegAt(start).alt_restr;
     for (int i = start + 1; i <= plan.fp_cnt; ++i) {
-        const FlightPlanLeg& leg = plan.FlightPlan[i];
+        const FlightPlanLeg& leg = FlightPlanLegAt(i);
         if (IsMissedApproach(leg) || !HasAltitudeConstraint(leg)) continue;
         const bool met = leg.restr_type == kBetween
                              ? leg.block_above <= altitude
@@ -44,9 +44,9 @@ double RouteDistance(int from, int to) {
     double dist = 0;
     int last = from;
     for (int i = from + 1; i <= to; ++i) {
-        const FlightPlanLeg& leg = plan.FlightPlan[i];
+        const FlightPlanLeg& leg = FlightPlanLegAt(i);
         if (IsMissedApproach(leg) || leg.ident == "DISCO") continue;
-        const FlightPlanLeg& start = plan.FlightPlan[last];
+        const FlightPlanLeg& start = FlightPlanLegAt(last);
         dist += GreatCircle(start.lat, start.lon, leg.lat, leg.lon).dist;
         last = i;
     }
@@ -56,7 +56,7 @@ double RouteDistance(int from, int to) {
 double NextRestriction(bool (*binds)(const FlightPlanLeg&), double FlightPlanLeg::*window_limit) {
     if (plan.stpos == kNoPlan) return 0;
     for (int i = plan.stpos; i <= plan.fp_cnt; ++i) {
-        const FlightPlanLeg& leg = plan.FlightPlan[i];
+        const FlightPlanLeg& leg = FlightPlanLegAt(i);
         if (IsMissedApproach(leg) || !HasAltitudeConstraint(leg) || !binds(leg)) continue;
         return ConstraintAltitude(leg, leg.*window_limit);
     }
@@ -69,7 +69,7 @@ void FindBottomOfDescent(int first) {
     const int before = vnav.bod_pos;
     vnav.bod_pos = plan.fp_cnt;
     for (int i = first; i <= plan.fp_cnt; ++i) {
-        const FlightPlanLeg& leg = plan.FlightPlan[i];
+        const FlightPlanLeg& leg = FlightPlanLegAt(i);
         if (IsMissedApproach(leg) || !HasAltitudeConstraint(leg)) continue;
         const RestrictionType other = vnav.toc == 0 ? kAtOrBelow : kAtOrAbove;
         if (leg.restr_type != kAt && leg.restr_type != other) continue;
@@ -77,7 +77,7 @@ void FindBottomOfDescent(int first) {
         break;
     }
     if (vnav.tod != 1 || vnav.bod_pos == before) return;
-    const FlightPlanLeg& to = plan.FlightPlan[plan.stpos];
+    const FlightPlanLeg& to = FlightPlanLegAt(plan.stpos);
     if (HasAltitudeConstraint(to)) {
         vnav.last_tod_pos = plan.stpos;
         vnav.last_tod_elev = ConstraintAltitude(to, to.block_above);
@@ -89,7 +89,7 @@ void SetCrossAtPoint() {
     constexpr double kLowestCruise = 1000;
     if (perf.cruise_alt < kLowestCruise) return;
     vnav.cross_at_elev = perf.cruise_alt;
-    const FlightPlanLeg& bottom = plan.FlightPlan[vnav.bod_pos];
+    const FlightPlanLeg& bottom = FlightPlanLegAt(vnav.bod_pos);
     const double lower_limit = std::min(bottom.block_above, bottom.block_below);
     if (vnav.toc == 0 && vnav.tod == 0) {
         const bool levels_off = vnav.bod_pos <= vnav.toc_stpos && HasAltitudeConstraint(bottom) &&

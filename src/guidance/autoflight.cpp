@@ -2,6 +2,7 @@
 
 #include "frame/named_variables.h"
 #include "guidance/lnav.h"
+#include "platform/host.h"
 #include "state/autoflight.h"
 #include "state/cfg.h"
 #include "state/lnav.h"
@@ -19,7 +20,7 @@ constexpr double kNoValue = 999;
 constexpr int kDisconnect = 1, kWarningDisconnect = 2;
 
 int ReadInt(NamedVarRef variable) {
-    return static_cast<int>(ReadNamedVar(variable));
+    return WholeNumber(ReadNamedVar(variable));
 }
 
 // A mode that is new and none of the empty ones is boxed for ten seconds.

@@ -8,6 +8,7 @@
 #include "fmc/route.h"
 #include "fmc/vertical_segment.h"
 #include "guidance/sequencing.h"
+#include "platform/host.h"
 #include "state/lnav.h"
 #include "state/plan.h"
 #include "state/sim.h"
@@ -39,7 +40,7 @@ void TakeVariation(HoldRecord& hold) {
     if (hold.magvar_pending <= 0) return;
     if (GreatCircle(sim.plane_lat, sim.plane_lon, hold.points[0].lat, hold.points[0].lon).dist >= kNear)
         return;
-    hold.magvar = static_cast<int>(std::lround(sim.mgvar));
+    hold.magvar = WholeNumber(std::round(sim.mgvar));
     hold.magvar_pending = 0;
 }
 

@@ -27,7 +27,7 @@ constexpr double kAirborneFt = 400;  // radio altitude below which the plan stan
 constexpr double kNoCrossTrack = -99;
 
 const FlightPlanLeg& ToLeg() {
-    return plan.FlightPlan[plan.stpos];
+    return FlightPlanLegAt(plan.stpos);
 }
 
 bool IsAirborne() {
@@ -86,7 +86,7 @@ bool RequestForcedSequence() {
 double CourseOfNextLeg() {
     const FlightPlanLeg& to = ToLeg();
     for (int next = LegAfter(plan.stpos); next != 0; next = LegAfter(next)) {
-        const FlightPlanLeg& leg = plan.FlightPlan[next];
+        const FlightPlanLeg& leg = FlightPlanLegAt(next);
         if (leg.ident == "VECTORS") return leg.from_hdg;
         const DistBearing course = GreatCircle(to.lat, to.lon, leg.lat, leg.lon);
         if (course.dist > 0) return course.bearing;
@@ -168,7 +168,7 @@ void SteerToJoinTrack() {
                        length - left + lnav.lookahead));
     if (lnav.xtk > lnav.wpt_chg_dist) return;
     lnav.lnav_init_mode = 0;
-    const FlightPlanLeg& before = plan.FlightPlan[LegBefore(plan.stpos)];
+    const FlightPlanLeg& before = FlightPlanLegAt(LegBefore(plan.stpos));
     plan.ActiveLeg.from = before.ident;
     plan.ActiveLeg.from_lat = before.lat;
     plan.ActiveLeg.from_lon = before.lon;
@@ -193,7 +193,7 @@ void SteerAlongLeg() {
 
 // A procedure may demand the longer way round at the fix just passed.
 void TurnAsDemanded() {
-    const FlightPlanLeg& passed = plan.FlightPlan[LegBefore(plan.stpos)];
+    const FlightPlanLeg& passed = FlightPlanLegAt(LegBefore(plan.stpos));
     if (passed.dep_turn != kTurnLeft && passed.dep_turn != kTurnRight) return;
     const double heading = FoldBearing(sim.mag_hdg + sim.mgvar - ReferenceVariation());
     constexpr double kSettled = 10;  // an overshoot is no turn the other way
@@ -219,7 +219,7 @@ void SendHeadingToHost() {
         return;
     if (lnav.fms_hdg == lnav.sent_fms_hdg) return;
     lnav.sent_fms_hdg = lnav.fms_hdg;
-    SendKeyEvent(kKeyHeadingSet, static_cast<int>(std::lround(lnav.fms_hdg)));
+    SendKeyEvent(kKeyHeadingSet, WholeNumber(std::round(lnav.fms_hdg)));
 }
 
 void RunPass(bool overflown) {

@@ -79,7 +79,7 @@ void TurnHeading(int detents) {
     const bool engaged = autoflight.ap_master_l != 0 || autoflight.ap_master_r != 0;
     if (engaged && autoflight.ap_lat_mode == kModeLnav) return;
     sim.ap_hdgbug = FoldBearing(sim.ap_hdgbug + detents);
-    SendKeyEvent(kKeyHeadingSet, static_cast<int>(std::lround(sim.ap_hdgbug)) % 360);
+    SendKeyEvent(kKeyHeadingSet, WholeNumber(std::round(sim.ap_hdgbug)) % 360);
 }
 
 void TurnVerticalSpeedWheel(int detents) {
@@ -124,7 +124,7 @@ bool TurnMcpKnob(std::string_view name, int detents) {
         if (knob.name != name) continue;
         double& shown = sim.*knob.shown;
         shown = std::clamp(shown + detents * knob.step, knob.low, knob.high);
-        SendKeyEvent(knob.event, static_cast<int>(std::lround(shown)));
+        SendKeyEvent(knob.event, WholeNumber(std::round(shown)));
         return true;
     }
     return false;

@@ -38,7 +38,7 @@ void LookAtStepClimb(const FlightPlanLeg& passed) {
     if (passed.step_alt <= perf.cruise_alt) return;
     if (vnav.toc == 1) vnav.step_due = 1;
     if (cfg.autostepclimb == 1 && perf.cruise_alt < perf.fms_step_to_alt)
-        SendKeyEvent(kKeyAltitudeSet, static_cast<int>(passed.step_alt));
+        SendKeyEvent(kKeyAltitudeSet, WholeNumber(passed.step_alt));
 }
 
 // A passed fix no longer constrains.
@@ -48,7 +48,7 @@ void ClearConstraint(FlightPlanLeg& passed) {
 }
 
 void ActivateLeg(int to, const FlightPlanLeg& from) {
-    const FlightPlanLeg& leg = plan.FlightPlan[to];
+    const FlightPlanLeg& leg = FlightPlanLegAt(to);
     ActiveLegRecord& active = plan.ActiveLeg;
     active.from = from.ident;
     active.from_lat = from.lat;
@@ -67,13 +67,13 @@ void ActivateLeg(int to, const FlightPlanLeg& from) {
 
 int LegAfter(int leg) {
     for (int next = leg + 1; next <= plan.fp_cnt; ++next)
-        if (plan.FlightPlan[next].ident != "DISCO") return next;
+        if (FlightPlanLegAt(next).ident != "DISCO") return next;
     return 0;
 }
 
 int LegBefore(int leg) {
     int before = leg - 1;
-    while (before > 0 && plan.FlightPlan[before].ident == "DISCO") --before;
+    while (before > 0 && FlightPlanLegAt(before).ident == "DISCO") --before;
     return before < 0 ? 0 : before;
 }
 
@@ -82,7 +82,7 @@ double ReferenceVariation() {
 }
 
 bool IsVectorsLegActive() {
-    return plan.FlightPlan[plan.stpos].ident == "VECTORS";
+    return FlightPlanLegAt(plan.stpos).ident == "VECTORS";
 }
 
 void SequenceLeg() {
@@ -122,7 +122,7 @@ void BeginActiveLeg() {
 }
 
 void LocateOnActiveLeg() {
-    const FlightPlanLeg& to = plan.FlightPlan[plan.stpos];
+    const FlightPlanLeg& to = FlightPlanLegAt(plan.stpos);
     const LegPosition place = LocateOnLeg(sim.plane_lat, sim.plane_lon, plan.ActiveLeg.from_lat,
                                           plan.ActiveLeg.from_lon, to.lat, to.lon);
     lnav.leg_len = place.leg_len;
@@ -138,7 +138,7 @@ void LocateOnActiveLeg() {
 }
 
 bool IsActiveLegLocated() {
-    const FlightPlanLeg& to = plan.FlightPlan[plan.stpos];
+    const FlightPlanLeg& to = FlightPlanLegAt(plan.stpos);
     return lnav.located_leg == plan.stpos &&
            lnav.located == std::array{plan.ActiveLeg.from_lat, plan.ActiveLeg.from_lon, to.lat, to.lon};
 }

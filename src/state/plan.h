@@ -3,6 +3,7 @@
 #include <array>
 #include <span>
 #include <string>
+#include <utility>
 
 #include "state/growing_list.h"
 #include "state/variable.h"
@@ -155,3 +156,8 @@ struct PlanState {
 
 extern PlanState plan;
 extern const std::span<const Variable> kPlanVariables;
+
+/// A leg of the active plan, for reading: behind the end stands an empty one, and the list doesn't grow.
+inline const FlightPlanLeg& FlightPlanLegAt(int index) {
+    return std::as_const(plan.FlightPlan)[index];
+}
