@@ -7,8 +7,8 @@
 /// `nav.entry_list_pos` to the place of `from_ident` among them (0 = not there) and `nav.entry_list_page` to
 /// the page of 16 that shows it. Gives their number.
 ///
-/// The world has namesakes: `run` 2 gives the fixes of the next lines of that name that stand together, and so
-/// on; beyond the last of them the list is empty.
+/// The world has namesakes: `run` 2 gives the fixes of the next lines of that name that stand together, and
+/// so on; beyond the last of them the list is empty.
 int LoadAirway(std::string_view name, std::string_view from_ident, int run = 1);
 
 struct AirwayCrossing {

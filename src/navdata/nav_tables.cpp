@@ -46,41 +46,35 @@ void LoadIntersections(NavTables& t) {
     BuildIdentIndex(t.int_index, t.IntersectionTable, t.int_cnt, kIdentOf);
 }
 
-bool BearsName(std::string_view line, std::string_view name) {
-    return line.starts_with(name) && line.size() > name.size() && IsBlank(line[name.size()]);
+void AddAirwayFix(NavTables& t, std::string_view line) {
+    constexpr std::size_t kShortestFix = 4;  // shorter idents are navaids, which have a table of their own
+    NextField(line);
+    NextField(line);
+    const std::string_view ident = NextField(line);
+    double lat = 0, lon = 0;
+    if (ident.size() < kShortestFix || !NextNumber(line, lat) || !NextNumber(line, lon)) return;
+    t.AirwayFixTable[++t.awy_fix_cnt] = {ident, lat, lon};
 }
 
-// A run is read again, bounded by kAirwayBound, when its airway is wanted; so it is told apart by that bound.
-void FindAirwayRuns(NavTables& t, std::string_view rest) {
-    AirwayRun run;
-    while (auto line = NextDataLine(rest, kAirwayBound)) {
-        if (run.name.empty() || !BearsName(*line, run.name)) {
-            std::string_view fields = *line;
-            const std::string_view name = NextField(fields);
-            if (name.empty()) continue;
-            if (name != run.name) {
-                if (!run.name.empty()) t.airway_runs[++t.airway_run_cnt] = run;
-                run = {name, *line};
-            }
-        }
-        const char* const start = run.lines.data();
-        run.lines = {start, static_cast<std::size_t>(line->data() + line->size() - start)};
-    }
-    if (!run.name.empty()) t.airway_runs[++t.airway_run_cnt] = run;
+void ExtendAirwayRun(NavTables& t, std::string_view line) {
+    std::string_view fields = line;
+    const std::string_view name = NextField(fields);
+    if (name.empty()) return;
+    if (t.airway_run_cnt == 0 || t.airway_runs[t.airway_run_cnt].name != name)
+        t.airway_runs[++t.airway_run_cnt] = {name, line};
+    std::string_view& lines = t.airway_runs[t.airway_run_cnt].lines;
+    lines = {lines.data(), static_cast<std::size_t>(line.data() + line.size() - lines.data())};
 }
 
 void LoadAirways(NavTables& t) {
     std::string_view rest = ReadNavdata("awys.txt", t.awys_file);
     ReserveRows(t.AirwayFixTable, rest);
-    while (auto line = NextDataLine(rest, kTableBound)) {
-        NextField(*line);
-        NextField(*line);
-        const std::string_view ident = NextField(*line);
-        double lat = 0, lon = 0;
-        if (ident.size() < 4 || !NextNumber(*line, lat) || !NextNumber(*line, lon)) continue;
-        t.AirwayFixTable[++t.awy_fix_cnt] = {ident, lat, lon};
+    while (const auto line = NextBoundedLine(rest, rest.size())) {
+        // The table and the later reading of one airway divide a line that is too long at different places.
+        std::string_view for_table = *line, for_runs = *line;
+        while (const auto piece = NextDataLine(for_table, kTableBound)) AddAirwayFix(t, *piece);
+        while (const auto piece = NextDataLine(for_runs, kAirwayBound)) ExtendAirwayRun(t, *piece);
     }
-    FindAirwayRuns(t, t.awys_file.Text());
     BuildIdentIndex(t.airway_index, t.airway_runs, t.airway_run_cnt,
                     [](const AirwayRun& run) { return run.name; });
 }

@@ -1,8 +1,9 @@
 #pragma once
 
 /// Reads ints.txt, awys.txt, apts.txt, navs.txt and landmarks.txt into `nav_tables`, in that order, and
-/// indexes them. A missing file leaves its table empty; a line that doesn't fit is passed over. Airports whose
-/// longest runway is below `cfg.MinAptRwyLen` stay out of AirportTable, and so unknown to the entry parser.
+/// indexes them. A missing file leaves its table empty; a line that doesn't fit is passed over. Airports
+/// whose longest runway is below `cfg.MinAptRwyLen` stay out of AirportTable, and so unknown to the entry
+/// parser.
 void LoadNavTables();
 
 /// Reads the validity of the database from the ";AIRAC" line of navs.txt, fills the texts that show it, and

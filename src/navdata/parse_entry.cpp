@@ -7,6 +7,8 @@
 #include <optional>
 #include <string>
 #include <utility>
+#include <variant>
+#include <vector>
 
 #include "navdata/geodesy.h"
 #include "navdata/ident_index.h"
@@ -18,7 +20,7 @@
 
 namespace {
 
-constexpr int kMaxCandidates = 250;
+constexpr std::size_t kMaxCandidates = 250;
 constexpr std::size_t kBearingDigits = 3;
 
 // A number of digits only; nothing for an empty text, so that a cut entry is no position.
@@ -37,13 +39,8 @@ bool IsEastWest(char c) {
     return c == 'E' || c == 'W';
 }
 
-void ClearCandidates() {
-    nav.EntryCandidates.clear();
-    nav.entry_cnt = 0;
-}
-
 void AddCandidate(NavRecord record) {
-    if (nav.entry_cnt < kMaxCandidates) nav.EntryCandidates[++nav.entry_cnt] = std::move(record);
+    nav.EntryCandidates[++nav.entry_cnt] = std::move(record);
 }
 
 // One angle of a position: degrees, minutes and tenths of a minute, and the letter that gives the sign.
@@ -171,53 +168,44 @@ NavRecord ToRecord(const AirportRow& row) {
             .elevation_text = std::string(row.elevation_text)};
 }
 
+// A row that bears the ident, and how far it is: rows are put in order before they become records.
+struct Match {
+    double dist;  // nm from the aircraft
+    std::variant<const NavaidRow*, const FixRow*, const AirportRow*> row;
+};
+
 template <class Row>
-void AddMatches(const IdentIndex& index, const GrowingList<Row>& table, std::string_view ident) {
+void FindMatches(std::vector<Match>& matches, const IdentIndex& index, const GrowingList<Row>& table,
+                 std::string_view ident) {
     VisitIdent(index, ident, [&](int number) {
         const Row& row = table[number];
+        if (matches.size() == kMaxCandidates) return false;
         if (row.ident != ident) return true;
-        AddCandidate(ToRecord(row));
-        return nav.entry_cnt < kMaxCandidates;
+        const double dist = GreatCircle(sim.plane_lat, sim.plane_lon, row.lat, row.lon).dist;
+        matches.push_back({std::isnan(dist) ? 0 : dist, &row});  // a NaN has no place in an order
+        return true;
     });
 }
 
+// The first 250 rows of that ident, nearest first; at the same distance navaid before fix before airport, and
+// file order in a table.
+std::vector<Match> FindIdent(std::string_view ident) {
+    std::vector<Match> matches;
+    if (ident.empty()) return matches;
+    FindMatches(matches, nav_tables.nav_index, nav_tables.NavaidTable, ident);
+    FindMatches(matches, nav_tables.int_index, nav_tables.IntersectionTable, ident);
+    FindMatches(matches, nav_tables.apt_index, nav_tables.AirportTable, ident);
+    std::stable_sort(matches.begin(), matches.end(),
+                     [](const Match& a, const Match& b) { return a.dist < b.dist; });
+    return matches;
+}
+
+NavRecord RecordOf(const Match& match) {
+    return std::visit([](const auto* row) { return ToRecord(*row); }, match.row);
+}
+
 void ResolveIdent(std::string_view ident) {
-    if (ident.empty()) return;
-    AddMatches(nav_tables.nav_index, nav_tables.NavaidTable, ident);
-    AddMatches(nav_tables.int_index, nav_tables.IntersectionTable, ident);
-    AddMatches(nav_tables.apt_index, nav_tables.AirportTable, ident);
-}
-
-double DistanceFromAircraft(const NavRecord& record) {
-    const double dist = GreatCircle(sim.plane_lat, sim.plane_lon, record.lat, record.lon).dist;
-    return std::isnan(dist) ? 0 : dist;  // a NaN has no place in an order
-}
-
-// Stable: at the same distance navaid before fix before airport, and file order in a table.
-void SortCandidates() {
-    if (nav.entry_cnt < 2) return;
-    std::vector<std::pair<double, NavRecord>> rows;
-    rows.reserve(static_cast<std::size_t>(nav.entry_cnt));
-    for (int i = 1; i <= nav.entry_cnt; ++i) {
-        NavRecord& record = nav.EntryCandidates[i];
-        rows.emplace_back(DistanceFromAircraft(record), std::move(record));
-    }
-    std::stable_sort(rows.begin(), rows.end(),
-                     [](const auto& a, const auto& b) { return a.first < b.first; });
-    for (int i = 1; i <= nav.entry_cnt; ++i)
-        nav.EntryCandidates[i] = std::move(rows[static_cast<std::size_t>(i) - 1].second);
-}
-
-// The nearest place of that ident, alone on the list.
-std::optional<NavRecord> ResolveNearest(std::string_view ident) {
-    ClearCandidates();
-    ResolveIdent(ident);
-    SortCandidates();
-    if (nav.entry_cnt == 0) return {};
-    NavRecord nearest = nav.EntryCandidates[1];
-    ClearCandidates();
-    AddCandidate(nearest);
-    return nearest;
+    for (const Match& match : FindIdent(ident)) AddCandidate(RecordOf(match));
 }
 
 std::optional<int> ParseBearing(std::string_view text) {
@@ -234,32 +222,31 @@ void ResolvePlaceWithBearing(std::string_view entry, std::size_t slash) {
     nav.entry_bearing = *bearing;
     if (ToNumber(behind) > 0) {
         nav.entry_distance = ToWholeNumber(behind);
-        ResolveIdent(place);
-        SortCandidates();
-        return;
+        return ResolveIdent(place);
     }
     if (behind.size() < kBearingDigits) return;
     const auto bearing2 = ParseBearing(behind.substr(behind.size() - kBearingDigits));
     if (!bearing2) return;
     nav.entry_bearing2 = *bearing2;
     behind.remove_suffix(kBearingDigits);
-    const auto second = ResolveNearest(behind), first = second ? ResolveNearest(place) : std::nullopt;
-    if (!first) return ClearCandidates();
-    NavRecord& crossing = nav.EntryCandidates[1];
-    if (IntersectBearings(first->lat, first->lon, *bearing, second->lat, second->lon, *bearing2, crossing.lat,
-                          crossing.lon) != 0)
-        ClearCandidates();
+    const std::vector<Match> seconds = FindIdent(behind), firsts = FindIdent(place);
+    if (seconds.empty() || firsts.empty()) return;
+    NavRecord crossing = RecordOf(firsts[0]);
+    const NavRecord second = RecordOf(seconds[0]);
+    if (IntersectBearings(crossing.lat, crossing.lon, *bearing, second.lat, second.lon, *bearing2,
+                          crossing.lat, crossing.lon) == 0)
+        AddCandidate(std::move(crossing));
 }
 
 }  // namespace
 
 void ParseEntry(std::string_view text) {
-    ClearCandidates();
+    nav.EntryCandidates.clear();
+    nav.entry_cnt = 0;
     nav.entry_bearing = nav.entry_bearing2 = nav.entry_distance = 0;
     if (ResolvePosition(text)) return;
     const std::size_t slash = text.find('/');
     if (slash != std::string_view::npos && slash > 0) return ResolvePlaceWithBearing(text, slash);
     ResolveIdent(text);
     if (nav.entry_cnt == 0) ResolveCodedPosition(text);
-    SortCandidates();
 }

@@ -36,8 +36,11 @@ std::string ToUpper(std::string_view text) {
 
 double ToNumber(std::string_view text) {
     double number = 0;
+    const char* const end = text.data() + text.size();
+    if (ParsePlainNumber(text.data(), end, number) == end && !text.empty()) return number;
     if (text.starts_with('+')) text.remove_prefix(text.starts_with("+-") ? text.size() : 1);
-    const auto [rest, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    number = 0;
+    const auto [rest, error] = std::from_chars(text.data(), end, number);
     return error == std::errc{} && std::isfinite(number) ? number : 0;
 }
 

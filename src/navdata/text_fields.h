@@ -54,16 +54,11 @@ int ToWholeNumber(std::string_view text);
 inline constexpr double kPowersOfTen[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
                                           1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
 
-/// The next field of a line as a number; false, and 0, when there is no further field.
-inline bool NextNumber(std::string_view& line, double& number) {
-    // Nearly all numbers are a few plain digits. With at most 15 of them both the digits and the power of ten
-    // are exact doubles, so that one division rounds right (W. Clinger, "How to Read Floating Point Numbers
-    // Accurately", 1990). What doesn't look like that goes the general road.
+/// Reads digits with an optional sign and point, which nearly all numbers are, and gives where they end; null
+/// when there are none, or more than 15. With so few both the digits and the power of ten are exact doubles,
+/// and one division rounds right (W. Clinger, "How to Read Floating Point Numbers Accurately", 1990).
+inline const char* ParsePlainNumber(const char* at, const char* end, double& number) {
     constexpr std::ptrdiff_t kMaxDigits = 15;
-    const char* at = line.data();
-    const char* const end = at + line.size();
-    while (at != end && IsBlank(*at)) ++at;
-    const char* const start = at;
     const bool negative = at != end && *at == '-';
     if (negative) ++at;
     const char* const first = at;
@@ -76,10 +71,19 @@ inline bool NextNumber(std::string_view& line, double& number) {
         for (; at != stop && *at >= '0' && *at <= '9'; ++at) digits = digits * 10 + (*at - '0');
         behind_point = at - point - 1;
     }
-    const bool plain = at != first && at - first <= kMaxDigits + (behind_point > 0 ? 1 : 0);
-    if (plain && (at == end || IsBlank(*at))) {
-        number = static_cast<double>(negative ? -digits : digits) / kPowersOfTen[behind_point];
-        line = {at, static_cast<std::size_t>(end - at)};
+    if (at == first || at - first > kMaxDigits + (behind_point > 0 ? 1 : 0)) return nullptr;
+    number = static_cast<double>(negative ? -digits : digits) / kPowersOfTen[behind_point];
+    return at;
+}
+
+/// The next field of a line as a number; false, and 0, when there is no further field.
+inline bool NextNumber(std::string_view& line, double& number) {
+    const char* start = line.data();
+    const char* const end = start + line.size();
+    while (start != end && IsBlank(*start)) ++start;
+    const char* const stop = ParsePlainNumber(start, end, number);
+    if (stop != nullptr && (stop == end || IsBlank(*stop))) {
+        line = {stop, static_cast<std::size_t>(end - stop)};
         return true;
     }
     line = {start, static_cast<std::size_t>(end - start)};
