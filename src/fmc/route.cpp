@@ -1,10 +1,12 @@
 #include "fmc/route.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "fmc/holds.h"
 #include "fmc/leg_list.h"
 #include "fmc/route_rows.h"
+#include "frame/fuel_loader.h"
 #include "navdata/airport_file.h"
 #include "platform/host.h"
 #include "state/airports.h"
@@ -24,7 +26,8 @@ void PrepareAircraftForRoute() {
     constexpr double kStanding = 5;
     constexpr double kLowestCruise = 1000;
     if (sim.ground_speed_kt >= kStanding) return;
-    if (cfg.LoadFuelonFlightPlanLoad == 1 && perf.planned_fuel > 0) perf.fuel_load_due = 1;
+    if (cfg.LoadFuelonFlightPlanLoad == 1 && perf.planned_fuel > 0)
+        LoadTotalFuel(std::exchange(perf.planned_fuel, 0));
     if (cfg.SetMCPCruiseAltonFlightPlanLoad == 1 && perf.pending_cruise_alt >= kLowestCruise)
         SendKeyEvent(kEventMcpAltitude, static_cast<int>(std::min(perf.pending_cruise_alt, 99999.0)));
 }
@@ -139,7 +142,6 @@ void ClearFlightPlan() {
     perf.cruise_alt = 0;
     perf.init_cruise_alt = 0;
     perf.planned_fuel = 0;
-    perf.fuel_load_due = 0;
     perf.final_point_set = 0;
     perf.dist_to_toc = perf.dist_to_tod = perf.dist_to_dest = 0;
     ClearPendingEntries();

@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "frame/sim_client.h"
+#include "frame/fuel_loader.h"
 #include "frame/tokens.h"
 #include "platform/files.h"
 #include "platform/host.h"
@@ -27,8 +27,6 @@ constexpr std::size_t kMaxConfigBytes = 1 << 20;
 constexpr std::size_t kMaxLine = 299;
 constexpr std::size_t kMaxFontName = 20;
 constexpr double kFeetPerNm = 6076;
-constexpr double kMinMainTankGal = 15;
-constexpr double kMinCentreTankGal = 2;
 
 struct KeyValue {
     std::string_view key, value;
@@ -230,10 +228,5 @@ void LoadStoredFuel() {
         cfg.WeightUnit = units == 1 ? "KGS" : "LBS";
         WriteConfig();
     }
-    const double lb_per_gal = ReadToken(kTokenFuelWeightPerGallon);
-    if (!(lb_per_gal > 0) || !(left_lb > 0 || right_lb > 0 || centre_lb > 0)) return;
-    weights.fuel_load_left = std::max(left_lb / lb_per_gal, kMinMainTankGal);
-    weights.fuel_load_right = std::max(right_lb / lb_per_gal, kMinMainTankGal);
-    weights.fuel_load_centre = std::max(centre_lb / lb_per_gal, kMinCentreTankGal);
-    Host().send_client_event(kClientEventFuel);
+    if (left_lb > 0 || right_lb > 0 || centre_lb > 0) LoadFuel(left_lb, right_lb, centre_lb);
 }

@@ -64,7 +64,6 @@ constexpr Variable kRows[] = {
     {"des_tas", &perf.des_tas},
     {"tod_rod", &perf.tod_rod},
     {"planned_fuel", &perf.planned_fuel},
-    {"fuel_load_due", &perf.fuel_load_due},
     {"final_point_lat", &perf.final_point_lat},
     {"final_point_lon", &perf.final_point_lon},
     {"perf_factor", &perf.perf_factor},

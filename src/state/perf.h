@@ -37,8 +37,7 @@ struct PerfState {
     double zfw = 0;           // lb, zero-fuel weight, 0 = not known
     double gross_weight = 0;  // lb
     double agent_fuel = 0;    // lb, added by the load agent
-    double planned_fuel = 0;  // lb, that the route brought; 0 = none
-    int fuel_load_due = 0;    // the planned fuel is to be put into the tanks
+    double planned_fuel = 0;  // lb, that the route brought and that isn't in the tanks yet; 0 = none
     double resv_fuel = 0;     // lb
     double reserves = 0;      // lb
     double start_weight = 0;

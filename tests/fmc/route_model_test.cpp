@@ -23,6 +23,7 @@
 #include "state/side.h"
 #include "state/sim.h"
 #include "state/vnav.h"
+#include "state/weights.h"
 
 namespace {
 
@@ -96,15 +97,20 @@ TEST_F(RouteModel, StateAdvancesInItsCircleAndPreparesTheAircraftOnTheGround) {
     EXPECT_TRUE(host.events.empty());
     perf.pending_cruise_alt = 35000;
     perf.planned_fuel = 90000;
+    host.tokens = {{290, 20000}, {292, 5000}, {298, 5000}, {306, 6.7}};
     AdvanceRouteState();
     ASSERT_EQ(host.events.size(), 1u);
     EXPECT_EQ(host.events[0], (std::pair{66124, 35000}));
-    EXPECT_EQ(perf.fuel_load_due, 1);
-    perf.fuel_load_due = 0;
+    // 6.7 lb a gallon, 5000 gal in a main tank: what they don't hold goes into the centre tank.
+    EXPECT_EQ(host.client_events, std::vector{9});
+    EXPECT_NEAR(weights.fuel_load_left, 5000, 1e-9);
+    EXPECT_NEAR(weights.fuel_load_right, 5000, 1e-9);
+    EXPECT_NEAR(weights.fuel_load_centre, 90000 / 6.7 - 10000, 1e-9);
+    perf.planned_fuel = 90000;
     sim.ground_speed_kt = 5;
     AdvanceRouteState();
     EXPECT_EQ(host.events.size(), 1u);
-    EXPECT_EQ(perf.fuel_load_due, 0);
+    EXPECT_EQ(perf.planned_fuel, 90000);
 }
 
 TEST_F(RouteModel, RowsStandForAirwaysAndDirects) {
