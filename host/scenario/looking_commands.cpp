@@ -87,7 +87,7 @@ std::vector<Command> LookingCommands() {
     return {
         {"get", "NAME...", "get stpos aircraft:lat", Command::kAfter, 1, 100, Get},
         {"set", "NAME VALUE", "set AccelHt 1000", Command::kAfter, 2, 2, Set},
-        {"expect", "NAME OP VALUE [TOL]", "expect stpos == 999", Command::kAfter, 3, 4, Expect},
+        {"expect", "NAME OP VALUE [TOL]", "expect aircraft:alt > 0", Command::kAfter, 3, 4, Expect},
         {"vars", "[PATTERN]", "vars fp_*", Command::kAfter, 0, 1, Vars},
         {"legs", "[active|mod]", "legs active", Command::kAfter, 0, 1, PrintList<kLegs>},
         {"rows", "", "rows", Command::kAfter, 0, 0, PrintList<kRows>},

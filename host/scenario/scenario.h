@@ -18,10 +18,10 @@ struct Scenario {
     std::ostream& out;
     bool started = false;
     int failed_expectations = 0;
-    std::string file;  // of the line being run
+    std::string file = {};  // of the line being run
     int line = 0;
-    std::vector<SimMessage> messages_before_start;
-    std::vector<std::string> message_texts;
+    std::vector<SimMessage> messages_before_start = {};
+    std::vector<std::string> message_texts = {};
     int paint_every = 1;
 };
 
