@@ -8,16 +8,13 @@
 #include <string_view>
 
 #include "frame/fuel_loader.h"
-#include "frame/tokens.h"
 #include "platform/files.h"
-#include "platform/host.h"
 #include "platform/text.h"
 #include "state/cfg.h"
 #include "state/cockpit.h"
 #include "state/perf.h"
 #include "state/sim.h"
 #include "state/variable_directory.h"
-#include "state/weights.h"
 
 namespace {
 
