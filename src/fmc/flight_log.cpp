@@ -51,6 +51,7 @@ void BeginLog() {
     flight_log = {};
     flight_log.start_fuel = sim.total_fuel;
     perf.fplog_mode = kInitLoad;
+    time_base.fltsecs = 0;
     if (cfg.LogFlightPlan != 1) return;
     char text[512];
     std::snprintf(text, sizeof text, "FlightPlan=%.20s-%.20s\nAircraft=%.200s\n", plan.ends.origin.c_str(),

@@ -26,6 +26,8 @@
 
 namespace {
 
+constexpr double kSamePlace = 5;  // nm; navaids and airways may be surveyed apart
+
 struct RouteWords {
     std::vector<std::string> text;  // the ends included, speeds and levels taken off
     std::vector<int> number;        // place of each in the text, from 1, for what is told
@@ -173,9 +175,15 @@ bool ParseFiledEntry(const std::string& word) {
     return nav.entry_cnt > 0;
 }
 
-void EnterRow(int candidate) {
-    InsertDirectRow(candidate, 0);
-    OpenModification();
+// A fix that stands in the airway's file only.
+bool EnterFromAirway(const std::string& airway, const std::string& fix, const LatLon& place) {
+    for (int run = 1; LoadAirway(airway, fix, run) > 0; ++run) {
+        if (nav.entry_list_pos == 0) continue;
+        if (DistanceFrom(place, nav.EntryCandidates[nav.entry_list_pos]) > 0) continue;
+        InsertDirectRow(nav.entry_list_pos, 0);
+        return true;
+    }
+    return false;
 }
 
 bool EnterFix(const RouteWords& words, std::size_t i, std::string& error) {
@@ -188,20 +196,12 @@ bool EnterFix(const RouteWords& words, std::size_t i, std::string& error) {
         FindOnAirway(words.text[i + 1], word, i + 2 < last ? words.text[i + 2] : std::string(), place);
     if (ParseFiledEntry(word)) {
         const int nearest = NearestCandidate(place);
-        constexpr double kSamePlace = 5;  // nm; navaids and airways may be surveyed apart
         if (!on_airway || DistanceFrom(place, nav.EntryCandidates[nearest]) < kSamePlace) {
-            EnterRow(nearest);
+            InsertDirectRow(nearest, 0);
             return true;
         }
     }
-    if (on_airway) {  // a fix that stands in the airway's file only
-        for (int run = 1; LoadAirway(words.text[i + 1], word, run) > 0; ++run) {
-            if (nav.entry_list_pos == 0) continue;
-            if (DistanceFrom(place, nav.EntryCandidates[nav.entry_list_pos]) > 0) continue;
-            EnterRow(nav.entry_list_pos);
-            return true;
-        }
-    }
+    if (on_airway && EnterFromAirway(words.text[i + 1], word, place)) return true;
     const std::string_view what = i == 1          ? "no such fix, airway or departure"
                                   : i + 1 == last ? "no such fix, airway or arrival"
                                                   : "no such fix or airway";
@@ -209,8 +209,9 @@ bool EnterFix(const RouteWords& words, std::size_t i, std::string& error) {
     return false;
 }
 
-// The place on AirwayFixList where a second airway is joined, 0 when the two don't meet. Where they meet more
-// than once, the one that makes the way short: the last of them would often be beyond the turn-off.
+// The place on AirwayFixList where a second airway is joined, 0 when the two don't meet. Where they share
+// more than one fix, the last of those that make the way short: FindAirwayCrossing gives the last of all,
+// which may lie beyond the turn-off.
 int FindTurnOff(const std::string& second, const std::string& end) {
     int best = 0, best_legs = 0;
     for (int run = 1; LoadAirway(second, end, run) > 0; ++run) {
@@ -219,10 +220,10 @@ int FindTurnOff(const std::string& second, const std::string& end) {
             for (int j = 1; j <= nav.entry_cnt; ++j) {
                 const NavRecord& other = nav.EntryCandidates[j];
                 if (i == plan.awy_start_pos || fix.ident != other.ident) continue;
-                if (std::fabs(fix.lat - other.lat) > 0.1) continue;  // a namesake elsewhere
+                if (DistanceFrom({fix.lat, fix.lon}, other) > kSamePlace) continue;  // a namesake elsewhere
                 const int on_second = nav.entry_list_pos > 0 ? std::abs(j - nav.entry_list_pos) : 0;
                 const int legs = std::abs(i - plan.awy_start_pos) + on_second;
-                if (best != 0 && legs >= best_legs) continue;
+                if (best != 0 && legs > best_legs) continue;
                 best = i;
                 best_legs = legs;
             }
@@ -233,7 +234,6 @@ int FindTurnOff(const std::string& second, const std::string& end) {
 
 void EnterSegment(const std::string& airway, int end) {
     InsertAirwayPlaceholder(plan.awy_start_leg + 1, airway);
-    OpenModification();
     InsertAirwaySegment(end);
 }
 
@@ -282,7 +282,7 @@ bool EnterWords(const RouteWords& words, std::string& error) {
             !direct && IsAirway(words.text[i]) ? EnterAirway(words, i, error) : EnterFix(words, i, error);
         if (!entered) return false;
     }
-    OpenModification();
+    OpenModification();  // when all is right, for it may load fuel and set the MCP
     return true;
 }
 
