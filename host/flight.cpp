@@ -3,7 +3,6 @@
 #include <cmath>
 #include <string_view>
 
-#include "host/aircraft/magnetic_variation.h"
 #include "host/aircraft/tokens.h"
 #include "host/world/terrain.h"
 #include "host/world/world.h"
@@ -15,7 +14,7 @@ Flight flight;
 namespace {
 
 constexpr double kTick = 1 / 18.0;
-constexpr int kTokenBaro = 75, kTokenVariation = 82;
+constexpr int kTokenBaro = 75;
 constexpr double kTransitionAltitude = 18000;
 
 double GroundFeet(double lat, double lon) {
@@ -39,7 +38,7 @@ void ApplyOutsideTemperature() {
 void SetPanelWindows(const Placement& placement) {
     constexpr double kStandingSpeed = 200;
     SetToken(116, placement.ias > 0 ? std::round(placement.ias) : kStandingSpeed);
-    SetToken(107, std::round(placement.heading));
+    SetToken(107, std::round(TokenOf(81)));
     SetToken(120, 0);
     SetCalc("(A:AUTOPILOT ALTITUDE LOCK VAR, feet)", std::round(placement.alt_ft / 100) * 100);
 }
@@ -104,6 +103,7 @@ void StepFlight(bool moves) {
     const AutoflightCommands commands = StepAutoflight(flight.autoflight, kTick);
     aircraft.controls.bank = commands.flies ? commands.bank : 0;
     if (commands.flies) aircraft.controls.path = commands.path;
+    aircraft.controls.steering = commands.flies ? commands.steering : 0;
     if (commands.moves_levers) aircraft.controls.thrust_lever = commands.thrust_lever;
     StepAircraft(aircraft, kTick);
     FillTokens(aircraft);
@@ -118,7 +118,7 @@ bool AircraftValue(const std::string& name, double& value) {
         {"lat", Latitude},
         {"lon", Longitude},
         {"alt", [](const Aircraft& aircraft) { return aircraft.altitude; }},
-        {"hdg", [](const Aircraft&) { return TokenOf(81); }},
+        {"hdg", TrueHeading},
         {"ias", [](const Aircraft& aircraft) { return aircraft.ias; }},
         {"gs", [](const Aircraft& aircraft) { return aircraft.ground_speed; }},
         {"vs", [](const Aircraft& aircraft) { return aircraft.vertical_speed; }},

@@ -12,7 +12,7 @@
 namespace host {
 
 struct Placement {
-    double lat, lon, alt_ft, heading;  // feet above the sea, degrees magnetic
+    double lat, lon, alt_ft, heading;  // feet above the sea, degrees true
     double ias = 0;
 };
 
@@ -40,7 +40,8 @@ void SetQnh(double hpa);
 /// tokens put it, and only fuel and payload that the module writes are taken.
 void StepFlight(bool moves);
 
-/// A value of the host's aircraft: lat lon alt hdg ias gs vs bank pitch fuel weight. False for another name.
+/// A value of the host's aircraft: lat lon alt hdg (true) ias gs vs bank pitch fuel weight. False for another
+/// name.
 bool AircraftValue(const std::string& name, double& value);
 
 }  // namespace host

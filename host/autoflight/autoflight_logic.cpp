@@ -95,9 +95,11 @@ AutoflightCommands StepAutoflight(AutoflightLogic& logic, double dt) {
     logic.path_command = Slew(logic.path_command, VerticalPath(logic, now, dt), kPathRate * dt);
     logic.lever_command = ThrustLever(logic, now, dt);
     AutoflightCommands commands;
-    commands.flies = logic.engaged;
+    // In the take-off the pilot's hands follow the flight director.
+    commands.flies = logic.engaged || logic.vertical == kVerticalToGa;
     commands.bank = logic.bank_command;
     commands.path = logic.path_command;
+    commands.steering = GroundSteering(logic, now);
     commands.moves_levers = logic.throttle != kThrottleNone;
     commands.thrust_lever = logic.lever_command;
     SetNamedValue("TZ_FD_Bank", -logic.bank_command);

@@ -64,6 +64,7 @@ struct AutoflightLogic {
 struct AutoflightCommands {
     bool flies = false;
     double bank = 0, path = 0;  // degrees, right and up positive
+    double steering = 0;        // degrees a second on the ground, right positive
     bool moves_levers = false;
     double thrust_lever = 0;  // 0 to 1
 };

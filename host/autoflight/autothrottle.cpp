@@ -32,7 +32,9 @@ void UpdateThrottleMode(AutoflightLogic& logic, const FlightValues& now) {
     const bool woken = logic.throttle != kThrottleNone || logic.vertical == kFlightLevelChange;
     if (!woken || now.on_ground) return;
     // In the air the pitch mode decides: pitch holds the speed, then thrust is fixed; else thrust holds it.
-    if (logic.vertical == kFlightLevelChange)
+    if (logic.vertical == kVerticalToGa)
+        logic.throttle = kThrustReference;
+    else if (logic.vertical == kFlightLevelChange)
         logic.throttle = SelectedAltitude() > now.altitude ? kThrust : kIdle;
     else if (logic.vertical != kVerticalNone)
         logic.throttle = kSpeed;

@@ -135,6 +135,11 @@ void HoldDirection(AutoflightLogic& logic, const FlightValues& now) {
 
 void UpdateLateralMode(AutoflightLogic& logic, const FlightValues& now) {
     TakeRequest(logic, now);
+    // Take-off thrust on the runway holds the runway's heading until another mode takes over in the air.
+    if (now.on_ground && logic.throttle == kThrustReference && logic.lateral == kLateralNone) {
+        logic.lateral = kLateralToGa;
+        logic.held_direction = now.magnetic_heading;
+    }
     CaptureArmedMode(logic, now);
     if (!HasLnavHeading()) DropLnav(logic, now);
     if (logic.lateral == kLocalizer && now.on_ground) logic.lateral = kRollout;
@@ -172,6 +177,14 @@ double LateralBank(const AutoflightLogic& logic, const FlightValues& now) {
         default:
             return 0;
     }
+}
+
+double GroundSteering(const AutoflightLogic& logic, const FlightValues& now) {
+    constexpr double kGain = 0.5, kMostRate = 4;
+    double wanted = now.magnetic_heading;
+    if (logic.lateral == kLateralToGa) wanted = logic.held_direction;
+    if (logic.lateral == kRollout) wanted = CourseToNeedle(TokenOf(550), TokenOf(40));
+    return std::clamp(Difference(now.magnetic_heading, wanted) * kGain, -kMostRate, kMostRate);
 }
 
 }  // namespace host

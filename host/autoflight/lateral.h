@@ -11,6 +11,9 @@ void UpdateLateralMode(AutoflightLogic& logic, const FlightValues& now);
 /// The bank (degrees, right positive) that the lateral mode wants; 0 without one.
 double LateralBank(const AutoflightLogic& logic, const FlightValues& now);
 
+/// How fast (degrees a second, right positive) the nose is to turn on the runway, in take-off and roll-out.
+double GroundSteering(const AutoflightLogic& logic, const FlightValues& now);
+
 /// Enters the heading or track hold at the direction in which the aircraft rolls out.
 void HoldDirection(AutoflightLogic& logic, const FlightValues& now);
 

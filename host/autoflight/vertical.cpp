@@ -21,12 +21,13 @@ double PathOfVerticalSpeed(double vertical_speed, const FlightValues& now) {
 }
 
 bool IsChangingLevel(int mode) {
-    return mode == kVerticalSpeed || mode == kFlightPathAngle || mode == kFlightLevelChange;
+    return mode == kVerticalSpeed || mode == kFlightPathAngle || mode == kFlightLevelChange ||
+           mode == kVerticalToGa;
 }
 
 void HoldAltitude(AutoflightLogic& logic, double altitude) {
     logic.vertical = kAltitude;
-    logic.vertical_armed = kVerticalNone;
+    if (logic.vertical_armed == kAltitude) logic.vertical_armed = kVerticalNone;
     logic.held_altitude = altitude;
 }
 
@@ -46,8 +47,13 @@ void TakeRequest(AutoflightLogic& logic, const FlightValues& now) {
             logic.vertical = kFlightLevelChange;
             break;
         case kGlideSlope:
-            logic.vertical_armed = kGlideSlope;
-            if (logic.lateral != kLocalizer) logic.lateral_armed = kLocalizer;
+            if (NamedValue("tz_fmc_ian_appr") == 1) {  // an approach flown by the route's own needles
+                logic.vertical_armed = kGlidePath;
+                if (logic.lateral != kFinalApproachCourse) logic.lateral_armed = kFinalApproachCourse;
+            } else {
+                logic.vertical_armed = kGlideSlope;
+                if (logic.lateral != kLocalizer) logic.lateral_armed = kLocalizer;
+            }
             break;
         default:
             break;
@@ -55,7 +61,7 @@ void TakeRequest(AutoflightLogic& logic, const FlightValues& now) {
 }
 
 void CaptureSelectedAltitude(AutoflightLogic& logic, const FlightValues& now) {
-    if (!IsChangingLevel(logic.vertical)) return;
+    if (!IsChangingLevel(logic.vertical) || now.on_ground) return;
     const double to_go = SelectedAltitude() - now.altitude;
     const bool closing = to_go * now.vertical_speed >= 0;
     const double lead = std::fabs(now.vertical_speed) / 60 * kCaptureTime;
@@ -64,9 +70,9 @@ void CaptureSelectedAltitude(AutoflightLogic& logic, const FlightValues& now) {
 }
 
 // Speed by pitch: the path is bent until the speed changes as the error wants it to.
-double PathForSpeed(const AutoflightLogic& logic, const FlightValues& now, double dt) {
+double PathForSpeed(const AutoflightLogic& logic, const FlightValues& now, double speed, double dt) {
     constexpr double kSpeedTime = 12, kMostRate = 1.0, kBendTime = 4;
-    const double wanted_rate = std::clamp((SelectedSpeed(now) - now.ias) / kSpeedTime, -kMostRate, kMostRate);
+    const double wanted_rate = std::clamp((speed - now.ias) / kSpeedTime, -kMostRate, kMostRate);
     const double excess = (logic.ias_rate - wanted_rate) / kGravityKt / kRad;  // degrees of path
     const double path = logic.path_command + excess * dt / kBendTime;
     const bool climb = SelectedAltitude() > now.altitude;
@@ -85,11 +91,14 @@ double SelectedSpeed(const FlightValues& now) {
     constexpr double kMostMach = 0.89;
     const double fastest =
         now.mach > 0.3 ? std::min(NamedValue("TZ_V_MO"), now.ias * kMostMach / now.mach) : 360;
-    return std::max(std::min(window, fastest), NamedValue("TZ_V_A"));
+    constexpr double kSlowestOverStall = 1.2;
+    return std::max(std::min(window, fastest), NamedValue("TZ_V_S") * kSlowestOverStall);
 }
 
 void UpdateVerticalMode(AutoflightLogic& logic, const FlightValues& now) {
     TakeRequest(logic, now);
+    if (now.on_ground && logic.throttle == kThrustReference && logic.vertical == kVerticalNone)
+        logic.vertical = kVerticalToGa;
     CaptureSelectedAltitude(logic, now);
     if (IsChangingLevel(logic.vertical) && logic.vertical_armed == kVerticalNone)
         logic.vertical_armed = kAltitude;
@@ -106,7 +115,13 @@ double VerticalPath(const AutoflightLogic& logic, const FlightValues& now, doubl
         case kVerticalSpeed:
             return PathOfVerticalSpeed(TokenOf(120), now);
         case kFlightLevelChange:
-            return PathForSpeed(logic, now, dt);
+            return PathForSpeed(logic, now, SelectedSpeed(now), dt);
+        case kVerticalToGa: {
+            // The window stands at V2; the climb is flown a little above it.
+            constexpr double kRotation = 10, kRotationOverStall = 1.12, kAboveV2 = 15;
+            if (!now.on_ground) return PathForSpeed(logic, now, SelectedSpeed(now) + kAboveV2, dt);
+            return now.ias > NamedValue("TZ_V_S") * kRotationOverStall ? kRotation : 0;
+        }
         default:
             return logic.path_command;
     }

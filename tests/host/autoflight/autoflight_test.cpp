@@ -39,6 +39,7 @@ class AutoflightTest : public testing::Test {
         for (int i = 0; i < static_cast<int>(seconds * 18); ++i) {
             const AutoflightCommands commands = StepAutoflight(logic, 1 / 18.0);
             aircraft.controls.bank = commands.flies ? commands.bank : 0;
+            aircraft.controls.steering = commands.steering;
             if (commands.flies) aircraft.controls.path = commands.path;
             if (commands.moves_levers) aircraft.controls.thrust_lever = commands.thrust_lever;
             StepAircraft(aircraft, 1 / 18.0);
@@ -222,6 +223,54 @@ TEST_F(AutoflightTest, AutothrottleFollowsTheWindowAndThePitchMode) {
     SetNamedValue("at_armed_left", 0);
     FlyFor(1);
     EXPECT_EQ(Mode("at_mode"), 0);
+}
+
+TEST_F(AutoflightTest, TakesOffAlongTheRunwayAndHandsOverToLnav) {
+    PlaceAircraftAt(aircraft, 0, 0, 0, 90, 0, 0);
+    aircraft.flaps = aircraft.controls.flaps = 0.4;
+    aircraft.air.wind_from = 120;
+    aircraft.air.wind_kt = 15;
+    FillTokens(aircraft);
+    SetToken(116, 160);
+    SetCalc(kAltitudeWindow, 5000);
+    SetNamedValue("lnav_hdg", 70);
+    SetNamedValue("xtk_err_dist", 0.1);
+    Press("ap_lat_mode_clicked", kLnav);
+    Press("at_mode_clicked", 5);
+    FlyFor(15);
+    EXPECT_EQ(Mode("ap_lat_mode"), kLateralToGa);
+    EXPECT_EQ(Mode("ap_lat_mode_armed"), kLnav);
+    EXPECT_EQ(Mode("ap_vert_mode"), kVerticalToGa);
+    EXPECT_EQ(Mode("at_mode"), kThrustReference);
+    EXPECT_TRUE(aircraft.on_ground);
+    EXPECT_NEAR(TrueHeading(aircraft), 90, 0.5);
+    FlyFor(55);
+    EXPECT_FALSE(aircraft.on_ground);
+    EXPECT_GT(aircraft.altitude, 500);
+    EXPECT_NEAR(aircraft.ias, 175, 12);
+    EXPECT_EQ(Mode("ap_lat_mode"), kLnav);
+    EngageAutopilot();
+    FlyFor(180);
+    EXPECT_EQ(Mode("ap_master_l"), 1);
+    EXPECT_EQ(Mode("ap_vert_mode"), kAltitude);
+    EXPECT_NEAR(aircraft.altitude, 5000, 20);
+    EXPECT_NEAR(aircraft.track, 70, 0.5);
+    EXPECT_EQ(Mode("at_mode"), kSpeed);
+}
+
+TEST_F(AutoflightTest, AnApproachByTheRoutesNeedlesArmsItsOwnModes) {
+    EngageAutopilot();
+    SetNamedValue("tz_fmc_ian_appr", 1);
+    SetNamedValue("tz_ian_fac_needle", 127);
+    SetNamedValue("tz_dest_rwy_trk", 75);
+    Press("ap_vert_mode_clicked", kGlideSlope);
+    FlyFor(1);
+    EXPECT_EQ(Mode("ap_lat_mode_armed"), kFinalApproachCourse);
+    EXPECT_EQ(Mode("ap_vert_mode_armed"), kGlidePath);
+    SetNamedValue("tz_ian_fac_needle", 0);
+    FlyFor(60);
+    EXPECT_EQ(Mode("ap_lat_mode"), kFinalApproachCourse);
+    EXPECT_NEAR(aircraft.track, 75, 0.3);
 }
 
 TEST_F(AutoflightTest, ADisconnectIsSeenBeforeTheAutopilotLetsGo) {
