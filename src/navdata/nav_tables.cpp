@@ -12,6 +12,7 @@
 #include "state/cfg.h"
 #include "state/nav.h"
 #include "state/nav_tables.h"
+#include "state/nearest.h"
 
 namespace {
 
@@ -164,6 +165,10 @@ CycleDate ParseCycleDate(std::string_view text) {
 
 void LoadNavTables() {
     nav_tables = {};
+    nearest.airports = {};  // their rows are views into what was just freed
+    nearest.fixes = {};
+    nearest.navaids = {};
+    nearest.vors = {};
     LoadIntersections(nav_tables);
     LoadAirways(nav_tables);
     LoadAirports(nav_tables);

@@ -1,7 +1,9 @@
 #include "navdata/vor_autotune.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <tuple>
 #include <utility>
 
 #include "frame/key_events.h"
@@ -23,22 +25,34 @@ struct NavRadio {
 };
 constexpr NavRadio kNav1 = {kTokenNav1Freq, kKeyNav1FreqSet}, kNav2 = {kTokenNav2Freq, kKeyNav2FreqSet};
 
-// Keeps the nine nearest, in order, by insertion: few rows get past the ninth.
+// The nine nearest, found by insertion: few rows get past the ninth.
 void FindNearestVors() {
-    auto& vors = nearest.NearestVors;
-    const int last = static_cast<int>(vors.size()) - 1;
-    int count = 0;
+    struct Place {
+        double dist;
+        int row;
+    };
+    std::array<Place, std::tuple_size_v<decltype(nearest.NearestVors)> - 1> places;
+    std::size_t count = 0;
     for (int i = 1; i <= nearest.vors.cnt; ++i) {
         const NavaidRow& row = std::as_const(nearest.vors.rows)[i];
-        const auto [dist, bearing] = GreatCircle(sim.plane_lat, sim.plane_lon, row.lat, row.lon);
-        int at = count;
-        for (; at > 0 && vors[static_cast<std::size_t>(at)].dist > dist; --at)
-            if (at < last) vors[static_cast<std::size_t>(at) + 1] = vors[static_cast<std::size_t>(at)];
-        if (at == last) continue;
-        vors[static_cast<std::size_t>(at) + 1] = {row.ident, row.freq, row.lat, row.lon, dist, bearing};
-        count = std::min(count + 1, last);
+        const double dist = GreatCircle(sim.plane_lat, sim.plane_lon, row.lat, row.lon).dist;
+        if (count == places.size() && dist >= places.back().dist) continue;
+        if (count < places.size()) ++count;
+        std::size_t at = count - 1;
+        for (; at > 0 && places[at - 1].dist > dist; --at) places[at] = places[at - 1];
+        places[at] = {dist, i};
     }
-    nearest.nearest_vor_cnt = count;
+    for (std::size_t i = 0; i < count; ++i) {
+        const NavaidRow& row = std::as_const(nearest.vors.rows)[places[i].row];
+        TunedVor& vor = nearest.NearestVors[i + 1];
+        vor.ident = row.ident;
+        vor.freq = row.freq;
+        vor.lat = row.lat;
+        vor.lon = row.lon;
+        vor.dist = places[i].dist;
+        vor.bearing = GreatCircle(sim.plane_lat, sim.plane_lon, row.lat, row.lon).bearing;
+    }
+    nearest.nearest_vor_cnt = static_cast<int>(count);
 }
 
 void PickRadios() {

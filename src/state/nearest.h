@@ -3,7 +3,6 @@
 #include <array>
 #include <span>
 #include <string>
-#include <string_view>
 
 #include "state/growing_list.h"
 #include "state/nav_tables.h"
@@ -32,8 +31,8 @@ struct AltnRecord {
 };
 
 struct TunedVor {
-    std::string_view ident;
-    std::string_view freq;  // as in the file
+    std::string ident;
+    std::string freq;  // as in the file
     double lat = 0, lon = 0;
     double dist = 0;     // nm from the aircraft
     double bearing = 0;  // degrees true from the aircraft
