@@ -109,8 +109,8 @@ void SteerInPattern(const Pattern& pattern, const HoldRecord& hold) {
     const LatLon previous = pattern.points[static_cast<std::size_t>(lnav.hold_prev_point)];
     const LatLon aim = ProjectPoint(previous.lat, previous.lon, progress.segment.bearing,
                                     progress.segment.dist - progress.to_point.dist + kLookahead);
-    lnav.hold_hdg =
-        FoldBearing(GreatCircle(sim.plane_lat, sim.plane_lon, aim.lat, aim.lon).bearing - hold.magvar);
+    const double bearing = GreatCircle(sim.plane_lat, sim.plane_lon, aim.lat, aim.lon).bearing;
+    lnav.hold_hdg = FoldBearing(bearing - (lnav.true_reference == 1 ? 0 : hold.magvar));
 }
 
 void StopHolding() {

@@ -259,6 +259,7 @@ void LnavUpdate() {
         lnav.lnav_init_mode = 0;
         lnav.force_sequence = 0;
         lnav.plan_finished = 0;
+        if (lnav.holding == 1) HoldUpdate();
         return;
     }
     if (lnav.force_sequence == 1) time_base.tick_phase = kForcedPassPhase;

@@ -117,6 +117,7 @@ void SequenceLeg() {
 void BeginActiveLeg() {
     LocateOnActiveLeg();
     lnav.wpt_chg_dist = WaypointChangeDistance(kTurnOfFarFix, 0);
+    lnav.turn_code = kTurnOfFarFix;
     lnav.fix_near = 0;
     lnav.plan_finished = 0;
 }

@@ -18,7 +18,9 @@ const std::vector<GuidanceTest::Fix> kEast = {
 
 TEST_F(LnavTest, WithoutAPlanNothingMoves) {
     lnav.lnav_init_mode = 1;
+    lnav.holding = lnav.hold_point = 1;  // the plan has been thrown away in a hold
     RunASecond();
+    EXPECT_EQ(lnav.holding, 0);
     EXPECT_EQ(lnav.xtk, -99);
     EXPECT_EQ(lnav.lnav_init_mode, 0);
     EXPECT_EQ(lnav.wpt_dist, 0);
