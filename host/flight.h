@@ -37,7 +37,7 @@ void SetOutsideTemperature(double celsius);
 void SetQnh(double hpa);
 
 /// One tick of 1/18 s. With `moves` the aircraft flies and AutoflightLogic runs; without, it stays where the
-/// tokens put it, and only fuel and payload that the module writes are taken.
+/// tokens put it, and only what the module writes of fuel, payload and position is taken.
 void StepFlight(bool moves);
 
 /// A value of the host's aircraft: lat lon alt hdg (true) ias gs vs bank pitch fuel weight. False for another

@@ -18,6 +18,7 @@ constexpr double kFullTank = 8388608;
 constexpr double kWheelsToRadar = 17.2;  // ft, the radar's place above the wheels
 constexpr double kRankineOffset = 491.69;
 constexpr double kFlapDegrees = 30;
+constexpr int kPositionDefinition = 0;
 // What the simulator's client calls the right main, the left main and the centre tank, and the first of the
 // five payload stations.
 constexpr std::pair<int, FuelTank> kFuelDefinitions[] = {{2, kRightTank}, {3, kLeftTank}, {8, kCentreTank}};
@@ -59,7 +60,7 @@ void FillAir(const Aircraft& aircraft) {
     const double altitude = IndicatedAltitude(aircraft.altitude, kStandardHpa, aircraft.air);
     const double static_k = Temperature(altitude, aircraft.air);
     SetToken(341, static_k - kZeroCelsius);
-    SetToken(350, (static_k * (1 + 0.2 * aircraft.mach * aircraft.mach) - kZeroCelsius) * 256);
+    SetToken(350, (static_k * (1 + 0.2 * aircraft.mach * aircraft.mach) - kZeroCelsius) / 256);
     SetToken(343, aircraft.air.wind_kt);
     SetToken(344, aircraft.air.wind_from);
 }
@@ -99,11 +100,20 @@ void FillWeights(const Aircraft& aircraft) {
         SetCalc(kPayloadExpressions[station], aircraft.payload_lb[station]);
 }
 
+// The slats go to their middle position with the first degree of the flaps and fully out before the landing
+// positions.
+double SlatAngle(double flap_degrees) {
+    constexpr double kMiddle = 16, kOut = 22, kLandingFlaps = 25;
+    return kMiddle * std::min(flap_degrees, 1.0) +
+           (kOut - kMiddle) * std::clamp(flap_degrees - kLandingFlaps + 1, 0.0, 1.0);
+}
+
 void FillSurfaces(const Aircraft& aircraft) {
     SetToken(326, aircraft.speedbrake * kFull);
     SetToken(327, aircraft.speedbrake * kFull);
     for (const int gear : {332, 333, 334}) SetToken(gear, aircraft.gear * kFull);
     SetToken(907, aircraft.flaps * kFlapDegrees);
+    SetCalc("(A:LEADING EDGE FLAPS LEFT ANGLE,degrees)", SlatAngle(aircraft.flaps * kFlapDegrees));
 }
 
 // What the cockpit model and its gauges work out for themselves.
@@ -123,6 +133,22 @@ double NumberWritten(const std::vector<std::uint8_t>& bytes) {
     return std::isfinite(value) ? std::max(value, 0.0) : 0;
 }
 
+// The simulator's record of a position in the air: pitch and bank are not taken, the aircraft comes trimmed.
+void TakePosition(const std::vector<std::uint8_t>& bytes, Aircraft& aircraft) {
+    struct {
+        double lat, lon, alt_ft, pitch, bank, heading;
+        std::uint32_t on_ground, ias;
+    } record;
+    if (bytes.size() != sizeof record) return;
+    std::memcpy(&record, bytes.data(), sizeof record);
+    const bool usable = std::fabs(record.lat) <= 90 && std::fabs(record.lon) <= 180 &&
+                        std::fabs(record.alt_ft) <= 60000 && std::isfinite(record.heading);
+    if (!usable || record.ias > 500) return;
+    constexpr double kClearOfGround = 100;  // ft, until the terrain there is known
+    PlaceAircraftAt(aircraft, record.lat, record.lon, record.alt_ft, record.heading, record.ias,
+                    std::min(aircraft.ground_elevation, record.alt_ft - kClearOfGround));
+}
+
 }  // namespace
 
 void FillTokens(const Aircraft& aircraft) {
@@ -139,11 +165,14 @@ void TakeControlsFromTokens(Aircraft& aircraft) {
     aircraft.controls.flaps = std::clamp(TokenOf(328) / kFull, 0.0, 1.0);
     aircraft.controls.gear = TokenOf(331) > 0 ? 1 : 0;
     aircraft.controls.wheel_brakes = TokenOf(323) >= 32000 ? 1 : 0;
+    aircraft.engines[0].running = TokenOf(560) != 0;
+    aircraft.engines[1].running = TokenOf(570) != 0;
 }
 
 bool TakeDataWrites(Aircraft& aircraft) {
     if (world.data_writes.empty()) return false;
     for (const SimDataWrite& write : world.data_writes) {
+        if (write.definition == kPositionDefinition) TakePosition(write.bytes, aircraft);
         const double value = NumberWritten(write.bytes);
         for (const auto& [definition, tank] : kFuelDefinitions)
             if (write.definition == definition)

@@ -9,10 +9,11 @@ namespace host {
 void FillTokens(const Aircraft& aircraft);
 
 /// Takes the controls that the pilot's hardware and the panels set by token: thrust levers, flap handle, gear
-/// handle, speedbrakes, parking brake.
+/// handle, parking brake, the fuel of each engine.
 void TakeControlsFromTokens(Aircraft& aircraft);
 
-/// Takes the fuel and the payload that the module has written to the simulator's data since the last call.
+/// Takes the fuel, the payload and the position that the module has written to the simulator's data since the
+/// last call.
 /// False when it has written nothing.
 bool TakeDataWrites(Aircraft& aircraft);
 

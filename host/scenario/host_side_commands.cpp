@@ -1,3 +1,4 @@
+#include <array>
 #include <chrono>
 #include <cstdlib>
 #include <filesystem>
@@ -109,6 +110,14 @@ void Qnh(Scenario&, const std::vector<Word>& words) {
     SetQnh(NumberWord(words[1], "a pressure in hPa"));
 }
 
+// The runways that the air traffic uses at an airport, up to four; none = no traffic there.
+void Runways(Scenario&, const std::vector<Word>& words) {
+    std::array<std::string, 5> airport;
+    for (std::size_t i = 1; i < words.size(); ++i) airport[i - 1] = words[i].text;
+    std::erase_if(world.active_runways, [&](const auto& known) { return known[0] == airport[0]; });
+    if (words.size() > 2) world.active_runways.push_back(airport);
+}
+
 void Warp(Scenario&, const std::vector<Word>& words) {
     const double rate = NumberWord(words[1], "a rate");
     if (rate <= 0) throw CommandError{"\"" + words[1].text + "\" is no rate; above 0"};
@@ -164,6 +173,7 @@ std::vector<Command> HostSideCommands() {
         {"wind", "DIR KT", "wind 270 40", Command::kAnytime, 2, 2, Wind},
         {"oat", "C", "oat 15", Command::kAnytime, 1, 1, Oat},
         {"qnh", "HPA", "qnh 1013.25", Command::kAnytime, 1, 1, Qnh},
+        {"runways", "ICAO RWY...", "runways KSEA 16L 16R", Command::kAnytime, 1, 5, Runways},
         {"traffic", "ID LAT LON ALT_FT VS_FPM HDG | clear", "", Command::kAnytime, 1, 6, NotYet},
         {"url", "ADDRESS FILE", "", Command::kAnytime, 2, 2, NotYet},
         {"warp", "X", "warp 4", Command::kAnytime, 1, 1, Warp},

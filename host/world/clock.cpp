@@ -8,6 +8,11 @@ namespace {
 
 constexpr double kStartOfDaySeconds = 12 * 3600;  // every run begins at noon UTC of the machine's date
 
+// Since midnight of the machine's date, never negative.
+double SecondsOfClock() {
+    return kStartOfDaySeconds + world.clock_offset_hours * 3600 + world.seconds;
+}
+
 std::chrono::year_month_day DateOf(int yyyymmdd) {
     return {std::chrono::year{yyyymmdd / 10000},
             std::chrono::month{static_cast<unsigned>(yyyymmdd / 100 % 100)},
@@ -18,7 +23,7 @@ std::chrono::year_month_day DateOf(int yyyymmdd) {
 
 void FillClockTokens() {
     using namespace std::chrono;
-    const double of_day = kStartOfDaySeconds + world.seconds;
+    const double of_day = SecondsOfClock();
     const sys_days today = sys_days{DateOf(world.machine_date)} + days{static_cast<int>(of_day / 86400)};
     const year_month_day date{today};
     const int second_of_day = static_cast<int>(std::fmod(of_day, 86400));
@@ -39,6 +44,11 @@ void FillClockTokens() {
     SetCalc("(E:LOCAL DAY OF WEEK,enum)", static_cast<double>(weekday{today}.c_encoding()));
     SetCalc("(E:LOCAL DAY OF MONTH,enum)", static_cast<double>(static_cast<unsigned>(date.day())));
     SetCalc("(E:LOCAL MONTH OF YEAR,enum)", static_cast<double>(static_cast<unsigned>(date.month())));
+}
+
+void SetClockHour(int hour) {
+    world.clock_offset_hours += hour - static_cast<int>(std::fmod(SecondsOfClock(), 86400) / 3600);
+    FillClockTokens();
 }
 
 void AdvanceClock() {

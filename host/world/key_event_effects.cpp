@@ -8,7 +8,7 @@
 namespace host {
 namespace {
 
-enum class Effect { kToggle, kSet, kStore, kAdd };
+enum class Effect { kToggle, kSet, kStore, kStoreBcd, kAdd };
 
 struct TokenEffect {
     int event;
@@ -16,13 +16,17 @@ struct TokenEffect {
     int token;
     double amount;     // kToggle: the value when on; kSet: the value; kAdd: the step
     double low, high;  // limits of kStore and kAdd
+    // kStoreBcd: the last four digits, whatever stands before them
 };
 
 constexpr double kFree = 1e9;
 constexpr TokenEffect kTokenEffects[] = {
     {0x10018, Effect::kToggle, 11, 1, 0, 0},        {0x1002c, Effect::kToggle, 106, 1, 0, 0},
-    {0x100ac, Effect::kStore, 24, 0, 0, 0xffff},    {0x100ad, Effect::kStore, 27, 0, 0, 0xffff},
+    {0x100ac, Effect::kStoreBcd, 24, 0, 0, 0},      {0x100ad, Effect::kStoreBcd, 27, 0, 0, 0},
     {0x100b4, Effect::kStore, 550, 0, 0, 360},      {0x100d8, Effect::kToggle, 323, 32767, 0, 0},
+    {0x100ee, Effect::kSet, 560, 1, 0, 0},          {0x100ee, Effect::kSet, 570, 1, 0, 0},
+    {0x100f2, Effect::kSet, 560, 0, 0, 0},          {0x100f2, Effect::kSet, 570, 0, 0, 0},
+    {0x10144, Effect::kToggle, 103, 1, 0, 0},       {0x10144, Effect::kToggle, 123, 1, 0, 0},
     {0x1015b, Effect::kAdd, 75, 0.3386, 880, 1085}, {0x1015c, Effect::kAdd, 75, -0.3386, 880, 1085},
     {0x10166, Effect::kAdd, 120, 100, -8000, 6000}, {0x10167, Effect::kAdd, 120, -100, -8000, 6000},
     {0x101bf, Effect::kSet, 560, 1, 0, 0},          {0x101c4, Effect::kSet, 570, 1, 0, 0},
@@ -51,6 +55,9 @@ void Apply(const TokenEffect& row, int value) {
             break;
         case Effect::kStore:
             Change(row.token, std::clamp(static_cast<double>(value), row.low, row.high));
+            break;
+        case Effect::kStoreBcd:
+            Change(row.token, value & 0xffff);
             break;
         case Effect::kAdd:
             Change(row.token, std::clamp(TokenOf(row.token) + row.amount, row.low, row.high));
@@ -85,6 +92,9 @@ void ApplyKeyEvent(int event, int value) {
             break;
         case 0x100fe:
             ScaleRate(0.5);
+            break;
+        case 0x1021b:
+            SetClockHour(std::clamp(value, 0, 23));
             break;
         case 0x1024c:
             ChangeCalc("(A:AUTOPILOT ALTITUDE LOCK VAR, feet)", value);

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstring>
 
+#include "host/world/ipc_block.h"
 #include "host/world/key_event_effects.h"
 #include "host/world/terrain.h"
 
@@ -129,8 +130,19 @@ int CopyText(std::string_view from, char* text, int size) {
     return static_cast<int>(length);
 }
 
+// "(L:NAME, unit)" reads a named variable of the model.
+double LocalVariable(std::string_view expression) {
+    constexpr std::string_view kOpening = "(L:";
+    if (!expression.starts_with(kOpening)) return 0;
+    const std::size_t end = expression.find_first_of(",)");
+    return end == std::string_view::npos
+               ? 0
+               : NamedValue(expression.substr(kOpening.size(), end - kOpening.size()));
+}
+
 double EvalCalcNumber(const char* expression) {
-    return CalcOf(expression);
+    const auto found = world.calc.find(std::string_view(expression));
+    return found == world.calc.end() ? LocalVariable(expression) : found->second.number;
 }
 
 int EvalCalcText(const char* expression, char* text, int size) {
@@ -220,22 +232,6 @@ void SendClientEvent(int event) {
 void SaveFlight(const char* file, const char*, const char*) {
     world.saved_flight = file;
 }
-
-int IpcOpen() {
-    return world.ipc_open ? 1 : 0;
-}
-void IpcWrite(int offset, const void* bytes, int size) {
-    if (offset < 0 || size < 0 || offset + size > static_cast<int>(world.ipc.size())) return;
-    std::memcpy(world.ipc.data() + offset, bytes, static_cast<std::size_t>(size));
-}
-void IpcRead(int offset, void* bytes, int size) {
-    if (offset < 0 || size < 0 || offset + size > static_cast<int>(world.ipc.size())) return;
-    std::memcpy(bytes, world.ipc.data() + offset, static_cast<std::size_t>(size));
-}
-int IpcProcess() {
-    return 1;
-}
-void IpcClose() {}
 
 int ForegroundWindowClass(char* text, int size) {
     return CopyText(world.foreground_window, text, size);

@@ -45,6 +45,12 @@ struct SimDataWrite {
     std::vector<std::uint8_t> bytes;
 };
 
+struct IpcQueuedRead {
+    int offset;
+    void* bytes;
+    int size;
+};
+
 struct ClientEvent {
     int id;
     std::string name, input;
@@ -80,7 +86,7 @@ struct World {
 
     // inter-process block of the active runways
     std::array<std::uint8_t, 0x10000> ipc = {};
-    bool ipc_open = false;
+    std::vector<IpcQueuedRead> ipc_reads;
 
     // machine
     std::string root;
@@ -93,6 +99,7 @@ struct World {
     // clock
     double seconds = 0;  // since the start of the run, unpaused
     long long ticks = 0;
+    int clock_offset_hours = 0;  // the clock set by hand against its start
     double sim_rate = 1;
     bool paused = false;
 
@@ -133,6 +140,8 @@ void SendSimMessage(SimMessage::Kind kind, int id, int data, const char* text);
 
 /// Steps the clock by one 18 Hz tick and writes the clock's tokens.
 void AdvanceClock();
+/// Sets the hour of the clock, 0 to 23, on the same day.
+void SetClockHour(int hour);
 /// Writes the clock's tokens as they stand.
 void FillClockTokens();
 

@@ -171,6 +171,9 @@ TEST(AircraftTokens, CarryTheRawUnits) {
         EXPECT_NEAR(TokenOf(row.token), row.value, std::fabs(row.value) * 1e-9 + 1e-6) << row.token;
     EXPECT_NEAR(TokenOf(81) + TokenOf(82), 123, 1e-9);
     EXPECT_NEAR(TokenOf(64) / 20480, aircraft.mach, 1e-9);
+    // ISA at 31,000 ft is 226.7 K; the air stagnates at M 0.76 by 26 K.
+    EXPECT_NEAR(TokenOf(350) * 256, 226.73 * (1 + 0.2 * aircraft.mach * aircraft.mach) - 273.15, 0.02);
+    EXPECT_NEAR(TokenOf(350) * 256, -20, 2);
     EXPECT_NEAR(CalcOf("(A:INDICATED ALTITUDE, feet)"), 31000, 1e-6);
 }
 
@@ -193,6 +196,30 @@ TEST(AircraftTokens, FuelThatTheModuleWritesIsInTheTanks) {
     EXPECT_NEAR(aircraft.fuel_lb[kCentreTank], 22340 * 6.7, 1e-9);
     EXPECT_EQ(aircraft.payload_lb[0], 12345);
     EXPECT_EQ(aircraft.fuel_lb[kLeftTank], 0);
+}
+
+TEST(AircraftTokens, APositionThatTheModuleWritesIsTaken) {
+    world = {};
+    Aircraft aircraft;
+    struct {
+        double lat, lon, alt_ft, pitch, bank, heading;
+        std::uint32_t on_ground, ias;
+    } record = {51.5, -0.25, 9000, 0, -1, 270, 0, 250};
+    SimDataWrite data{0, std::vector<std::uint8_t>(sizeof record)};
+    const auto place = [&] {
+        std::memcpy(data.bytes.data(), &record, sizeof record);
+        world.data_writes.push_back(data);
+        TakeDataWrites(aircraft);
+    };
+    place();
+    record.lat = 91;  // nowhere
+    place();
+    EXPECT_NEAR(Latitude(aircraft), 51.5, 1e-9);
+    EXPECT_NEAR(Longitude(aircraft), -0.25, 1e-9);
+    EXPECT_NEAR(TrueHeading(aircraft), 270, 1e-6);
+    EXPECT_NEAR(aircraft.altitude, 9000, 1e-6);
+    EXPECT_NEAR(aircraft.ias, 250, 0.1);
+    EXPECT_FALSE(aircraft.on_ground);
 }
 
 }  // namespace
