@@ -7,6 +7,7 @@
 #include "frame/snapshot.h"
 #include "frame/tokens.h"
 #include "module/control_table.h"
+#include "module/model_settings.h"
 #include "platform/host.h"
 #include "state/cfg.h"
 #include "state/cockpit.h"
@@ -33,9 +34,7 @@ void ShowControls() {
     WriteControlVariables();
     if (cockpit.irs_left_knob == 1) irs.irs_timer_l = kIrsStartTicks;
     if (cockpit.irs_right_knob == 1) irs.irs_timer_r = kIrsStartTicks;
-    WriteNamedVar(NamedVar("dynamic_lighting"), cfg.dynamic_lighting);
-    WriteNamedVar(NamedVar("daytime_lightsplashes"), cfg.daytime_lightsplashes);
-    WriteNamedVar(NamedVar("TZ_ENG_TYPE_RR"), identity.engine_model == "TRENT 1000" ? 1 : 0);
+    PublishModelSettings();
 }
 
 // The aircraft starts with its systems running.

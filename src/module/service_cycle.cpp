@@ -67,8 +67,10 @@ void RunUpdateCycle(bool virtual_cockpit) {
     const bool main_panel_visible = IsWindowVisible(kMainPanelWindow) != 0;
     displays.cockpit_2d_active = main_panel_visible ? 1 : 0;
     if (main_panel_visible && IsWindowVisible(kSecondPanelWindow) != 0) ToggleWindow(kMainPanelWindow);
+    // Once begun they go on: the pilot may set the simulator's clock back.
+    if (since_start > kOutputsSeconds) module_life.outputs_running = 1;
     if (virtual_cockpit && main_panel_visible) return;
-    if (since_start > kOutputsSeconds) {
+    if (module_life.outputs_running == 1) {
         time_base.frame_phase = time_base.frame_phase >= 17 ? 0 : time_base.frame_phase + 1;
         TickOutputs();
     }

@@ -6,6 +6,7 @@
 #include "frame/aircraft.h"
 #include "frame/named_variables.h"
 #include "guidance/autoflight.h"
+#include "module/model_settings.h"
 #include "navdata/geodesy.h"
 #include "platform/host.h"
 #include "state/airports.h"
@@ -66,6 +67,7 @@ void SystemsEvery3s() {
     sim.ground_elev_m = GroundElevation(sim.plane_lat, sim.plane_lon);
     RefreshActiveRunways();
     PublishFmcValues();
+    PublishModelSettings();
 }
 
 // The third of the once-a-second groups.

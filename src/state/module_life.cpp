@@ -8,6 +8,7 @@ constexpr Variable kRows[] = {
     {"navdata_read", &module_life.navdata_read},
     {"kill_pending", &module_life.kill_pending},
     {"startup_done", &module_life.startup_done},
+    {"outputs_running", &module_life.outputs_running},
     {"activesky_loaded", &module_life.activesky_loaded},
     {"weather_folder", &module_life.weather_folder},
     {"tcas_target_cnt", &module_life.tcas_target_cnt},

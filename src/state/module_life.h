@@ -11,7 +11,8 @@ struct ModuleLife {
     int gdi_started = 0;  // drawing is up
     int navdata_read = 0;
     int kill_pending = 0;
-    int startup_done = 0;  // DelayedStart has run
+    int startup_done = 0;     // DelayedStart has run
+    int outputs_running = 0;  // the eighth second has come
     int activesky_loaded = 0;
     std::string weather_folder;  // of the weather program's snapshots
     // the host's traffic records, bound at pre-initialise; null = not published
