@@ -126,17 +126,18 @@ void ReadAircraftTitle() {
     std::string title = EvalCalcText("(A:TITLE,string)");
     LowerCase(title);
     // Another aircraft of the family has been loaded: what is known of the last one no longer holds.
-    if (title != identity.aircraft) {
+    if (!title.empty() && title != identity.aircraft) {
         const int attempts = identity.identify_attempts;
         identity = {};
         identity.aircraft = title;
         identity.identify_attempts = attempts;
     }
-    identity.registration = EvalCalcText("(A:ATC ID,string)");
+    const std::string registration = EvalCalcText("(A:ATC ID,string)");
+    if (!registration.empty()) identity.registration = registration;
 }
 
 bool ScanAircraftCfg() {
-    if (identity.aircraft.empty()) return false;
+    if (identity.aircraft.empty() || identity.title_unknown == 1) return false;
     const std::string folder = cfg.simver == 9 ? "\\Aircraft\\" : "\\SimObjects\\Airplanes\\";
     int airframes = 0;
     for (const FolderEntry& entry : ListFolder(folder)) {
@@ -150,6 +151,7 @@ bool ScanAircraftCfg() {
         identity.aircraft_identified = 1;
         return true;
     }
+    identity.title_unknown = 1;
     return false;
 }
 

@@ -3,12 +3,13 @@
 /// Sets `cfg.simver` by the files of the host's root folder: 11 with a "Prepar3D.exe", else 10.
 void DetectHost();
 
-/// Reads the title and the registration of the loaded aircraft from the host. A new title leaves the rest of
-/// the identity empty.
+/// Reads the title and the registration of the loaded aircraft from the host; what it doesn't give stays. A
+/// new title leaves the rest of the identity empty.
 void ReadAircraftTitle();
 
 /// Looks the title up in the Aircraft.cfg files of up to 8000 airframes and fills the identity from its
-/// section. True when it was found; otherwise the identity stays as it is.
+/// section. True when it was found; otherwise the identity stays as it is, and the files aren't read for that
+/// title again.
 bool ScanAircraftCfg();
 
 /// Fills the weight tables and, with no zero-fuel weight yet and CduAutoCalcZfw off, takes it from the host.

@@ -13,6 +13,7 @@ constexpr Variable kRows[] = {
     {"airline_voice_folder", &identity.airline_voice_folder},
     {"panel_hires", &identity.panel_hires},
     {"aircraft_identified", &identity.aircraft_identified},
+    {"title_unknown", &identity.title_unknown},
     {"identify_attempts", &identity.identify_attempts},
 };
 }  // namespace

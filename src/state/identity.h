@@ -16,6 +16,7 @@ struct AircraftIdentity {
     std::string airline_voice_folder;  // the airline's own folder of announcements, empty = none
     int panel_hires = 0;
     int aircraft_identified = 0;  // the title has been found in an Aircraft.cfg
+    int title_unknown = 0;        // no Aircraft.cfg has the title
     int identify_attempts = 0;    // of the update cycle, at most 10
 };
 

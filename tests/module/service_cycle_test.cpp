@@ -236,8 +236,46 @@ TEST(ServiceCycle, AnUnknownTitleIsTriedTenTimes) {
     Simulator sim_host;
     sim_host.host.calc_texts["(A:TITLE,string)"] = "unknown";
     sim_host.Start();
+    const int file_calls = sim_host.host.calls["root_folder"];
     sim_host.Tick(20);
     EXPECT_EQ(identity.identify_attempts, 10);
+    EXPECT_EQ(sim_host.host.calls["root_folder"], file_calls);  // thousands of files are read once
+}
+
+TEST(ServiceCycle, ATitleThatTheHostFailsToGiveStays) {
+    Simulator sim_host;
+    sim_host.host.calc_texts["(A:ATC ID,string)"] = "TZ-01";
+    sim_host.Start();
+    sim_host.host.failing.insert("eval_calc_text");
+    sim_host.Serve(kServiceConnectToWindow);
+    EXPECT_EQ(identity.engine_model, "GENX-1B70");
+    EXPECT_EQ(identity.registration, "TZ-01");
+}
+
+TEST(ServiceCycle, OutputsGoOnWhenTheClockIsSetBack) {
+    Simulator sim_host;
+    sim_host.Start();
+    sim_host.Run(9);
+    sim_host.host.tokens[kTokenAbsoluteTime] -= 3600;
+    const int phase = time_base.frame_phase;
+    sim_host.Tick();
+    EXPECT_NE(time_base.frame_phase, phase);
+}
+
+TEST(ServiceCycle, AModelLoadedAnewLearnsItsEngines) {
+    Simulator sim_host;
+    FakeHost& host = sim_host.host;
+    host.calc_texts["(A:TITLE,string)"] = "TZ900-8 RR House";
+    host.PutFile("SimObjects/Airplanes/TZ900-8/Aircraft.cfg",
+                 "[fltsim.0]\ntitle=TZ900-8 RR House\nsim=TZ900-8\nmodel=rr\n");
+    sim_host.Start();
+    sim_host.Run(9);
+    EXPECT_EQ(host.NamedVar("TZ_ENG_TYPE_RR"), 1);
+    sim_host.Serve(kServiceDisconnect);
+    sim_host.Serve(kServiceConnectToWindow);
+    EXPECT_EQ(host.NamedVar("TZ_ENG_TYPE_RR"), 0);  // registered anew
+    sim_host.Run(3);
+    EXPECT_EQ(host.NamedVar("TZ_ENG_TYPE_RR"), 1);
 }
 
 TEST(ServiceCycle, DecisionHeightIsSteppedTo200) {
