@@ -72,14 +72,15 @@ void CloseDevice() {
     keyboard.keyboard_open = 0;
 }
 
+// A device that can't be had is given up until the window or the capture changes.
+
 void OpenDevice() {
     const int failed_step = Host().open_keyboard();
     if (failed_step > 0 && failed_step < static_cast<int>(std::size(kOpenFailures))) {
         CapturingUnit().ScratchMessage = kOpenFailures[failed_step];
         Host().close_keyboard();
-        return;
     }
-    keyboard.keyboard_open = failed_step == 0 ? 1 : 0;
+    keyboard.keyboard_open = failed_step == 0 ? 1 : -1;
 }
 
 bool ReadKeys(KeyState& state) {
@@ -115,7 +116,7 @@ void PollKeyboard() {
         CloseDevice();
         OpenDevice();
     }
-    if (keyboard.keyboard_open == 0 || keyboard.keyboard_busy == 1) return;
+    if (keyboard.keyboard_open != 1 || keyboard.keyboard_busy == 1) return;
     keyboard.keyboard_busy = 1;
     KeyState state = {};
     if (ReadKeys(state)) {

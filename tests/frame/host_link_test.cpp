@@ -75,7 +75,15 @@ TEST(KeyboardCapture, AFailedDeviceIsTold) {
         keyboard.keyboard_capture_l = 1;
         PollKeyboard();
         EXPECT_EQ(cdu[0].ScratchMessage, text);
-        EXPECT_EQ(keyboard.keyboard_open, 0);
+        cdu[0].ScratchMessage.clear();
+        PollKeyboard();
+        EXPECT_EQ(cdu[0].ScratchMessage, "");  // given up, until the window is another
+        host.open_keyboard_result = 0;
+        PollKeyboard();
+        EXPECT_FALSE(host.keyboard_open);
+        host.foreground_class = "FS98FLOAT";
+        PollKeyboard();
+        EXPECT_TRUE(host.keyboard_open);
     }
     FakeHost host;
     host.foreground_class = "Notepad";
