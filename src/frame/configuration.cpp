@@ -81,6 +81,7 @@ void ApplyReadRule(const ConfigKey& key) {
             }
             break;
         case ReadRule::kWeatherFolder: {
+            if (cfg.HiFiSnapshotDir.empty()) break;
             cfg.HiFiSnapshotDir += "\\Weather";
             const std::size_t doubled = cfg.HiFiSnapshotDir.find("Weather\\Weather");
             if (doubled != std::string::npos) cfg.HiFiSnapshotDir.erase(doubled, 8);
@@ -143,7 +144,11 @@ std::string FileForm(const ConfigKey&, int value) {
     return std::to_string(value);
 }
 std::string FileForm(const ConfigKey& key, double value) {
-    if (key.read == ReadRule::kFeetToNm) return FormatNumber(std::round(value * kFeetPerNm));
+    if (key.read == ReadRule::kFeetToNm) {
+        // To a thousandth of a foot: the way there and back must not show.
+        constexpr double kSteps = 1000;
+        return FormatNumber(std::round(value * kFeetPerNm * kSteps) / kSteps);
+    }
     return FormatNumber(value);
 }
 std::string FileForm(const ConfigKey&, const std::string& value) {

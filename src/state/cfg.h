@@ -170,7 +170,7 @@ enum class ReadRule {
     kArmsPauseAtTod,  // the key's presence arms the pause as well
     kArms1xAtTod,     // the key's presence arms the return to 1x as well
     kPfcSwitch,       // 0 is kept as 4 with pfc_switch_off, 1 as 7 without
-    kWeatherFolder,   // "\\Weather" is appended, a doubled one cut to one
+    kWeatherFolder,   // "\\Weather" is appended to a name, a doubled one cut to one
     kChartSource,     // 2, or else 1
     kHostVersion,     // 10 or 11
     kPresence,        // the key sets the flag whatever its value

@@ -1,5 +1,7 @@
 #include "systems/irs.h"
 
+#include <algorithm>
+
 #include "frame/named_variables.h"
 #include "platform/host.h"
 #include "state/cfg.h"
@@ -10,6 +12,7 @@
 namespace {
 
 constexpr int kTicksPerSecond = 18;
+constexpr int kMostAlignSecs = 24 * 3600;  // the setting may be any number
 
 struct IrsUnit {
     int CockpitState::*knob;
@@ -30,7 +33,7 @@ void ToggleIrsKnob(int side) {
     const IrsUnit& unit = kUnits[side == kFirstOfficer ? 1 : 0];
     cockpit.*unit.knob = cockpit.*unit.knob == 0 ? 1 : 0;
     if (cockpit.*unit.knob == 1)
-        irs.*unit.timer = cfg.IrsAlignSecs * kTicksPerSecond;
+        irs.*unit.timer = std::clamp(cfg.IrsAlignSecs, 0, kMostAlignSecs) * kTicksPerSecond;
     else
         irs.*unit.aligned = 0;
     WriteNamedVar(unit.switch_variable, cockpit.*unit.knob);

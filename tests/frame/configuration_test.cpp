@@ -62,6 +62,7 @@ TEST(Configuration, ReadingRules) {
         {"PfcSwitch=5", "PfcSwitch", "5"},
         {"HiFiSnapshotDir=C:\\HiFi\\AS", "HiFiSnapshotDir", "C:\\HiFi\\AS\\Weather"},
         {"HiFiSnapshotDir=C:\\HiFi\\Weather", "HiFiSnapshotDir", "C:\\HiFi\\Weather"},
+        {"HiFiSnapshotDir=", "HiFiSnapshotDir", ""},
         {"chart_source=5", "chart_source", "1"},
         {"chart_source=2", "chart_source", "2"},
         {"simver=9", "simver", "10"},
@@ -170,6 +171,34 @@ TEST(Configuration, EachKeyIsWrittenByItsTest) {
     cfg.lnav_tracking_dist = 1;
     EXPECT_NE(Written(host).find("CabinAirTempUnit=C\n"), std::string::npos);
     EXPECT_NE(Written(host).find("lnav_tracking_dist=1\n"), std::string::npos);
+}
+
+TEST(Configuration, WhatIsWrittenReadsTheSame) {
+    constexpr const char* kLines =
+        "IrsAlignSecs=300\nCheckNavdataStatus=0\nTerrainFloor=1500.25\nweightunit=kgs\nPfcSwitch=4\n"
+        "ArmPauseAtTod=0\nPauseAtTod=1\n1xAtTod=1\nCabinAirTempUnit=C\nDuLinesize=1.5\nWxrBrt=0.1\n"
+        "HiFiSnapshotDir=C:\\AS\nCostIndex=80\nPanelState= a panel \nFlightPlansFolder=D:\\A=B\n"
+        "TzPasSafetyDemoMinRwyDist=3402.5\nTzPasFASeatedRwyDist=1701\nDescForecastAlt4=18000\n"
+        "DisplayUnitBrightness=0.7\nDUWxrDisplay=-1\nremotecduhires=0\nGpwsAltCalloutAbove=7\n";
+    const auto state = [] {
+        std::string text;
+        for (const ConfigKey& key : ConfigKeys())
+            if (key.write != WriteTest::kNever)
+                text.append(key.name).append("=").append(Value(key.name)).append("\n");
+        return text;
+    };
+    FakeHost host;
+    host.PutFile(kFile, kLines);
+    ReadConfig();
+    const std::string before = state();
+    const std::string written = Written(host);
+    cfg = {};
+    ReadConfig();
+    EXPECT_EQ(state(), before);
+    EXPECT_EQ(Written(host), written);
+    EXPECT_NE(written.find("TzPasSafetyDemoMinRwyDist=3402.5\nTzPasFASeatedRwyDist=1701\n"),
+              std::string::npos);
+    EXPECT_NE(written.find("HiFiSnapshotDir=C:\\AS\\Weather\n"), std::string::npos);
 }
 
 TEST(Configuration, TheFuelFileGoesBothWays) {

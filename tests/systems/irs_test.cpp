@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "state/cfg.h"
 #include "state/cockpit.h"
 #include "state/irs.h"
 #include "state/side.h"
@@ -27,6 +28,9 @@ TEST(Irs, AlignsAfterItsTimeInTicks) {
     StepIrs();
     EXPECT_EQ(irs.irs_timer_r, 0);
     EXPECT_EQ(irs.irs_right, 0);
+    cfg.IrsAlignSecs = 2000000000;  // as a file may have it
+    ToggleIrsKnob(kFirstOfficer);
+    EXPECT_GT(irs.irs_timer_r, 0);
 }
 
 }  // namespace
