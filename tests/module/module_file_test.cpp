@@ -14,6 +14,7 @@
 
 #include "frame/tokens.h"
 #include "module/linkage.h"
+#include "support/all_variables.h"
 #include "support/fake_host.h"
 #include "support/paths.h"
 
@@ -45,26 +46,6 @@ std::set<std::string> ExportedSymbols(const std::string& path) {
         }
     }
     return names;
-}
-
-// Every variable of the module with its value, a line each.
-std::string AllVariables(const InspectionTable& table) {
-    std::vector<std::string> names;
-    table.list_variables(
-        "",
-        [](void* list, const char* name, const char*) {
-            static_cast<std::vector<std::string>*>(list)->emplace_back(name);
-        },
-        &names);
-    std::string text;
-    for (const std::string& name : names)
-        table.read_variable(
-            name.c_str(),
-            [](void* all, const char* path, const char* value) {
-                static_cast<std::string*>(all)->append(path).append("=").append(value).append("\n");
-            },
-            &text);
-    return text;
 }
 
 // Loads the module into the fake simulator, starts it, runs it past its start and disconnects it. Gives the
