@@ -21,6 +21,8 @@ const std::vector<Figure> kFigures = {
     {"  against splitting the airway file's lines", "LoadAirwayOfTheWorld", "", "ratio", "x", 0},
     {"LoadAirport on world data", "LoadAirportOfTheWorld", "", "", "", 1e6},
     {"  against splitting the airport file's lines", "LoadAirportOfTheWorld", "", "ratio", "x", 0},
+    {"EXEC of a route of 120 legs", "ExecuteRoute/120", "Yardstick/GreatCircle", "", "", 1e6},
+    {"a route text on world data entered", "EnterRouteTextOfTheWorld", "", "", "", 0},
     {"headless flight, painting off, times real time", "HeadlessFlight", "", "times_real_time", "x", 1000,
      true},
     {"memory of the program, world data loaded", "MemoryOfAFlight", "", "rss_mb", "MB", 80},

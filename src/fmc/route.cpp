@@ -7,6 +7,7 @@
 #include "fmc/leg_list.h"
 #include "fmc/route_rows.h"
 #include "frame/fuel_loader.h"
+#include "frame/key_events.h"
 #include "navdata/airport_file.h"
 #include "platform/host.h"
 #include "state/airports.h"
@@ -19,8 +20,6 @@
 
 namespace {
 
-constexpr int kEventMcpAltitude = 66124;
-
 // What loading a route does to an aircraft at the gate.
 void PrepareAircraftForRoute() {
     constexpr double kStanding = 5;
@@ -29,7 +28,7 @@ void PrepareAircraftForRoute() {
     if (cfg.LoadFuelonFlightPlanLoad == 1 && perf.planned_fuel > 0)
         LoadTotalFuel(std::exchange(perf.planned_fuel, 0));
     if (cfg.SetMCPCruiseAltonFlightPlanLoad == 1 && perf.pending_cruise_alt >= kLowestCruise)
-        SendKeyEvent(kEventMcpAltitude, static_cast<int>(std::min(perf.pending_cruise_alt, 99999.0)));
+        SendKeyEvent(kKeyAltitudeSet, static_cast<int>(std::min(perf.pending_cruise_alt, 99999.0)));
 }
 
 void ClearPendingEntries() {

@@ -81,6 +81,7 @@ void LoadAirwayTowards(std::string_view name, int fix, std::string_view end) {
         leg.via = name;
         leg.via_type = "AWY";
         leg.mod_flag = 1;
+        LookUpType(leg);
     }
 }
 
@@ -100,7 +101,6 @@ void InsertAirwaySegment(int fix) {
     const int step = fix > start ? 1 : -1;
     for (int i = start + step; i != fix + step; i += step) {
         FlightPlanLeg leg = plan.AirwayFixList[i];
-        LookUpType(leg);
         OpenModLeg(position++) = std::move(leg);
     }
     const FlightPlanLeg& end = legs[position - 1];
