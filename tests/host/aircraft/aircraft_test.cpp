@@ -177,6 +177,28 @@ TEST(AircraftTokens, CarryTheRawUnits) {
     EXPECT_NEAR(CalcOf("(A:INDICATED ALTITUDE, feet)"), 31000, 1e-6);
 }
 
+TEST(AircraftTokens, ControlsSetByTokenMoveTheAircraft) {
+    world = {};
+    Aircraft aircraft;
+    PlaceAircraftAt(aircraft, 47, -122, 20000, 90, 280, 0);
+    FillTokens(aircraft);
+    SetToken(128, 16384);
+    SetToken(328, 8192);
+    SetToken(331, 1);
+    SetToken(570, 0);  // the right engine's fuel is cut off
+    TakeControlsFromTokens(aircraft);
+    FlyFor(aircraft, 60);
+    EXPECT_NEAR(aircraft.flaps, 0.5, 0.01);
+    EXPECT_NEAR(aircraft.gear, 1, 0.01);
+    EXPECT_GT(aircraft.engines[0].n1, 95);
+    EXPECT_GT(aircraft.engines[0].fuel_flow, 10000);
+    EXPECT_LT(aircraft.engines[1].n1, 1);
+    EXPECT_EQ(aircraft.engines[1].fuel_flow, 0);
+    FillTokens(aircraft);
+    EXPECT_EQ(TokenOf(560), 1);
+    EXPECT_EQ(TokenOf(570), 0);
+}
+
 TEST(AircraftTokens, FuelThatTheModuleWritesIsInTheTanks) {
     world = {};
     Aircraft aircraft;
