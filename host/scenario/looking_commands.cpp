@@ -9,8 +9,10 @@ namespace host {
 namespace {
 
 void Get(Scenario& scenario, const std::vector<Word>& words) {
-    for (std::size_t i = 1; i < words.size(); ++i)
-        scenario.out << words[i].raw << " = " << ValueOfName(scenario, words[i]) << '\n';
+    for (std::size_t i = 1; i < words.size(); ++i) {
+        const std::string value = ValueOfName(scenario, words[i]);
+        scenario.out << words[i].raw << " = " << value << '\n';
+    }
 }
 
 void Set(Scenario& scenario, const std::vector<Word>& words) {

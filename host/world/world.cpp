@@ -30,6 +30,8 @@ void PinToken(int token, double value) {
 
 namespace {
 
+constexpr std::size_t kMostSentEvents = 20000;
+
 int IdOf(std::string_view name) {
     const auto found = world.named_ids.find(name);
     return found == world.named_ids.end() ? -1 : found->second;
@@ -183,6 +185,9 @@ void SetNamedVar(int id, double value) {
 }
 
 void SendKeyEvent(int event, int value) {
+    // Nobody looks at events for hours of flight; those of the last minutes are enough.
+    if (world.sent_events.size() >= kMostSentEvents)
+        world.sent_events.erase(world.sent_events.begin(), world.sent_events.begin() + kMostSentEvents / 2);
     world.sent_events.push_back({event, value});
     world.queued_events.push_back({event, value});
 }
