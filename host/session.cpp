@@ -19,29 +19,58 @@ namespace {
 
 constexpr int kMainPanelWindow = 0;
 
-// A gauge stands in the virtual cockpit unless its name says that it is of the two-dimensional panel; SERVER
-// stands in both.
+constexpr int kPaintedVersion = 1000;
+
+// A gauge stands in the virtual cockpit unless its name says that it is of the two-dimensional panel or one
+// of its pop-up windows; SERVER stands in both.
 void PlaceGauges(Session& session) {
     session.gauges.clear();
+    session.surfaces.clear();
     for (int i = 0; i < session.linkage->gauge_count; ++i) {
         const GaugeHeader& gauge = session.linkage->gauges[i];
         const std::string name = gauge.name;
-        if (name == "SERVER") {
-            session.gauges.push_back({{&gauge, "", nullptr}, true});
-            session.gauges.push_back({{&gauge, "VC", nullptr}, false});
-        } else {
-            session.gauges.push_back({{&gauge, "", nullptr}, name.ends_with("_2D")});
+        if (name == "SERVER") session.gauges.push_back({{&gauge, "", nullptr}, true});
+        const bool in_2d_panel = name.ends_with("_2D") || name.ends_with("_PW");
+        PanelGauge placed{{&gauge, name == "SERVER" ? "VC" : "", nullptr}, in_2d_panel};
+        if (gauge.version == kPaintedVersion) {
+            // The surface is the module's own list of primitives: that there is one is all that it asks.
+            auto surface = std::make_unique<GaugeElement>();
+            surface->device_context = surface.get();
+            placed.instance.elements = surface.get();
+            session.surfaces.push_back(std::move(surface));
         }
+        session.gauges.push_back(placed);
     }
+}
+
+void Call(PanelGauge& gauge, int service) {
+    if (gauge.instance.gauge->service != nullptr) gauge.instance.gauge->service(&gauge.instance, service);
 }
 
 }  // namespace
 
+bool IsMainPanelShown() {
+    return world.windows[kMainPanelWindow];
+}
+
+bool IsOnPanel(const PanelGauge& gauge) {
+    return !gauge.in_2d_panel || IsMainPanelShown();
+}
+
 void CallGauges(Session& session, int service) {
-    for (PanelGauge& gauge : session.gauges) {
-        if (gauge.in_2d_panel && !world.windows[kMainPanelWindow]) continue;
-        if (gauge.instance.gauge->service != nullptr) gauge.instance.gauge->service(&gauge.instance, service);
-    }
+    for (PanelGauge& gauge : session.gauges)
+        if (gauge.connected && IsOnPanel(gauge)) Call(gauge, service);
+}
+
+// A panel that is shown for the first time brings its gauges up then, each service for all of them in turn.
+void ConnectGauges(Session& session) {
+    std::vector<PanelGauge*> fresh;
+    for (PanelGauge& gauge : session.gauges)
+        if (!gauge.connected && IsOnPanel(gauge)) fresh.push_back(&gauge);
+    for (const int service : {kServiceConnectToWindow, kServicePreInstall, kServicePostInstall,
+                              kServicePreInitialize, kServicePostInitialize})
+        for (PanelGauge* gauge : fresh) Call(*gauge, service);
+    for (PanelGauge* gauge : fresh) gauge->connected = true;
 }
 
 bool PrepareSession(Session& session, std::string& error) {
@@ -97,9 +126,8 @@ bool StartSession(Session& session, std::string& error) {
     PlaceAircraft(session.settings.placed ? session.settings.placement : DemonstrationStand());
     session.linkage->module_init();
     PlaceGauges(session);
-    for (const int service : {kServiceConnectToWindow, kServicePreInstall, kServicePostInstall,
-                              kServicePreInitialize, kServicePostInitialize, kServicePreUpdate})
-        CallGauges(session, service);
+    ConnectGauges(session);
+    CallGauges(session, kServicePreUpdate);
     return true;
 }
 
@@ -109,6 +137,7 @@ void TickSession(Session& session, bool paused_frame) {
         AdvanceClock();
         StepFlight(session.settings.fdm);
     }
+    ConnectGauges(session);
     CallGauges(session, kServicePreUpdate);
 }
 
@@ -127,8 +156,9 @@ bool PressMouseArea(Session& session, const std::string& gauge, const std::strin
 
 void StopSession(Session& session) {
     if (session.linkage != nullptr) {
-        CallGauges(session, kServicePreKill);
-        CallGauges(session, kServiceDisconnect);
+        for (const int service : {kServicePreKill, kServiceDisconnect})
+            for (PanelGauge& gauge : session.gauges)
+                if (gauge.connected) Call(gauge, service);
         session.linkage->module_deinit();
         session.linkage = nullptr;
         UnloadModule(session.library);

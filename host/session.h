@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -28,7 +29,8 @@ struct SessionSettings {
 
 struct PanelGauge {
     GaugeInstance instance;
-    bool in_2d_panel;  // called only while the main panel window is visible
+    bool in_2d_panel;        // called only while the main panel window is visible
+    bool connected = false;  // has been brought up
 };
 
 struct Session {
@@ -36,6 +38,7 @@ struct Session {
     void* library = nullptr;
     const ModuleLinkage* linkage = nullptr;
     std::vector<PanelGauge> gauges;
+    std::vector<std::unique_ptr<GaugeElement>> surfaces;
     bool private_root = false;
 };
 
@@ -51,6 +54,11 @@ std::string AirportsFile(const SessionSettings& settings);
 
 /// One pre-update call of each gauge; the 18 Hz counter moves by one, or stands still in a paused frame.
 void TickSession(Session& session, bool paused_frame);
+
+/// The two-dimensional cockpit is shown.
+bool IsMainPanelShown();
+/// The gauge's panel is shown, so that the simulator calls it.
+bool IsOnPanel(const PanelGauge& gauge);
 
 /// One service call of every gauge that is on a panel now.
 void CallGauges(Session& session, int service);

@@ -159,7 +159,7 @@ std::vector<Command> HostSideCommands() {
         {"key", "EVENT [VALUE]", "key 0x1002c", Command::kAnytime, 1, 2, Key},
         {"simevent", "sound|pause 0|1, flightsaved|flightloaded \"NAME\", client ID", "simevent sound 0",
          Command::kAnytime, 2, 2, SimEvent},
-        {"window", "IDENT 0|1", "window 0 1", Command::kAnytime, 2, 2, Window},
+        {"window", "IDENT 0|1", "window 5 1", Command::kAnytime, 2, 2, Window},
         {"click", "GAUGE X Y [left|right]", "", Command::kAnytime, 3, 4, NotYet},
         {"keys", "L|R TEXT", "", Command::kAnytime, 2, 2, NotYet},
         {"cdu", "L|R KEY...", "", Command::kAnytime, 2, 100, NotYet},

@@ -24,4 +24,7 @@ const InspectionTable& InspectionOf(const Scenario& scenario);
 /// A printed list of the module, its lines joined and each ended.
 std::string PrintedList(const Scenario& scenario, std::string_view list, const std::string& argument);
 
+/// The lines of `text` or `draws` for a screen; throws CommandError for a name that is no screen's.
+std::string PrintedPicture(const Scenario& scenario, std::string_view list, const std::string& screen);
+
 }  // namespace host

@@ -3,6 +3,7 @@
 #include "host/scenario/commands.h"
 #include "host/scenario/conditions.h"
 #include "host/scenario/inspection.h"
+#include "host/screens.h"
 #include "host/world/world.h"
 
 namespace host {
@@ -47,6 +48,24 @@ constexpr const char* kRows = "rows";
 constexpr const char* kCandidates = "candidates";
 constexpr const char* kMessages = "messages";
 constexpr const char* kAlerts = "alerts";
+
+constexpr const char* kText = "text";
+constexpr const char* kDraws = "draws";
+
+template <const char* const& kList>
+void PrintPicture(Scenario& scenario, const std::vector<Word>& words) {
+    scenario.out << PrintedPicture(scenario, kList, words[1].text);
+}
+
+void Shot(Scenario& scenario, const std::vector<Word>& words) {
+    PrintedPicture(scenario, kText, words[1].text);  // tells a wrong screen
+    const double scale = words.size() > 3 ? NumberWord(words[3], "a scale") : 1;
+    if (!(scale > 0 && scale <= 16))
+        throw CommandError{"\"" + words[3].text + "\" is no scale; above 0, to 16"};
+    if (!WritePictureFile(scenario.session, words[1].text, words[2].text, scale))
+        throw CommandError{"no picture of " + words[1].text + " yet, or " + words[2].text +
+                           " can't be written"};
+}
 
 void Events(Scenario& scenario, const std::vector<Word>&) {
     scenario.out << EventsText();
@@ -96,9 +115,9 @@ std::vector<Command> LookingCommands() {
         {"candidates", "\"ENTRY\"", "candidates \"N45W120\"", Command::kAfter, 1, 1, PrintList<kCandidates>},
         {"messages", "L|R", "messages L", Command::kAfter, 1, 1, PrintList<kMessages>},
         {"alerts", "", "", Command::kAfter, 0, 0, PrintList<kAlerts>},
-        {"text", "SCREEN", "", Command::kAfter, 1, 1, NotYet},
-        {"draws", "SCREEN", "", Command::kAfter, 1, 1, NotYet},
-        {"shot", "SCREEN FILE.png [SCALE]", "", Command::kAfter, 2, 3, NotYet},
+        {"text", "SCREEN", "text capt_outb", Command::kAfter, 1, 1, PrintPicture<kText>},
+        {"draws", "SCREEN", "draws stby", Command::kAfter, 1, 1, PrintPicture<kDraws>},
+        {"shot", "SCREEN FILE.png [SCALE]", "shot lower lower.png 2", Command::kAfter, 2, 3, Shot},
         {"sounds", "", "", Command::kAfter, 0, 0, NotYet},
         {"events", "", "events", Command::kAfter, 0, 0, Events},
         {"lvars", "[PATTERN]", "lvars TZ_OH_*", Command::kAfter, 0, 1, Lvars},

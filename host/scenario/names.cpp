@@ -5,6 +5,7 @@
 #include "host/root_folder.h"
 #include "host/scenario/inspection.h"
 #include "host/scenario/scenario.h"
+#include "host/screens.h"
 #include "host/world/world.h"
 
 namespace host {
@@ -21,6 +22,15 @@ std::string PrintedList(const Scenario& scenario, std::string_view list, const s
          Inspect(InspectionOf(scenario).print_list, name.c_str(), argument.c_str()))
         text += line + '\n';
     return text;
+}
+
+std::string PrintedPicture(const Scenario& scenario, std::string_view list, const std::string& screen) {
+    const std::string gauge = GaugeOfScreen(screen);
+    if (gauge.empty())
+        throw CommandError{
+            "\"" + screen +
+            "\" is no screen; capt_outb capt_inb fo_inb fo_outb lower hud stby efb_l efb_r debug"};
+    return PrintedList(scenario, list, gauge);
 }
 
 namespace {
@@ -69,6 +79,13 @@ std::string MessagesText(Scenario& scenario, const std::string& side) {
     return PrintedList(scenario, "messages", side);
 }
 
+std::string PictureText(Scenario& scenario, const std::string& screen) {
+    return PrintedPicture(scenario, "text", screen);
+}
+std::string PictureDraws(Scenario& scenario, const std::string& screen) {
+    return PrintedPicture(scenario, "draws", screen);
+}
+
 std::string NotYet(Scenario&, const std::string&) {
     throw CommandError{"not available yet"};
 }
@@ -81,7 +98,7 @@ struct NameSpace {
 constexpr NameSpace kNameSpaces[] = {
     {"lvar:", LvarValue},        {"token:", TokenValue},    {"calc:", CalcText},
     {"aircraft:", AircraftText}, {"call:", FunctionResult}, {"file:", FileText},
-    {"text:", NotYet},           {"draws:", NotYet},        {"messages:", MessagesText},
+    {"text:", PictureText},      {"draws:", PictureDraws},  {"messages:", MessagesText},
 };
 
 }  // namespace

@@ -22,7 +22,8 @@ struct Scenario {
     int line = 0;
     std::vector<SimMessage> messages_before_start = {};
     std::vector<std::string> message_texts = {};
-    int paint_every = 1;
+    int paint_every = 1;  // calls from picture to picture, 0 = never
+    int calls_since_paint = 0;
 };
 
 /// A command that is wrong: what is wrong, what would be right.

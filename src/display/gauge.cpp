@@ -154,9 +154,8 @@ void ServePaintedGauge(GaugeInstance* instance, int32_t service_id) {
     gauge->Callback(instance->elements, service_id);
 }
 
-GDIMTGauge* FindLivingGauge(std::string_view name) {
+void WithLivingGauge(std::string_view name, const std::function<void(GDIMTGauge&)>& use) {
     const std::lock_guard guard(living.lock);
     for (GDIMTGauge* gauge : living.gauges)
-        if (gauge->row().name == name) return gauge;
-    return nullptr;
+        if (gauge->row().name == name) return use(*gauge);
 }

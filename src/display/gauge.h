@@ -3,6 +3,7 @@
 #include <atomic>
 #include <condition_variable>
 #include <cstdint>
+#include <functional>
 #include <mutex>
 #include <span>
 #include <string>
@@ -93,5 +94,6 @@ inline GDIMTGauge* GaugeOf(const GaugeInstance& instance) {
 /// disconnect.
 void ServePaintedGauge(GaugeInstance* instance, int32_t service_id);
 
-/// The living gauge of that name; null when none is connected.
-GDIMTGauge* FindLivingGauge(std::string_view name);
+/// Calls `use` with the living gauge of that name, which can't go meanwhile; not at all when none is
+/// connected.
+void WithLivingGauge(std::string_view name, const std::function<void(GDIMTGauge&)>& use);

@@ -5,6 +5,7 @@
 
 #include "fmc/route_operations.h"
 #include "fmc/route_text.h"
+#include "module/pictures.h"
 #include "module/printed_lists.h"
 #include "module/pure_functions.h"
 #include "module/results.h"
@@ -109,6 +110,10 @@ constexpr InspectionTable kInspection = {
     .call_function = CallFunction,
     .run_operation = RunOperation,
     .print_list = PrintListByName,
+    .paint_pending = PaintPending,
+    .picture = CopyPicture,
+    .picture_png = CopyPicturePng,
+    .list_fonts = ListFonts,
 };
 
 }  // namespace

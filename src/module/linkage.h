@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 
 #include "platform/host_operations.h"
@@ -12,6 +13,9 @@ extern "C" {
 
 /// Takes one result: a name and its text. Several lines are several calls.
 typedef void (*ResultSink)(void* context, const char* name, const char* value);
+
+/// Takes bytes, such as a picture's, and the picture's number.
+typedef void (*ByteSink)(void* context, const uint8_t* bytes, size_t size, uint64_t number);
 
 /// The system from outside, for scenarios and the inspector. Every function gives 1, or 0 with the reason as
 /// one result named "error".
@@ -30,8 +34,17 @@ struct InspectionTable {
     /// One operation of the route model: "RemoveToRow 2"; a result named "result" where it has one.
     int (*run_operation)(const char* line, ResultSink sink, void* context);
     /// A printed list, a line each, its name empty: "legs", "rows", "candidates", "messages", "alerts", with
-    /// what the scenario command of that name takes as argument.
+    /// what the scenario command of that name takes as argument; "text" and "draws" take a gauge.
     int (*print_list)(const char* list, const char* argument, ResultSink sink, void* context);
+    /// Paints what has been asked of a gauge by pre-draw, in line; for a host that paints so. 1 when it
+    /// painted.
+    int (*paint_pending)(GaugeInstance* instance);
+    /// A gauge's last picture in the form of paint/encode.h, if its number is above `after`. Any thread.
+    int (*picture)(const char* gauge, uint64_t after, ByteSink sink, void* context);
+    /// The same as a PNG file, its logical frame enlarged by `scale`.
+    int (*picture_png)(const char* gauge, double scale, ByteSink sink, void* context);
+    /// The font families by the numbers of the picture form: family, font file.
+    int (*list_fonts)(ResultSink sink, void* context);
 };
 
 struct ModuleLinkage {

@@ -1,5 +1,7 @@
 #include "module/printed_lists.h"
 
+#include "module/pictures.h"
+
 #include <algorithm>
 #include <string>
 
@@ -94,10 +96,8 @@ struct PrintedList {
     int (*print)(std::string_view argument, const Results& results);
 };
 constexpr PrintedList kPrintedLists[] = {
-    {"legs", PrintLegs},
-    {"rows", PrintRows},
-    {"candidates", PrintCandidates},
-    {"messages", PrintMessages},
+    {"legs", PrintLegs},         {"rows", PrintRows},         {"candidates", PrintCandidates},
+    {"messages", PrintMessages}, {"text", PrintPictureTexts}, {"draws", PrintPictureDraws},
 };
 
 }  // namespace

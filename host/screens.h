@@ -1,0 +1,21 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "host/session.h"
+
+namespace host {
+
+/// The gauge that paints a screen now: "capt_outb capt_inb fo_inb fo_outb lower hud stby efb_l efb_r debug".
+/// The two-dimensional cockpit has gauges of its own for the captain's units. Empty for another name.
+std::string GaugeOfScreen(std::string_view screen);
+
+/// Asks every visible gauge for a picture and has it painted at once, in gauge order.
+void PaintGauges(Session& session);
+
+/// A screen's last picture as a PNG file; false when it has none or the file can't be written.
+bool WritePictureFile(const Session& session, const std::string& screen, const std::string& file,
+                      double scale);
+
+}  // namespace host
