@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <utility>
 
 #include "fmc/edit_legs.h"
@@ -212,9 +213,26 @@ void SettleOrigin() {
     plan.ends_mod = plan.ends;
 }
 
+constexpr int kEnteredStep = 0, kIcaoStep = -1, kRvsmStep = -2;
+
+// Above FL 400 the levels of one direction no longer lie 2000 ft apart.
+struct LevelPair {
+    double from, to;
+};
+constexpr LevelPair kHighLevels[] = {{40000, 43000}, {41000, 45000}, {43000, 47000},
+                                     {45000, 49000}, {47000, 51000}, {49000, 53000}};
+
+const LevelPair* FindHighLevel(double cruise_alt) {
+    const auto* found = std::find_if(std::begin(kHighLevels), std::end(kHighLevels),
+                                     [cruise_alt](const LevelPair& pair) { return pair.from == cruise_alt; });
+    return found == std::end(kHighLevels) ? nullptr : found;
+}
+
 void PlanStepClimb() {
     perf.fms_step_to_alt = StepToAltitude(perf.cruise_alt, perf.fms_step_size, perf.entered_step_to_alt);
-    if (perf.fms_step_to_alt > MaxAltitude() * 100.0) perf.fms_step_to_alt = 0;
+    // The high levels stand as they are: nearly all of them lie above any maximum that the weight allows.
+    const bool is_high_level = perf.fms_step_size == kRvsmStep && FindHighLevel(perf.cruise_alt) != nullptr;
+    if (!is_high_level && perf.fms_step_to_alt > MaxAltitude() * 100.0) perf.fms_step_to_alt = 0;
 }
 
 // What follows from the cruise altitude.
@@ -227,17 +245,10 @@ void PlanCruise() {
 }  // namespace
 
 double StepToAltitude(double cruise_alt, int size, double entered) {
-    constexpr int kEntered = 0, kIcao = -1, kRvsm = -2;
-    if (size == kEntered) return entered;
-    if (size == kIcao) return cruise_alt + 4000;
-    if (size != kRvsm) return cruise_alt + size;
-    struct Pair {
-        double from, to;
-    };
-    constexpr Pair kHighLevels[] = {{40000, 43000}, {41000, 45000}, {43000, 47000},
-                                    {45000, 49000}, {47000, 51000}, {49000, 53000}};
-    for (const Pair& pair : kHighLevels)
-        if (cruise_alt == pair.from) return pair.to;
+    if (size == kEnteredStep) return entered;
+    if (size == kIcaoStep) return cruise_alt + 4000;
+    if (size != kRvsmStep) return cruise_alt + size;
+    if (const LevelPair* pair = FindHighLevel(cruise_alt)) return pair->to;
     constexpr double kLowLevels = 41001;
     return cruise_alt < kLowLevels ? cruise_alt + 2000 : 0;
 }
