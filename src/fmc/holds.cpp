@@ -59,7 +59,7 @@ void MarkHold(int leg, bool active, int prev_leg) {
     const FlightPlanLeg& fix = legs[leg];
     HoldRecord hold;
     hold.ident = fix.ident;
-    (active ? hold.leg : hold.pending_leg) = leg;
+    hold.pending_leg = leg;
     hold.magvar = MagVarAt(fix.lat, fix.lon);
     const int start = PlaceBefore(legs, std::min(prev_leg, last) + 1);
     if (start >= 0) {

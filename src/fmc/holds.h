@@ -5,9 +5,9 @@
 constexpr int kMostHolds = 8;
 constexpr int kHoldTakenOut = -1;  // pending_leg of the hold being flown, when the working copy has lost it
 
-/// Adds a hold at a leg of FlightPlanMod (of FlightPlan with `active`, then in force at once): right turns of
-/// one minute, inbound on the course from `prev_leg`. Refused when eight stand, when the leg has one, or when
-/// it is no place.
+/// Adds a hold at a leg, in force with EXEC: right turns of one minute, inbound on the course from
+/// `prev_leg`. The legs are read from FlightPlan with `active` (what the pages show in state 3), else from
+/// FlightPlanMod. Refused when eight stand, when the leg has one, or when it is no place.
 void MarkHold(int leg, bool active, int prev_leg);
 
 /// Removes the hold of a leg of FlightPlanMod. The hold being flown goes on until EXEC, and is then left
