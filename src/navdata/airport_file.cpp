@@ -5,7 +5,6 @@
 #include "navdata/geodesy.h"
 #include "navdata/ident_index.h"
 #include "navdata/text_fields.h"
-#include "platform/files.h"
 #include "state/nav_tables.h"
 
 namespace {
@@ -14,10 +13,6 @@ constexpr std::size_t kSelcalBound = 299;
 constexpr std::size_t kCommsBound = 498;
 constexpr std::size_t kAdditionalInfoBound = 1498;
 constexpr int kMaxRunways = 20;
-
-FileBytes ReadNavdata(std::string_view name) {
-    return ReadFile(std::string(kNavdataFolder).append(name)).value_or(FileBytes{});
-}
 
 // A runway without a landing system bears "0" as its frequency and "-" as its ident.
 std::string TextOrNone(std::string_view text) {

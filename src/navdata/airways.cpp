@@ -10,7 +10,6 @@
 
 namespace {
 
-constexpr std::size_t kAirwayBound = 199;
 constexpr int kMaxAirwayFixes = 250;
 constexpr int kFixesOfPage = 16;
 

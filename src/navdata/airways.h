@@ -1,6 +1,10 @@
 #pragma once
 
+#include <cstddef>
 #include <string_view>
+
+/// The longest line of awys.txt when an airway is looked for; what goes beyond is a further line.
+constexpr std::size_t kAirwayBound = 199;
 
 /// Collects the fixes of an airway into `nav.EntryCandidates`, in the file's order: those of the first lines
 /// that bear its name and stand together, at most 250. A "#" before the name is taken off. Sets

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "navdata/airways.h"
 #include "navdata/ident_index.h"
 #include "navdata/text_fields.h"
 #include "platform/host.h"
@@ -17,11 +18,11 @@
 namespace {
 
 constexpr std::size_t kTableBound = 1698;
-constexpr std::size_t kAirwayBound = 199;
 constexpr std::size_t kHeaderBound = 299;
 
-std::string_view ReadNavdata(std::string_view name, FileBytes& file) {
-    file = ReadFile(std::string(kNavdataFolder).append(name)).value_or(FileBytes{});
+// Reads a file into its place, where the rows' texts point.
+std::string_view KeepFile(std::string_view name, FileBytes& file) {
+    file = ReadNavdata(name);
     return file.Text();
 }
 
@@ -31,12 +32,13 @@ template <class Row>
 void ReserveRows(GrowingList<Row>& table, std::string_view text) {
     constexpr std::size_t kShortLine = 24;
     table.reserve(static_cast<int>(text.size() / kShortLine) + 2 * GrowingList<Row>::kSlack);
+    table[0] = {};  // the empty record stands in an empty table too
 }
 
 constexpr auto kIdentOf = [](const auto& row) { return row.ident; };
 
 void LoadIntersections(NavTables& t) {
-    std::string_view rest = ReadNavdata("ints.txt", t.ints_file);
+    std::string_view rest = KeepFile("ints.txt", t.ints_file);
     ReserveRows(t.IntersectionTable, rest);
     while (auto line = NextDataLine(rest, kTableBound)) {
         const std::string_view ident = NextField(*line), name = NextField(*line);
@@ -68,7 +70,7 @@ void ExtendAirwayRun(NavTables& t, std::string_view line) {
 }
 
 void LoadAirways(NavTables& t) {
-    std::string_view rest = ReadNavdata("awys.txt", t.awys_file);
+    std::string_view rest = KeepFile("awys.txt", t.awys_file);
     ReserveRows(t.AirwayFixTable, rest);
     while (const auto line = NextBoundedLine(rest, rest.size())) {
         // The table and the later reading of one airway divide a line that is too long at different places.
@@ -93,7 +95,7 @@ double LongestRunway(std::string_view tokens) {
 }
 
 void LoadAirports(NavTables& t) {
-    std::string_view rest = ReadNavdata("apts.txt", t.apts_file);
+    std::string_view rest = KeepFile("apts.txt", t.apts_file);
     ReserveRows(t.AirportTable, rest);
     ReserveRows(t.airport_lines, rest);
     while (auto line = NextDataLine(rest, kTableBound)) {
@@ -112,7 +114,7 @@ void LoadAirports(NavTables& t) {
 }
 
 void LoadNavaids(NavTables& t) {
-    std::string_view rest = ReadNavdata("navs.txt", t.navs_file);
+    std::string_view rest = KeepFile("navs.txt", t.navs_file);
     ReserveRows(t.NavaidTable, rest);
     while (auto line = NextDataLine(rest, kTableBound)) {
         const std::string_view ident = NextField(*line), name = NextField(*line);
@@ -128,7 +130,7 @@ void LoadNavaids(NavTables& t) {
 }
 
 void LoadLandmarks(NavTables& t) {
-    std::string_view rest = ReadNavdata("landmarks.txt", t.landmarks_file);
+    std::string_view rest = KeepFile("landmarks.txt", t.landmarks_file);
     ReserveRows(t.LandmarkTable, rest);
     char* const text = t.landmarks_file.data.get();
     while (auto line = NextDataLine(rest, kTableBound)) {
@@ -182,8 +184,8 @@ void CheckNavdataDates() {
     nav.airac_range_text.clear();
     nav.airac_range_short.clear();
     nav.navdata_out_of_date = 0;
-    FileBytes file;
-    std::string_view rest = ReadNavdata("navs.txt", file);
+    const FileBytes file = ReadNavdata("navs.txt");
+    std::string_view rest = file.Text();
     while (auto line = NextBoundedLine(rest, kHeaderBound)) {
         if (NextField(*line) != ";AIRAC") continue;
         const std::string_view cycle = NextField(*line);
@@ -199,7 +201,7 @@ void CheckNavdataDates() {
             nav.airac_range_short = first.day + first.month + " - " + last.day + last.month;
         }
         const int today = Host().machine_date();
-        const bool valid = first.number <= today && today <= last.number;
+        const bool valid = today == 0 || (first.number <= today && today <= last.number);  // 0: not known
         nav.navdata_out_of_date = !valid && cfg.CheckNavdataStatus == 1;
         return;
     }

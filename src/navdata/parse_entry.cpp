@@ -242,6 +242,7 @@ void ResolvePlaceWithBearing(std::string_view entry, std::size_t slash) {
 
 void ParseEntry(std::string_view text) {
     nav.EntryCandidates.clear();
+    nav.EntryCandidates[0] = {};
     nav.entry_cnt = 0;
     nav.entry_bearing = nav.entry_bearing2 = nav.entry_distance = 0;
     if (ResolvePosition(text)) return;

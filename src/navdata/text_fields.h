@@ -4,10 +4,13 @@
 #include <string>
 #include <string_view>
 
+#include "platform/files.h"
+
 // Reading the navigation files: bounded lines, fields between blanks, numbers. Inline, for the time to load
 // the world's data is spent here.
 
-constexpr std::string_view kNavdataFolder = "\\Velarion\\TZ900\\Navdata\\";
+/// A file of the navigation data folder, empty when it can't be read.
+FileBytes ReadNavdata(std::string_view name);
 
 /// Cuts the next line off the front of `rest`, without its line end; text beyond `bound` characters is a
 /// further line. Nothing at the end.

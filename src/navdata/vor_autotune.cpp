@@ -60,7 +60,9 @@ void PickRadios() {
     const bool on_route = plan.fms_fpln_active >= kRouteActive && plan.stpos >= 1 && plan.stpos != kNoPlan;
     double course = sim.true_track_deg, lat = sim.plane_lat, lon = sim.plane_lon;
     if (on_route) {
-        const FlightPlanLeg& from = std::as_const(plan.FlightPlan)[plan.stpos - 1];
+        int before = plan.stpos - 1;
+        while (before > 0 && std::as_const(plan.FlightPlan)[before].ident == "DISCO") --before;
+        const FlightPlanLeg& from = std::as_const(plan.FlightPlan)[before];
         const FlightPlanLeg& to = std::as_const(plan.FlightPlan)[plan.stpos];
         lat = from.lat;
         lon = from.lon;

@@ -39,7 +39,7 @@ struct TunedVor {
 };
 
 /// What lies around the aircraft, or around the point that the map is centred on. Filled by navdata/nearest
-/// and navdata/vor_autotune.
+/// and navdata/vor_autotune; a picture is composed under the state lock, so it never sees a list half made.
 struct NearestState {
     NearListPair<AirportRow> airports;  // 1700 and 1280 nm
     NearListPair<AirwayFixRow> fixes;   // 600 and 200 nm, fixes of airways
