@@ -65,7 +65,7 @@ void PrintFix(const Session& session, Log& log) {
 // The first leg's runway end, or the airport, as a place in the air on the way to the first fix.
 Placement AfterTakeOff(const Session& session) {
     const double lat = Number(session, "FlightPlan[0].lat"), lon = Number(session, "FlightPlan[0].lon");
-    Placement placement{lat, lon, 0, Number(session, "leg_crs"), 220};
+    Placement placement{lat, lon, 0, Number(session, "leg_crs") + Number(session, "mgvar"), 220};
     placement.alt_ft = std::round(GroundElevationMetres(lat, lon) / 0.3048 / 100) * 100 + 3000;
     return placement;
 }

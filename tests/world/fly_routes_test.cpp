@@ -55,7 +55,7 @@ struct RouteInTheAir {
         if (!EnterRoute(session, route.text, error) || !ExecuteRoute(session, error)) return false;
         const DistBearing first =
             GreatCircle(route.lat, route.lon, Number("FlightPlan[1].lat"), Number("FlightPlan[1].lon"));
-        host::PlaceAircraft({route.lat, route.lon, 35000, first.bearing - Number("mgvar"), 275});
+        host::PlaceAircraft({route.lat, route.lon, 35000, first.bearing, 275});
         for (int i = 0; i < 10 * 18; ++i) TickSession(session, false);
         for (const char* control : {"atarm", "apl", "lnav", "althold", "at"})
             PressMouseArea(session, "MCP", control);
