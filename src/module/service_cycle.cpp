@@ -6,6 +6,7 @@
 #include "frame/key_events.h"
 #include "frame/keyboard_capture.h"
 #include "frame/named_variables.h"
+#include "frame/snapshot.h"
 #include "frame/tokens.h"
 #include "module/delayed_start.h"
 #include "module/main_update.h"
@@ -55,10 +56,12 @@ void RunUpdateCycle(bool virtual_cockpit) {
     CopyTraffic();
     PollKeyboard();
     const double now = ReadToken(kTokenAbsoluteTime);
-    if (time_base.flight_time_base == 0) time_base.flight_time_base = now;
+    const bool first_update = time_base.flight_time_base == 0;
+    if (first_update) time_base.flight_time_base = now;
     const double since_start = now - time_base.flight_time_base;
     if (module_life.startup_done == 0 && since_start > kDelayedStartSeconds) DelayedStart();
     MainUpdate();
+    if (first_update) ReadSnapshot();  // where the aircraft is, is known before the counter moves
     if (time_base.tick2s_phase == 35) {
         plan.rebuild_latch = 0;
         CheckGearLever();
