@@ -82,7 +82,7 @@ void Tune(const NavRadio& radio, int mode, const TunedVor& vor) {
     if (mode != kModeAuto || vor.freq.empty()) return;
     const int wanted = FrequencyToBcd(vor.freq);
     // The host reads back the last four digits; a radio that stands right is left in peace.
-    if (static_cast<int>(ReadToken(radio.token)) != (wanted & 0xffff)) SendKeyEvent(radio.event, wanted);
+    if (ReadToken(radio.token) != (wanted & 0xffff)) SendKeyEvent(radio.event, wanted);
 }
 
 }  // namespace
