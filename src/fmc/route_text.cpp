@@ -186,6 +186,14 @@ bool EnterFromAirway(const std::string& airway, const std::string& fix, const La
     return false;
 }
 
+std::string_view WhyNoFix(const std::string& word, bool is_first, bool is_last) {
+    if (IsAirway(word))
+        return is_last ? "the airway needs a fix where it is left"
+                       : "the airway needs a fix where it is joined";
+    if (is_first) return "no such fix, airway or departure";
+    return is_last ? "no such fix, airway or arrival" : "no such fix or airway";
+}
+
 bool EnterFix(const RouteWords& words, std::size_t i, std::string& error) {
     const std::string& word = words.text[i];
     const FlightPlanLeg& before = plan.FlightPlanMod[LastFix()];
@@ -202,10 +210,7 @@ bool EnterFix(const RouteWords& words, std::size_t i, std::string& error) {
         }
     }
     if (on_airway && EnterFromAirway(words.text[i + 1], word, place)) return true;
-    const std::string_view what = i == 1          ? "no such fix, airway or departure"
-                                  : i + 1 == last ? "no such fix, airway or arrival"
-                                                  : "no such fix or airway";
-    error = Told(words, i, what);
+    error = Told(words, i, WhyNoFix(word, i == 1, i + 1 == last));
     return false;
 }
 
@@ -247,7 +252,6 @@ bool EnterAirway(const RouteWords& words, std::size_t& i, std::string& error) {
         error = Told(words, at, what.append(name));
         return false;
     };
-    if (i + 1 >= last) return wrong(i, "the airway needs a fix where it is left");
     const std::string& next = words.text[i + 1];
     LoadAirwayTowards(airway, start, next);
     if (plan.awy_list_cnt == 0) return wrong(i, "the airway doesn't hold ", start_ident);
@@ -258,7 +262,8 @@ bool EnterAirway(const RouteWords& words, std::size_t& i, std::string& error) {
         return true;
     }
     if (IsAirway(next)) {
-        const int end = FindTurnOff(next, i + 2 < last ? words.text[i + 2] : std::string());
+        const int end =
+            next == airway ? 0 : FindTurnOff(next, i + 2 < last ? words.text[i + 2] : std::string());
         if (end == 0) return wrong(i + 1, "the airway doesn't cross ", airway);
         EnterSegment(airway, end);
         return true;
@@ -318,6 +323,6 @@ int ExecuteEnteredRoute(std::string& error) {
         return 0;
     }
     while (plan.fms_fpln_active < kRouteActivated) AdvanceRouteState();
-    if (plan.fms_fpln_active != kRouteActive) ExecuteRoute();
+    ExecuteRoute();
     return 1;
 }

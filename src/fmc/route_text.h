@@ -11,5 +11,5 @@
 /// route stays as it was, and `error` names the word that is wrong.
 int EnterRouteText(std::string_view text, std::string& error);
 
-/// Activates and executes what has been entered, or the pending modification. 1 = the route is active.
+/// Activates and executes what has been entered, or whatever has been edited since. 1 = the route is active.
 int ExecuteEnteredRoute(std::string& error);

@@ -71,7 +71,10 @@ TEST_F(RouteText, TellsWhichWordIsWrongAndLosesNothing) {
         {"ORIG AAA Q1 NOFIX DEST", "word 4 \"NOFIX\": no such fix or airway"},
         {"ORIG AAA Q1 Q3 SOLOX DEST", "word 4 \"Q3\": the airway doesn't cross Q1"},
         {"ORIG AAA Q1 AAA DEST", "word 4 \"AAA\": the airway is joined at the same fix"},
-        {"ORIG AAA Q1 DEST", "word 3 \"Q1\": no such fix, airway or arrival"},
+        {"ORIG AAA Q1 DEST", "word 3 \"Q1\": the airway needs a fix where it is left"},
+        {"ORIG Q1 CCC DEST", "word 2 \"Q1\": the airway needs a fix where it is joined"},
+        {"ORIG AAA DCT Q1 CCC DEST", "word 4 \"Q1\": the airway needs a fix where it is joined"},
+        {"ORIG AAA Q1 Q1 CCC DEST", "word 4 \"Q1\": the airway doesn't cross Q1"},
     };
     for (const auto& test : kCases) {
         EXPECT_EQ(Enter(test.route), test.error) << test.route;
