@@ -59,9 +59,11 @@ int ActiveLegOfModification() {
 }  // namespace
 
 void ConnectLegs(int from, int to, int) {
-    if (from < 0 || to <= from || to > plan.mod_cnt) return;
-    const bool direct_to = plan.fms_fpln_active >= kRouteActive && from == ActiveLegOfModification();
-    if (direct_to && IsPlace(plan.FlightPlanMod[to]))
+    if (from < 0 || to < from || to > plan.mod_cnt) return;
+    const bool direct_to = plan.fms_fpln_active >= kRouteActive && from == ActiveLegOfModification() &&
+                           IsPlace(plan.FlightPlanMod[to]);
+    if (to == from && !direct_to) return;
+    if (direct_to)
         StartDirectTo(to);
     else
         RemoveModLegs(from + 1, to - from - 1);
@@ -87,7 +89,7 @@ void DeleteLegWithDiscontinuity(int leg, bool reconnect, int) {
 
 int RemoveToRow(int row) {
     const RowLegs legs = row > 0 ? FindRowLegs(row) : RowLegs{};
-    if (legs.last == 0) return 0;
+    if (legs.last == 0 || IsDisco(plan.FlightPlanMod[legs.last])) return 0;
     const RowLegs block = FindBlock(legs.last);
     RemoveModLegs(block.first, block.last - block.first + 1);
     // Between the two ends alone there is no route to break.

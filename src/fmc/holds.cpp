@@ -29,6 +29,12 @@ void ClearHoldPositions(GrowingList<FlightPlanLeg>& legs, int count) {
     for (int i = 0; i <= count; ++i) legs[i].hold_pos = 0;
 }
 
+// Where a leg of the active plan stands in the working copy: a modification may have moved it, or taken it
+// out (0).
+int SameModLeg(const FlightPlanLeg& fix, int leg) {
+    return FindModLeg(fix, leg) == leg ? leg : FindModLeg(fix, 1);
+}
+
 }  // namespace
 
 int HoldLegInModification(const HoldRecord& hold) {
@@ -54,12 +60,13 @@ void RenumberHolds() {
 void MarkHold(int leg, bool active, int prev_leg) {
     GrowingList<FlightPlanLeg>& legs = active ? plan.FlightPlan : plan.FlightPlanMod;
     const int last = active ? plan.fp_cnt : plan.mod_cnt;
-    if (plan.hold_cnt >= kMostHolds || leg < 1 || leg > last || !IsPlace(legs[leg]) || HoldAt(leg) > 0)
-        return;
+    if (plan.hold_cnt >= kMostHolds || leg < 1 || leg > last || !IsPlace(legs[leg])) return;
     const FlightPlanLeg& fix = legs[leg];
+    const int mod_leg = active ? SameModLeg(fix, leg) : leg;
+    if (mod_leg == 0 || HoldAt(mod_leg) > 0) return;
     HoldRecord hold;
     hold.ident = fix.ident;
-    hold.pending_leg = leg;
+    hold.pending_leg = mod_leg;
     hold.magvar = MagVarAt(fix.lat, fix.lon);
     const int start = PlaceBefore(legs, std::min(prev_leg, last) + 1);
     if (start >= 0) {

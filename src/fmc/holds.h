@@ -7,7 +7,8 @@ constexpr int kHoldTakenOut = -1;  // pending_leg of the hold being flown, when 
 
 /// Adds a hold at a leg, in force with EXEC: right turns of one minute, inbound on the course from
 /// `prev_leg`. The legs are read from FlightPlan with `active` (what the pages show in state 3), else from
-/// FlightPlanMod. Refused when eight stand, when the leg has one, or when it is no place.
+/// FlightPlanMod. Refused when eight stand, when the leg has one, when it is no place, or when a modification
+/// has taken it out.
 void MarkHold(int leg, bool active, int prev_leg);
 
 /// Removes the hold of a leg of FlightPlanMod. The hold being flown goes on until EXEC, and is then left

@@ -106,6 +106,7 @@ FlightPlanLeg LegFromEntry(const NavRecord& entry) {
 }
 
 void InsertFixAt(int position, int candidate, bool replace) {
+    if (plan.along_track_nm == 0 && Candidate(candidate) == nullptr) return;
     EnsureEnds();
     position = std::clamp(position, 1, plan.mod_cnt);
     if (plan.along_track_nm != 0) {
@@ -117,9 +118,7 @@ void InsertFixAt(int position, int candidate, bool replace) {
         if (offset > 0) ++position;
         PlaceLeg(position, std::move(leg));
     } else {
-        const NavRecord* entry = Candidate(candidate);
-        if (entry == nullptr) return;
-        PlaceLeg(position, LegFromEntry(*entry));
+        PlaceLeg(position, LegFromEntry(*Candidate(candidate)));
     }
     if (!replace) OpenDisco(position + 1);
     RebuildRouteRows();

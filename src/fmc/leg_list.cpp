@@ -39,6 +39,14 @@ int PlaceBefore(GrowingList<FlightPlanLeg>& legs, int index) {
     return -1;
 }
 
+int FindModLeg(const FlightPlanLeg& place, int first) {
+    for (int i = std::max(first, 1); i <= plan.mod_cnt; ++i) {
+        const FlightPlanLeg& leg = plan.FlightPlanMod[i];
+        if (leg.ident == place.ident && leg.lat == place.lat && leg.lon == place.lon) return i;
+    }
+    return 0;
+}
+
 FlightPlanLeg& OpenModLeg(int position) {
     position = std::clamp(position, 1, plan.mod_cnt + 1);
     GrowingList<FlightPlanLeg>& legs = plan.FlightPlanMod;

@@ -13,6 +13,9 @@ bool IsPlace(const FlightPlanLeg& leg);
 /// The last place before `index`, -1 when there is none.
 int PlaceBefore(GrowingList<FlightPlanLeg>& legs, int index);
 
+/// The leg of FlightPlanMod, from `first` on, that is the same place; 0 = none.
+int FindModLeg(const FlightPlanLeg& place, int first);
+
 /// Opens a fresh leg at a position, 1 to `mod_cnt` + 1; the legs from there on move up by one.
 FlightPlanLeg& OpenModLeg(int position);
 

@@ -52,15 +52,6 @@ void BringBackEnds() {
     if (airports.dest_airport.ident != plan.ends.dest) LoadAirport(plan.ends.dest, airports.dest_airport);
 }
 
-// The leg of FlightPlanMod, from the pending active one on, that is the same place; 0 = none.
-int FindInModification(const FlightPlanLeg& place) {
-    for (int i = std::max(plan.pending_stpos, 1); i <= plan.mod_cnt; ++i) {
-        const FlightPlanLeg& leg = plan.FlightPlanMod[i];
-        if (leg.ident == place.ident && leg.lat == place.lat && leg.lon == place.lon) return i;
-    }
-    return 0;
-}
-
 // A direct-to whose fix has been passed in the meantime is none any more.
 void MovePendingActiveLeg(int leg) {
     if (leg != plan.pending_stpos && plan.direct_to_pending == 1) {
@@ -159,12 +150,12 @@ void FollowSequencing() {
         return;
     }
     if (plan.fms_fpln_active != kRouteModified || plan.stpos == kNoPlan) return;
-    if (const int leg = FindInModification(plan.FlightPlan[plan.stpos]); leg > 0) {
+    if (const int leg = FindModLeg(plan.FlightPlan[plan.stpos], plan.pending_stpos); leg > 0) {
         MovePendingActiveLeg(leg);
         return;
     }
     // The leg now flown to has been taken out, but the pending one may have been passed.
     const int passed = PlaceBefore(plan.FlightPlan, plan.stpos);
-    if (passed > 0 && FindInModification(plan.FlightPlan[passed]) == plan.mod_stpos)
+    if (passed > 0 && FindModLeg(plan.FlightPlan[passed], plan.pending_stpos) == plan.mod_stpos)
         MovePendingActiveLeg(std::min(plan.mod_stpos + 1, plan.mod_cnt));
 }

@@ -167,6 +167,9 @@ TEST_F(RouteModel, InsertedFixesOpenADiscontinuityUnlessTheyReplace) {
     EXPECT_EQ(plan.mod_cnt, 8);
     EXPECT_EQ(ActiveLegs(), "ORIG AAA CCC EEE DEST");
     EXPECT_EQ(plan.FlightPlan[1].mod_flag, 0);
+    ClearFlightPlan();
+    InsertFixAt(1, nav.entry_cnt + 1, true);
+    EXPECT_EQ(plan.mod_cnt, 0);
 }
 
 TEST_F(RouteModel, PositionsGetMadeNamesThatNoOtherLegHas) {
@@ -220,6 +223,7 @@ TEST_F(RouteModel, RowsGoAsBlocks) {
         {"ORIG AAA Q1 CCC LONER DEST", "RemoveViaRow 2", "1", "ORIG AAA CCC LONER DEST"},
         {"ORIG AAA Q1 CCC LONER DEST", "RemoveViaRow 3", "0", "ORIG AAA AAFIX BBFIX CCC LONER DEST"},
         {"ORIG AAA Q1 CCC DEST", "RemoveViaRow 7", "0", "ORIG AAA AAFIX BBFIX CCC DEST"},
+        {"ORIG AAA Q1 CCC DEST", "RemoveViaRow -1", "0", "ORIG AAA AAFIX BBFIX CCC DEST"},
     };
     for (const auto& test : kCases) {
         EnterAndExecute(test.route);
@@ -228,6 +232,13 @@ TEST_F(RouteModel, RowsGoAsBlocks) {
         EXPECT_EQ(plan.fms_fpln_active, std::string(test.result) == "1" ? kRouteModified : kRouteActive);
     }
     EXPECT_EQ(Rows(), "DIRECT AAA, Q1(AWY) CCC");
+    // A discontinuity is no row that could go.
+    EnterAndExecute("ORIG AAA BBFIX CCC DEST");
+    DeleteLegWithDiscontinuity(2, false, kCaptain);
+    RebuildRouteRows();
+    EXPECT_EQ(RemoveToRow(2), 0);
+    EXPECT_EQ(ModLegs(), "ORIG AAA DISCO CCC DEST");
+    EXPECT_EQ(plan.fms_fpln_active, kRouteActive);
 }
 
 TEST_F(RouteModel, ExecStepsOverADiscontinuityAndKeepsThePlanInBounds) {
@@ -293,6 +304,29 @@ TEST_F(RouteModel, ADirectToStartsPastTheTurn) {
     ExecuteRoute();
     EXPECT_NEAR(plan.ActiveLeg.from_lat, 40.5 + 0.8839 / 60, 1e-4);
     EXPECT_NEAR(plan.ActiveLeg.from_lon, 10 - 0.8839 / 60 / 0.7602, 1e-4);
+}
+
+TEST_F(RouteModel, ADirectToMayAimAtTheActiveLegItself) {
+    EnterAndExecute("ORIG AAA BBFIX CCC DEST");
+    plan.stpos = plan.mod_stpos = 2;
+    ConnectLegs(3, 3, kCaptain);  // not the active leg
+    EXPECT_EQ(plan.fms_fpln_active, kRouteActive);
+    ConnectLegs(2, 2, kCaptain);
+    EXPECT_EQ(plan.fms_fpln_active, kRouteModified);
+    EXPECT_EQ(ModLegs(), "ORIG BBFIX CCC DEST");
+    EXPECT_EQ(plan.pending_stpos, 1);
+    EXPECT_EQ(plan.ActiveLegMod.from, "DIRECT");
+    EXPECT_EQ(plan.ActiveLegMod.to, "BBFIX");
+    EXPECT_EQ(plan.ActiveLegMod.from_lat, 39);
+}
+
+TEST_F(RouteModel, ExecTakesEditsThatNobodyAnnounced) {
+    EnterAndExecute("ORIG AAA BBFIX CCC DEST");
+    DeleteLegWithDiscontinuity(2, true, kCaptain);
+    EXPECT_EQ(plan.fms_fpln_active, kRouteActive);
+    std::string error;
+    EXPECT_EQ(ExecuteEnteredRoute(error), 1);
+    EXPECT_EQ(ActiveLegs(), "ORIG AAA CCC DEST");
 }
 
 TEST_F(RouteModel, OtherConnectionsOnlyTakeOutWhatLiesBetween) {
@@ -383,6 +417,26 @@ TEST_F(RouteModel, HoldsFollowTheirLegs) {
     Enter("ORIG AAA AAFIX BBFIX CCC DDFIX EEE LONER EASTX WWFIX DEST");
     for (int leg = 1; leg <= 9; ++leg) MarkHold(leg, false, leg - 1);
     EXPECT_EQ(plan.hold_cnt, kMostHolds);
+}
+
+TEST_F(RouteModel, AHoldOfTheActivePlanFindsItsLegInTheModification) {
+    const struct {
+        int leg;
+        const char* entry;  // inserted at leg 1 before
+        int removed;        // leg of the modification, 0 = none
+        int found;
+    } kCases[] = {{3, nullptr, 0, 3}, {3, "LONER", 0, 4}, {3, nullptr, 1, 2},
+                  {3, nullptr, 3, 0}, {4, "LONER", 5, 0}, {5, nullptr, 0, 5}};
+    for (const auto& test : kCases) {
+        EnterAndExecute("ORIG AAA BBFIX CCC EEE AAA DEST");
+        if (test.entry != nullptr) InsertEntry(1, test.entry, true);
+        if (test.removed > 0) DeleteLegWithDiscontinuity(test.removed, true, kCaptain);
+        MarkHold(test.leg, true, test.leg - 1);
+        ASSERT_EQ(plan.hold_cnt, test.found > 0 ? 1 : 0) << test.leg;
+        if (test.found == 0) continue;
+        EXPECT_EQ(plan.HoldList[1].pending_leg, test.found);
+        EXPECT_EQ(plan.HoldList[1].ident, plan.FlightPlanMod[test.found].ident);
+    }
 }
 
 TEST_F(RouteModel, SequencingMovesAPendingModificationOn) {
@@ -591,7 +645,7 @@ TEST_F(RouteModel, HoldsItsInvariantsUnderRandomEdits) {
                 break;
             case 10:
                 line = "MarkHold";
-                MarkHold(leg, false, leg - 1);
+                MarkHold(leg, any(0, 1) == 1, leg - 1);
                 break;
             case 11:
                 line = "RemoveHold";
