@@ -77,7 +77,7 @@ void WriteRow() {
         row, sizeof row,
         "%02d:%02d:%02d %-10s %6.16s %5.0f  %5.0f   %5.0f  %6.0f  %5.0f %7.0f  %7.0f %-3.0f  %.2f %.1f\n",
         seconds / 3600, seconds / 60 % 60, seconds % 60,
-        kPhaseTexts[static_cast<std::size_t>(perf.fplog_mode)], plan.FlightPlan[plan.stpos].ident.c_str(),
+        kPhaseTexts[static_cast<std::size_t>(perf.fplog_mode)], FlightPlanLegAt(plan.stpos).ident.c_str(),
         sim.ground_speed_kt, sim.tas_kt, sim.vs_fpm, sim.ind_alt_ft, fuel_flow, sim.total_fuel, GrossWeight(),
         sim.ias_kt, (sim.n1_l + sim.n1_r) / 2, FlightPathAngle());
     AppendToFile(kLogFile, row);
@@ -93,7 +93,7 @@ double HeldFor(bool holds, double& since) {
 }
 
 double DistanceToDestination() {
-    const FlightPlanLeg& dest = plan.FlightPlan[plan.fp_cnt];
+    const FlightPlanLeg& dest = FlightPlanLegAt(plan.fp_cnt);
     return GreatCircle(sim.plane_lat, sim.plane_lon, dest.lat, dest.lon).dist;
 }
 

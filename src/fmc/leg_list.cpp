@@ -81,8 +81,8 @@ void RemoveModLegs(int first, int count) {
     for (int i = behind; i <= plan.mod_cnt; ++i) legs[i - count] = std::move(legs[i]);
     for (int i = plan.mod_cnt - count + 1; i <= plan.mod_cnt; ++i) legs[i] = FlightPlanLeg{};
     plan.mod_cnt -= count;
+    if (plan.mod_bod_pos >= first && plan.mod_bod_pos < behind) plan.mod_bod_pos = behind;  // its successor
     ShiftReferences(behind, -count);
-    if (plan.mod_bod_pos >= first && plan.mod_bod_pos < behind) plan.mod_bod_pos = first;
     plan.mod_bod_pos = std::min(plan.mod_bod_pos, std::max(plan.mod_cnt, 0));
     if (plan.fms_fpln_active >= kRouteActive && plan.mod_stpos != kNoPlan && plan.mod_stpos >= first) {
         const int active = plan.mod_stpos >= behind ? plan.mod_stpos - count : first;

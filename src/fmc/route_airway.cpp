@@ -94,8 +94,11 @@ int FindFixOnAirway(std::string_view ident) {
 void InsertAirwaySegment(int fix) {
     const int start = plan.awy_start_pos;
     if (fix < 1 || fix > plan.awy_list_cnt || fix == start || start == 0) return;
-    if (plan.awy_start_leg > plan.mod_cnt) return;
     GrowingList<FlightPlanLeg>& legs = plan.FlightPlanMod;
+    // ERASE or a new route may have put another fix there since the list was made.
+    if (plan.awy_start_leg > plan.mod_cnt ||
+        legs[plan.awy_start_leg].ident != plan.AirwayFixList[start].ident)
+        return;
     int position = plan.awy_start_leg + 1;
     if (position <= plan.mod_cnt && IsThen(legs[position])) RemoveModLegs(position, 1);
     const int step = fix > start ? 1 : -1;

@@ -20,7 +20,8 @@ int FindFixOnAirway(std::string_view ident);
 
 /// Writes the fixes from the start fix (exclusive) to a place of AirwayFixList (inclusive) behind the start
 /// leg of FlightPlanMod, in place of an open end of the airway. Where the next leg is the same fix, the two
-/// become one. A place off the list, or the start itself, changes nothing.
+/// become one. A place off the list, the start itself, or a start that no longer stands where it
+/// stood, changes nothing.
 void InsertAirwaySegment(int fix);
 
 /// Opens a leg "THEN" at an index of FlightPlanMod: an airway whose end isn't yet known.

@@ -146,6 +146,14 @@ TEST_F(RouteModel, AirwaysFillFromTheStartFixInBothDirections) {
     EXPECT_EQ(plan.awy_list_cnt, 0);
     LoadAirway("NONE", 2, 1, kCaptain);
     EXPECT_EQ(plan.awy_list_cnt, 0);
+    // The list outlives the leg that it was made for.
+    EnterAndExecute("ORIG CCC EEE DEST");
+    InsertEntry(1, "LONER", true);
+    LoadAirway("Q1", 2, 2, kCaptain);
+    EXPECT_GT(plan.awy_list_cnt, 0);
+    EraseModification();
+    InsertAirwaySegment(2);
+    EXPECT_EQ(ModLegs(), "ORIG CCC EEE DEST");
     // Where the route already goes on from the last fix, it stands once.
     Enter("ORIG AAA CCC DEST");
     LoadAirway("Q1", 2, 1, kCaptain);
@@ -304,6 +312,33 @@ TEST_F(RouteModel, ADirectToStartsPastTheTurn) {
     ExecuteRoute();
     EXPECT_NEAR(plan.ActiveLeg.from_lat, 40.5 + 0.8839 / 60, 1e-4);
     EXPECT_NEAR(plan.ActiveLeg.from_lon, 10 - 0.8839 / 60 / 0.7602, 1e-4);
+}
+
+TEST_F(RouteModel, TheBottomOfDescentMovesWithItsLeg) {
+    const struct {
+        int bottom;
+        const char* operation;
+        int moved;
+    } kCases[] = {
+        {6, "ConnectLegs 1 4 1", 3},  // direct to: three legs go
+        {4, "ConnectLegs 1 4 1", 1},
+        {2, "ConnectLegs 1 4 1", 1},  // itself removed: the leg that takes its place
+        {5, "ConnectLegs 2 4 1", 4},
+        {2, "ConnectLegs 2 4 1", 2},
+        {5, "RemoveViaRow 2", 3},  // two legs of the airway go
+        {5, "RemoveToRow 2", 3},   // three go, a "DISCO" comes
+        {5, "InsertFixAt 3 1 0", 7},
+        {5, "InsertFixAt 5 1 1", 6},
+        {2, "InsertFixAt 5 1 1", 2},
+    };
+    for (const auto& test : kCases) {
+        EnterAndExecute("ORIG AAA Q1 CCC EEE LONER DEST");
+        ASSERT_EQ(ActiveLegs(), "ORIG AAA AAFIX BBFIX CCC EEE LONER DEST");
+        ParseEntry("EASTX");
+        plan.mod_bod_pos = test.bottom;
+        Op(test.operation);
+        EXPECT_EQ(plan.mod_bod_pos, test.moved) << test.bottom << " " << test.operation;
+    }
 }
 
 TEST_F(RouteModel, ADirectToMayAimAtTheActiveLegItself) {
