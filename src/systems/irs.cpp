@@ -33,7 +33,7 @@ void ToggleIrsKnob(int side) {
     const IrsUnit& unit = kUnits[side == kFirstOfficer ? 1 : 0];
     cockpit.*unit.knob = cockpit.*unit.knob == 0 ? 1 : 0;
     if (cockpit.*unit.knob == 1)
-        irs.*unit.timer = std::clamp(cfg.IrsAlignSecs, 0, kMostAlignSecs) * kTicksPerSecond;
+        irs.*unit.timer = std::max(std::clamp(cfg.IrsAlignSecs, 0, kMostAlignSecs) * kTicksPerSecond, 1);
     else
         irs.*unit.aligned = 0;
     WriteNamedVar(unit.switch_variable, cockpit.*unit.knob);

@@ -31,6 +31,10 @@ TEST(Irs, AlignsAfterItsTimeInTicks) {
     cfg.IrsAlignSecs = 2000000000;  // as a file may have it
     ToggleIrsKnob(kFirstOfficer);
     EXPECT_GT(irs.irs_timer_r, 0);
+    cfg.IrsAlignSecs = 0;
+    ToggleIrsKnob(kCaptain);
+    StepIrs();
+    EXPECT_EQ(irs.irs_left, 1);
 }
 
 }  // namespace
