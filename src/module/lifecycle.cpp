@@ -12,6 +12,7 @@
 #include "module/service_cycle.h"
 #include "navdata/nav_tables.h"
 #include "platform/host.h"
+#include "platform/resident_libraries.h"
 #include "platform/state_lock.h"
 #include "state/cfg.h"
 #include "state/host_link.h"
@@ -81,6 +82,7 @@ void ConnectToWindow() {
 void ModuleInit() {
     const StateLock lock;
     ResetSystemState();
+    KeepGraphicsLibraries();
     Host().set_timer_period(kTimerPeriodMs);
     time_base.startup_msg_ticks = 0;
     sound.dsound_ok = Host().open_sound_device();
