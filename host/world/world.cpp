@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstring>
 
 #include "host/world/ipc_block.h"
 #include "host/world/key_event_effects.h"
@@ -127,7 +126,7 @@ namespace {
 int CopyText(std::string_view from, char* text, int size) {
     if (text == nullptr || size <= 0) return 0;
     const std::size_t length = std::min(from.size(), static_cast<std::size_t>(size - 1));
-    std::memcpy(text, from.data(), length);
+    std::copy_n(from.begin(), length, text);
     text[length] = '\0';
     return static_cast<int>(length);
 }
