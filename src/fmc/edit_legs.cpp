@@ -52,16 +52,12 @@ void StartDirectTo(int to) {
            .direct_flag = 1};
 }
 
-int ActiveLegOfModification() {
-    return plan.fms_fpln_active == kRouteModified ? plan.pending_stpos : plan.stpos;
-}
-
 }  // namespace
 
 void ConnectLegs(int from, int to, int) {
     if (from < 0 || to < from || to > plan.mod_cnt) return;
-    const bool direct_to = plan.fms_fpln_active >= kRouteActive && from == ActiveLegOfModification() &&
-                           IsPlace(plan.FlightPlanMod[to]);
+    const bool direct_to =
+        plan.fms_fpln_active >= kRouteActive && from == PendingActiveLeg() && IsPlace(plan.FlightPlanMod[to]);
     if (to == from && !direct_to) return;
     if (direct_to)
         StartDirectTo(to);

@@ -8,6 +8,10 @@
 
 namespace {
 
+bool HasActiveLeg() {
+    return plan.fms_fpln_active >= kRouteActive && PendingActiveLeg() != kNoPlan;
+}
+
 // Moves what points at legs from `first` on by `offset` places.
 void ShiftReferences(int first, int offset) {
     for (int i = 1; i <= plan.hold_cnt; ++i) {
@@ -54,8 +58,7 @@ FlightPlanLeg& OpenModLeg(int position) {
     for (int i = plan.mod_cnt; i >= position; --i) legs[i + 1] = std::move(legs[i]);
     ++plan.mod_cnt;
     ShiftReferences(position, 1);
-    if (plan.fms_fpln_active >= kRouteActive && plan.mod_stpos != kNoPlan && plan.mod_stpos > position)
-        SetPendingActiveLeg(plan.mod_stpos + 1);
+    if (HasActiveLeg() && PendingActiveLeg() > position) SetPendingActiveLeg(PendingActiveLeg() + 1);
     legs[position] = FlightPlanLeg{};
     legs[position].mod_flag = 1;
     RenumberHolds();
@@ -84,8 +87,8 @@ void RemoveModLegs(int first, int count) {
     if (plan.mod_bod_pos >= first && plan.mod_bod_pos < behind) plan.mod_bod_pos = behind;  // its successor
     ShiftReferences(behind, -count);
     plan.mod_bod_pos = std::min(plan.mod_bod_pos, std::max(plan.mod_cnt, 0));
-    if (plan.fms_fpln_active >= kRouteActive && plan.mod_stpos != kNoPlan && plan.mod_stpos >= first) {
-        const int active = plan.mod_stpos >= behind ? plan.mod_stpos - count : first;
+    if (HasActiveLeg() && PendingActiveLeg() >= first) {
+        const int active = PendingActiveLeg() >= behind ? PendingActiveLeg() - count : first;
         SetPendingActiveLeg(std::clamp(active, 1, std::max(plan.mod_cnt, 1)));
     }
     RenumberHolds();

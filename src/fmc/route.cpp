@@ -63,6 +63,10 @@ void MovePendingActiveLeg(int leg) {
 
 }  // namespace
 
+int PendingActiveLeg() {
+    return plan.pending_stpos >= 1 ? plan.pending_stpos : plan.stpos;
+}
+
 void SetPendingActiveLeg(int leg) {
     plan.mod_stpos = leg;
     plan.pending_stpos = leg;
@@ -77,8 +81,7 @@ void AdvanceRouteState() {
             break;
         case kRouteActive:
             plan.fms_fpln_active = kRouteModified;
-            // An edit made before this step may already have moved the TO leg.
-            plan.pending_stpos = plan.mod_stpos == kNoPlan ? plan.stpos : plan.mod_stpos;
+            SetPendingActiveLeg(PendingActiveLeg());
             break;
         case kRouteModified:
             plan.fms_fpln_active = kRouteActive;
@@ -103,8 +106,10 @@ void RefreshLegsForModification() {
     }
     plan.mod_cnt = plan.fp_cnt;
     plan.mod_stpos = plan.stpos;
+    plan.pending_stpos = plan.fms_fpln_active == kRouteModified ? plan.stpos : 0;
     plan.mod_bod_pos = vnav.bod_pos;
     plan.ActiveLegMod = plan.ActiveLeg;
+    plan.direct_to_pending = 0;
     DropPendingHolds();
 }
 
@@ -112,12 +117,10 @@ void EraseModification() {
     if (plan.fms_fpln_active < kRouteActive) return;
     BringBackEnds();
     ClearPendingEntries();
-    plan.direct_to_pending = 0;
-    plan.pending_stpos = 0;
     if (lnav.hold_exit == 2 || lnav.hold_exit == 3) lnav.hold_exit = 0;
     RestoreExecutedHolds();
-    RefreshLegsForModification();
     plan.fms_fpln_active = kRouteActive;
+    RefreshLegsForModification();
     RebuildRouteRows();
 }
 

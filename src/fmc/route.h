@@ -30,7 +30,8 @@ void EraseModification();
 /// Throws all plan data away after a flight; the burn defaults are set again.
 void ClearFlightPlan();
 
-/// Sets the leg of FlightPlanMod that EXEC makes the TO leg.
+/// The leg of FlightPlanMod that EXEC makes the TO leg: the present one, as far as edits have not moved it.
+int PendingActiveLeg();
 void SetPendingActiveLeg(int leg);
 
 /// After a leg has been sequenced: in state 3 the working copy's TO leg follows; in state 4 the pending

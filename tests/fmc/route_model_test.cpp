@@ -314,6 +314,34 @@ TEST_F(RouteModel, ADirectToStartsPastTheTurn) {
     EXPECT_NEAR(plan.ActiveLeg.from_lon, 10 - 0.8839 / 60 / 0.7602, 1e-4);
 }
 
+TEST_F(RouteModel, AModificationStartsFromTheLegBeingFlown) {
+    const struct {
+        std::vector<const char*> operations;
+        const char* to;  // the TO leg after EXEC
+        int stpos;
+    } kCases[] = {
+        {{"AdvanceRouteState"}, "CCC", 3},
+        {{"DeleteLegWithDiscontinuity 3 0 1", "AdvanceRouteState"}, "EEE", 4},
+        {{"InsertFixAt 1 1 1", "AdvanceRouteState"}, "CCC", 4},
+        {{"InsertFixAt 3 1 1"}, "LONER", 3},
+        {{"ConnectLegs 1 3 1"}, "CCC", 2},
+        {{"ConnectLegs 3 4 1"}, "EEE", 1},
+        {{"InsertFixAt 1 1 1", "ConnectLegs 4 5 1"}, "EEE", 1},
+        {{"ConnectLegs 1 3 1", "RefreshLegsForModification"}, "CCC", 3},
+        {{"ConnectLegs 3 4 1", "RefreshLegsForModification"}, "CCC", 3},
+    };
+    for (const auto& test : kCases) {
+        EnterAndExecute("ORIG AAA BBFIX CCC EEE DEST");
+        ParseEntry("LONER");
+        plan.stpos = 3;  // the working copy has yet to hear of it
+        for (const char* operation : test.operations) Op(operation);
+        ExecuteRoute();
+        EXPECT_EQ(plan.stpos, test.stpos) << test.operations[0];
+        EXPECT_EQ(plan.ActiveLeg.to, test.to) << test.operations[0];
+        EXPECT_EQ(plan.mod_stpos, test.stpos) << test.operations[0];
+    }
+}
+
 TEST_F(RouteModel, TheBottomOfDescentMovesWithItsLeg) {
     const struct {
         int bottom;
