@@ -134,6 +134,7 @@ void AimActiveLeg() {
     const bool direct_to = plan.ActiveLegMod.from == "DIRECT";
     if (direct_to) leg = plan.ActiveLegMod;
     const FlightPlanLeg& to = plan.FlightPlan[plan.stpos];
+    const bool is_flown = leg.to == to.ident && leg.to_lat == to.lat && leg.to_lon == to.lon;
     leg.to = to.ident;
     leg.to_lat = to.lat;
     leg.to_lon = to.lon;
@@ -147,9 +148,14 @@ void AimActiveLeg() {
     plan.direct_to_pending = 0;
     if (leg.from != "DIRECT" || leg.direct_flag == 0) {
         const FlightPlanLeg& from = plan.FlightPlan[std::max(PlaceBefore(plan.FlightPlan, plan.stpos), 0)];
-        leg.from = from.ident;
-        leg.from_lat = from.lat;
-        leg.from_lon = from.lon;
+        // The leg being flown keeps its start also when the passed fix has been taken out of the list.
+        const bool start_is_gone =
+            is_flown && !leg.from.empty() && leg.from != "DIRECT" && leg.from != from.ident;
+        if (!start_is_gone) {
+            leg.from = from.ident;
+            leg.from_lat = from.lat;
+            leg.from_lon = from.lon;
+        }
         leg.direct_flag = 0;
     }
     const DistBearing course = GreatCircle(leg.from_lat, leg.from_lon, leg.to_lat, leg.to_lon);

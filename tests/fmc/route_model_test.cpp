@@ -342,6 +342,31 @@ TEST_F(RouteModel, AModificationStartsFromTheLegBeingFlown) {
     }
 }
 
+TEST_F(RouteModel, TheLegBeingFlownKeepsItsStart) {
+    const struct {
+        const char* operation;
+        const char* to;
+    } kCases[] = {
+        {"RebuildRouteRows", "CCC"},
+        {"DeleteLegWithDiscontinuity 2 0 1", "CCC"},
+        {"DeleteLegWithDiscontinuity 2 1 1", "CCC"},
+        {"DeleteLegWithDiscontinuity 3 1 1", "EEE"},
+        {"InsertFixAt 3 1 1", "LONER"},
+    };
+    for (const auto& test : kCases) {
+        EnterAndExecute("ORIG AAA BBFIX CCC EEE DEST");
+        ParseEntry("LONER");
+        plan.stpos = 3;
+        ExecuteRoute();
+        const double from_lat = plan.FlightPlan[2].lat;
+        Op(test.operation);
+        ExecuteRoute();
+        EXPECT_EQ(plan.ActiveLeg.from, "BBFIX") << test.operation;
+        EXPECT_EQ(plan.ActiveLeg.to, test.to) << test.operation;
+        EXPECT_EQ(plan.ActiveLeg.from_lat, from_lat) << test.operation;
+    }
+}
+
 TEST_F(RouteModel, TheBottomOfDescentMovesWithItsLeg) {
     const struct {
         int bottom;
