@@ -79,7 +79,7 @@ struct HostOperations {
 
     // machine
     void (*set_timer_period)(int milliseconds);    // 0 gives the period back
-    int (*navdata_folder)(char* text, int size);  // navigation data kept elsewhere; empty = under the root
+    int (*navdata_folder)(char* text, int size);   // navigation data kept elsewhere; empty = under the root
     int (*root_folder)(char* text, int size);      // the simulator's root folder
     int (*app_data_folder)(char* text, int size);  // the user's application data folder
     int (*is_library_loaded)(const char* path);
@@ -88,7 +88,8 @@ struct HostOperations {
     int (*open_sound_device)();      // 1 when there is one
     void (*close_sound_device)();
 
-    // pictures: 1 when the host has each picture painted in line by the inspection table, so that no worker starts
+    // pictures: 1 when the host has each picture painted in line by the inspection table, so that no worker
+    // starts
     int (*paints_in_line)();
 };
 

@@ -21,14 +21,15 @@ enum PanelService : int32_t {
 
 struct GaugeHeader;
 
-/// One element of a gauge's chain, owned by the host: a surface to paint on, or a bitmap that is shown or hidden.
+/// One element of a gauge's chain, owned by the host: a surface to paint on, or a bitmap that is shown or
+/// hidden.
 struct GaugeElement {
     GaugeElement* next;
     void* device_context;   // null = nothing can be painted this frame
     int32_t width, height;  // of its image, pixels
     uint8_t* pixels;        // the image's bytes, may be null
     int32_t byte_size;
-    uint32_t flags;         // top bit: cleared after each frame; bit 30 hides the element
+    uint32_t flags;  // top bit: cleared after each frame; bit 30 hides the element
 };
 constexpr uint32_t kElementDirty = 0x80000000;
 constexpr uint32_t kElementHidden = 0x40000000;
@@ -36,8 +37,8 @@ constexpr uint32_t kElementHidden = 0x40000000;
 /// One copy of a gauge on a panel, owned by the host.
 struct GaugeInstance {
     const GaugeHeader* gauge;
-    const char* parameters;  // of the panel's gauge line: "VC" in the virtual cockpit, else empty
-    void* user_data;         // the gauge's own
+    const char* parameters;            // of the panel's gauge line: "VC" in the virtual cockpit, else empty
+    void* user_data;                   // the gauge's own
     GaugeElement* elements = nullptr;  // head of its chain
 };
 
