@@ -135,7 +135,7 @@ TEST_F(NavTablesTest, ValidityOfTheCycle) {
         {january, 20180103, 1, 1, "JAN04FEB01/18"},
         {january, 20180103, 0, 0, "JAN04FEB01/18"},
         {"SEA S 47 -122 VOR 116.8\n", 20180103, 1, 0, ""},
-        {";AIRAC 1801 ACTIVE (04-XXX-2018 TO\n", 20180104, 1, 1, ""},
+        {";AIRAC 1801 ACTIVE (04-ABC-2018 TO\n", 20180104, 1, 1, ""},
     };
     for (const Case& c : cases) {
         Put("navs.txt", c.line);
