@@ -27,10 +27,10 @@ struct CockpitState {
     int fuelpump_l_center_button = 0;  // TZ_OH_CNTRPUMP_L_Button
     int fuelpump_r_center_button = 0;  // TZ_OH_CNTRPUMP_R_Button
     int TZ_OH_DISCH_Guard_Switch = 0;
-    int TZ_OH_DRVDISC_L1_Button = 0;
-    int TZ_OH_DRVDISC_L2_Button = 0;
-    int TZ_OH_DRVDISC_R1_Button = 0;
-    int TZ_OH_DRVDISC_R2_Button = 0;
+    int drive_disc_l1 = 0;  // TZ_OH_DRVDISC_L1_Button
+    int drive_disc_l2 = 0;  // TZ_OH_DRVDISC_L2_Button
+    int drive_disc_r1 = 0;  // TZ_OH_DRVDISC_R1_Button
+    int drive_disc_r2 = 0;  // TZ_OH_DRVDISC_R2_Button
     int TZ_OH_ECC_L_Button = 0;
     int TZ_OH_ECC_L_Guard_Switch = 0;
     int TZ_OH_ECC_R_Button = 0;
@@ -67,7 +67,7 @@ struct CockpitState {
     int TZ_OH_GND_TEST_Switch = 0;
     int TZ_OH_HDG_REF_Button = 0;
     int hydr_l_eng_primary_button = 0;  // TZ_OH_HYD_L_ENG_Button
-    int TZ_OH_HYD_RAT_Button = 0;
+    int rat_unlocked = 0;               // TZ_OH_HYD_RAT_Button
     int hydr_r_eng_primary_button = 0;  // TZ_OH_HYD_R_ENG_Button
     int humid_button = 0;               // TZ_OH_Humid_Button
     int irs_left_knob = 0;              // TZ_OH_IRS_LEFT_Switch
@@ -93,7 +93,7 @@ struct CockpitState {
     int aft_outflow_valve_button = 0;  // TZ_OH_OV_AFT_Button
     int fwd_outflow_valve_button = 0;  // TZ_OH_OV_FWD_Button
     int TZ_OH_PASSOXY_Guard_Switch = 0;
-    int TZ_OH_PASS_OXY1_Button = 0;
+    int pass_oxygen_on = 0;         // TZ_OH_PASS_OXY1_Button
     int ife_pass_seats_button = 0;  // TZ_OH_PASS_SEATS_Button
     int TZ_OH_PFC_G_Switch = 0;
     int TZ_OH_PFC_Safety_Switch = 0;

@@ -12,14 +12,12 @@ struct ElectricalState {
     int batt_pwr = 0;          // the host's master battery is on
     double batt_volts = 31.0;  // V, 0 empty to 31 full
     int ram_air_turb = 0;      // the RAT feeds the buses
-    int rat_unlocked = 0;
     int apu_gen_pwr = 0;
     int gen_l1_pwr = 0, gen_l2_pwr = 0, gen_r1_pwr = 0, gen_r2_pwr = 0;
     int ext_ac_pwr = 0;
     int fwd_ext_pwr_avail = 0;
     int running_gens = 0;     // 0 to 4
     int load_shed_level = 0;  // 0 to 3
-    int drive_disc_l1 = 0, drive_disc_l2 = 0, drive_disc_r1 = 0, drive_disc_r2 = 0;
     int generators_held = 0;  // a panel load keeps the generators on line until the host has settled
     // APU
     double apu_rpm = 0;         // percent
