@@ -14,7 +14,8 @@ Flight flight;
 namespace {
 
 constexpr double kTick = 1 / 18.0;
-constexpr int kTokenBaro = 75;
+constexpr int kTokenBaro = 75, kTokenMasterBattery = 364, kTokenParkingBrake = 323;
+constexpr double kBrakeSet = 32767;
 constexpr double kTransitionAltitude = 18000;
 
 double GroundFeet(double lat, double lon) {
@@ -72,6 +73,14 @@ void PlaceAircraft(const Placement& placement) {
     SetPanelWindows(placement);
     SetToken(328, 0);
     SetToken(331, aircraft.controls.gear);
+}
+
+void ShutDownAircraft() {
+    for (Engine& engine : flight.aircraft.engines) engine = Engine{.running = false};
+    flight.aircraft.controls.thrust_lever = 0;
+    SetToken(kTokenMasterBattery, 0);
+    SetToken(kTokenParkingBrake, kBrakeSet);
+    FillTokens(flight.aircraft);
 }
 
 void SetWind(double from_deg, double speed_kt) {

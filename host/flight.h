@@ -31,6 +31,9 @@ Placement DemonstrationStand();
 /// airframe is that of the title in force.
 void PlaceAircraft(const Placement& placement);
 
+/// Shuts the aircraft down where it stands: engines off and at rest, the simulator's battery off, brakes set.
+void ShutDownAircraft();
+
 /// The air at the aircraft: the wind's direction is true and the same at all heights.
 void SetWind(double from_deg, double speed_kt);
 void SetOutsideTemperature(double celsius);

@@ -15,9 +15,18 @@ int main(int argc, char** argv) {
 
     host::FlyOptions fly_options;
     fly_options.demo_root = TZ900_DEMO_ROOT;
-    CLI::App* fly = app.add_subcommand("fly", "Fly a route from fix to fix and print the flight log");
-    fly->add_flag("--headless", fly_options.headless, "as fast as the machine allows, to the end");
-    fly->add_option("--rate", fly_options.rate, "times real time")->check(CLI::Range(0.1, 64.0));
+    fly_options.page_folder = TZ900_PAGE_FOLDER;
+    CLI::App* fly = app.add_subcommand("fly", "Fly a route, with the flight deck in a browser");
+    CLI::Option* headless = fly->add_flag("--headless", fly_options.headless,
+                                          "no flight deck; as fast as the machine allows, to the end");
+    fly->add_flag("--cold", fly_options.cold, "on the ground, everything off; the flight is yours")
+        ->excludes(headless);
+    fly->add_option("--rate", fly_options.rate, "times real time")->check(CLI::Range(0.25, 64.0));
+    fly->add_option("--port", fly_options.port, "of the flight deck, 8900; 0 is any free one")
+        ->check(CLI::Range(0, 65535));
+    fly->add_option("--address", fly_options.address,
+                    "of the flight deck, 127.0.0.1; a wider one, such as 0.0.0.0, asks for a token");
+    fly->add_option("--token", fly_options.token, "what a browser must know; made up when not given");
     fly->add_option("--route", fly_options.route, "a filed route text instead of the demonstration's");
     fly->add_option("--root", fly_options.root, "the simulator's root folder")->check(CLI::ExistingDirectory);
     fly->add_option("--navdata", fly_options.navdata, "the navigation data folder")

@@ -11,19 +11,20 @@ struct Screen {
     std::string_view name;
     const char* gauge;
     const char* gauge_2d;  // in the two-dimensional cockpit
+    const char* mouse;     // the gauge that takes its mouse presses, null = none does
 };
 
 constexpr Screen kScreens[] = {
-    {"capt_outb", "DU_CAPT_OUTB_VC", "DU_CAPT_OUTB_2D"},
-    {"capt_inb", "DU_CAPT_INB_VC", "DU_CAPT_INB_2D"},
-    {"fo_inb", "DU_FO_INB_VC", "DU_FO_INB_PW"},
-    {"fo_outb", "DU_FO_OUTB_VC", "DU_FO_OUTB_PW"},
-    {"lower", "DU_LOWER_VC", "DU_LOWER_PW"},
-    {"hud", "HUD", "HUD"},
-    {"stby", "STBY_PFD", "STBY_PFD"},
-    {"efb_l", "CAPT_EFB", "CAPT_EFB"},
-    {"efb_r", "FO_EFB", "FO_EFB"},
-    {"debug", "DEBUG", "DEBUG"},
+    {"capt_outb", "DU_CAPT_OUTB_VC", "DU_CAPT_OUTB_2D", "DU_CAPT_OUTB_MC"},
+    {"capt_inb", "DU_CAPT_INB_VC", "DU_CAPT_INB_2D", "DU_CAPT_INB_MC"},
+    {"fo_inb", "DU_FO_INB_VC", "DU_FO_INB_PW", "DU_FO_INB_MC"},
+    {"fo_outb", "DU_FO_OUTB_VC", "DU_FO_OUTB_PW", nullptr},
+    {"lower", "DU_LOWER_VC", "DU_LOWER_PW", "DU_LOWER_MC"},
+    {"hud", "HUD", "HUD", nullptr},
+    {"stby", "STBY_PFD", "STBY_PFD", nullptr},
+    {"efb_l", "CAPT_EFB", "CAPT_EFB", "CAPT_EFB_MC"},
+    {"efb_r", "FO_EFB", "FO_EFB", "FO_EFB_MC"},
+    {"debug", "DEBUG", "DEBUG", nullptr},
 };
 
 }  // namespace
@@ -40,6 +41,17 @@ void PaintGauges(Session& session) {
         gauge.instance.gauge->service(&gauge.instance, kServicePreDraw);
         session.linkage->inspection->paint_pending(&gauge.instance);
     }
+}
+
+void RequestPictures(Session& session) {
+    for (PanelGauge& gauge : session.gauges)
+        if (gauge.instance.elements != nullptr && IsOnPanel(gauge))
+            gauge.instance.gauge->service(&gauge.instance, kServicePreDraw);
+}
+
+void PressScreen(Session& session, const std::string& screen, double x, double y, bool right) {
+    for (const Screen& row : kScreens)
+        if (row.name == screen && row.mouse != nullptr) PressMouse(session, row.mouse, x, y, right);
 }
 
 bool WritePictureFile(const Session& session, const std::string& screen, const std::string& file,

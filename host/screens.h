@@ -14,6 +14,12 @@ std::string GaugeOfScreen(std::string_view screen);
 /// Asks every visible gauge for a picture and has it painted at once, in gauge order.
 void PaintGauges(Session& session);
 
+/// Asks every visible gauge for a picture, which its worker paints in its own time.
+void RequestPictures(Session& session);
+
+/// A mouse press on a screen, in its logical frame.
+void PressScreen(Session& session, const std::string& screen, double x, double y, bool right);
+
 /// A screen's last picture as a PNG file; false when it has none or the file can't be written.
 bool WritePictureFile(const Session& session, const std::string& screen, const std::string& file,
                       double scale);

@@ -154,6 +154,20 @@ bool PressMouseArea(Session& session, const std::string& gauge, const std::strin
     return false;
 }
 
+bool PressMouse(Session& session, const std::string& gauge, double x, double y, bool right) {
+    for (PanelGauge& panel : session.gauges) {
+        const GaugeHeader& header = *panel.instance.gauge;
+        if (gauge != header.name) continue;
+        for (int i = 0; i < header.mouse_count; ++i) {
+            const MouseRectangle& area = header.mouse[i];
+            if (x < area.x || y < area.y || x >= area.x + area.width || y >= area.y + area.height) continue;
+            area.callback(&panel.instance, right ? kMouseRightSingle : kMouseLeftSingle);
+            return true;
+        }
+    }
+    return false;
+}
+
 void StopSession(Session& session) {
     if (session.linkage != nullptr) {
         for (const int service : {kServicePreKill, kServiceDisconnect})

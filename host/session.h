@@ -66,6 +66,9 @@ void CallGauges(Session& session, int service);
 /// Presses a mouse area of a gauge by its name. False when there is no such gauge or area.
 bool PressMouseArea(Session& session, const std::string& gauge, const std::string& area, bool right = false);
 
+/// Presses what lies at a place of a gauge, in its logical frame. False when nothing does.
+bool PressMouse(Session& session, const std::string& gauge, double x, double y, bool right);
+
 /// Takes the module down in the simulator's order and removes a private root.
 void StopSession(Session& session);
 

@@ -1,11 +1,12 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <memory>
-#include <mutex>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 // The flight deck in a browser, seen from the host's loop: commands come out of it, values go into it. Its
@@ -15,11 +16,20 @@ namespace host {
 
 /// What a browser has asked the host's loop to do.
 struct DeckCommand {
-    enum Kind { kNamedVariable, kStateVariable, kMouse, kKeyEvent, kPause, kRate, kText };
+    enum Kind {
+        kNamedVariable,  // name, value: as the cockpit model writes it
+        kPress,          // name, value: a momentary control, pressed once the last press has been taken
+        kStateVariable,  // name, text
+        kMouse,          // name (a screen), x, y in its logical frame, right
+        kMouseArea,      // name (a gauge), text (the area's name), right
+        kKeyEvent,       // value (the event), x (its value)
+        kPause,          // value 0 or 1
+        kRate,           // value: times real time, 0 to 64
+    };
     Kind kind;
-    std::string name;  // variable or gauge; of kText the side "L" or "R"
-    std::string text;  // kStateVariable: the value; kText: what is typed
-    double value = 0;  // kNamedVariable, kKeyEvent (the event), kPause, kRate
+    std::string name;
+    std::string text;
+    double value = 0;
     double x = 0, y = 0;
     bool right = false;
 };
@@ -29,12 +39,15 @@ struct DeckSettings {
     int port = 8900;    // 0 = any free one
     std::string token;  // asked for on an address wider than loopback
     std::string page_folder;
+    std::string root;  // where the pictures' image files lie
+    std::vector<std::pair<std::string, std::string>> fonts =
+        {};  // family and file, by the picture form's numbers
 };
 
 /// Where the deck gets pictures from; called on the network thread. False when there is none newer than
 /// `after`.
-using PictureSource = bool (*)(const std::string& screen, std::uint64_t after, std::string& bytes,
-                               std::uint64_t& number);
+using PictureSource = std::function<bool(const std::string& screen, std::uint64_t after, std::string& bytes,
+                                         std::uint64_t& number)>;
 
 class FlightDeck {
   public:
@@ -50,17 +63,21 @@ class FlightDeck {
     void Stop();
     int port() const;
 
-    /// The host's loop: takes what has been asked since the last call.
+    /// The host's loop: takes what has been asked since the last call. While the loop doesn't call, browsers
+    /// hear nothing and blank their screens.
     std::vector<DeckCommand> TakeCommands();
-    /// The names that any browser watches: named variables as "lvar:NAME", state variables by their own name.
+    /// The names that any browser watches.
     std::set<std::string> WatchedNames();
     /// Gives the values of watched names; what has changed goes out.
-    void PublishValues(const std::map<std::string, std::string>& values);
-    /// Lists that every browser gets when it connects, as JSON: the controls, the names of variables.
+    void PublishValues(std::map<std::string, std::string> values);
+    /// What every browser gets when it connects, as JSON: the controls, the names of variables.
     void SetGreeting(std::string json);
 
   private:
     std::unique_ptr<Network> network_;
 };
+
+/// Is the address one that only this machine reaches? False for what is no address too.
+bool IsLoopback(const std::string& address);
 
 }  // namespace host

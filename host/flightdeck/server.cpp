@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <array>
+#include <atomic>
 #include <boost/asio/io_context.hpp>
 #include <boost/asio/ip/tcp.hpp>
 #include <boost/asio/post.hpp>
@@ -7,6 +8,7 @@
 #include <boost/beast/core.hpp>
 #include <boost/beast/http.hpp>
 #include <boost/beast/websocket.hpp>
+#include <charconv>
 #include <chrono>
 #include <deque>
 #include <filesystem>
@@ -17,8 +19,10 @@
 
 #include "host/flightdeck/deck.h"
 #include "host/flightdeck/picture_stream.h"
+#include "host/root_folder.h"
 
-// The web server: one thread, asynchronous. It serves the page's folder and one WebSocket at /socket.
+// The web server: one thread, asynchronous. It serves the page's folder, the fonts and images that pictures
+// name, and one WebSocket at /socket. It keeps nothing of a browser that has gone.
 
 namespace host {
 namespace {
@@ -30,10 +34,19 @@ namespace websocket = beast::websocket;
 using asio::ip::tcp;
 using nlohmann::json;
 
-constexpr std::size_t kMaxMessage = 16 * 1024;
+using Clock = std::chrono::steady_clock;
+
+constexpr std::size_t kMaxMessage = 64 * 1024;
 constexpr std::size_t kMaxWatched = 2000;
+constexpr std::size_t kMaxBrowsers = 32;
+constexpr std::size_t kMaxCommands = 1000;  // that wait for the host's loop, of all browsers
+constexpr int kMessageBurst = 400;          // of one browser
+constexpr double kMessagesPerSecond = 100;
+constexpr int kSendBuffer = 256 * 1024;  // bytes: what is on its way to a slow browser is soon old
 constexpr auto kPicturePeriod = std::chrono::milliseconds(55);
 constexpr auto kBeat = std::chrono::milliseconds(500);
+constexpr auto kLoopSilence = std::chrono::seconds(1);  // after which the host's loop counts as stopped
+constexpr auto kPeerSilence = std::chrono::seconds(20);
 
 constexpr std::array<std::string_view, 10> kScreens = {"capt_outb", "capt_inb", "fo_inb", "fo_outb", "lower",
                                                        "hud",       "stby",     "efb_l",  "efb_r",   "debug"};
@@ -46,6 +59,8 @@ constexpr ContentType kContentTypes[] = {{".html", "text/html; charset=utf-8"},
                                          {".js", "text/javascript"},
                                          {".svg", "image/svg+xml"},
                                          {".png", "image/png"},
+                                         {".jpg", "image/jpeg"},
+                                         {".bmp", "image/bmp"},
                                          {".ttf", "font/ttf"},
                                          {".otf", "font/otf"}};
 
@@ -69,6 +84,35 @@ std::string QueryValue(std::string_view target, std::string_view name) {
     return {};
 }
 
+// The text behind a target's %XX; nothing when it makes no sense.
+std::optional<std::string> DecodePercent(std::string_view encoded) {
+    std::string text;
+    for (std::size_t i = 0; i < encoded.size(); ++i) {
+        if (encoded[i] != '%') {
+            text += encoded[i];
+            continue;
+        }
+        unsigned code = 0;
+        if (i + 2 >= encoded.size()) return {};
+        const char* begin = encoded.data() + i + 1;
+        const auto [end, failed] = std::from_chars(begin, begin + 2, code, 16);
+        if (failed != std::errc{} || end != begin + 2 || code == 0) return {};
+        text += code == '\\' ? '/' : static_cast<char>(code);
+        i += 2;
+    }
+    return text;
+}
+
+bool IsWithin(const std::filesystem::path& file, const std::filesystem::path& folder) {
+    return std::mismatch(folder.begin(), folder.end(), file.begin(), file.end()).first == folder.end();
+}
+
+// A Host field's name without its port.
+std::string_view HostName(std::string_view host) {
+    if (host.starts_with('[')) return host.substr(0, host.find(']') + 1);
+    return host.substr(0, host.find(':'));
+}
+
 // Takes as long for every wrong token of the right length.
 bool SameToken(std::string_view given, std::string_view wanted) {
     if (given.size() != wanted.size()) return false;
@@ -81,17 +125,27 @@ bool SameToken(std::string_view given, std::string_view wanted) {
 
 class Browser;
 
+// The last picture of a screen, encoded once for all browsers.
+struct LastPicture {
+    std::string bytes;
+    std::uint64_t number = 0;  // as the source counts
+    Clock::time_point asked{};
+};
+
 struct FlightDeck::Network {
     DeckSettings settings;
-    PictureSource pictures = nullptr;
+    PictureSource pictures;
     asio::io_context io{1};
     tcp::acceptor acceptor{io};
+    asio::steady_timer accept_pause{io};
     std::thread thread;
-    std::vector<std::weak_ptr<Browser>> browsers;  // network thread only
-    std::map<std::string, std::string> values;     // network thread only: last published
-    std::string greeting;                          // network thread only
+    std::vector<std::weak_ptr<Browser>> browsers;            // network thread only
+    std::map<std::string, std::string> values;               // network thread only: last published
+    std::string greeting;                                    // network thread only
+    std::array<LastPicture, kScreens.size()> last_pictures;  // network thread only
 
-    std::mutex lock;  // over what both threads touch
+    std::atomic<Clock::rep> loop_seen = 0;  // when the host's loop was last here
+    std::mutex lock;                        // over what both threads touch
     std::vector<DeckCommand> commands;
     std::set<std::string> watched;
 
@@ -99,6 +153,11 @@ struct FlightDeck::Network {
     void Publish(const std::map<std::string, std::string>& changed);
     void RenewWatched();
     bool MayConnect(const http::request<http::string_body>& request) const;
+    bool HasRoom();
+    bool LoopRuns() const {
+        return Clock::now().time_since_epoch() - Clock::duration(loop_seen) < kLoopSilence;
+    }
+    const LastPicture& PictureOf(std::size_t screen);
 };
 
 // One WebSocket. At most one write is under way; what a slow browser misses is not kept for it.
@@ -108,7 +167,8 @@ class Browser : public std::enable_shared_from_this<Browser> {
         : socket_(std::move(socket)), network_(network), timer_(network.io) {}
 
     void Run(http::request<http::string_body> request) {
-        socket_.set_option(websocket::stream_base::timeout::suggested(beast::role_type::server));
+        // A page that only looks sends nothing: pings tell whether it is still there.
+        socket_.set_option(websocket::stream_base::timeout{std::chrono::seconds(10), kPeerSilence, true});
         websocket::permessage_deflate deflate;
         deflate.server_enable = true;
         socket_.set_option(deflate);
@@ -117,8 +177,6 @@ class Browser : public std::enable_shared_from_this<Browser> {
             if (error) return;
             self->open_ = true;
             self->pending_text_.push_back(self->network_.greeting);
-            for (const auto& [name, value] : self->network_.values)
-                if (self->watched_.contains(name)) self->changed_[name] = value;
             self->Read();
             self->Tick();
         });
@@ -145,6 +203,7 @@ class Browser : public std::enable_shared_from_this<Browser> {
 
     // Acts on one message; the reason for which this browser is closed, or empty.
     std::string Take(const std::string& text) {
+        if (!TakeFromAllowance()) return "too many messages";
         if (!socket_.got_text()) return "binary messages are not understood";
         const json message = json::parse(text, nullptr, false);
         if (!message.is_object() || !message.contains("type") || !message["type"].is_string())
@@ -163,8 +222,17 @@ class Browser : public std::enable_shared_from_this<Browser> {
         DeckCommand command{};
         if (const std::string reason = ParseCommand(message, type, command); !reason.empty()) return reason;
         const std::lock_guard guard(network_.lock);
-        if (network_.commands.size() < 10000) network_.commands.push_back(std::move(command));
+        if (network_.commands.size() < kMaxCommands) network_.commands.push_back(std::move(command));
         return {};
+    }
+
+    // A bucket of messages that fills with time; false when it is empty.
+    bool TakeFromAllowance() {
+        const auto now = Clock::now();
+        const double seconds = std::chrono::duration<double>(now - last_message_).count();
+        last_message_ = now;
+        allowance_ = std::min<double>(kMessageBurst, allowance_ + seconds * kMessagesPerSecond) - 1;
+        return allowance_ >= 0;
     }
 
     static std::string ParseCommand(const json& message, const std::string& type, DeckCommand& command) {
@@ -178,9 +246,20 @@ class Browser : public std::enable_shared_from_this<Browser> {
             if (there) to = message[key];
             return there && std::abs(to) < 1e12;
         };
+        const auto button = [&] {
+            std::string side;
+            const bool known = text("button", side) && (side == "left" || side == "right");
+            command.right = side == "right";
+            return known;
+        };
         if (type == "lvar") {
             command.kind = DeckCommand::kNamedVariable;
             return text("name", command.name) && number("value", command.value) ? "" : "lvar: name and value";
+        }
+        if (type == "press") {
+            command.kind = DeckCommand::kPress;
+            return text("name", command.name) && number("value", command.value) ? ""
+                                                                                : "press: name and value";
         }
         if (type == "set") {
             command.kind = DeckCommand::kStateVariable;
@@ -188,23 +267,23 @@ class Browser : public std::enable_shared_from_this<Browser> {
         }
         if (type == "mouse") {
             command.kind = DeckCommand::kMouse;
-            std::string button;
-            const bool whole = text("gauge", command.name) && number("x", command.x) &&
-                               number("y", command.y) && text("button", button);
-            command.right = button == "right";
-            return whole && (command.right || button == "left") ? "" : "mouse: gauge, x, y and button";
+            const bool whole =
+                text("screen", command.name) && number("x", command.x) && number("y", command.y);
+            return whole && button() ? "" : "mouse: screen, x, y and button";
+        }
+        if (type == "area") {
+            command.kind = DeckCommand::kMouseArea;
+            const bool whole = text("gauge", command.name) && text("area", command.text);
+            return whole && button() ? "" : "area: gauge, area and button";
         }
         if (type == "event") {
             command.kind = DeckCommand::kKeyEvent;
-            return number("event", command.value) ? "" : "event: event";
+            return number("event", command.value) && number("value", command.x) ? ""
+                                                                                : "event: event and value";
         }
         if (type == "pause" || type == "rate") {
             command.kind = type == "pause" ? DeckCommand::kPause : DeckCommand::kRate;
             return number("value", command.value) ? "" : type + ": value";
-        }
-        if (type == "keys") {
-            command.kind = DeckCommand::kText;
-            return text("side", command.name) && text("text", command.text) ? "" : "keys: side and text";
         }
         return "unknown message type";
     }
@@ -235,9 +314,9 @@ class Browser : public std::enable_shared_from_this<Browser> {
     }
 
     // Sends the next message, if none is under way: first texts, then values, then pictures, else a sign of
-    // life.
+    // life. Nothing while the host's loop stands still: the page had better blank than show what was.
     void Write() {
-        if (!open_ || writing_) return;
+        if (!open_ || writing_ || !network_.LoopRuns()) return;
         bool binary = false;
         if (!pending_text_.empty()) {
             outgoing_ = std::move(pending_text_.front());
@@ -250,37 +329,33 @@ class Browser : public std::enable_shared_from_this<Browser> {
             outgoing_ = NextPictures();
             binary = !outgoing_.empty();
             if (!binary) {
-                if (std::chrono::steady_clock::now() - last_write_ < kBeat) return;
+                if (Clock::now() - last_write_ < kBeat) return;
                 outgoing_ = R"({"type":"beat"})";
             }
         }
-        if (outgoing_.empty()) return;
         writing_ = true;
-        last_write_ = std::chrono::steady_clock::now();
+        last_write_ = Clock::now();
         socket_.binary(binary);
         socket_.async_write(asio::buffer(outgoing_),
-                            [self = shared_from_this()](beast::error_code error, std::size_t) {
+                            [self = shared_from_this(), binary](beast::error_code error, std::size_t) {
                                 self->writing_ = false;
                                 if (error) return self->Leave();
-                                if (!self->pending_text_.empty() || !self->changed_.empty()) self->Write();
+                                if (!binary) self->Write();  // pictures wait for their period
                             });
     }
 
     // Every wanted screen whose picture has changed: a byte with the screen's place, 4 bytes of length, the
     // message.
     std::string NextPictures() {
-        std::string all, bytes;
+        std::string all;
         for (std::size_t i = 0; i < kScreens.size(); ++i) {
-            const std::string screen(kScreens[i]);
-            if (!screens_wanted_.contains(screen)) {
+            if (!screens_wanted_.contains(std::string(kScreens[i]))) {
                 streams_[i] = {};
                 continue;
             }
-            bytes.clear();
-            std::uint64_t number = 0;
-            if (network_.pictures == nullptr || !network_.pictures(screen, streams_[i].number, bytes, number))
-                continue;
-            const std::string message = NextPictureMessage(streams_[i], bytes, number);
+            const LastPicture& picture = network_.PictureOf(i);
+            if (picture.number == 0 || picture.number == streams_[i].number) continue;
+            const std::string message = NextPictureMessage(streams_[i], picture.bytes, picture.number);
             if (message.empty()) continue;
             all += static_cast<char>(i);
             for (int shift = 0; shift < 32; shift += 8)
@@ -291,6 +366,7 @@ class Browser : public std::enable_shared_from_this<Browser> {
     }
 
     void Close(const std::string& reason) {
+        open_ = false;
         websocket::close_reason close(websocket::close_code::policy_error, reason.substr(0, 120));
         socket_.async_close(close, [self = shared_from_this()](beast::error_code) { self->Leave(); });
     }
@@ -312,7 +388,8 @@ class Browser : public std::enable_shared_from_this<Browser> {
     std::map<std::string, std::string> changed_;
     std::set<std::string> watched_, screens_wanted_;
     std::array<PictureStream, kScreens.size()> streams_;
-    std::chrono::steady_clock::time_point last_write_{};
+    Clock::time_point last_write_{}, last_message_ = Clock::now();
+    double allowance_ = kMessageBurst;
 };
 
 namespace {
@@ -340,8 +417,9 @@ class Connection : public std::enable_shared_from_this<Connection> {
         if (!network_.MayConnect(request))
             return Send(request, http::status::forbidden, "text/plain", "403\n");
         if (websocket::is_upgrade(request)) {
-            if (target.substr(0, target.find('?')) != "/socket")
-                return Send(request, http::status::not_found, "text/plain", "404\n");
+            if (target.substr(0, target.find('?')) != "/socket") return SendNotFound(request);
+            if (!network_.HasRoom())
+                return Send(request, http::status::service_unavailable, "text/plain", "503\n");
             stream_.expires_never();
             const auto browser = std::make_shared<Browser>(stream_.release_socket(), network_);
             network_.browsers.push_back(browser);
@@ -349,23 +427,67 @@ class Connection : public std::enable_shared_from_this<Connection> {
         }
         if (request.method() != http::verb::get && request.method() != http::verb::head)
             return Send(request, http::status::method_not_allowed, "text/plain", "405\n");
-        SendFile(request, target.substr(0, target.find('?')));
+        Serve(request, target.substr(0, target.find('?')));
+    }
+
+    void Serve(const http::request<http::string_body>& request, std::string_view path) {
+        if (path.starts_with("/font/")) return SendFont(request, path.substr(6));
+        if (path.starts_with("/image/")) return SendImage(request, path.substr(7));
+        SendPageFile(request, path);
     }
 
     // A file of the page's folder, by one plain name; every screen of its own is the one page.
-    void SendFile(const http::request<http::string_body>& request, std::string_view path) {
+    void SendPageFile(const http::request<http::string_body>& request, std::string_view path) {
         std::string name(path.substr(std::min<std::size_t>(1, path.size())));
-        if (name.empty() || name.starts_with("screen/")) name = "index.html";
+        if (name.empty()) name = "index.html";
+        if (name.starts_with("screen/")) {
+            if (std::find(kScreens.begin(), kScreens.end(), name.substr(7)) == kScreens.end())
+                return SendNotFound(request);
+            name = "index.html";
+        }
         const bool plain =
             name.find_first_not_of("abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789_-.") ==
                 std::string::npos &&
             !name.starts_with('.');
         const std::filesystem::path file = std::filesystem::path(network_.settings.page_folder) / name;
         std::error_code failed;
-        if (!plain || !std::filesystem::is_regular_file(file, failed))
-            return Send(request, http::status::not_found, "text/plain", "404\n");
+        // A link in the folder is not followed: it may lead anywhere.
+        if (!plain || !std::filesystem::is_regular_file(std::filesystem::symlink_status(file, failed)))
+            return SendNotFound(request);
+        SendFile(request, file);
+    }
+
+    void SendFont(const http::request<http::string_body>& request, std::string_view number) {
+        const auto& fonts = network_.settings.fonts;
+        std::size_t index = 0;
+        const auto [end, failed] = std::from_chars(number.data(), number.data() + number.size(), index);
+        if (failed != std::errc{} || end != number.data() + number.size() || index >= fonts.size() ||
+            fonts[index].second.empty())
+            return SendNotFound(request);
+        SendFile(request, fonts[index].second);
+    }
+
+    // An image by the name that pictures give it: a file under the root, nothing else.
+    void SendImage(const http::request<http::string_body>& request, std::string_view encoded) {
+        const std::optional<std::string> name = DecodePercent(encoded);
+        const std::filesystem::path root = network_.settings.root;
+        std::error_code failed;
+        std::filesystem::path file = name ? FindUnderRoot(root.string(), *name) : std::filesystem::path{};
+        if (!file.empty()) file = std::filesystem::canonical(file, failed);
+        if (failed || !IsWithin(file, std::filesystem::canonical(root, failed)) || failed ||
+            !TypeOf(file).starts_with("image/") || !std::filesystem::is_regular_file(file, failed))
+            return SendNotFound(request);
+        SendFile(request, file);
+    }
+
+    void SendFile(const http::request<http::string_body>& request, const std::filesystem::path& file) {
         std::ifstream in(file, std::ios::binary);
+        if (!in) return SendNotFound(request);
         Send(request, http::status::ok, TypeOf(file), {std::istreambuf_iterator<char>(in), {}});
+    }
+
+    void SendNotFound(const http::request<http::string_body>& request) {
+        Send(request, http::status::not_found, "text/plain", "404\n");
     }
 
     void Send(const http::request<http::string_body>& request, http::status status, std::string_view type,
@@ -374,14 +496,16 @@ class Connection : public std::enable_shared_from_this<Connection> {
         response->set(http::field::content_type, beast::string_view(type.data(), type.size()));
         response->set(http::field::cache_control, "no-cache");
         response->set("X-Content-Type-Options", "nosniff");
+        response->set("Content-Security-Policy", "default-src 'self'; frame-ancestors 'none'");
         // The token came with the address of the page; what the page loads comes with a cookie.
         const std::string token = QueryValue({request.target().data(), request.target().size()}, "token");
-        if (!token.empty() && status == http::status::ok)
+        if (!token.empty() && token == network_.settings.token)
             response->set(http::field::set_cookie, "token=" + token + "; HttpOnly; SameSite=Strict; Path=/");
         response->keep_alive(request.keep_alive());
         response->body() = std::move(body);
         response->prepare_payload();
         if (request.method() == http::verb::head) response->body().clear();
+        stream_.expires_after(std::chrono::seconds(30));
         http::async_write(stream_, *response,
                           [self = shared_from_this(), response](beast::error_code error, std::size_t) {
                               if (!error && response->keep_alive()) return self->Read();
@@ -404,20 +528,51 @@ void FlightDeck::Network::Accept() {
         if (!error) {
             beast::error_code ignored;
             socket.set_option(tcp::no_delay(true), ignored);
+            socket.set_option(asio::socket_base::send_buffer_size(kSendBuffer), ignored);
             std::make_shared<Connection>(std::move(socket), *this)->Read();
+            return Accept();
         }
-        Accept();
+        // Out of files, say: time may help.
+        accept_pause.expires_after(std::chrono::milliseconds(100));
+        accept_pause.async_wait([this](beast::error_code stopped) {
+            if (!stopped) Accept();
+        });
     });
 }
 
-// A page of another site may not reach the deck; on a wide address whoever comes must know the token.
+bool FlightDeck::Network::HasRoom() {
+    std::erase_if(browsers, [](const std::weak_ptr<Browser>& browser) { return browser.expired(); });
+    return browsers.size() < kMaxBrowsers;
+}
+
+// Asked of the source once a period, whoever wants it.
+const LastPicture& FlightDeck::Network::PictureOf(std::size_t screen) {
+    LastPicture& last = last_pictures[screen];
+    const auto now = Clock::now();
+    if (now - last.asked < kPicturePeriod / 2) return last;
+    last.asked = now;
+    std::string bytes;
+    std::uint64_t number = 0;
+    if (pictures && pictures(std::string(kScreens[screen]), last.number, bytes, number)) {
+        last.bytes = std::move(bytes);
+        last.number = number;
+    }
+    return last;
+}
+
+// A page of another site may not reach the deck, nor may a name that such a site has pointed at this machine;
+// on a wide address whoever comes must know the token.
 bool FlightDeck::Network::MayConnect(const http::request<http::string_body>& request) const {
     const auto field = [&](http::field name) {
         const auto value = request[name];
         return std::string(value.data(), value.size());
     };
-    const std::string origin = field(http::field::origin);
-    if (!origin.empty() && origin != "http://" + field(http::field::host)) return false;
+    const std::string origin = field(http::field::origin), host = field(http::field::host);
+    if (!origin.empty() && origin != "http://" + host) return false;
+    const std::string_view name = HostName(host);
+    if (settings.token.empty() && name != "localhost" && name != "127.0.0.1" && name != "[::1]" &&
+        name != settings.address)
+        return false;
     if (settings.token.empty()) return true;
     const std::string_view target(request.target().data(), request.target().size());
     const std::string cookie = field(http::field::cookie);
@@ -429,7 +584,6 @@ bool FlightDeck::Network::MayConnect(const http::request<http::string_body>& req
 
 void FlightDeck::Network::RenewWatched() {
     std::set<std::string> names;
-    std::erase_if(browsers, [](const std::weak_ptr<Browser>& browser) { return browser.expired(); });
     for (const auto& weak : browsers)
         if (const auto browser = weak.lock())
             names.insert(browser->watched().begin(), browser->watched().end());
@@ -438,7 +592,6 @@ void FlightDeck::Network::RenewWatched() {
 }
 
 void FlightDeck::Network::Publish(const std::map<std::string, std::string>& changed) {
-    for (const auto& [name, value] : changed) values[name] = value;
     for (const auto& weak : browsers)
         if (const auto browser = weak.lock()) browser->TakeValues(changed);
 }
@@ -446,7 +599,7 @@ void FlightDeck::Network::Publish(const std::map<std::string, std::string>& chan
 FlightDeck::FlightDeck(DeckSettings settings, PictureSource pictures)
     : network_(std::make_unique<Network>()) {
     network_->settings = std::move(settings);
-    network_->pictures = pictures;
+    network_->pictures = std::move(pictures);
 }
 
 FlightDeck::~FlightDeck() {
@@ -492,6 +645,7 @@ int FlightDeck::port() const {
 }
 
 std::vector<DeckCommand> FlightDeck::TakeCommands() {
+    network_->loop_seen = Clock::now().time_since_epoch().count();
     const std::lock_guard guard(network_->lock);
     return std::exchange(network_->commands, {});
 }
@@ -501,14 +655,14 @@ std::set<std::string> FlightDeck::WatchedNames() {
     return network_->watched;
 }
 
-void FlightDeck::PublishValues(const std::map<std::string, std::string>& values) {
-    if (values.empty()) return;
-    asio::post(network_->io, [network = network_.get(), values] {
+void FlightDeck::PublishValues(std::map<std::string, std::string> values) {
+    asio::post(network_->io, [network = network_.get(), values = std::move(values)]() mutable {
         std::map<std::string, std::string> changed;
         for (const auto& [name, value] : values) {
             const auto known = network->values.find(name);
             if (known == network->values.end() || known->second != value) changed.emplace(name, value);
         }
+        network->values = std::move(values);
         if (!changed.empty()) network->Publish(changed);
     });
 }
@@ -516,6 +670,12 @@ void FlightDeck::PublishValues(const std::map<std::string, std::string>& values)
 void FlightDeck::SetGreeting(std::string text) {
     asio::post(network_->io,
                [network = network_.get(), text = std::move(text)] { network->greeting = text; });
+}
+
+bool IsLoopback(const std::string& address) {
+    beast::error_code failed;
+    const auto parsed = asio::ip::make_address(address, failed);
+    return !failed && parsed.is_loopback();
 }
 
 }  // namespace host

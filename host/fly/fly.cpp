@@ -5,8 +5,8 @@
 #include <csignal>
 #include <cstdio>
 #include <numbers>
-#include <thread>
 
+#include "host/fly/deck_loop.h"
 #include "host/fly/pilot.h"
 #include "host/inspection.h"
 #include "host/world/terrain.h"
@@ -17,6 +17,7 @@ namespace {
 
 constexpr const char* kDemonstrationRoute = "KSEA/16L ALDER J1 RBL J1 AVE J1 FIM KLAX/24R";
 constexpr double kMaxHours = 24;
+constexpr int kTokenMasterBattery = 364;
 
 volatile std::sig_atomic_t interrupted = 0;
 
@@ -70,33 +71,75 @@ Placement AfterTakeOff(const Session& session) {
     return placement;
 }
 
-// Flies on until the last fix, an interruption or the end of the fuel; true at the last fix.
-bool FlyOn(Session& session, const FlyOptions& options, Log& log) {
+// The flight along the route, looked at once a second.
+struct RouteFlight {
     Pilot pilot;
-    const int last = static_cast<int>(Number(session, "fp_cnt"));
-    const double dest_lat = Number(session, At("FlightPlan", last, "lat"));
-    const double dest_lon = Number(session, At("FlightPlan", last, "lon"));
-    pilot.arrival_ft = std::round(GroundElevationMetres(dest_lat, dest_lon) / 0.3048 / 100) * 100 + 3000;
-    auto next_tick = std::chrono::steady_clock::now();
+    Log log;
+    int last = 0;
+    double dest_lat = 0, dest_lon = 0;
     int to = 1;
     double nearest = 1e9;
-    while (interrupted == 0 && world.seconds < kMaxHours * 3600) {
+    bool arrived = false;
+};
+
+RouteFlight BeginFlight(const Session& session) {
+    RouteFlight route;
+    route.last = static_cast<int>(Number(session, "fp_cnt"));
+    route.dest_lat = Number(session, At("FlightPlan", route.last, "lat"));
+    route.dest_lon = Number(session, At("FlightPlan", route.last, "lon"));
+    route.pilot.arrival_ft =
+        std::round(GroundElevationMetres(route.dest_lat, route.dest_lon) / 0.3048 / 100) * 100 + 3000;
+    route.log.start_fuel = ValueNow("fuel");
+    return route;
+}
+
+// Has the pilot act and the log printed, until the last fix.
+void StepRoute(Session& session, RouteFlight& route) {
+    if (route.arrived) return;
+    const double to_go = DistanceNm(ValueNow("lat"), ValueNow("lon"), route.dest_lat, route.dest_lon);
+    StepPilot(route.pilot, session, to_go);
+    const int to = static_cast<int>(Number(session, "stpos"));
+    if (to != route.to) PrintFix(session, route.log);
+    route.to = to;
+    if (to < route.last) return;
+    route.arrived = to_go > route.nearest || to_go < 0.5;  // overhead, or past it
+    route.nearest = to_go;
+}
+
+void FlyHeadless(Session& session, RouteFlight& route) {
+    while (interrupted == 0 && !route.arrived && world.seconds < kMaxHours * 3600) {
         TickSession(session, world.paused);
-        if (!options.headless) {
-            next_tick += std::chrono::microseconds(static_cast<long>(1e6 / 18 / std::max(options.rate, 0.1)));
-            std::this_thread::sleep_until(next_tick);
-        }
-        if (world.ticks % 18 != 0) continue;
-        const double to_go = DistanceNm(ValueNow("lat"), ValueNow("lon"), dest_lat, dest_lon);
-        StepPilot(pilot, session, to_go);
-        const int now_to = static_cast<int>(Number(session, "stpos"));
-        if (now_to != to) PrintFix(session, log);
-        to = now_to;
-        if (to < last) continue;
-        if (to_go > nearest || to_go < 0.5) return true;  // overhead, or past it
-        nearest = to_go;
+        if (world.ticks % 18 == 0) StepRoute(session, route);
     }
-    return false;
+}
+
+void PrintEnd(const RouteFlight& route, double wall_seconds) {
+    std::printf("\n%s after %d:%02d, %d fixes passed, %.0f lb burned; %.0f times real time\n",
+                route.arrived ? "At the last fix" : "Broken off", static_cast<int>(world.seconds) / 3600,
+                static_cast<int>(world.seconds) / 60 % 60, route.log.fixes,
+                route.log.start_fuel - ValueNow("fuel"), world.seconds / wall_seconds);
+}
+
+// Brings the module up with the aircraft where the options want it. False with the reason.
+bool Prepare(Session& session, const FlyOptions& options, std::string& error) {
+    world.paints_in_line = options.headless;
+    world.sim_rate = options.headless ? 1 : options.rate;
+    session.settings.demo_root = options.demo_root;
+    session.settings.root = options.root;
+    session.settings.navdata = options.navdata;
+    session.settings.title = options.aircraft;
+    session.settings.fdm = true;
+    if (options.root.empty()) session.settings.cfg_lines = {options.cold ? "Battery=0" : "SystemsOn=1"};
+    if (!PrepareSession(session, error)) return false;
+    SetToken(kTokenMasterBattery, options.cold ? 0 : 1);
+    if (!StartSession(session, error)) return false;
+    if (options.cold) {
+        ShutDownAircraft();
+        return true;
+    }
+    if (!EnterRoute(session, options.route, error) || !ExecuteRoute(session, error)) return false;
+    PlaceAircraft(AfterTakeOff(session));
+    return true;
 }
 
 }  // namespace
@@ -106,34 +149,32 @@ int Fly(const FlyOptions& given) {
     if (options.route.empty()) options.route = kDemonstrationRoute;
     world = World{};
     Session session;
-    session.settings.demo_root = options.demo_root;
-    session.settings.root = options.root;
-    session.settings.navdata = options.navdata;
-    session.settings.title = options.aircraft;
-    session.settings.fdm = true;
     std::string error;
-    bool ready = PrepareSession(session, error) && StartSession(session, error);
-    ready = ready && EnterRoute(session, options.route, error) && ExecuteRoute(session, error);
-    if (!ready) {
+    if (!Prepare(session, options, error)) {
         std::fprintf(stderr, "tz900 fly: %s\n", error.c_str());
         StopSession(session);
         return 2;
     }
-    PlaceAircraft(AfterTakeOff(session));
     std::signal(SIGINT, [](int) { interrupted = 1; });
+    std::signal(SIGTERM, [](int) { interrupted = 1; });
 
-    Log log;
-    log.start_fuel = ValueNow("fuel");
-    PrintHeading(options, session);
+    RouteFlight route;
+    route.arrived = options.cold;  // there is none
+    if (!options.cold) route = BeginFlight(session);
+    const auto each_second = [&] { StepRoute(session, route); };
     const auto began = std::chrono::steady_clock::now();
-    const bool arrived = FlyOn(session, options, log);
+    if (!options.cold) PrintHeading(options, session);
+    bool good = true;
+    if (options.headless)
+        FlyHeadless(session, route);
+    else
+        good = RunFlightDeck(session, options, interrupted, each_second, error);
     const double wall = std::chrono::duration<double>(std::chrono::steady_clock::now() - began).count();
-    std::printf("\n%s after %d:%02d, %d fixes passed, %.0f lb burned; %.0f times real time\n",
-                arrived ? "At the last fix" : "Broken off", static_cast<int>(world.seconds) / 3600,
-                static_cast<int>(world.seconds) / 60 % 60, log.fixes, log.start_fuel - ValueNow("fuel"),
-                world.seconds / wall);
+    if (!good) std::fprintf(stderr, "tz900 fly: %s\n", error.c_str());
+    if (good && !options.cold) PrintEnd(route, wall);
     StopSession(session);
-    return arrived ? 0 : 1;
+    if (!good) return 2;
+    return options.headless && !route.arrived ? 1 : 0;
 }
 
 }  // namespace host

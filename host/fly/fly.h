@@ -11,11 +11,18 @@ struct FlyOptions {
     std::string navdata;    // empty = the one under the root
     std::string aircraft;   // title; empty = the first under the root
     std::string route;      // filed route text; empty = the demonstration's
-    bool headless = false;  // as fast as the machine allows, to the end
+    bool headless = false;  // as fast as the machine allows, to the end, without a flight deck
     double rate = 1;        // times real time, when not headless
+    bool cold = false;      // on the ground, everything off, no route and nobody at the controls
+    // the flight deck
+    std::string page_folder;
+    std::string address = "127.0.0.1";
+    int port = 8900;    // 0 = any free one
+    std::string token;  // empty = one made up, on an address wider than loopback
 };
 
-/// Flies a route from fix to fix and prints the flight log. Exit status 0 when the last fix was reached.
+/// Flies a route from fix to fix, prints the flight log and serves the flight deck to browsers until it is
+/// interrupted. Exit status 0 when the last fix was reached, or with a flight deck.
 int Fly(const FlyOptions& options);
 
 }  // namespace host

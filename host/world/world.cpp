@@ -65,6 +65,10 @@ double NamedValue(std::string_view name) {
     return id < 0 ? 0 : world.named[static_cast<std::size_t>(id)].value;
 }
 
+bool NamedVariableExists(std::string_view name) {
+    return VariableById(IdOf(name)) != nullptr;
+}
+
 void SetNamedValue(std::string_view name, double value) {
     NamedVariable& variable = VariableOf(name);
     variable.exists = variable.of_model = true;

@@ -120,6 +120,7 @@ void SetToken(int token, double value);
 void PinToken(int token, double value);
 
 double NamedValue(std::string_view name);
+bool NamedVariableExists(std::string_view name);
 void SetNamedValue(std::string_view name, double value);
 /// Makes a name exist as the cockpit model does.
 void CreateModelVariable(std::string_view name);

@@ -1,0 +1,76 @@
+#include "host/flightdeck/values.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <nlohmann/json.hpp>
+#include <optional>
+
+#include "host/flight.h"
+#include "host/inspection.h"
+#include "host/world/world.h"
+
+namespace host {
+namespace {
+
+using nlohmann::json;
+
+std::string NumberText(double value) {
+    char text[32];
+    std::snprintf(text, sizeof text, "%.10g", value);
+    return text;
+}
+
+std::optional<std::string> HostValue(std::string_view name) {
+    if (name == "rate") return NumberText(world.sim_rate);
+    if (name == "paused") return world.paused ? "1" : "0";
+    if (name == "clock") {
+        char text[16];
+        std::snprintf(text, sizeof text, "%02.0f:%02.0f:%02.0f", TokenOf(6), TokenOf(7), TokenOf(5));
+        return text;
+    }
+    return {};
+}
+
+std::optional<std::string> ValueOf(const Session& session, const std::string& name) {
+    if (name.starts_with("lvar:")) {
+        if (!NamedVariableExists(name.substr(5))) return {};
+        return NumberText(NamedValue(name.substr(5)));
+    }
+    if (name.starts_with("host:")) return HostValue(name.substr(5));
+    if (name.starts_with("aircraft:")) {
+        double value = 0;
+        if (!AircraftValue(name.substr(9), value)) return {};
+        return NumberText(value);
+    }
+    const InspectionAnswer answer = Ask(session.linkage->inspection->read_variable, name.c_str());
+    if (!answer.good || answer.results.empty()) return {};
+    constexpr std::size_t kLongest = 500;
+    return answer.results.front().second.substr(0, kLongest);
+}
+
+}  // namespace
+
+std::map<std::string, std::string> ReadValues(const Session& session, const std::set<std::string>& names) {
+    std::map<std::string, std::string> values;
+    for (const std::string& name : names)
+        if (auto value = ValueOf(session, name)) values.emplace(name, std::move(*value));
+    return values;
+}
+
+std::string DeckGreeting(const Session& session) {
+    const InspectionTable& inspection = *session.linkage->inspection;
+    json greeting{{"type", "hello"}};
+    for (const auto& [family, file] : Ask(inspection.list_fonts).results) greeting["fonts"].push_back(family);
+    greeting["controls"] = json::object();
+    greeting["variables"] = json::object();
+    for (const auto& [name, type] : Ask(inspection.list_variables, "").results)
+        greeting["variables"][name] = type;
+    std::vector<std::string> named;
+    for (const NamedVariable& variable : world.named)
+        if (variable.exists) named.push_back(variable.name);
+    std::sort(named.begin(), named.end());
+    greeting["named"] = named;
+    return greeting.dump(-1, ' ', false, json::error_handler_t::replace);
+}
+
+}  // namespace host

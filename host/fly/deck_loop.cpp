@@ -1,0 +1,98 @@
+#include "host/fly/deck_loop.h"
+
+#include <chrono>
+#include <cstdio>
+#include <random>
+#include <thread>
+
+#include "host/flightdeck/commands.h"
+#include "host/flightdeck/deck.h"
+#include "host/flightdeck/values.h"
+#include "host/inspection.h"
+#include "host/screens.h"
+#include "host/world/world.h"
+
+namespace host {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr auto kPeriod = std::chrono::nanoseconds(1'000'000'000 / 18);
+constexpr auto kLate = std::chrono::milliseconds(500);  // then the loop doesn't catch up
+constexpr int kPublishEvery = 3;                        // periods: six times a second
+
+std::string MadeUpToken() {
+    constexpr std::string_view kLetters = "abcdefghijkmnpqrstuvwxyz23456789";
+    std::random_device random;
+    std::string token;
+    for (int i = 0; i < 20; ++i) token += kLetters[random() % kLetters.size()];
+    return token;
+}
+
+DeckSettings SettingsOf(const Session& session, const FlyOptions& options) {
+    DeckSettings settings{options.address, options.port, options.token, options.page_folder,
+                          session.settings.root};
+    if (!IsLoopback(options.address) && settings.token.empty()) settings.token = MadeUpToken();
+    settings.fonts = Ask(session.linkage->inspection->list_fonts).results;
+    return settings;
+}
+
+PictureSource PicturesOf(const InspectionTable& inspection) {
+    return [&inspection](const std::string& screen, std::uint64_t after, std::string& bytes,
+                         std::uint64_t& number) {
+        struct Picture {
+            std::string& bytes;
+            std::uint64_t& number;
+        } picture{bytes, number};
+        const ByteSink sink = [](void* context, const uint8_t* data, size_t size, uint64_t count) {
+            auto& to = *static_cast<Picture*>(context);
+            to.bytes.assign(reinterpret_cast<const char*>(data), size);
+            to.number = count;
+        };
+        return inspection.picture(GaugeOfScreen(screen).c_str(), after, sink, &picture) != 0;
+    };
+}
+
+void TakeCommands(Session& session, FlightDeck& deck, PressQueue& presses) {
+    for (const DeckCommand& command : deck.TakeCommands()) {
+        if (command.kind == DeckCommand::kPress)
+            QueuePress(presses, command.name, command.value);
+        else
+            ApplyDeckCommand(session, command);
+    }
+    for (const DeckCommand& press : TakeDuePresses(presses)) ApplyDeckCommand(session, press);
+}
+
+}  // namespace
+
+bool RunFlightDeck(Session& session, const FlyOptions& options, const volatile std::sig_atomic_t& interrupted,
+                   const std::function<void()>& each_second, std::string& error) {
+    const DeckSettings settings = SettingsOf(session, options);
+    FlightDeck deck(settings, PicturesOf(*session.linkage->inspection));
+    deck.SetGreeting(DeckGreeting(session));
+    if (!deck.Start(error)) return false;
+    std::printf("The flight deck is at http://%s:%d/%s%s (Ctrl-C ends)\n", options.address.c_str(),
+                deck.port(), settings.token.empty() ? "" : "?token=", settings.token.c_str());
+    std::fflush(stdout);
+
+    PressQueue presses;
+    double ticks_due = 0;
+    auto next = Clock::now();
+    for (int period = 0; interrupted == 0; ++period) {
+        TakeCommands(session, deck, presses);
+        if (world.paused) TickSession(session, true);
+        for (ticks_due += world.paused ? 0 : world.sim_rate; ticks_due >= 1 && !world.paused; --ticks_due) {
+            TickSession(session, false);
+            if (world.ticks % 18 == 0) each_second();
+        }
+        RequestPictures(session);
+        if (period % kPublishEvery == 0) deck.PublishValues(ReadValues(session, deck.WatchedNames()));
+        next += kPeriod;
+        if (Clock::now() > next + kLate) next = Clock::now();
+        std::this_thread::sleep_until(next);
+    }
+    deck.Stop();
+    return true;
+}
+
+}  // namespace host
