@@ -3,11 +3,30 @@
 #include "state/sound.h"
 
 // Cues of the control channel, by their number in the sound step's catalogue.
+constexpr int kCueExternalPower = 9;
 constexpr int kCueFuelOn = 12;
 constexpr int kCueKeyClick = 14;
+constexpr int kCueFansStart = 27;
 constexpr int kCueParkBrake = 201;
+
+// Loops of the flight deck's surroundings.
+constexpr int kLoopBattery = 25, kLoopQuiet = 28, kLoopLoud = 29;
 
 /// Asks for a control sound. One stands at a time: a later request takes an earlier one's place.
 inline void RequestCue(int cue) {
     sound.event_cue = cue;
+}
+
+/// Asks for one of the loops of the surroundings.
+inline void RequestLoop(int loop) {
+    sound.env_sound_request = loop;
+}
+
+/// Asks for the end of a loop, whether it runs or has only been asked for.
+inline void StopLoop(int loop) {
+    if (sound.env_sound_request == loop) sound.env_sound_request = 0;
+    sound.sounds_to_stop |= 1 << loop;
+    if (loop == kLoopBattery) sound.env_battery_timer = 0;
+    if (loop == kLoopQuiet) sound.env_quiet_timer = 0;
+    if (loop == kLoopLoud) sound.env_loud_timer = 0;
 }

@@ -19,6 +19,7 @@ void RegisterNamedVars() {
     for (const NamedVariable& variable : kNamedVariables)
         if (variable.owner == NamedVariable::kModule) Host().register_named_var(variable.name.data());
     host_link.named_var_ids.clear();
+    host_link.lamps_shown.clear();
     host_link.named_vars_registered = 1;
 }
 
@@ -27,6 +28,7 @@ void UnregisterNamedVars() {
     for (const NamedVariable& variable : kNamedVariables)
         if (variable.owner == NamedVariable::kModule) Host().unregister_named_var(variable.name.data());
     host_link.named_var_ids.clear();
+    host_link.lamps_shown.clear();
     host_link.named_vars_registered = 0;
 }
 

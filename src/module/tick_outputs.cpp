@@ -2,25 +2,29 @@
 
 #include <numeric>
 
+#include "display/routing.h"
 #include "frame/active_runways.h"
-#include "frame/aircraft.h"
 #include "frame/named_variables.h"
 #include "guidance/autoflight.h"
 #include "module/model_settings.h"
 #include "navdata/geodesy.h"
 #include "platform/host.h"
+#include "sound/environment.h"
 #include "state/airports.h"
 #include "state/autoflight.h"
 #include "state/cfg.h"
 #include "state/cockpit.h"
+#include "state/electrical.h"
 #include "state/module_life.h"
 #include "state/perf.h"
 #include "state/plan.h"
 #include "state/sim.h"
 #include "state/time_base.h"
-#include "systems/irs.h"
+#include "systems/systems.h"
 
 namespace {
+
+constexpr int kBatteryAlone = 5;  // of power_level
 
 void UpdateSpeedTrend() {
     AutoflightState& a = autoflight;
@@ -70,10 +74,14 @@ void SystemsEvery3s() {
     PublishModelSettings();
 }
 
-// The third of the once-a-second groups.
-void SystemsSecond3() {
-    UpdateFlapSpeedRow();
-    ReadAttitudeSwitches();
+void StepSecond(int phase) {
+    if (phase == 0) {
+        StepEnvironmentTimers();
+        SystemsSecond(1);
+        if (electrical.power_level > kBatteryAlone) RepairInboardModes(cockpit.TZ_MAIN_PFD_MFD_L_Switch);
+    }
+    if (phase == 5) SystemsSecond(2);
+    if (phase == 11) SystemsSecond(3);
 }
 
 void UpdateExecLamps() {
@@ -110,13 +118,13 @@ void ReadModelValues() {
 
 void TickOutputs() {
     const int phase = time_base.tick_phase;
-    StepIrs();
+    SystemsTick();
     PublishGuidance();
     ReadAutoflightModes();
     UpdateSpeedTrend();
     if (time_base.tick3s_phase == 22) SystemsEvery3s();
     if (time_base.tick2s_phase == 0 && cfg.VASdisplay == 1) sim.free_address_gb = Host().free_address_space();
-    if (phase == 11) SystemsSecond3();
+    StepSecond(phase);
     if (phase == 0 || phase == 9) UpdateExecLamps();
     if (time_base.frame_phase % 2 == 0) ReadModelValues();
 }

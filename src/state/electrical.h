@@ -16,8 +16,11 @@ struct ElectricalState {
     int gen_l1_pwr = 0, gen_l2_pwr = 0, gen_r1_pwr = 0, gen_r2_pwr = 0;
     int ext_ac_pwr = 0;
     int fwd_ext_pwr_avail = 0;
-    int running_gens = 0;     // 0 to 4
-    int load_shed_level = 0;  // 0 to 3
+    int running_gens = 0;                // 0 to 4
+    int load_shed_level = 0;             // 0 to 3
+    int cab_bus_on = 0, ife_bus_on = 0;  // cabin utilities and passenger entertainment
+    int battery_test_ticks = 0;          // ticks left of the battery test's lamp
+    int battery_followed_host = 0;       // the button has been brought to the host's battery, once
     int generators_held = 0;  // a panel load keeps the generators on line until the host has settled
     // APU
     double apu_rpm = 0;         // percent

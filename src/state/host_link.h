@@ -8,7 +8,8 @@
 
 /// What the module remembers of its link to the host.
 struct HostLink {
-    std::vector<int> named_var_ids;  // by row of the catalogue: the host's id, -1 = not found yet
+    std::vector<int> named_var_ids;        // by row of the catalogue: the host's id, -1 = not found yet
+    std::vector<signed char> lamps_shown;  // by row of the catalogue: 0 dark, 1 lit, -1 = not yet written
     int named_vars_registered = 0;
     int key_hook_added = 0;
     int sim_client_open = 0;

@@ -13,6 +13,12 @@ constexpr Variable kRows[] = {
     {"host_sound_on", &sound.host_sound_on},
     {"slew_active", &sound.slew_active},
     {"dsound_ok", &sound.dsound_ok},
+    {"sounds_to_stop", &sound.sounds_to_stop},
+    {"env_battery_timer", &sound.env_battery_timer},
+    {"stby_sound_timer", &sound.env_battery_timer},  // a further name of the same
+    {"env_quiet_start_timer", &sound.env_quiet_start_timer},
+    {"env_quiet_timer", &sound.env_quiet_timer},
+    {"env_loud_timer", &sound.env_loud_timer},
 };
 }  // namespace
 

@@ -1,0 +1,15 @@
+#include "frame/lamps.h"
+
+#include "state/host_link.h"
+
+void ShowLamp(NamedVarRef lamp, bool lit) {
+    if (host_link.lamps_shown.empty()) host_link.lamps_shown.assign(kNamedVariableCount, -1);
+    signed char& shown = host_link.lamps_shown[static_cast<std::size_t>(lamp.row)];
+    if (shown == (lit ? 1 : 0)) return;
+    shown = lit ? 1 : 0;
+    WriteNamedVar(lamp, shown);
+}
+
+void ShowLamps(std::span<const Lamp> lamps) {
+    for (const Lamp& lamp : lamps) ShowLamp(lamp.variable, lamp.lit());
+}

@@ -1,0 +1,34 @@
+#include "systems/systems.h"
+
+#include "frame/aircraft.h"
+#include "systems/apu.h"
+#include "systems/battery.h"
+#include "systems/electrical.h"
+#include "systems/electrical_lamps.h"
+#include "systems/irs.h"
+
+void SystemsTick() {
+    StepExternalPower();
+    StepBattery();
+    StepApu();
+    StepIrs();
+}
+
+void SystemsSecond(int group) {
+    switch (group) {
+        case 1:
+            StepElectricalPower();
+            PublishApu();
+            ShowElectricalLamps();
+            break;
+        case 2:
+            StartApuInFlight();
+            break;
+        case 3:
+            UpdateFlapSpeedRow();
+            ReadAttitudeSwitches();
+            break;
+        default:
+            break;
+    }
+}
