@@ -45,13 +45,23 @@ struct FillPath {
 enum class LineCap : std::uint8_t { kFlat, kSquare, kRound };
 enum class LineJoin : std::uint8_t { kMiter, kBevel, kRound };
 
+/// Axes of their own, in which a pen or a text is drawn: a point there lies at (stretch x + skew y, y),
+/// turned by `rotation`, in the list's frame.
+struct LocalAxes {
+    float rotation = 0;  // degrees, clockwise
+    float stretch = 1;
+    float skew = 0;
+    bool operator==(const LocalAxes&) const = default;
+};
+
 struct StrokePath {
     PaintPath path;
     Argb colour;
-    float width;
+    float width;             // in the pen's axes
     PaintRange dashes = {};  // lengths, on and off in turn; empty = solid
     LineCap cap = LineCap::kFlat;
     LineJoin join = LineJoin::kMiter;
+    LocalAxes axes = {};  // of the pen, which uneven scales make an ellipse; the path is not in them
     bool operator==(const StrokePath&) const = default;
 };
 
@@ -59,8 +69,7 @@ struct StrokePath {
 struct TextRun {
     float x, y;
     float size;            // pixels of the em
-    float rotation;        // degrees, clockwise
-    float stretch;         // width against height, 1 as the font has it
+    LocalAxes axes;        // about its beginning
     std::uint16_t family;  // FontFamily
     Argb colour;
     PaintRange text;  // bytes of UTF-8
@@ -68,7 +77,7 @@ struct TextRun {
 };
 
 struct DrawnImage {
-    PaintRange file;  // bytes of its name
+    PaintRange file;  // bytes of its name under the root
     float x, y, width, height;
     float rotation;  // degrees, clockwise about x, y
     bool operator==(const DrawnImage&) const = default;

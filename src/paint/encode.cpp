@@ -44,6 +44,11 @@ struct Encoder {
             y = next_y;
         }
     }
+    void PutAxes(const LocalAxes& axes) const {
+        PutSigned(to, Fixed(axes.rotation));
+        PutSigned(to, Fixed(axes.stretch, 1024));
+        PutSigned(to, Fixed(axes.skew, 1024));
+    }
     void PutText(PaintRange text) const {
         PutVarint(to, text.count);
         to.append(list.text, text.first, text.count);
@@ -63,7 +68,10 @@ struct Encoder {
         Begin(2);
         PutWord(to, stroke.colour);
         PutSigned(to, Fixed(stroke.width));
-        to += static_cast<char>(static_cast<int>(stroke.cap) + 4 * static_cast<int>(stroke.join));
+        const bool round = stroke.axes == LocalAxes{};
+        to += static_cast<char>(static_cast<int>(stroke.cap) + 4 * static_cast<int>(stroke.join) +
+                                (round ? 0 : 16));
+        if (!round) PutAxes(stroke.axes);
         PutVarint(to, stroke.dashes.count);
         for (std::size_t i = 0; i < stroke.dashes.count; ++i)
             PutSigned(to, Fixed(list.dashes[stroke.dashes.first + i]));
@@ -72,8 +80,8 @@ struct Encoder {
     void operator()(const TextRun& run) const {
         Begin(3);
         PutWord(to, run.colour);
-        for (const float value : {run.x, run.y, run.size, run.rotation}) PutSigned(to, Fixed(value));
-        PutSigned(to, Fixed(run.stretch, 1024));
+        for (const float value : {run.x, run.y, run.size}) PutSigned(to, Fixed(value));
+        PutAxes(run.axes);
         to += static_cast<char>(run.family);
         PutText(run.text);
     }

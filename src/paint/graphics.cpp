@@ -6,6 +6,7 @@
 
 #include "paint/fonts.h"
 #include "paint/path_builder.h"
+#include "platform/files.h"
 
 namespace {
 
@@ -13,13 +14,24 @@ PaintPoint Map(const Matrix& m, double x, double y) {
     return {static_cast<float>(m.a * x + m.c * y + m.e), static_cast<float>(m.b * x + m.d * y + m.f)};
 }
 
-// How much a length grows under the transform.
-double ScaleOf(const Matrix& m) {
-    return std::sqrt(std::fabs(m.a * m.d - m.b * m.c));
+// How much a height grows under the transform, and the axes that stand for the rest of it.
+struct Growth {
+    double height;
+    LocalAxes axes;
+};
+Growth GrowthOf(const Matrix& m) {
+    constexpr double kNothing = 1e-12;
+    const double run = std::hypot(m.a, m.b);
+    const double height = run > kNothing ? std::fabs(m.a * m.d - m.b * m.c) / run : 0;
+    if (height <= kNothing) return {height, {}};
+    const double slant = (m.a * m.c + m.b * m.d) / run;
+    return {height,
+            {static_cast<float>(std::atan2(m.b, m.a) * 180 / std::numbers::pi),
+             static_cast<float>(run / height), static_cast<float>(slant / height)}};
 }
 
-double RotationOf(const Matrix& m) {
-    return std::atan2(m.b, m.a) * 180 / std::numbers::pi;
+bool IsRoundPen(const LocalAxes& axes) {
+    return std::fabs(axes.stretch - 1) < 1e-4f && std::fabs(axes.skew) < 1e-4f;
 }
 
 // What the newest operation does to coordinates comes first.
@@ -47,11 +59,13 @@ bool Drawable(const Graphics& graphics, const GraphicsPath& path) {
 
 void StrokeOnce(Graphics& graphics, const Pen& pen, const GraphicsPath& path, double width) {
     DrawList& list = *graphics.list;
-    const auto scale = static_cast<float>(ScaleOf(graphics.world));
+    const Growth growth = GrowthOf(graphics.world);
+    const auto scale = static_cast<float>(growth.height);
     const std::size_t dashes = list.dashes.size();
     for (const float dash : pen.dashes.All()) list.dashes.push_back(dash * pen.width * scale);
     StrokePath stroke{Record(graphics, path), pen.colour, static_cast<float>(width) * scale};
     stroke.dashes = Extend(dashes, list.dashes.size());
+    if (!IsRoundPen(growth.axes)) stroke.axes = growth.axes;
     list.primitives.emplace_back(stroke);
 }
 
@@ -99,69 +113,83 @@ void Stroke(Graphics& graphics, const Pen& pen, const GraphicsPath& path) {
     }
 }
 
-struct HatchCell {
-    std::uint8_t rows[8];  // the top bit is the left pixel
+// Parallel lines one unit wide and 8 apart, where a x + b y is `first` and each multiple of 8 from there.
+struct HatchLines {
+    int a, b, first;
+};
+constexpr HatchLines kLevel{0, 1, 0}, kUpright{1, 0, 0}, kFalling{-1, 1, 0}, kRising{1, 1, 7};
+constexpr HatchLines kHatches[][2] = {
+    {kLevel, kLevel},   {kUpright, kUpright}, {kFalling, kFalling},
+    {kRising, kRising}, {kLevel, kUpright},   {kFalling, kRising},
 };
 
-// The 8 by 8 cells of the styles, one bit a device pixel.
-constexpr HatchCell kHatchCells[] = {
-    {{0xff, 0, 0, 0, 0, 0, 0, 0}},
-    {{0x80, 0x80, 0x80, 0x80, 0x80, 0x80, 0x80, 0x80}},
-    {{0x80, 0x40, 0x20, 0x10, 0x08, 0x04, 0x02, 0x01}},
-    {{0x01, 0x02, 0x04, 0x08, 0x10, 0x20, 0x40, 0x80}},
-    {{0xff, 0x80, 0x80, 0x80, 0x80, 0x80, 0x80, 0x80}},
-    {{0x81, 0x42, 0x24, 0x18, 0x18, 0x24, 0x42, 0x81}},
-};
+// The stretches of one hatch line that lie inside of a flat path, by even-odd, as lines of `to`.
+void AddHatchLine(GraphicsPath& to, const HatchLines& lines, float value, const GraphicsPath& flat,
+                  std::span<const PaintPoint> corners, std::vector<float>& crossings) {
+    const auto across = [&](PaintPoint p) {
+        return static_cast<float>(lines.a) * p.x + static_cast<float>(lines.b) * p.y - value;
+    };
+    const auto along = [&](PaintPoint p) { return lines.b != 0 ? p.x : p.y; };
+    crossings.clear();
+    std::size_t first = 0, next = 0;
+    const auto edge = [&](PaintPoint from, PaintPoint end) {
+        const float before = across(from), after = across(end);
+        if ((before <= 0) == (after <= 0)) return;
+        crossings.push_back(along(from) + before / (before - after) * (along(end) - along(from)));
+    };
+    for (const PathVerb verb : flat.verbs) {
+        if (verb == PathVerb::kMove) {
+            if (next > first) edge(corners[next - 1], corners[first]);
+            first = next++;
+        } else if (verb == PathVerb::kLine) {
+            edge(corners[next - 1], corners[next]);
+            ++next;
+        }
+    }
+    if (next > first) edge(corners[next - 1], corners[first]);
+    std::sort(crossings.begin(), crossings.end());
+    const auto point = [&](float t) {
+        if (lines.b == 0) return PaintPoint{value, t};
+        return PaintPoint{t, (value - static_cast<float>(lines.a) * t) / static_cast<float>(lines.b)};
+    };
+    for (std::size_t i = 0; i + 1 < crossings.size(); i += 2) {
+        const PaintPoint from = point(crossings[i]), end = point(crossings[i + 1]);
+        MoveTo(to, from.x, from.y);
+        LineTo(to, end.x, end.y);
+    }
+}
 
-// The hatch of a path as fills of unit squares' runs that lie within its box and whose middle lies in the
-// path.
+// The lines of a hatch stand in the list's frame, whatever the transform, and so go on from figure to figure.
 void FillHatch(Graphics& graphics, const Brush& brush, const GraphicsPath& path) {
+    constexpr float kPeriod = 8, kLineShift = 0.5f;  // a line is drawn half a unit to the right and below
     const GraphicsPath flat = Flatten(path, 0.25);
     std::vector<PaintPoint> corners;
-    for (const PaintPoint& point : flat.points) corners.push_back(Map(graphics.world, point.x, point.y));
-    float left = corners[0].x, right = left, top = corners[0].y, bottom = top;
-    for (const PaintPoint& p : corners) {
-        left = std::min(left, p.x), right = std::max(right, p.x);
-        top = std::min(top, p.y), bottom = std::max(bottom, p.y);
+    for (const PaintPoint& given : flat.points) {
+        const PaintPoint p = Map(graphics.world, given.x, given.y);
+        if (!std::isfinite(p.x) || !std::isfinite(p.y)) return;
+        corners.push_back({p.x - kLineShift, p.y - kLineShift});
     }
-    left = std::max(left, 0.0f), top = std::max(top, 0.0f);
-    right = std::min(right, graphics.list->width), bottom = std::min(bottom, graphics.list->height);
-    const HatchCell& cell = kHatchCells[static_cast<std::size_t>(brush.hatch)];
-    GraphicsPath dots;
+    const float reach = graphics.list->width + graphics.list->height;
+    GraphicsPath stretches;
     std::vector<float> crossings;
-    for (int y = static_cast<int>(std::floor(top)); static_cast<float>(y) < bottom; ++y) {
-        const float middle = static_cast<float>(y) + 0.5f;
-        crossings.clear();
-        std::size_t first = 0, next = 0;
-        for (const PathVerb verb : flat.verbs) {
-            if (verb == PathVerb::kMove) first = next;
-            const std::size_t from = next - 1;
-            const std::size_t to = verb == PathVerb::kClose ? first : next;
-            if (verb != PathVerb::kClose) ++next;
-            if (verb == PathVerb::kMove) continue;
-            const PaintPoint a = corners[from], b = corners[to];
-            if ((a.y <= middle) == (b.y <= middle)) continue;
-            crossings.push_back(a.x + (middle - a.y) / (b.y - a.y) * (b.x - a.x));
+    const auto& pair = kHatches[static_cast<std::size_t>(brush.hatch)];
+    const bool crossed = pair[0].a != pair[1].a || pair[0].b != pair[1].b;
+    for (const HatchLines& lines : std::span(pair).first(crossed ? 2 : 1)) {
+        float least = reach, most = -reach;
+        for (const PaintPoint& p : corners) {
+            const float value = static_cast<float>(lines.a) * p.x + static_cast<float>(lines.b) * p.y;
+            least = std::min(least, value), most = std::max(most, value);
         }
-        std::sort(crossings.begin(), crossings.end());
-        for (std::size_t i = 0; i + 1 < crossings.size(); i += 2) {
-            const int end = static_cast<int>(std::floor(std::min(crossings[i + 1], right) - 0.5f));
-            int x = static_cast<int>(std::ceil(std::max(crossings[i], left) - 0.5f));
-            for (; x <= end; ++x) {
-                const auto row = cell.rows[static_cast<std::size_t>(y & 7)];
-                if ((row >> (7 - (x & 7)) & 1) == 0) continue;
-                const int run = x;
-                while (x + 1 <= end && (row >> (7 - ((x + 1) & 7)) & 1) != 0) ++x;
-                AddRectangle(dots, run, y, x + 1 - run, 1);
-            }
-        }
+        const auto start = static_cast<float>(lines.first);
+        float value = start + std::ceil((std::max(least, -reach) - start) / kPeriod) * kPeriod;
+        for (; value <= std::min(most, reach); value += kPeriod)
+            AddHatchLine(stretches, lines, value, flat, corners, crossings);
     }
-    if (dots.verbs.empty()) return;
+    if (stretches.verbs.empty()) return;
     const Matrix world = graphics.world;
     graphics.world = {};
-    const PaintPath recorded = Record(graphics, dots);
+    StrokeOnce(graphics, GdipCreatePen1(brush.colour, 1), stretches, 1);
     graphics.world = world;
-    graphics.list->primitives.emplace_back(FillPath{recorded, brush.colour});
 }
 
 void Fill(Graphics& graphics, const Brush& brush, const GraphicsPath& path) {
@@ -393,24 +421,40 @@ void GdipSetStringFormatLineAlign(StringFormat& format, LineAlign align) {
 
 namespace {
 
-// The characters of `text` that stand on the next line: up to a line feed, or as many words as fit into
-// `width` ems (0 = any number). What is taken is cut off the front.
-std::string_view TakeLine(std::string_view& text, std::uint16_t family, float width) {
+// As many characters as fit into `width` ems, one at least.
+std::string_view Fitting(std::string_view line, std::uint16_t family, float width) {
+    std::size_t fits = std::min<std::size_t>(line.size(), 1);
+    while (fits < line.size() && TextWidth(family, line.substr(0, fits + 1)) <= width) ++fits;
+    return line.substr(0, fits);
+}
+
+// How a text is laid out in a rectangle `width` ems wide; 0 = without end.
+struct LineLayout {
+    std::uint16_t family;
+    float width;
+    bool wraps;  // else a line is cut at the last character that fits
+};
+
+// The characters of `text` that stand on the next line: up to a line feed, or as many words as fit. They are
+// cut off its front.
+std::string_view TakeLine(std::string_view& text, const LineLayout& layout) {
     std::string_view line = text.substr(0, text.find('\n'));
-    if (width > 0 && TextWidth(family, line) > width) {
+    const std::size_t to_line_feed = line.size();
+    const bool too_wide = layout.width > 0 && TextWidth(layout.family, line) > layout.width;
+    if (too_wide && layout.wraps) {
         std::size_t fits = 0;
         for (std::size_t i = 1; i <= line.size(); ++i) {
             if (i < line.size() && line[i] != ' ') continue;
-            if (TextWidth(family, line.substr(0, i)) > width) break;
+            if (TextWidth(layout.family, line.substr(0, i)) > layout.width) break;
             fits = i;
         }
-        if (fits == 0) {  // one word wider than the rectangle breaks where it must
-            while (fits < line.size() && TextWidth(family, line.substr(0, fits + 1)) <= width) ++fits;
-            fits = std::max<std::size_t>(fits, 1);
-        }
-        line = line.substr(0, fits);
+        // One word wider than the rectangle breaks where it must.
+        line = fits > 0 ? line.substr(0, fits) : Fitting(line, layout.family, layout.width);
+        text.remove_prefix(line.size());
+    } else {
+        if (too_wide) line = Fitting(line, layout.family, layout.width);
+        text.remove_prefix(to_line_feed);
     }
-    text.remove_prefix(line.size());
     if (!text.empty() && (text.front() == '\n' || text.front() == ' ')) text.remove_prefix(1);
     return line;
 }
@@ -425,44 +469,67 @@ void GdipDrawString(Graphics& graphics, std::string_view text, const Font& font,
     DrawList& list = *graphics.list;
     const FontMetrics& metrics = MetricsOf(font.family);
     const float padding = font.size / 6;
-    const bool wraps = rect.width > 0 && (layout.flags & kFormatNoWrap) == 0;
-    const float room = wraps ? std::max((rect.width - 2 * padding) / font.size, 0.01f) : 0;
+    const float room = rect.width > 0 ? std::max((rect.width - 2 * padding) / font.size, 0.01f) : 0;
+    const LineLayout lines_of{font.family, room, (layout.flags & kFormatNoWrap) == 0};
 
     int lines = 0;
-    for (std::string_view rest = text; !rest.empty(); ++lines) TakeLine(rest, font.family, room);
+    for (std::string_view rest = text; !rest.empty(); ++lines) TakeLine(rest, lines_of);
     const float height = static_cast<float>(lines) * metrics.line_spacing * font.size;
     float top = rect.y;
     if (layout.line_align == LineAlign::kCenter) top += (rect.height - height) / 2;
     if (layout.line_align == LineAlign::kFar) top += rect.height - height;
 
-    const Matrix& w = graphics.world;
-    const double rise = std::hypot(w.c, w.d), run = std::hypot(w.a, w.b);
+    const Growth growth = GrowthOf(graphics.world);
     while (!text.empty()) {
-        const std::string_view line = TakeLine(text, font.family, room);
+        const std::string_view line = TakeLine(text, lines_of);
         if (rect.height > 0 && (layout.flags & kFormatNoClip) == 0 && top >= rect.y + rect.height) break;
         float left = rect.x + padding;
         if ((layout.flags & kFormatRightToLeft) != 0)
             left = rect.x + rect.width - padding - TextWidth(font.family, line) * font.size;
-        const PaintPoint origin = Map(w, left, top + metrics.ascent * font.size);
+        const PaintPoint origin = Map(graphics.world, left, top + metrics.ascent * font.size);
         const std::size_t first = list.text.size();
         AppendUtf8(list.text, line);
         if (!line.empty())
-            list.primitives.emplace_back(TextRun{origin.x, origin.y, static_cast<float>(font.size * rise),
-                                                 static_cast<float>(RotationOf(w)),
-                                                 static_cast<float>(rise > 0 ? run / rise : 1), font.family,
-                                                 brush.colour, Extend(first, list.text.size())});
+            list.primitives.emplace_back(TextRun{origin.x, origin.y,
+                                                 static_cast<float>(font.size * growth.height), growth.axes,
+                                                 font.family, brush.colour, Extend(first, list.text.size())});
         top += metrics.line_spacing * font.size;
     }
 }
 
-void GdipDrawImageRectI(Graphics& graphics, std::string_view file, int x, int y, int width, int height) {
-    if (graphics.list == nullptr || file.empty() || width <= 0 || height <= 0) return;
+Image GdipLoadImageFromFile(std::string_view file) {
+    // The head of a PNG file: 8 bytes of signature, length and name of the first chunk, width and height.
+    constexpr std::string_view kSignature = "\x89PNG\r\n\x1a\n";
+    constexpr std::size_t kWidthAt = 16, kHeightAt = 20, kHead = 24;
+    constexpr int kLargest = 16384;
+    Image image{.file = std::string(file)};
+    const auto bytes = ReadFile(file);
+    if (!bytes || bytes->size < kHead || !bytes->Text().starts_with(kSignature)) return image;
+    const auto word = [&](std::size_t at) {
+        std::uint32_t value = 0;
+        for (const char c : bytes->Text().substr(at, 4)) value = value << 8 | static_cast<unsigned char>(c);
+        return value;
+    };
+    if (word(kWidthAt) > kLargest || word(kHeightAt) > kLargest) return image;
+    image.width = static_cast<int>(word(kWidthAt));
+    image.height = static_cast<int>(word(kHeightAt));
+    return image;
+}
+
+void GdipDrawImageI(Graphics& graphics, const Image& image, int x, int y) {
+    GdipDrawImageRectI(graphics, image, x, y, image.width, image.height);
+}
+
+void GdipDrawImageRectI(Graphics& graphics, const Image& image, int x, int y, int width, int height) {
+    if (graphics.list == nullptr || image.width <= 0 || image.height <= 0 || width <= 0 || height <= 0)
+        return;
     DrawList& list = *graphics.list;
     const std::size_t first = list.text.size();
-    list.text += file;
+    list.text += image.file;
     const PaintPoint origin = Map(graphics.world, x, y);
-    const Matrix& w = graphics.world;
-    list.primitives.emplace_back(DrawnImage{
-        Extend(first, list.text.size()), origin.x, origin.y, static_cast<float>(width * std::hypot(w.a, w.b)),
-        static_cast<float>(height * std::hypot(w.c, w.d)), static_cast<float>(RotationOf(w))});
+    const Growth growth = GrowthOf(graphics.world);
+    list.primitives.emplace_back(DrawnImage{Extend(first, list.text.size()), origin.x, origin.y,
+                                            static_cast<float>(width * growth.height * growth.axes.stretch),
+                                            static_cast<float>(height * growth.height),
+                                            growth.axes.rotation});
 }

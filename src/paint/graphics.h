@@ -91,6 +91,11 @@ struct IntPoint {
     int x, y;
 };
 
+struct Image {
+    std::string file = {};
+    int width = 0, height = 0;  // pixels
+};
+
 // surface
 Graphics GdipCreateGraphics(DrawList& list, float width, float height);
 void GdipGraphicsClear(Graphics& graphics, Argb colour);
@@ -158,5 +163,8 @@ void GdipSetStringFormatLineAlign(StringFormat& format, LineAlign align);
 void GdipDrawString(Graphics& graphics, std::string_view text, const Font& font, const LayoutRect& rect,
                     const StringFormat* format, const Brush& brush);
 
-// images, by the name of their file under the root
-void GdipDrawImageRectI(Graphics& graphics, std::string_view file, int x, int y, int width, int height);
+/// A picture file (PNG) under the root. One that can't be read has no size and isn't drawn.
+Image GdipLoadImageFromFile(std::string_view file);
+/// Drawn with its own size as units.
+void GdipDrawImageI(Graphics& graphics, const Image& image, int x, int y);
+void GdipDrawImageRectI(Graphics& graphics, const Image& image, int x, int y, int width, int height);

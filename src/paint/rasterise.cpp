@@ -10,6 +10,7 @@
 #include <numbers>
 
 #include "paint/fonts.h"
+#include "platform/files.h"
 
 namespace {
 
@@ -85,6 +86,13 @@ struct Painter {
         cairo_set_fill_rule(cairo, path.winding ? CAIRO_FILL_RULE_WINDING : CAIRO_FILL_RULE_EVEN_ODD);
     }
 
+    void ApplyAxes(const LocalAxes& axes) const {
+        cairo_rotate(cairo, axes.rotation * std::numbers::pi / 180);
+        cairo_matrix_t matrix;
+        cairo_matrix_init(&matrix, axes.stretch, 0, axes.skew, 1, 0, 0);
+        cairo_transform(cairo, &matrix);
+    }
+
     void operator()(const ClearSurface& clear) const {
         cairo_save(cairo);
         cairo_set_operator(cairo, CAIRO_OPERATOR_SOURCE);
@@ -101,8 +109,9 @@ struct Painter {
         // A line's middle runs through pixel centres, so that a one-pixel line is one pixel wide and sharp.
         Trace(stroke.path, pixel_x, pixel_y);
         SetColour(cairo, stroke.colour);
-        const double least = 2 * std::min(pixel_x, pixel_y);
-        cairo_set_line_width(cairo, std::max(static_cast<double>(stroke.width), least));
+        const double least = 2 * std::min(pixel_x, pixel_y), width = stroke.width;
+        const double across = std::max(width, least), along = std::max(width * stroke.axes.stretch, least);
+        cairo_set_line_width(cairo, across);
         double dashes[16];
         const std::size_t count = std::min<std::size_t>(stroke.dashes.count, std::size(dashes));
         for (std::size_t i = 0; i < count; ++i) dashes[i] = list.dashes[stroke.dashes.first + i];
@@ -113,7 +122,10 @@ struct Painter {
                                                 CAIRO_LINE_JOIN_ROUND};
         cairo_set_line_cap(cairo, kCaps[static_cast<int>(stroke.cap)]);
         cairo_set_line_join(cairo, kJoins[static_cast<int>(stroke.join)]);
+        cairo_save(cairo);
+        ApplyAxes({stroke.axes.rotation, static_cast<float>(along / across), stroke.axes.skew});
         cairo_stroke(cairo);
+        cairo_restore(cairo);
     }
     void operator()(const TextRun& run) const {
         const std::lock_guard guard(raster_fonts.lock);
@@ -129,24 +141,28 @@ struct Painter {
         cairo_set_font_options(cairo, options);
         cairo_font_options_destroy(options);
         cairo_translate(cairo, run.x, run.y);
-        cairo_rotate(cairo, run.rotation * std::numbers::pi / 180);
-        cairo_scale(cairo, run.stretch, 1);
+        ApplyAxes(run.axes);
         SetColour(cairo, run.colour);
         cairo_move_to(cairo, 0, 0);
         cairo_show_text(cairo, list.text.substr(run.text.first, run.text.count).c_str());
         cairo_restore(cairo);
     }
     void operator()(const DrawnImage& image) const {
-        cairo_surface_t* picture =
-            cairo_image_surface_create_from_png(list.text.substr(image.file.first, image.file.count).c_str());
+        const auto file = ResolvePath(std::string_view(list.text).substr(image.file.first, image.file.count));
+        if (!file) return;
+        cairo_surface_t* picture = cairo_image_surface_create_from_png(file->c_str());
         if (cairo_surface_status(picture) == CAIRO_STATUS_SUCCESS) {
             cairo_save(cairo);
             cairo_translate(cairo, image.x, image.y);
             cairo_rotate(cairo, image.rotation * std::numbers::pi / 180);
-            cairo_scale(cairo, static_cast<double>(image.width) / cairo_image_surface_get_width(picture),
-                        static_cast<double>(image.height) / cairo_image_surface_get_height(picture));
+            cairo_rectangle(cairo, 0, 0, image.width, image.height);
+            // A picture's first pixel has its middle where the first pixel of the place has it.
+            const double grow_x = image.width / static_cast<double>(cairo_image_surface_get_width(picture));
+            const double grow_y = image.height / static_cast<double>(cairo_image_surface_get_height(picture));
+            cairo_translate(cairo, pixel_x - grow_x / 2, pixel_y - grow_y / 2);
+            cairo_scale(cairo, grow_x, grow_y);
             cairo_set_source_surface(cairo, picture, 0, 0);
-            cairo_paint(cairo);
+            cairo_fill(cairo);
             cairo_restore(cairo);
         }
         cairo_surface_destroy(picture);

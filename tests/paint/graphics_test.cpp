@@ -4,6 +4,7 @@
 
 #include "paint/fonts.h"
 #include "paint/rasterise.h"
+#include "support/fake_host.h"
 
 namespace {
 
@@ -87,6 +88,58 @@ TEST(Graphics, ClipsCutAndAreTakenAway) {
     EXPECT_EQ(picture.Pixel(92, 92), kWhite) << "the clip is gone";
 }
 
+TEST(Graphics, ClosedFiguresTakeNoFurtherLines) {
+    Picture picture;
+    GraphicsPath path = GdipCreatePath();
+    GdipAddPathRectangleI(path, 10, 10, 20, 20);
+    GdipAddPathLineI(path, 40, 50, 60, 50);
+    GdipDrawPath(picture.graphics, GdipCreatePen1(kWhite, 1), path);
+    EXPECT_EQ(Lines(picture.list),
+              "stroke 255,255,255,255 1 M 10 10 L 30 10 L 30 30 L 10 30 Z M 40 50 L 60 50\n");
+}
+
+// Under an uneven scale a pen is as wide across x as across y is narrow.
+TEST(Graphics, UnevenScalesStretchPensAndText) {
+    Picture picture;
+    GdipScaleWorldTransform(picture.graphics, 4, 1);
+    const Pen pen = GdipCreatePen1(kWhite, 2);
+    GdipDrawLineI(picture.graphics, pen, 10, 20, 10, 80);
+    GdipDrawLineI(picture.graphics, pen, 12, 50, 25, 50);
+    const auto inked = [&](int x, int y) { return picture.Pixel(x, y) == kWhite; };
+    EXPECT_TRUE(inked(37, 30) && inked(43, 30)) << "8 pixels wide about 40";
+    EXPECT_TRUE(!inked(35, 30) && !inked(46, 30));
+    EXPECT_TRUE(inked(70, 50) && !inked(70, 52) && !inked(70, 47)) << "2 pixels high about 50";
+    // Turned by 30 degrees inside of a scale of 2 by 1 the baseline runs along (2 cos 30, sin 30), 1.8028
+    // long, and letters rise along (-2 sin 30, cos 30): the area of 2 over 1.8028 is the height across the
+    // baseline.
+    Picture turned;
+    GdipScaleWorldTransform(turned.graphics, 2, 1);
+    GdipRotateWorldTransform(turned.graphics, 30);
+    GdipDrawString(turned.graphics, "A", GdipCreateFont(FamilyOf("Arial"), 10), {0, 0, 0, 0}, nullptr,
+                   GdipCreateSolidFill(kWhite));
+    const auto run = std::get<TextRun>(turned.list.primitives.back());
+    EXPECT_NEAR(run.size, 11.094, 1e-3);
+    EXPECT_NEAR(run.axes.rotation, 16.102, 1e-3);
+    EXPECT_NEAR(run.axes.stretch, 1.6250, 1e-4);
+    EXPECT_NEAR(run.axes.skew, -0.6495, 1e-4);
+}
+
+TEST(Graphics, HatchesGoOnFromFigureToFigure) {
+    // Lines run from the top left to the bottom right through the pixels whose x - y is a multiple of 8. A
+    // line as wide as a pixel covers 1 - (1 - sqrt(1/2))^2 = 0.914 of the pixels on it and a quarter of those
+    // beside.
+    Picture picture;
+    const Brush brush = GdipCreateHatchBrush(HatchStyle::kForwardDiagonal, kWhite, kRed);
+    GdipFillRectangleI(picture.graphics, brush, 10, 10, 30, 30);
+    GdipFillRectangleI(picture.graphics, brush, 40, 10, 30, 30);
+    for (const int x : {20, 36, 52, 60}) {
+        EXPECT_NEAR(picture.Pixel(x, 20) & 255, 0.914 * 255, 4) << x;
+        EXPECT_NEAR(picture.Pixel(x + 1, 20) & 255, 0.25 * 255, 4) << x;
+        EXPECT_EQ(picture.Pixel(x + 4, 20), kRed) << x;
+    }
+    EXPECT_EQ(picture.Pixel(20, 44), 0U) << "below";
+}
+
 TEST(Graphics, ClearFillsAlphaToo) {
     Picture picture;
     GdipGraphicsClear(picture.graphics, kRed);
@@ -122,8 +175,30 @@ TEST(Graphics, TextStandsOnItsBaseline) {
     // wide.
     const StringFormat right = GdipCreateStringFormat(kFormatRightToLeft);
     EXPECT_NEAR(run_of(&right, {10, 20, 80, 0}, "AB").x, 90 - 2 - 2 * 0.6 * 12, 0.05);
+    // Four characters of 7.2 need 28.8; 30 less a sixth of an em at each end leave room for three.
+    const StringFormat one_line = GdipCreateStringFormat(kFormatNoWrap);
+    EXPECT_EQ(run_of(&one_line, {10, 20, 30, 0}, "ABCD").text.count, 3U);
+    EXPECT_EQ(run_of(nullptr, {10, 20, 30, 0}, "AB CD").text.count, 2U) << "wrapped: the second line";
     const TextRun second = run_of(nullptr, {10, 20, 0, 0}, "A\nB");
     EXPECT_NEAR(second.y, 20 + ascent * 12 + line, 1e-4);
+}
+
+TEST(Graphics, ImagesComeFromTheRoot) {
+    FakeHost host;
+    PixelImage image{2, 2, {kRed, kRed, kWhite, kWhite}};
+    host.PutFile("Pictures/two.png", EncodePng(image));
+    host.PutFile("Pictures/cut.png", EncodePng(image).substr(0, 20));
+    Picture picture;
+    const Image two = GdipLoadImageFromFile("\\pictures\\TWO.PNG");
+    EXPECT_EQ(two.width, 2);
+    EXPECT_EQ(two.height, 2);
+    GdipDrawImageI(picture.graphics, two, 10, 10);
+    GdipDrawImageI(picture.graphics, GdipLoadImageFromFile("\\Pictures\\cut.png"), 50, 10);
+    GdipDrawImageI(picture.graphics, GdipLoadImageFromFile("\\..\\two.png"), 50, 10);
+    EXPECT_EQ(picture.list.primitives.size(), 1U);
+    EXPECT_EQ(picture.Pixel(10, 10), kRed);
+    EXPECT_EQ(picture.Pixel(11, 11), kWhite);
+    EXPECT_EQ(picture.Pixel(12, 11), 0U);
 }
 
 TEST(Graphics, WhatCannotBeDrawnIsLeftOut) {

@@ -41,6 +41,12 @@ class Reader {
   text() { return new TextDecoder().decode(this.take(this.varint())); }
 }
 
+// Axes of their own for a pen or a text, as arguments of transform() after a rotation.
+function readAxes(reader) {
+  const rotation = reader.number() * Math.PI / 180, stretch = reader.number(1024), skew = reader.number(1024);
+  return {rotation, stretch, skew};
+}
+
 function readPath(reader) {
   const winding = reader.byte() === 1;
   const verbs = reader.take(reader.varint());
@@ -70,16 +76,17 @@ function readPrimitive(bytes) {
     }
     case 2: {
       const colour = reader.colour(), width = reader.number(), ends = reader.byte();
+      const axes = ends >= 16 ? readAxes(reader) : null;
       const dashes = [];
       for (let left = reader.varint(); left > 0; --left) dashes.push(reader.number());
       const path = readPath(reader);
-      return (canvas) => canvas.stroke(colour, width, ends, dashes, path);
+      return (canvas) => canvas.stroke(colour, width, ends % 16, axes, dashes, path);
     }
     case 3: {
       const colour = reader.colour();
-      const [x, y, size, rotation] = [reader.number(), reader.number(), reader.number(), reader.number()];
-      const stretch = reader.number(1024), family = reader.byte(), text = reader.text();
-      return (canvas) => canvas.text(colour, x, y, size, rotation, stretch, family, text);
+      const [x, y, size] = [reader.number(), reader.number(), reader.number()];
+      const axes = readAxes(reader), family = reader.byte(), text = reader.text();
+      return (canvas) => canvas.text(colour, x, y, size, axes, family, text);
     }
     case 4: {
       const [x, y, width, height, rotation] =
@@ -182,22 +189,30 @@ export class Screen {
     this.context.fillStyle = colour;
     this.context.fill(path.rule);
   }
-  stroke(colour, width, ends, dashes, path) {
+  enter({rotation, stretch, skew}) {
+    this.context.rotate(rotation);
+    this.context.transform(stretch, 0, skew, 1, 0, 0);
+  }
+  stroke(colour, width, ends, axes, dashes, path) {
     const {context} = this, halfX = 0.5 / this.sx, halfY = 0.5 / this.sy;
     this.trace(path, halfX, halfY);
     context.strokeStyle = colour;
-    context.lineWidth = Math.max(width, 2 * Math.min(halfX, halfY));
+    const least = 2 * Math.min(halfX, halfY), across = Math.max(width, least);
+    context.lineWidth = across;
     context.lineCap = ['butt', 'square', 'round'][ends % 4];
     context.lineJoin = ['miter', 'bevel', 'round'][Math.floor(ends / 4)];
     context.setLineDash(dashes);
+    if (!axes) return context.stroke();
+    context.save();
+    this.enter({...axes, stretch: Math.max(width * axes.stretch, least) / across});
     context.stroke();
+    context.restore();
   }
-  text(colour, x, y, size, rotation, stretch, family, text) {
+  text(colour, x, y, size, axes, family, text) {
     const {context} = this;
     context.save();
     context.translate(x, y);
-    context.rotate(rotation * Math.PI / 180);
-    context.scale(stretch, 1);
+    this.enter(axes);
     context.font = `bold ${size}px "${this.families[family] ?? this.families[0]}"`;
     context.fontKerning = 'none';
     context.textBaseline = 'alphabetic';
@@ -212,7 +227,12 @@ export class Screen {
     context.save();
     context.translate(x, y);
     context.rotate(rotation * Math.PI / 180);
-    context.drawImage(picture, 0, 0, width, height);
+    context.beginPath();
+    context.rect(0, 0, width, height);
+    context.clip();
+    // The first pixel has its middle where the first pixel of the place has it.
+    context.drawImage(picture, (1 / this.sx - width / picture.naturalWidth) / 2,
+                      (1 / this.sy - height / picture.naturalHeight) / 2, width, height);
     context.restore();
   }
   clipIn(path) {
