@@ -4,6 +4,8 @@
 #include <iterator>
 #include <span>
 
+#include "frame/named_variables.h"
+#include "state/cockpit.h"
 #include "state/displays.h"
 #include "state/side.h"
 #include "state/time_base.h"
@@ -173,6 +175,27 @@ void SelectHalf(int side, int half) {
     const int mode = displays.du_fo_inb_mode;
     const bool dead = half == kLeft ? mode < kFirstPfdLeft && Shows(mode, kLeft, kEicas) : mode == kModeFree;
     if (!dead) displays.dsp_fo_mode_button = half;
+}
+
+void ShowSelectLamps() {
+    const struct {
+        NamedVarRef variable;
+        int& shadow;
+        bool lit;
+    } kLamps[] = {
+        {NamedVar("TZ_MCP_L_MFD_L_GREEN"), cockpit.TZ_MCP_L_MFD_L_GREEN,
+         displays.dsp_capt_mode_button == kLeft},
+        {NamedVar("TZ_MCP_L_MFD_R_GREEN"), cockpit.TZ_MCP_L_MFD_R_GREEN,
+         displays.dsp_capt_mode_button == kRight},
+        {NamedVar("TZ_MCP_R_MFD_L_GREEN"), cockpit.TZ_MCP_R_MFD_L_GREEN,
+         displays.dsp_fo_mode_button == kLeft},
+        {NamedVar("TZ_MCP_R_MFD_R_GREEN"), cockpit.TZ_MCP_R_MFD_R_GREEN,
+         displays.dsp_fo_mode_button == kRight},
+    };
+    for (const auto& lamp : kLamps) {
+        lamp.shadow = lamp.lit ? 1 : 0;
+        WriteNamedVar(lamp.variable, lamp.shadow);
+    }
 }
 
 void MoveDisplaySelector(int position) {

@@ -19,6 +19,9 @@ void PressEicas();
 /// Chooses the half (1 left, 2 right) that a display select panel acts on.
 void SelectHalf(int side, int half);
 
+/// Lights the lamp of the half that each panel acts on, in place of the other half's.
+void ShowSelectLamps();
+
 /// The captain's PFD/MFD selector has come to a position: -1, 0 or 1.
 void MoveDisplaySelector(int position);
 

@@ -3,9 +3,16 @@
 #include "state/sound.h"
 
 // Cues of the control channel, by their number in the sound step's catalogue.
+constexpr int kCueSwitch = 2;  // this one and the next are silent: the model clicks itself
+constexpr int kCueButton = 3;
+constexpr int kCueSign = 4;
 constexpr int kCueExternalPower = 9;
 constexpr int kCueFuelOn = 12;
 constexpr int kCueKeyClick = 14;
+constexpr int kCueGuardOpen = 16;
+constexpr int kCueGuardShut = 17;
+constexpr int kCueCoverOpen = 18;
+constexpr int kCueCoverShut = 19;
 constexpr int kCueFansStart = 27;
 constexpr int kCueParkBrake = 201;
 

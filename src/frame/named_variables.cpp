@@ -32,6 +32,10 @@ void UnregisterNamedVars() {
     host_link.named_vars_registered = 0;
 }
 
+bool NamedVarExists(NamedVarRef variable) {
+    return IdOf(variable) >= 0;
+}
+
 double ReadNamedVar(NamedVarRef variable) {
     const int id = IdOf(variable);
     return id < 0 ? 0 : GetNamedVar(id);

@@ -18,10 +18,17 @@ consteval NamedVarRef NamedVar(std::string_view name) {
     throw "not a name of the catalogue";
 }
 
+constexpr std::string_view NameOf(NamedVarRef variable) {
+    return kNamedVariables[static_cast<std::size_t>(variable.row)].name;
+}
+
 /// Registers the names that are the module's own, once; UnregisterNamedVars takes them away again. Both drop
 /// the ids kept so far: a reload of the aircraft brings new ones.
 void RegisterNamedVars();
 void UnregisterNamedVars();
+
+/// The host knows the name now.
+bool NamedVarExists(NamedVarRef variable);
 
 double ReadNamedVar(NamedVarRef variable);
 void WriteNamedVar(NamedVarRef variable, double value);

@@ -5,6 +5,7 @@
 #include "platform/host.h"
 #include "state/autoflight.h"
 #include "state/cfg.h"
+#include "state/cockpit.h"
 #include "state/lnav.h"
 #include "state/plan.h"
 #include "state/vnav.h"
@@ -81,6 +82,7 @@ void StepDisconnect() {
         autoflight.ap_disc_lamp = 0;
         WriteNamedVar(NamedVar("TZ_MCP_Annun_WARN"), 0);
         if (cfg.DiscATOnAPDisc == 1) {
+            cockpit.TZ_OH_PFC_Safety_Switch = cockpit.TZ_OH_PFC_G_Switch = 1;
             WriteNamedVar(NamedVar("TZ_OH_PFC_Safety_Switch"), 1);
             WriteNamedVar(NamedVar("TZ_OH_PFC_G_Switch"), 1);
             cfg.PfcSwitch = kPfcNormal;

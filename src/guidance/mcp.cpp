@@ -11,9 +11,12 @@
 #include "platform/host.h"
 #include "state/autoflight.h"
 #include "state/cfg.h"
+#include "state/cockpit.h"
 #include "state/lnav.h"
+#include "state/requests.h"
 #include "state/sim.h"
 #include "state/time_base.h"
+#include "state/vnav.h"
 
 namespace {
 
@@ -131,7 +134,8 @@ bool TurnMcpKnob(std::string_view name, int detents) {
 }
 
 void MoveDisengageBar(bool down) {
-    WriteNamedVar(NamedVar("TZ_MCP_AP_DISENGAGE_Bar"), down ? 1 : 0);
+    cockpit.TZ_MCP_AP_DISENGAGE_Bar = down ? 1 : 0;
+    WriteNamedVar(NamedVar("TZ_MCP_AP_DISENGAGE_Bar"), cockpit.TZ_MCP_AP_DISENGAGE_Bar);
     if (!down) {
         WriteNamedVar(NamedVar("TZ_AP_DISENGAGE_Switch_Right"), 1);
         return;
@@ -139,5 +143,22 @@ void MoveDisengageBar(bool down) {
     WriteNamedVar(NamedVar("ap_master_disconnect"), 1);
     if (cfg.DiscPFCOnAPDisc != 1) return;
     cfg.PfcSwitch = kPfcDisconnected;
+    cockpit.TZ_OH_PFC_G_Switch = 1;
     WriteNamedVar(NamedVar("TZ_OH_PFC_G_Switch"), 1);
+}
+
+void PushAltitudeKnob() {
+    requests.mcp_alt_push = 1;
+}
+
+void ChangeOverIasMach() {
+    cockpit.mach_selected = cockpit.mach_selected == 0 ? 1 : 0;
+    WriteNamedVar(NamedVar("tz_mach_status"), cockpit.mach_selected);
+}
+
+void TransferFmcSpeed() {
+    constexpr double kLowest = 100, kHighest = 399;  // of the speed window
+    if (vnav.vnav_ias < kLowest) return;
+    sim.ap_spdbug = std::min(std::round(vnav.vnav_ias), kHighest);
+    SendKeyEvent(kKeySpeedSet, WholeNumber(sim.ap_spdbug));
 }

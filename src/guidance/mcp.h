@@ -15,3 +15,12 @@ bool TurnMcpKnob(std::string_view knob, int detents);
 
 /// Moves the autopilot disengage bar down or back up.
 void MoveDisengageBar(bool down);
+
+/// Presses the altitude knob; VNAV takes the request.
+void PushAltitudeKnob();
+
+/// Changes the speed window over between knots and Mach.
+void ChangeOverIasMach();
+
+/// Puts the speed that VNAV flies into the speed window. Without one the window stays.
+void TransferFmcSpeed();

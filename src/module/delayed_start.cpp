@@ -6,7 +6,7 @@
 #include "frame/named_variables.h"
 #include "frame/snapshot.h"
 #include "frame/tokens.h"
-#include "module/control_table.h"
+#include "module/controls/control_table.h"
 #include "module/model_settings.h"
 #include "platform/host.h"
 #include "state/cfg.h"

@@ -5,6 +5,7 @@
 
 #include "fmc/route_operations.h"
 #include "fmc/route_text.h"
+#include "module/controls/control_table.h"
 #include "module/pictures.h"
 #include "module/printed_lists.h"
 #include "module/pure_functions.h"
@@ -100,6 +101,20 @@ int PrintListByName(const char* list, const char* argument, ResultSink sink, voi
     return PrintList(list, argument, {sink, context});
 }
 
+int ListControls(ResultSink sink, void* context) {
+    const Results results{sink, context};
+    for (const PollSet& set : PollSets())
+        for (const Control& control : set.controls) {
+            const Control* guard = control.guard != nullptr ? FindGuard(control.guard) : nullptr;
+            const std::string_view guard_name = guard != nullptr ? NameOf(guard->variable) : "-";
+            results.Add(NameOf(control.variable), std::string(ClassName(control.kind)) + " " + set.name +
+                                                      " " + std::to_string(control.min) + " " +
+                                                      std::to_string(control.max) + " " +
+                                                      std::string(guard_name));
+        }
+    return 1;
+}
+
 constexpr InspectionTable kInspection = {
     .version = kLinkageVersion,
     .read_variable = ReadVariable,
@@ -114,6 +129,7 @@ constexpr InspectionTable kInspection = {
     .picture = CopyPicture,
     .picture_png = CopyPicturePng,
     .list_fonts = ListFonts,
+    .list_controls = ListControls,
 };
 
 }  // namespace

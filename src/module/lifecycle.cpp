@@ -8,7 +8,7 @@
 #include "frame/keyboard_capture.h"
 #include "frame/named_variables.h"
 #include "frame/sim_client.h"
-#include "module/control_table.h"
+#include "module/controls/control_table.h"
 #include "module/service_cycle.h"
 #include "navdata/nav_tables.h"
 #include "platform/host.h"

@@ -45,6 +45,11 @@ struct InspectionTable {
     int (*picture_png)(const char* gauge, double scale, ByteSink sink, void* context);
     /// The font families by the numbers of the picture form: family, font file.
     int (*list_fonts)(ResultSink sink, void* context);
+    /// Every control of the cockpit, in the order of the poll: its named variable, "CLASS SET MIN MAX GUARD".
+    /// CLASS: latching, momentary (springs back to 0), switch (stops at MIN and MAX), rotary (goes on beyond
+    /// MAX at MIN), knob (toggles), guarded (stays in once pressed), guard (0 shut, 1 open), mirrored (only
+    /// read). GUARD: the variable of the guard that must stand at 1, or "-".
+    int (*list_controls)(ResultSink sink, void* context);
 };
 
 struct ModuleLinkage {

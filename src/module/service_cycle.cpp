@@ -8,6 +8,7 @@
 #include "frame/named_variables.h"
 #include "frame/snapshot.h"
 #include "frame/tokens.h"
+#include "module/controls/control_table.h"
 #include "module/delayed_start.h"
 #include "module/main_update.h"
 #include "module/tick_outputs.h"
@@ -75,6 +76,7 @@ void RunUpdateCycle(bool virtual_cockpit) {
     if (virtual_cockpit && main_panel_visible) return;
     if (module_life.outputs_running == 1) {
         time_base.frame_phase = time_base.frame_phase >= 17 ? 0 : time_base.frame_phase + 1;
+        PollControls();
         TickOutputs();
     }
 }

@@ -22,6 +22,8 @@ struct CduState {
     std::string ScratchMessage;  // hides the scratchpad while not empty
     int ItemCursor = 0;
     int PendingLine = 0;  // line key waiting for the next page call: 1-6 left, 9-14 right
+    int PrevPagePending = 0, NextPagePending = 0;  // until a page with several pages takes them
+    int PendingItem = 0;  // item of the face that a KEYPRESS variable names; 0 = none
     int PcKeyboardActive = 0;
     GrowingList<CduMessage> CduMessages;  // from 1, CduMessageCount is the newest
     int CduMessageCount = 0;

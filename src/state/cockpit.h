@@ -15,12 +15,12 @@ struct CockpitState {
     int TZ_OH_AI_L_ENG_Switch = 0;
     int TZ_OH_AI_R_ENG_Switch = 0;
     int TZ_OH_APU_FIRE_HNDL = 0;
+    int TZ_annun_ovhd_test = 0;      // the model's lamp test
     int apu_gen_button = 0;          // TZ_OH_APU_GEN_LEFT_Button
     int bulk_cargo_heat_button = 0;  // TZ_OH_Bulk_Button
     int TZ_OH_CABIN_Temp_Switch = 0;
     int TZ_OH_CAB_CHM_Button = 0;
     int cabin_util_button = 0;  // TZ_OH_CAB_UTIL_Button
-    int TZ_OH_CCR_L_Button = 0;
     int TZ_OH_CFA_AFT_Button = 0;
     int TZ_OH_CFA_DISCH_Button = 0;
     int TZ_OH_CFA_FWD_Button = 0;
@@ -119,17 +119,31 @@ struct CockpitState {
     int TZ_OH_WING_ANTICE_Switch = 0;
     // glareshield, main panel, pedestal
     int TZ_MCP_AP_DISENGAGE_Bar = 0;
+    int hdg_trk_mode = 0;   // TZ_MCP_HDG_TRK_Status: 0 heading, 1 track
+    int mach_selected = 0;  // the MCP speed is a Mach number; TZ_MCP_IAS_MACH_Button changes over
+    // where the turning knobs have last been seen
+    int TZ_MCP_L_BAROSET_Knob = 0;
+    int TZ_MCP_R_BAROSET_Knob = 0;
+    int TZ_MCP_L_SEL_RB_Knob = 0;
+    int TZ_MCP_L_NDMAP_Knob = 0;  // 0 MAP, 1 PLAN
+    int TZ_MCP_R_NDMAP_Knob = 0;
     int capt_fd_switch = 0;  // TZ_MCP_L_FD_Switch
     int fo_fd_switch = 0;    // TZ_MCP_R_FD_Switch
     int TZ_MAIN_AIRDATA_ATT_L_Switch = 0;
     int TZ_MAIN_AIRDATA_ATT_R_Switch = 0;
     int TZ_MAIN_PFD_MFD_L_Switch = 0;
+    int TZ_AFT_ENG1_FIRE_HNDL = 0;
+    int TZ_AFT_ENG2_FIRE_HNDL = 0;
     int TZ_AFT_FD_DOOR_Switch = 0;
     int TZ_AFT_OBS_Audio_Switch = 0;
     int TZ_AFT_Transponder_Knob = 0;
     int TZ_THQ_Altn_flpas_Switch = 0;
     int TZ_THQ_Stab_Norm_L2 = 0;
     int TZ_THQ_Stab_Norm_R2 = 0;
+    int TZ_OXYGEN_TEST_Switch01 = 0;
+    int TZ_tcp1_FLAP_OVRD = 0;
+    int TZ_tcp1_GEAR_OVRD = 0;
+    int TZ_tcp1_TERR_OVRD = 0;
     int autobrake_switch = 0;  // auto_brake_switch
     int TZ_MCP_L_MFD_L_GREEN = 0;
     int TZ_MCP_L_MFD_R_GREEN = 0;

@@ -15,6 +15,7 @@ constexpr Variable kRows[] = {
     {"wpt_log_ticks", &time_base.wpt_log_ticks},
     {"startup_msg_ticks", &time_base.startup_msg_ticks},
     {"startup_sound_msg_ticks", &time_base.startup_sound_msg_ticks},
+    {"capt_mcp_clock_mode", &time_base.capt_mcp_clock_mode},
     {"et_clock_running", &time_base.et_clock_running},
     {"et_seconds", &time_base.et_seconds},
     {"et_minutes", &time_base.et_minutes},

@@ -17,8 +17,9 @@ struct TimeBase {
     int wpt_log_ticks = 0;        // ticks, counted with LogWptTurnData
     int startup_msg_ticks = 0;    // ticks, stands at 2500
     int startup_sound_msg_ticks = 0;
-    int last_seconds = -1;     // the seconds token at the previous tick; -1 = not yet read
-    int et_clock_running = 0;  // elapsed-time clock
+    int last_seconds = -1;        // the seconds token at the previous tick; -1 = not yet read
+    int capt_mcp_clock_mode = 0;  // elapsed-time clock: 0 blank, 1 running, 2 stopped
+    int et_clock_running = 0;     // elapsed-time clock
     int et_seconds = 0;
     int et_minutes = 0;
 };

@@ -181,18 +181,12 @@ int LoadShedLevel() {
 
 }  // namespace
 
-void StepExternalPower() {
-    const int phase = time_base.tick_phase;
-    if (phase != 0 && phase != 6 && phase != 10 && phase != 14) return;
-    const int wanted = ReadNamedVar(NamedVar("ext_power_avail")) != 0 ? 1 : 0;
-    if (wanted == electrical.fwd_ext_pwr_avail) return;
-    if (wanted == 0) {
-        electrical.fwd_ext_pwr_avail = 0;
-    } else if (sim.on_ground == 1 && sim.ground_speed_kt < 2) {
-        electrical.fwd_ext_pwr_avail = 1;
+void FollowExternalPower(int) {
+    if (electrical.fwd_ext_pwr_avail == 0) return;
+    if (sim.on_ground == 1 && sim.ground_speed_kt < 2)
         RequestCue(kCueExternalPower);
-    }
-    WriteNamedVar(NamedVar("ext_power_avail"), electrical.fwd_ext_pwr_avail);
+    else
+        electrical.fwd_ext_pwr_avail = 0;
 }
 
 void StepElectricalPower() {

@@ -2,9 +2,8 @@
 
 // Electrical power as one sum of what feeds the aircraft; thresholds of the sum decide what works.
 
-/// External power is connected or taken away by the model: refused in the air or while rolling, the model is
-/// then put back. Looks at it in four phases of a second.
-void StepExternalPower();
+/// External power has been connected or taken away by the model; in the air or while rolling it isn't taken.
+void FollowExternalPower(int before);
 
 /// Once a second: start-up counters of the Display Units, all sources, the sum, the buses, the RAT and the
 /// load shed state.

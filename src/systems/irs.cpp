@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include "frame/named_variables.h"
-#include "platform/host.h"
 #include "state/cfg.h"
 #include "state/cockpit.h"
 #include "state/irs.h"
@@ -18,25 +16,20 @@ struct IrsUnit {
     int CockpitState::*knob;
     int IrsState::*timer;
     int IrsState::*aligned;
-    NamedVarRef switch_variable;
 };
 constexpr IrsUnit kUnits[] = {
-    {&CockpitState::irs_left_knob, &IrsState::irs_timer_l, &IrsState::irs_left,
-     NamedVar("TZ_OH_IRS_LEFT_Switch")},
-    {&CockpitState::irs_right_knob, &IrsState::irs_timer_r, &IrsState::irs_right,
-     NamedVar("TZ_OH_IRS_RIGHT_Switch")},
+    {&CockpitState::irs_left_knob, &IrsState::irs_timer_l, &IrsState::irs_left},
+    {&CockpitState::irs_right_knob, &IrsState::irs_timer_r, &IrsState::irs_right},
 };
 
 }  // namespace
 
-void ToggleIrsKnob(int side) {
+void FollowIrsKnob(int side) {
     const IrsUnit& unit = kUnits[side == kFirstOfficer ? 1 : 0];
-    cockpit.*unit.knob = cockpit.*unit.knob == 0 ? 1 : 0;
     if (cockpit.*unit.knob == 1)
         irs.*unit.timer = std::max(std::clamp(cfg.IrsAlignSecs, 0, kMostAlignSecs) * kTicksPerSecond, 1);
     else
         irs.*unit.aligned = 0;
-    WriteNamedVar(unit.switch_variable, cockpit.*unit.knob);
 }
 
 void StepIrs() {
@@ -48,11 +41,4 @@ void StepIrs() {
         else if (--timer == 0)
             irs.*unit.aligned = 1;
     }
-}
-
-void ReadAttitudeSwitches() {
-    cockpit.TZ_MAIN_AIRDATA_ATT_L_Switch =
-        WholeNumber(ReadNamedVar(NamedVar("TZ_MAIN_AIRDATA_ATT_L_Switch")));
-    cockpit.TZ_MAIN_AIRDATA_ATT_R_Switch =
-        WholeNumber(ReadNamedVar(NamedVar("TZ_MAIN_AIRDATA_ATT_R_Switch")));
 }

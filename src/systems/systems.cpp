@@ -8,7 +8,6 @@
 #include "systems/irs.h"
 
 void SystemsTick() {
-    StepExternalPower();
     StepBattery();
     StepApu();
     StepIrs();
@@ -26,7 +25,6 @@ void SystemsSecond(int group) {
             break;
         case 3:
             UpdateFlapSpeedRow();
-            ReadAttitudeSwitches();
             break;
         default:
             break;

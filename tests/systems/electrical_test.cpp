@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "frame/tokens.h"
+#include "module/controls/control_table.h"
 #include "state/cfg.h"
 #include "state/cockpit.h"
 #include "state/displays.h"
@@ -281,7 +282,7 @@ TEST(Electrical, ExternalPowerComesOnlyToAParkedAircraft) {
         FakeHost host;
         host.NamedVar("ext_power_avail") = row.wanted;
         SetVariables(row.set);
-        StepExternalPower();
+        PollControls();
         EXPECT_EQ(electrical.fwd_ext_pwr_avail, row.taken) << row.set;
         EXPECT_EQ(host.NamedVar("ext_power_avail"), row.taken) << row.set;
         EXPECT_EQ(sound.event_cue, row.cue) << row.set;
@@ -289,7 +290,7 @@ TEST(Electrical, ExternalPowerComesOnlyToAParkedAircraft) {
     FakeHost host;
     host.NamedVar("ext_power_avail") = 1;
     SetVariables("on_ground 1, tick_phase 7");
-    StepExternalPower();
+    PollControls();
     EXPECT_EQ(electrical.fwd_ext_pwr_avail, 0) << "not looked at in this phase";
 }
 

@@ -10,29 +10,33 @@
 
 namespace {
 
+void TurnKnob(int side) {
+    int& knob = side == kCaptain ? cockpit.irs_left_knob : cockpit.irs_right_knob;
+    knob = knob == 0 ? 1 : 0;
+    FollowIrsKnob(side);
+}
+
 TEST(Irs, AlignsAfterItsTimeInTicks) {
     FakeHost host;
-    host.NamedVar("TZ_OH_IRS_RIGHT_Switch") = 0;
-    ToggleIrsKnob(kFirstOfficer);
-    EXPECT_EQ(host.NamedVar("TZ_OH_IRS_RIGHT_Switch"), 1);
+    TurnKnob(kFirstOfficer);
     for (int tick = 0; tick < 179; ++tick) StepIrs();
     EXPECT_EQ(irs.irs_right, 0);
     StepIrs();
     EXPECT_EQ(irs.irs_right, 1);
     EXPECT_EQ(irs.irs_left, 0);
-    ToggleIrsKnob(kFirstOfficer);
+    TurnKnob(kFirstOfficer);
     EXPECT_EQ(irs.irs_right, 0);
-    ToggleIrsKnob(kFirstOfficer);
+    TurnKnob(kFirstOfficer);
     EXPECT_EQ(irs.irs_timer_r, 180);
-    ToggleIrsKnob(kFirstOfficer);  // off during the alignment
+    TurnKnob(kFirstOfficer);  // off during the alignment
     StepIrs();
     EXPECT_EQ(irs.irs_timer_r, 0);
     EXPECT_EQ(irs.irs_right, 0);
     cfg.IrsAlignSecs = 2000000000;  // as a file may have it
-    ToggleIrsKnob(kFirstOfficer);
+    TurnKnob(kFirstOfficer);
     EXPECT_GT(irs.irs_timer_r, 0);
     cfg.IrsAlignSecs = 0;
-    ToggleIrsKnob(kCaptain);
+    TurnKnob(kCaptain);
     StepIrs();
     EXPECT_EQ(irs.irs_left, 1);
 }

@@ -1,0 +1,19 @@
+#pragma once
+
+// What the navigation display's controls of a side (kCaptain, kFirstOfficer) do.
+
+/// Sets the range by the range knob's position, 0 to 11.
+void FollowRangeKnob(int side);
+
+/// Moves the range knob by steps and stops at its ends.
+void StepRange(int side, int steps);
+
+/// 3 MAP, 4 PLAN. PLAN begins at the first leg, and around the aircraft unless a centre has been set.
+void SelectNdMode(int side, int mode);
+
+void ToggleNdCentre(int side);
+
+/// The panel's buttons: weather and terrain exclude each other.
+void PressWeatherButton(int side);
+void PressTerrainButton(int side);
+void PressTrafficButton(int side);

@@ -1,0 +1,94 @@
+#include "module/controls/control_table.h"
+
+#include <initializer_list>
+
+#include "module/controls/operate.h"
+#include "module/controls/panels.h"
+#include "state/cockpit.h"
+#include "state/time_base.h"
+
+namespace {
+
+constexpr int kPhases = 18;
+
+constexpr unsigned At(std::initializer_list<int> phases) {
+    unsigned bits = 0;
+    for (const int phase : phases) bits |= 1u << phase;
+    return bits;
+}
+constexpr unsigned kAlways = (1u << kPhases) - 1;
+
+// About a quarter of the controls in one frame: each is seen within a fifth of a second.
+const PollSet kSets[] = {
+    {"always", kAlways, AlwaysPolledControls()},
+    {"overhead_forward", At({0, 4, 8, 12}), ForwardOverheadControls()},
+    {"overhead_middle", At({1, 5, 9, 13}), MiddleOverheadControls()},
+    {"overhead_engine", At({2, 6, 10, 14}), EngineOverheadControls()},
+    {"air_and_tablets", At({3, 7, 11, 15}), AirAndTabletControls()},
+    {"keypads", At({4, 8, 12, 16}), KeypadControls()},
+    {"displays", At({5, 9, 13, 17}), DisplayControls()},
+    {"glareshield", At({0, 6, 10, 14}), GlareshieldControls()},
+    {"other", At({1, 5, 9, 13}), OtherControls()},
+};
+
+struct PanelLamp {
+    NamedVarRef variable;
+    const int* lit;
+};
+constexpr PanelLamp kLamps[] = {
+    {NamedVar("TZ_MCP_L_MFD_L_GREEN"), &cockpit.TZ_MCP_L_MFD_L_GREEN},
+    {NamedVar("TZ_MCP_L_MFD_R_GREEN"), &cockpit.TZ_MCP_L_MFD_R_GREEN},
+    {NamedVar("TZ_MCP_R_MFD_L_GREEN"), &cockpit.TZ_MCP_R_MFD_L_GREEN},
+    {NamedVar("TZ_MCP_R_MFD_R_GREEN"), &cockpit.TZ_MCP_R_MFD_R_GREEN},
+    {NamedVar("TZ_MCP_Annun_CAUT"), &cockpit.TZ_MCP_Annun_CAUT},
+    {NamedVar("TZ_MCP_Annun_WARN"), &cockpit.TZ_MCP_Annun_WARN},
+    {NamedVar("TZ_MCP_AnnunR_CAUT"), &cockpit.TZ_MCP_AnnunR_CAUT},
+    {NamedVar("TZ_MCP_AnnunR_WARN"), &cockpit.TZ_MCP_AnnunR_WARN},
+};
+
+}  // namespace
+
+std::span<const PollSet> PollSets() {
+    return kSets;
+}
+
+const Control* FindControl(std::string_view variable) {
+    for (const PollSet& set : kSets)
+        for (const Control& control : set.controls)
+            if (NameOf(control.variable) == variable) return &control;
+    return nullptr;
+}
+
+const Control* FindGuard(const int* shadow) {
+    for (const PollSet& set : kSets)
+        for (const Control& control : set.controls)
+            if (control.shadow == shadow && control.kind == ControlClass::kGuard) return &control;
+    return nullptr;
+}
+
+void ShowShadow(const int* shadow) {
+    for (const PollSet& set : kSets)
+        for (const Control& control : set.controls)
+            if (control.shadow == shadow) WriteNamedVar(control.variable, *shadow);
+}
+
+const char* ClassName(ControlClass kind) {
+    constexpr const char* kNames[] = {"latching", "momentary", "switch", "rotary",
+                                      "knob",     "guarded",   "guard",  "mirrored"};
+    return kNames[static_cast<std::size_t>(kind)];
+}
+
+void WriteControlVariables() {
+    for (const PollSet& set : kSets)
+        for (const Control& control : set.controls)
+            if (control.shadow != nullptr && !control.kept_by_model)
+                WriteNamedVar(control.variable, *control.shadow);
+    for (const PanelLamp& lamp : kLamps) WriteNamedVar(lamp.variable, *lamp.lit);
+}
+
+void PollControls() {
+    const unsigned now = 1u << time_base.tick_phase;
+    for (const PollSet& set : kSets)
+        if ((set.phases & now) != 0)
+            for (const Control& control : set.controls) PollControl(control);
+}

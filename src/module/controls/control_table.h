@@ -1,0 +1,35 @@
+#pragma once
+
+#include <span>
+#include <string_view>
+
+#include "module/controls/control.h"
+
+/// The controls that are polled together.
+struct PollSet {
+    const char* name;
+    unsigned phases;  // bit n: polled at tick_phase n
+    std::span<const Control> controls;
+};
+
+/// Every control of the cockpit, in the order in which one poll goes through them.
+std::span<const PollSet> PollSets();
+
+/// The control of a named variable; null for a name that is no control's.
+const Control* FindControl(std::string_view variable);
+
+/// The guard whose position stands in `shadow`; null when none does.
+const Control* FindGuard(const int* shadow);
+
+/// The word for a class as the inspection table has it.
+const char* ClassName(ControlClass kind);
+
+/// Writes a shadow into the variable of each control that shows it.
+void ShowShadow(const int* shadow);
+
+/// Writes each shadow and panel lamp into its named variable, so that the model agrees with it. What the
+/// model knows better is left out.
+void WriteControlVariables();
+
+/// Looks for clicks in the virtual cockpit: the sets that are due at this tick_phase.
+void PollControls();

@@ -1,0 +1,130 @@
+#include "module/controls/operate.h"
+
+#include <algorithm>
+
+#include "frame/cues.h"
+#include "module/controls/control_table.h"
+#include "platform/host.h"
+#include "platform/panel_gauges.h"
+
+namespace {
+
+void Follow(const Control& control, int before) {
+    if (control.follow != nullptr) control.follow(before);
+}
+
+int CueOf(const Control& control) {
+    const bool shut = control.kind == ControlClass::kGuard && *control.shadow == 0;
+    return shut ? control.cue + 1 : control.cue;
+}
+
+void Ask(int cue) {
+    if (cue != 0) RequestCue(cue);
+}
+
+// A move that the end stop, the guard or the follower refuses makes no sound.
+void MoveTo(const Control& control, int position) {
+    int& shadow = *control.shadow;
+    const int before = shadow;
+    const bool guard_open = control.guard == nullptr || *control.guard != 0;
+    if (guard_open && position != before) {
+        shadow = position;
+        Follow(control, before);
+        if (shadow != before) Ask(CueOf(control));
+    }
+    ShowShadow(&shadow);
+}
+
+void Step(const Control& control, int step) {
+    MoveTo(control, std::clamp(*control.shadow + step, control.min, control.max));
+}
+
+void Toggle(const Control& control) {
+    MoveTo(control, *control.shadow == 0 ? 1 : 0);
+}
+
+void Press(const Control& control, int value) {
+    Follow(control, value);
+    Ask(control.cue);
+    WriteNamedVar(control.variable, 0);
+}
+
+void Turn(const Control& control, int position, int step) {
+    *control.shadow = position;
+    Follow(control, step);
+    Ask(control.cue);
+    ShowShadow(control.shadow);
+}
+
+int TurnedBy(const Control& control, double from, double to) {
+    if (from == control.max && to == control.min) return 1;
+    if (from == control.min && to == control.max) return -1;
+    return to > from ? 1 : -1;
+}
+
+int Wrapped(const Control& control, int position) {
+    return position > control.max ? control.min : position < control.min ? control.max : position;
+}
+
+}  // namespace
+
+void ClickControl(const Control& control, std::uint32_t mouse_flag) {
+    const bool right = mouse_flag == kMouseRightSingle;
+    if (right && control.guard != nullptr) {
+        if (const Control* guard = FindGuard(control.guard)) Toggle(*guard);
+        return;
+    }
+    switch (control.kind) {
+        case ControlClass::kLatching:
+        case ControlClass::kKnob:
+        case ControlClass::kGuard:
+            Toggle(control);
+            break;
+        case ControlClass::kMomentary:
+            Press(control, right ? 2 : 1);
+            break;
+        case ControlClass::kSwitch:
+            Step(control, right ? 1 : -1);
+            break;
+        case ControlClass::kRotary: {
+            const int step = right ? 1 : -1;
+            Turn(control, Wrapped(control, *control.shadow + step), step);
+            break;
+        }
+        case ControlClass::kOneWay:
+            MoveTo(control, 1);
+            break;
+        case ControlClass::kMirrored:
+            break;
+    }
+}
+
+void PollControl(const Control& control) {
+    if (!NamedVarExists(control.variable)) return;  // 0 is then no position
+    const double value = ReadNamedVar(control.variable);
+    if (control.kind == ControlClass::kMomentary) {
+        if (value != 0) Press(control, WholeNumber(value));
+        return;
+    }
+    const int before = *control.shadow;
+    if (control.kind == ControlClass::kMirrored) {
+        *control.shadow = WholeNumber(value);
+        Follow(control, before);
+        return;
+    }
+    if (value == before) return;
+    switch (control.kind) {
+        case ControlClass::kSwitch:
+            Step(control, value > before ? 1 : -1);
+            break;
+        case ControlClass::kRotary:
+            Turn(control, Wrapped(control, WholeNumber(value)), TurnedBy(control, before, value));
+            break;
+        case ControlClass::kOneWay:
+            MoveTo(control, 1);
+            break;
+        default:
+            Toggle(control);
+            break;
+    }
+}

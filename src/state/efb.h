@@ -1,0 +1,44 @@
+#pragma once
+
+#include <array>
+#include <span>
+
+#include "state/variable.h"
+
+/// Bezel keys of a tablet by number: the line keys L1 to L8 and R1 to R8 come first.
+enum EfbKey {
+    kEfbNoKey,
+    kEfbL1,
+    kEfbR1 = 9,
+    kEfbMenu = 17,
+    kEfbPageUp,
+    kEfbPageDown,
+    kEfbPower,
+    kEfbTransfer,
+    kEfbRedirect,
+    kEfbUp,  // from here on the captain's alone
+    kEfbDown,
+    kEfbLeft,
+    kEfbRight,
+    kEfbZoomIn,
+    kEfbZoomOut,
+};
+
+struct EfbSide {
+    int pending_key = 0;               // EfbKey that its page has not yet taken
+    int EfbMouseX = 0, EfbMouseY = 0;  // last touch, in the 340 by 448 canvas
+    int touch_pending = 0;             // it has not yet been taken
+};
+
+/// The two tablets; all but what a side presses is common to both.
+struct EfbState {
+    double EfbBrightness = 1;     // 0 to 1
+    std::array<EfbSide, 2> side;  // captain, first officer
+};
+
+extern EfbState efb;
+extern const std::span<const Variable> kEfbVariables;
+
+inline EfbSide& EfbOf(int side) {
+    return efb.side[side == 2 ? 1 : 0];
+}

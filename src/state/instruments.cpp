@@ -1,0 +1,17 @@
+#include "state/instruments.h"
+
+InstrumentState instruments;
+
+namespace {
+constexpr Variable kRows[] = {
+    {"capt.fpv_on", &instruments.pfd[0].fpv_on},       {"fo.fpv_on", &instruments.pfd[1].fpv_on},
+    {"capt.mtrs_on", &instruments.pfd[0].mtrs_on},     {"fo.mtrs_on", &instruments.pfd[1].mtrs_on},
+    {"capt.baro_hpa", &instruments.pfd[0].baro_hpa},   {"fo.baro_hpa", &instruments.pfd[1].baro_hpa},
+    {"minimums_baro", &instruments.minimums_baro},     {"minimums_value", &instruments.minimums_value},
+    {"minimums_mode", &instruments.minimums_mode},     {"hud_declutter", &instruments.hud_declutter},
+    {"stby_brightness", &instruments.stby_brightness}, {"stby_app_mode", &instruments.stby_app_mode},
+    {"stby_baro_in", &instruments.stby_baro_in},
+};
+}  // namespace
+
+const std::span<const Variable> kInstrumentVariables = kRows;

@@ -1,0 +1,13 @@
+#include "state/requests.h"
+
+RequestState requests;
+
+namespace {
+constexpr Variable kRows[] = {
+    {"cancel_recall_request", &requests.cancel_recall}, {"warning_reset_request", &requests.warning_reset},
+    {"uplink_accept_request", &requests.uplink_accept}, {"uplink_reject_request", &requests.uplink_reject},
+    {"uplink_cancel_request", &requests.uplink_cancel}, {"mcp_alt_push_request", &requests.mcp_alt_push},
+};
+}  // namespace
+
+const std::span<const Variable> kRequestVariables = kRows;
