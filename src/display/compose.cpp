@@ -1,89 +1,123 @@
 #include "display/compose.h"
 
+#include "display/aux_strip.h"
+#include "display/content_place.h"
 #include "display/modes.h"
 #include "paint/painter.h"
 #include "state/displays.h"
+#include "state/side.h"
 
 namespace {
 
 constexpr int kWidth = 564, kHeight = 424, kHalf = 282;
 
-// A format that isn't built yet shows its name in the middle of its place, so that routing can be seen.
-void DrawName(Graphics& graphics, int x, int width, int height, const char* name) {
-    const float size = 20;
-    const double text = static_cast<double>(std::string_view(name).size()) * 0.6 * size;
-    Text(graphics, x + (width - text) / 2 - size / 6, height / 2.0 - size, size, kBlueGrey, name);
-}
-
 // The white stands unscaled.
-void DrawSelect(Graphics& graphics, int left) {
-    GdipFillRectangleI(graphics, GdipCreateSolidFill(0xffdee6e9), left + 81, 186, 120, 24);
-    TextIn(graphics, "Velarion900DispL", left + 88, 190, 14, kBlack, "SELECT MFD");
+void DrawSelectPrompt(Graphics& graphics, const ContentPlace& place) {
+    constexpr Argb kFill = 0xffdee6e9;
+    constexpr int kTop = 190, kBoxWidth = 120, kBoxHeight = 24;
+    const int middle = (place.half == 1 ? 0 : kHalf) + kHalf / 2;
+    GdipFillRectangleI(graphics, GdipCreateSolidFill(kFill), middle - kBoxWidth / 2, kTop - 4, kBoxWidth,
+                       kBoxHeight);
+    CentredText(graphics, middle, kTop, 14, kBlack, "SELECT MFD");
 }
 
-struct Place {
-    int left, width;
+struct ContentRow {
+    Content content;
+    void (*draw)(Graphics& graphics, const ContentPlace& place);
+};
+constexpr ContentRow kContents[] = {
+    {Content::kAux, DrawAuxStrip},
+    {Content::kSelect, DrawSelectPrompt},
 };
 
-// Where a content stands: the PFD beside the auxiliary strip takes what that leaves.
-Place PlaceOf(int mode, int half) {
-    if (mode == 1) return half == 1 ? Place{0, 182} : Place{182, 382};
-    if (mode == 2) return half == 1 ? Place{0, 382} : Place{382, 182};
-    return half == 1 ? Place{0, kHalf} : Place{kHalf, kHalf};
+// A format that isn't built yet shows its name in the middle of its place, so that routing can be seen.
+void DrawName(Graphics& graphics, double middle, double height, const char* name) {
+    constexpr float kSize = 20;
+    CentredText(graphics, middle, height / 2 - kSize, kSize, kBlueGrey, name);
 }
 
-void DrawContent(Graphics& graphics, Content content, int mode, int half) {
-    const Place place = PlaceOf(mode, half);
-    switch (content) {
-        case Content::kNone:
-            break;
-        case Content::kSelect:
-            DrawSelect(graphics, place.left);
-            break;
-        case Content::kInfo:
-            DrawName(graphics, place.left, place.width, kHeight, ContentName(content));
-            if (displays.info_page != 1 && displays.info_status > 0) displays.info_status = 0;
-            break;
-        default:
-            DrawName(graphics, place.left, place.width, kHeight, ContentName(content));
-            break;
-    }
+// The middle of a half; the PFD beside the auxiliary strip has what that leaves.
+double MiddleOf(const ContentPlace& place) {
+    constexpr double kStrip = 182;
+    if (place.mode == kModeWideNd) return kWidth / 2.0;
+    const double boundary = place.mode == 1 ? kStrip : place.mode == 2 ? kWidth - kStrip : kHalf;
+    return place.half == 1 ? boundary / 2 : (boundary + kWidth) / 2;
+}
+
+int SideOf(Content content, int unit, int half) {
+    if (unit <= 2) return kCaptain;
+    if (unit <= 4) return kFirstOfficer;
+    return content == Content::kNd || half == 1 ? kCaptain : kFirstOfficer;
+}
+
+ContentPlace PlaceOf(Content content, int mode, int unit, int half) {
+    ContentPlace place{.mode = mode,
+                       .unit = unit,
+                       .half = half,
+                       .side = SideOf(content, unit, half),
+                       .narrow = content == Content::kPfd && mode >= 80 && mode <= 87,
+                       .system_page = SystemPageOf(unit, half)};
+    if (content == Content::kNd) place.unit = place.side == kCaptain ? 2 : 3;
+    return place;
+}
+
+void DrawContent(Graphics& graphics, Content content, const ContentPlace& place) {
+    GdipResetWorldTransform(graphics);
+    GdipResetClip(graphics);
+    const ContentRow* row = nullptr;
+    for (const ContentRow& candidate : kContents)
+        if (candidate.content == content) row = &candidate;
+    if (row != nullptr)
+        row->draw(graphics, place);
+    else
+        DrawName(graphics, MiddleOf(place), kHeight, ContentName(content));
+    // What the crew has been told on the first information page is told once.
+    if (content == Content::kInfo && displays.info_page != 1 && displays.info_status > 0)
+        displays.info_status = 0;
+}
+
+void DrawContents(Graphics& graphics, int mode, int unit) {
+    const auto contents = ContentsOf(mode);
+    if (!contents) return;
+    DrawContent(graphics, contents->left, PlaceOf(contents->left, mode, unit, 1));
+    if (mode != kModeWideNd) DrawContent(graphics, contents->right, PlaceOf(contents->right, mode, unit, 2));
+    GdipResetWorldTransform(graphics);
+    GdipResetClip(graphics);
 }
 
 void DrawDivider(Graphics& graphics, int mode) {
-    const int x = mode == 1 ? 181 : mode == 2 ? 381 : 281;
-    FilledBox(graphics, x, 0, 3, 425, kBlack);
+    constexpr int kBarWidth = 3, kBarHeight = 425;
     constexpr Rgb kGrey{82, 82, 82};
-    Line(graphics, x - 1, 0, x - 1, 425, kGrey, 2);
-    Line(graphics, x + 3, 0, x + 3, 425, kGrey, 2);
+    const int x = mode == 1 ? 181 : mode == 2 ? 381 : 281;
+    FilledBox(graphics, x, 0, kBarWidth, kBarHeight, kBlack);
+    Line(graphics, x - 1, 0, x - 1, kBarHeight, kGrey, 2);
+    Line(graphics, x + kBarWidth, 0, x + kBarWidth, kBarHeight, kGrey, 2);
 }
 
 }  // namespace
 
-void ComposeDisplayUnit(Graphics& graphics, int mode, int, int) {
+bool ComposeDisplayUnit(Graphics& graphics, int mode, int unit, int gauge_id) {
+    int& busy = displays.compose_busy[static_cast<std::size_t>(gauge_id)];
+    if (busy == 1) return false;
+    busy = 1;
     GdipResetWorldTransform(graphics);
     GdipFillRectangleI(graphics, GdipCreateSolidFill(Opaque(kBlack)), 0, 0, kWidth, kHeight);
-    if (const auto contents = ContentsOf(mode)) {
-        if (mode == kModeWideNd) {
-            DrawName(graphics, 0, kWidth, kHeight, ContentName(Content::kNd));
-        } else {
-            DrawContent(graphics, contents->left, mode, 1);
-            DrawContent(graphics, contents->right, mode, 2);
-        }
-    }
+    DrawContents(graphics, mode, unit);
     if (mode != kModeWideNd && mode != kModeFree) DrawDivider(graphics, mode);
+    busy = 0;
+    return true;
 }
 
 void DrawStandbyPfd(Graphics& graphics) {
-    DrawName(graphics, 0, 100, 92, "STBY");
+    DrawName(graphics, 50, 92, "STBY");
 }
 void DrawHud(Graphics& graphics) {
-    DrawName(graphics, 0, 480, 410, "HUD");
+    DrawName(graphics, 240, 410, "HUD");
 }
 void DrawEfb(Graphics& graphics, int side) {
     GdipFillRectangleI(graphics, GdipCreateSolidFill(Opaque(kBlack)), 0, 0, 340, 448);
-    DrawName(graphics, 0, 340, 448, side == 1 ? "EFB L" : "EFB R");
+    DrawName(graphics, 170, 448, side == kCaptain ? "EFB L" : "EFB R");
 }
 void DrawDebug(Graphics& graphics) {
-    DrawName(graphics, 0, kWidth, kHeight, "DEBUG");
+    DrawName(graphics, kWidth / 2.0, kHeight, "DEBUG");
 }

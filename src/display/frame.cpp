@@ -48,9 +48,8 @@ bool ComposeFrame(const PaintedGauge& gauge, DrawList& list) {
     switch (gauge.painting) {
         case Painting::kDisplayUnit:
             if (UnitIsPowered(gauge.unit))
-                ComposeDisplayUnit(graphics, ModeOfUnit(gauge.unit), gauge.unit, gauge.gauge_id);
-            else
-                GdipGraphicsClear(graphics, kDark);
+                return ComposeDisplayUnit(graphics, ModeOfUnit(gauge.unit), gauge.unit, gauge.gauge_id);
+            GdipGraphicsClear(graphics, kDark);
             break;
         case Painting::kStandby:
             GdipGraphicsClear(graphics, kDark);

@@ -82,11 +82,7 @@ void GDIMTGauge::StartWorker(GaugeElement* element_tree) {
     }
     if (first_element_ == nullptr) return;
     StopWorker();
-    {
-        const StateLock lock;
-        period_ms_ =
-            std::max(1, static_cast<int>(1000 / std::max(1.0, static_cast<double>(cfg.GaugeRefreshRate))));
-    }
+    frame_pending_ = 0;  // what was asked for stood on the elements of before
     if (Host().paints_in_line() == 0) thread_ = std::thread([this] { Work(); });
 }
 
@@ -122,6 +118,7 @@ bool GDIMTGauge::PaintPendingFrame() {
 void GDIMTGauge::PaintFrame(const GaugeElement&) {
     {
         const StateLock lock;
+        period_ms_ = static_cast<int>(1000 / std::clamp<double>(cfg.GaugeRefreshRate, 1, 1000));
         if (!ComposeFrame(row_, composing_)) return;
     }
     const std::lock_guard guard(picture_lock_);

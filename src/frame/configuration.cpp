@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "frame/fuel_loader.h"
+#include "paint/fonts.h"
 #include "platform/files.h"
 #include "platform/text.h"
 #include "state/cfg.h"
@@ -98,6 +99,9 @@ void ApplyReadRule(const ConfigKey& key) {
             break;
         case ReadRule::kFontName:
             cfg.DuFont.resize(std::min(cfg.DuFont.size(), kMaxFontName));
+            if (!IsFamily(cfg.DuFont))
+                std::fprintf(stderr, "tz900: the screens have no font %s; %s stands in\n", cfg.DuFont.c_str(),
+                             std::string(FamilyName(0)).c_str());
             break;
         case ReadRule::kDescentIas:
             perf.pending_descent_ias = cfg.ClimbIas;

@@ -8,6 +8,7 @@
 #include "frame/tokens.h"
 #include "module/controls/control_table.h"
 #include "module/model_settings.h"
+#include "navdata/airport_file.h"
 #include "platform/host.h"
 #include "state/cfg.h"
 #include "state/cockpit.h"
@@ -66,6 +67,7 @@ void DelayedStart() {
         perf.takeoff_flap_list = ",5,10,15,17,18,20,";
     cockpit.eng1_thrott = FuelControlOf(kTokenEng1Combustion);
     cockpit.eng2_thrott = FuelControlOf(kTokenEng2Combustion);
+    identity.selcal = FindSelcal(identity.registration);
     ShowControls();
     sim.nav1_freq = DecodeBcd(ReadToken(kTokenNav1Freq)) + 10000;
     sim.nav2_freq = DecodeBcd(ReadToken(kTokenNav2Freq)) + 10000;

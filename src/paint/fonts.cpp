@@ -5,8 +5,10 @@
 #include FT_FREETYPE_H
 #include FT_TRUETYPE_TABLES_H
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
+#include <iterator>
 #include <vector>
 
 namespace {
@@ -101,7 +103,11 @@ std::vector<LoadedFont> LoadFonts() {
     FT_Library library = nullptr;
     if (FT_Init_FreeType(&library) != 0) library = nullptr;
     std::vector<LoadedFont> fonts;
-    for (const FamilyRow& row : kFamilies) fonts.push_back(LoadFont(library, row));
+    for (const FamilyRow& row : kFamilies) {
+        const auto twin = std::ranges::find(kFamilies, row.installed, &FamilyRow::installed) - kFamilies;
+        fonts.push_back(twin < std::ssize(fonts) ? fonts[static_cast<std::size_t>(twin)]
+                                                 : LoadFont(library, row));
+    }
     if (library != nullptr) FT_Done_FreeType(library);
     FcFini();
     return fonts;
@@ -118,6 +124,10 @@ std::uint16_t FamilyOf(std::string_view name) {
     for (std::uint16_t i = 0; i < std::size(kFamilies); ++i)
         if (kFamilies[i].name == name) return i;
     return 0;
+}
+
+bool IsFamily(std::string_view name) {
+    return std::ranges::find(kFamilies, name, &FamilyRow::name) != std::end(kFamilies);
 }
 
 std::string_view FamilyName(std::uint16_t family) {

@@ -10,6 +10,8 @@
 /// The place of a family in the table; a name that isn't there gives the display units' family.
 std::uint16_t FamilyOf(std::string_view name);
 
+bool IsFamily(std::string_view name);
+
 /// The name under which the flight deck knows the family.
 std::string_view FamilyName(std::uint16_t family);
 

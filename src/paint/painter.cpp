@@ -14,6 +14,12 @@ void Text(Graphics& graphics, double x, double y, float size, Rgb colour, std::s
     TextIn(graphics, cfg.DuFont, x, y, size, colour, text);
 }
 
+void CentredText(Graphics& graphics, double x, double y, float size, Rgb colour, std::string_view text) {
+    constexpr float kPadding = 1.0f / 6;  // of the em, before a text
+    const float half = (TextWidth(FamilyOf(cfg.DuFont), text) / 2 + kPadding) * size;
+    Text(graphics, x - half, y, size, colour, text);
+}
+
 void Line(Graphics& graphics, double x1, double y1, double x2, double y2, Rgb colour, float width) {
     GdipDrawLine(graphics, GdipCreatePen1(Scaled(colour), width), x1, y1, x2, y2);
 }

@@ -13,6 +13,8 @@ void Text(Graphics& graphics, double x, double y, float size, Rgb colour, std::s
 /// The same in a family of its own.
 void TextIn(Graphics& graphics, std::string_view family, double x, double y, float size, Rgb colour,
             std::string_view text);
+/// The same with its middle at x.
+void CentredText(Graphics& graphics, double x, double y, float size, Rgb colour, std::string_view text);
 void Line(Graphics& graphics, double x1, double y1, double x2, double y2, Rgb colour, float width = 1);
 void FilledBox(Graphics& graphics, int x, int y, int width, int height, Rgb colour);
 void BoxOutline(Graphics& graphics, int x, int y, int width, int height, Rgb colour, float width_of_line = 1);

@@ -21,6 +21,7 @@ constexpr Variable kRows[] = {
     {"du_sel_pos", &displays.du_sel_pos},
     {"info_page", &displays.info_page},
     {"info_status", &displays.info_status},
+    {"compose_busy", &displays.compose_busy},
     {"cockpit_2d_active", &displays.cockpit_2d_active},
     {"du_lwr_startup_cnt", &displays.du_lwr_startup_cnt},
     {"du_cib_startup_cnt", &displays.du_cib_startup_cnt},

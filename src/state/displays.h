@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <span>
 
 #include "state/variable.h"
@@ -21,7 +22,8 @@ struct DisplayState {
     int du_sel_pos = 0;  // -1, 0, 1: last acted position of the captain's selector
     int info_page = 1;   // 1 to 4
     int info_status = 0;
-    int cockpit_2d_active = 0;  // the two-dimensional cockpit is shown, taken once a tick
+    std::array<int, 28> compose_busy = {};  // by gauge id: 1 = its picture is being composed
+    int cockpit_2d_active = 0;              // the two-dimensional cockpit is shown, taken once a tick
     // start-up counters, seconds
     int du_lwr_startup_cnt = 0;     // to 60
     int du_cib_startup_cnt = 0;     // to 90
@@ -30,3 +32,11 @@ struct DisplayState {
 
 extern DisplayState displays;
 extern const std::span<const Variable> kDisplayVariables;
+
+/// The system page on a half (1 left, 2 right) of a unit. The outboard units show that of the inboard unit of
+/// their side.
+inline int& SystemPageOf(int unit, int half) {
+    if (unit <= 2) return half == 1 ? displays.du_capt_inb_l_sys_page : displays.du_capt_inb_r_sys_page;
+    if (unit <= 4) return half == 1 ? displays.du_fo_inb_l_sys_page : displays.du_fo_inb_r_sys_page;
+    return half == 1 ? displays.du_lower_l_sys_page : displays.du_lower_r_sys_page;
+}

@@ -6,6 +6,7 @@ namespace {
 constexpr Variable kRows[] = {
     {"aircraft", &identity.aircraft},
     {"registration", &identity.registration},
+    {"selcal", &identity.selcal},
     {"aircraft_model", &identity.aircraft_model},
     {"aircraft_sim_name", &identity.aircraft_sim_name},
     {"engine_model", &identity.engine_model},

@@ -9,6 +9,7 @@
 struct AircraftIdentity {
     std::string aircraft;              // title of the loaded aircraft, lower case
     std::string registration;          // as the host has it
+    std::string selcal;                // selective calling code, "AB-CD"; empty = none
     std::string aircraft_model;        // "900-8", "900-9" or "900-10"
     std::string aircraft_sim_name;     // "TZ900-8", "TZ900-9" or "TZ900-10"
     std::string engine_model;          // "GENX-1B67", "GENX-1B70", "GENX-1B76" or "TRENT 1000"

@@ -110,6 +110,7 @@ PlanState plan;
 
 namespace {
 constexpr Variable kRows[] = {
+    {"fms_fltno", &plan.fms_fltno},
     {"FlightPlan", &plan.FlightPlan},
     {"fp_cnt", &plan.fp_cnt},
     {"FlightPlanMod", &plan.FlightPlanMod},

@@ -116,6 +116,7 @@ struct ProcedureSelections {
 
 /// The route. FlightPlan is what is flown, FlightPlanMod is what the pages edit; only fmc/ changes either.
 struct PlanState {
+    std::string fms_fltno;                  // flight number, at most 10 characters; empty = none
     GrowingList<FlightPlanLeg> FlightPlan;  // index 0 the origin, fp_cnt the destination
     int fp_cnt = 0;
     GrowingList<FlightPlanLeg> FlightPlanMod;
