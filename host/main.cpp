@@ -21,6 +21,8 @@ int main(int argc, char** argv) {
                                           "no flight deck; as fast as the machine allows, to the end");
     fly->add_flag("--cold", fly_options.cold, "on the ground, everything off; the flight is yours")
         ->excludes(headless);
+    fly->add_option("--record", fly_options.record,
+                    "write what pilots and host do to this file, a scenario for tz900 run");
     fly->add_option("--rate", fly_options.rate, "times real time")->check(CLI::Range(0.25, 64.0));
     fly->add_option("--port", fly_options.port, "of the flight deck, 8900; 0 is any free one")
         ->check(CLI::Range(0, 65535));

@@ -4,8 +4,8 @@
 #include <initializer_list>
 #include <string>
 
-// What pilots and host do, tick by tick, written down as a scenario: played back by `tz900 run` it comes to the
-// same pictures. The file is whole after every line, so that it also tells what went before a crash.
+// What pilots and host do, tick by tick, written down as a scenario: played back by `tz900 run` it comes to
+// the same pictures. The file is whole after every line, so that it also tells what went before a crash.
 
 namespace host {
 

@@ -49,9 +49,10 @@ void RequestPictures(Session& session) {
             gauge.instance.gauge->service(&gauge.instance, kServicePreDraw);
 }
 
-void PressScreen(Session& session, const std::string& screen, double x, double y, bool right) {
+std::string MouseGaugeOfScreen(std::string_view screen) {
     for (const Screen& row : kScreens)
-        if (row.name == screen && row.mouse != nullptr) PressMouse(session, row.mouse, x, y, right);
+        if (row.name == screen && row.mouse != nullptr) return row.mouse;
+    return {};
 }
 
 bool WritePictureFile(const Session& session, const std::string& screen, const std::string& file,

@@ -17,8 +17,8 @@ void PaintGauges(Session& session);
 /// Asks every visible gauge for a picture, which its worker paints in its own time.
 void RequestPictures(Session& session);
 
-/// A mouse press on a screen, in its logical frame.
-void PressScreen(Session& session, const std::string& screen, double x, double y, bool right);
+/// The gauge that takes a screen's mouse presses, in the screen's logical frame; empty when none does.
+std::string MouseGaugeOfScreen(std::string_view screen);
 
 /// A screen's last picture as a PNG file; false when it has none or the file can't be written.
 bool WritePictureFile(const Session& session, const std::string& screen, const std::string& file,

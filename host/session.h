@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "host/flight.h"
+#include "host/recorder.h"
 #include "module/linkage.h"
 
 // One run of the stand-in simulator: the module loaded, its gauges on their panels, the aircraft and the
@@ -40,6 +41,7 @@ struct Session {
     std::vector<PanelGauge> gauges;
     std::vector<std::unique_ptr<GaugeElement>> surfaces;
     bool private_root = false;
+    Recorder* recorder = nullptr;  // takes down what pilots and host do; null = nobody asks
 };
 
 /// Makes the root ready and fills the world: before it, tokens, variables and expressions may be set by hand.

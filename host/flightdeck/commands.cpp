@@ -1,8 +1,11 @@
 #include "host/flightdeck/commands.h"
 
 #include <algorithm>
+#include <cstdio>
+#include <initializer_list>
 
 #include "host/inspection.h"
+#include "host/scenario/words.h"
 #include "host/screens.h"
 #include "host/world/world.h"
 
@@ -13,10 +16,40 @@ constexpr int kKeyPause = 0x10019;
 constexpr std::size_t kMostWaiting = 60;
 constexpr int kLetGoTicks = 54;  // a control that nobody lets go within 3 seconds isn't served
 
-void SetRate(double rate) {
-    const bool pause = rate <= 0;
-    if (pause != world.paused) QueueKeyEvent(kKeyPause, 0);
-    if (!pause) world.sim_rate = std::clamp(rate, 0.25, 64.0);
+// Takes down what is done, as the scenario command that does the same.
+void TakeDown(Session& session, std::initializer_list<std::string> words) {
+    if (session.recorder != nullptr) Record(*session.recorder, words);
+}
+
+void SendKey(Session& session, int event, int value) {
+    char number[16];
+    std::snprintf(number, sizeof number, "0x%x", static_cast<unsigned>(event));
+    TakeDown(session, {"key", number, std::to_string(value)});
+    QueueKeyEvent(event, value);
+}
+
+void SetPause(Session& session, bool pause) {
+    if (pause != world.paused) SendKey(session, kKeyPause, 0);
+}
+
+void SetRate(Session& session, double rate) {
+    SetPause(session, rate <= 0);
+    if (rate <= 0) return;
+    world.sim_rate = std::clamp(rate, 0.25, 64.0);
+    FillClockTokens();
+    TakeDown(session, {"warp", NumberText(world.sim_rate)});
+}
+
+void Click(Session& session, const std::string& gauge, double x, double y, bool right) {
+    if (gauge.empty()) return;
+    TakeDown(session, {"click", gauge, NumberText(x), NumberText(y), right ? "right" : "left"});
+    PressMouse(session, gauge, x, y, right);
+}
+
+void SetVariable(Session& session, const std::string& name, double value) {
+    if (!NamedVariableExists(name)) return;
+    TakeDown(session, {"lvar", name, NumberText(value)});
+    SetNamedValue(name, value);
 }
 
 // "TZ_FMC_L" of "TZ_FMC_L_A_Button".
@@ -32,25 +65,29 @@ void ApplyDeckCommand(Session& session, const DeckCommand& command) {
     switch (command.kind) {
         case DeckCommand::kNamedVariable:
         case DeckCommand::kPress:
-            if (NamedVariableExists(command.name)) SetNamedValue(command.name, command.value);
+            SetVariable(session, command.name, command.value);
             break;
         case DeckCommand::kStateVariable:
-            Ask(session.linkage->inspection->write_variable, command.name.c_str(), command.text.c_str());
+            // What the module refuses is no part of a recording.
+            if (Ask(session.linkage->inspection->write_variable, command.name.c_str(), command.text.c_str())
+                    .good)
+                TakeDown(session, {"set", command.name, command.text});
             break;
         case DeckCommand::kMouse:
-            PressScreen(session, command.name, command.x, command.y, command.right);
+            Click(session, MouseGaugeOfScreen(command.name), command.x, command.y, command.right);
             break;
         case DeckCommand::kMouseArea:
-            PressMouseArea(session, command.name, command.text, command.right);
+            if (PressMouseArea(session, command.name, command.text, command.right))
+                TakeDown(session, {"press", command.name, command.text, command.right ? "right" : "left"});
             break;
         case DeckCommand::kKeyEvent:
-            QueueKeyEvent(static_cast<int>(command.value), static_cast<int>(command.x));
+            SendKey(session, static_cast<int>(command.value), static_cast<int>(command.x));
             break;
         case DeckCommand::kPause:
-            if ((command.value != 0) != world.paused) QueueKeyEvent(kKeyPause, 0);
+            SetPause(session, command.value != 0);
             break;
         case DeckCommand::kRate:
-            SetRate(command.value);
+            SetRate(session, command.value);
             break;
     }
 }

@@ -12,8 +12,8 @@
 
 namespace host {
 
-/// Carries out one command: the one way from a browser into the session. A name that nobody knows does
-/// nothing.
+/// Carries out one command and takes it down in the session's recording: the one way of a pilot into the
+/// session, be he at a browser or the one who flies the demonstration. A name that nobody knows does nothing.
 void ApplyDeckCommand(Session& session, const DeckCommand& command);
 
 /// Presses of momentary controls that wait. A control is let go by the system itself, some ticks after it was

@@ -27,8 +27,8 @@ struct DeckCommand {
         kRate,           // value: times real time, 0 to 64
     };
     Kind kind;
-    std::string name;
-    std::string text;
+    std::string name = {};
+    std::string text = {};
     double value = 0;
     double x = 0, y = 0;
     bool right = false;

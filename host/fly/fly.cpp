@@ -8,6 +8,7 @@
 
 #include "host/fly/deck_loop.h"
 #include "host/fly/pilot.h"
+#include "host/fly/start.h"
 #include "host/inspection.h"
 #include "host/world/terrain.h"
 #include "host/world/world.h"
@@ -17,7 +18,6 @@ namespace {
 
 constexpr const char* kDemonstrationRoute = "KSEA/16L ALDER J1 RBL J1 AVE J1 FIM KLAX/24R";
 constexpr double kMaxHours = 24;
-constexpr int kTokenMasterBattery = 364;
 
 volatile std::sig_atomic_t interrupted = 0;
 
@@ -61,14 +61,6 @@ void PrintFix(const Session& session, Log& log) {
                 ValueNow("gs"), ValueNow("fuel"), Number(session, "xtk"));
     std::fflush(stdout);
     ++log.fixes;
-}
-
-// The first leg's runway end, or the airport, as a place in the air on the way to the first fix.
-Placement AfterTakeOff(const Session& session) {
-    const double lat = Number(session, "FlightPlan[0].lat"), lon = Number(session, "FlightPlan[0].lon");
-    Placement placement{lat, lon, 0, Number(session, "leg_crs") + Number(session, "mgvar"), 220};
-    placement.alt_ft = std::round(GroundElevationMetres(lat, lon) / 0.3048 / 100) * 100 + 3000;
-    return placement;
 }
 
 // The flight along the route, looked at once a second.
@@ -120,28 +112,6 @@ void PrintEnd(const RouteFlight& route, double wall_seconds) {
                 route.log.start_fuel - ValueNow("fuel"), world.seconds / wall_seconds);
 }
 
-// Brings the module up with the aircraft where the options want it. False with the reason.
-bool Prepare(Session& session, const FlyOptions& options, std::string& error) {
-    world.paints_in_line = options.headless;
-    world.sim_rate = options.headless ? 1 : options.rate;
-    session.settings.demo_root = options.demo_root;
-    session.settings.root = options.root;
-    session.settings.navdata = options.navdata;
-    session.settings.title = options.aircraft;
-    session.settings.fdm = true;
-    if (options.root.empty()) session.settings.cfg_lines = {options.cold ? "Battery=0" : "SystemsOn=1"};
-    if (!PrepareSession(session, error)) return false;
-    SetToken(kTokenMasterBattery, options.cold ? 0 : 1);
-    if (!StartSession(session, error)) return false;
-    if (options.cold) {
-        ShutDownAircraft();
-        return true;
-    }
-    if (!EnterRoute(session, options.route, error) || !ExecuteRoute(session, error)) return false;
-    PlaceAircraft(AfterTakeOff(session));
-    return true;
-}
-
 }  // namespace
 
 int Fly(const FlyOptions& given) {
@@ -149,8 +119,11 @@ int Fly(const FlyOptions& given) {
     if (options.route.empty()) options.route = kDemonstrationRoute;
     world = World{};
     Session session;
+    Recorder recorder;
     std::string error;
-    if (!Prepare(session, options, error)) {
+    if (!options.record.empty()) session.recorder = &recorder;
+    if ((session.recorder != nullptr && !OpenRecording(recorder, options.record, error)) ||
+        !StartFlight(session, options, error)) {
         std::fprintf(stderr, "tz900 fly: %s\n", error.c_str());
         StopSession(session);
         return 2;

@@ -14,6 +14,7 @@ struct FlyOptions {
     bool headless = false;  // as fast as the machine allows, to the end, without a flight deck
     double rate = 1;        // times real time, when not headless
     bool cold = false;      // on the ground, everything off, no route and nobody at the controls
+    std::string record;     // file of the recording; empty = none
     // the flight deck
     std::string page_folder;
     std::string address = "127.0.0.1";

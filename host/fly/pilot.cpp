@@ -1,5 +1,6 @@
 #include "host/fly/pilot.h"
 
+#include "host/flightdeck/commands.h"
 #include "host/world/world.h"
 
 namespace host {
@@ -11,8 +12,13 @@ constexpr double kMainAutopilotSeconds = 12;  // the system polls its panels fro
 constexpr double kFeetPerNm = 300;            // of the descent
 constexpr int kClimbSpeed = 290, kCruiseSpeed = 275, kDescentSpeed = 280, kArrivalSpeed = 220;
 
-void Set(int event, double value) {
-    QueueKeyEvent(event, static_cast<int>(value));
+void Set(Session& session, int event, double value) {
+    ApplyDeckCommand(session,
+                     {.kind = DeckCommand::kKeyEvent, .value = static_cast<double>(event), .x = value});
+}
+
+void Press(Session& session, const char* control) {
+    ApplyDeckCommand(session, {.kind = DeckCommand::kMouseArea, .name = "MCP", .text = control});
 }
 
 double AltitudeNow() {
@@ -28,28 +34,27 @@ void StepPilot(Pilot& pilot, Session& session, double to_go_nm) {
     switch (pilot.phase) {
         case Pilot::kSettingUp:
             if (world.seconds < kMainAutopilotSeconds) break;
-            Set(kSetAltitude, pilot.cruise_ft);
-            Set(kSetSpeed, kClimbSpeed);
-            for (const char* control : {"atarm", "apl", "lnav", "flch"})
-                PressMouseArea(session, "MCP", control);
+            Set(session, kSetAltitude, pilot.cruise_ft);
+            Set(session, kSetSpeed, kClimbSpeed);
+            for (const char* control : {"atarm", "apl", "lnav", "flch"}) Press(session, control);
             pilot.phase = Pilot::kClimb;
             break;
         case Pilot::kClimb:
             if (to_go_nm < (altitude - pilot.arrival_ft) / kFeetPerNm)
                 pilot.phase = Pilot::kCruise;  // a short hop
             if (altitude < pilot.cruise_ft - 200) break;
-            Set(kSetSpeed, kCruiseSpeed);
+            Set(session, kSetSpeed, kCruiseSpeed);
             pilot.phase = Pilot::kCruise;
             break;
         case Pilot::kCruise:
             if (to_go_nm > (altitude - pilot.arrival_ft) / kFeetPerNm + 10) break;
-            Set(kSetAltitude, pilot.arrival_ft);
-            Set(kSetSpeed, kDescentSpeed);
-            PressMouseArea(session, "MCP", "flch");
+            Set(session, kSetAltitude, pilot.arrival_ft);
+            Set(session, kSetSpeed, kDescentSpeed);
+            Press(session, "flch");
             pilot.phase = Pilot::kDescent;
             break;
         case Pilot::kDescent:
-            if (altitude < 10000) Set(kSetSpeed, kArrivalSpeed);
+            if (altitude < 10000) Set(session, kSetSpeed, kArrivalSpeed);
             break;
     }
 }

@@ -145,6 +145,22 @@ void Mcp(Scenario& scenario, const std::vector<Word>& words) {
         if (!press(area)) throw CommandError{"the MCP has no knob \"" + control + "\"; spd hdg alt vswheel"};
 }
 
+bool IsRight(const std::vector<Word>& words, std::size_t at) {
+    if (words.size() <= at || words[at].text == "left") return false;
+    if (words[at].text == "right") return true;
+    throw CommandError{"\"" + words[at].text + "\"; left or right"};
+}
+
+void Click(Scenario& scenario, const std::vector<Word>& words) {
+    PressMouse(scenario.session, words[1].text, NumberWord(words[2], "a place across"),
+               NumberWord(words[3], "a place down"), IsRight(words, 4));
+}
+
+void Press(Scenario& scenario, const std::vector<Word>& words) {
+    if (!PressMouseArea(scenario.session, words[1].text, words[2].text, IsRight(words, 3)))
+        throw CommandError{words[1].text + " has no area \"" + words[2].text + "\""};
+}
+
 void NotYet(Scenario&, const std::vector<Word>&) {
     throw CommandError{"not available yet"};
 }
@@ -160,7 +176,8 @@ std::vector<Command> HostSideCommands() {
         {"simevent", "sound|pause 0|1, flightsaved|flightloaded \"NAME\", client ID", "simevent sound 0",
          Command::kAnytime, 2, 2, SimEvent},
         {"window", "IDENT 0|1", "window 5 1", Command::kAnytime, 2, 2, Window},
-        {"click", "GAUGE X Y [left|right]", "", Command::kAnytime, 3, 4, NotYet},
+        {"click", "GAUGE X Y [left|right]", "click DU_LOWER_MC 100 200", Command::kAfter, 3, 4, Click},
+        {"press", "GAUGE AREA [left|right]", "press MCP \"hdg +10\"", Command::kAfter, 2, 3, Press},
         {"keys", "L|R TEXT", "", Command::kAnytime, 2, 2, NotYet},
         {"cdu", "L|R KEY...", "", Command::kAnytime, 2, 100, NotYet},
         {"route", "\"ORIG[/RWY] FIX AIRWAY FIX ... DEST[/RWY]\"", "route \"KSEA BTG J1 OED KSFO\"",

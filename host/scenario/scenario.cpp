@@ -107,6 +107,7 @@ int RunScenarioFiles(const std::vector<std::string>& files, const std::string& d
         if (!scenario || StartsOfItself(text.str())) {
             if (scenario) StopSession(scenario->session);
             world = World{};
+            flight = Flight{};
             scenario.emplace(Session{}, std::cout);
             scenario->session.settings.demo_root = demo_root;
         }

@@ -56,6 +56,10 @@ void Fdm(Scenario& scenario, const std::vector<Word>& words) {
     scenario.session.settings.fdm = words[1].text == "on";
 }
 
+void Cold(Scenario&, const std::vector<Word>&) {
+    ShutDownAircraft();
+}
+
 void Start(Scenario& scenario, const std::vector<Word>&) {
     std::string error;
     if (!PrepareSession(scenario.session, error) || !StartSession(scenario.session, error))
@@ -79,6 +83,7 @@ std::vector<Command> SetUpCommands() {
         {"date", "YYYY-MM-DD", "date 2026-12-24", Command::kBefore, 1, 1, Date},
         {"at", "LAT LON ALT_FT HDG [IAS]", "at 47.45 -122.31 12000 180 280", Command::kAnytime, 4, 5, At},
         {"fdm", "on|off", "fdm on", Command::kAnytime, 1, 1, Fdm},
+        {"cold", "", "cold", Command::kAfter, 0, 0, Cold},
         {"start", "", "start", Command::kBefore, 0, 0, Start},
     };
 }

@@ -1,0 +1,198 @@
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+#include <string>
+#include <vector>
+
+#include "display/frame.h"
+#include "display/gauge.h"
+#include "display/modes.h"
+#include "flying_session.h"
+#include "host/flightdeck/picture_stream.h"
+#include "host/screens.h"
+#include "paint/colours.h"
+#include "paint/painter.h"
+#include "paint/rasterise.h"
+#include "state/displays.h"
+#include "state/electrical.h"
+#include "support/fake_host.h"
+
+// Pictures from composing to the wire.
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr int kWidth = 1128, kHeight = 848;
+constexpr double kTicksPerSecond = 18;
+constexpr const char* kNineScreens[] = {"capt_outb", "capt_inb", "fo_inb", "fo_outb", "lower",
+                                        "hud",       "stby",     "efb_l",  "efb_r"};
+
+double SecondsSince(Clock::time_point start) {
+    return std::chrono::duration<double>(Clock::now() - start).count();
+}
+
+// Every mode on the lower unit, which shows the most of them; the slowest is the figure.
+void ComposeEachMode(benchmark::State& state) {
+    const FakeHost host;
+    electrical.power_level = 1000;
+    displays.du_lwr_startup_cnt = 60;
+    const PaintedGauge& lower = *FindPaintedGauge("DU_LOWER_VC");
+    std::vector<int> modes;
+    for (int mode = 1; mode <= 200; ++mode)
+        if (ContentsOf(mode)) modes.push_back(mode);
+    std::vector<double> seconds(modes.size(), 1);
+    DrawList list;
+    for (auto _ : state) {
+        for (std::size_t i = 0; i < modes.size(); ++i) {
+            displays.du_lower_mode = modes[i];
+            const auto start = Clock::now();
+            ComposeFrame(lower, list);
+            seconds[i] = std::min(seconds[i], SecondsSince(start));
+        }
+        state.SetIterationTime(*std::max_element(seconds.begin(), seconds.end()));
+    }
+}
+BENCHMARK(ComposeEachMode)
+    ->Name("ComposeDisplayUnit")
+    ->UseManualTime()
+    ->Iterations(200)
+    ->Unit(benchmark::kMicrosecond);
+
+// As full as a map with all its layers over a busy terminal area.
+DrawList DensePicture() {
+    DrawList list;
+    Graphics graphics = GdipCreateGraphics(list, 564, 424);
+    GdipFillRectangleI(graphics, GdipCreateSolidFill(0xff000000), 0, 0, 564, 424);
+    const Pen route = GdipCreatePen1(0xffff13d5, 2), compass = GdipCreatePen1(0xffdee6e9, 1);
+    for (int i = 0; i < 72; ++i) {
+        const double angle = i * 0.0873;
+        GdipDrawLine(graphics, compass, 282 + 180 * std::cos(angle), 300 + 180 * std::sin(angle),
+                     282 + 190 * std::cos(angle), 300 + 190 * std::sin(angle));
+    }
+    for (int ring = 45; ring <= 180; ring += 45)
+        GdipDrawArcI(graphics, compass, 282 - ring, 300 - ring, 2 * ring, 2 * ring, 180, 180);
+    for (int i = 0; i < 200; ++i) {
+        const int x = i * 97 % 540, y = i * 61 % 400;
+        const IntPoint triangle[] = {{x, y + 8}, {x + 5, y}, {x + 10, y + 8}};
+        GdipDrawPolygonI(graphics, compass, triangle);
+        Text(graphics, x + 10, y, 12, {2, 167, 235}, "FIX" + std::to_string(i));
+        if (i % 4 == 0) GdipDrawLineI(graphics, route, x, y, i * 131 % 540, i * 37 % 400);
+    }
+    return list;
+}
+
+void RasteriseDense(benchmark::State& state) {
+    const FakeHost host;
+    const DrawList list = DensePicture();
+    for (auto _ : state) benchmark::DoNotOptimize(Rasterise(list, kWidth, kHeight));
+}
+BENCHMARK(RasteriseDense)->Name("Rasterise")->Unit(benchmark::kMillisecond);
+
+// Yardstick of all that paints: the same pixels filled once.
+void FillPixels(benchmark::State& state) {
+    std::vector<std::uint32_t> pixels(static_cast<std::size_t>(kWidth) * kHeight);
+    std::uint32_t colour = 0;
+    for (auto _ : state) {
+        std::fill(pixels.begin(), pixels.end(), ++colour);
+        benchmark::ClobberMemory();
+    }
+}
+BENCHMARK(FillPixels)->Name("Yardstick/FillPixels")->Unit(benchmark::kMillisecond);
+
+bool LightScreens(FlyingSession& flying, benchmark::State& state) {
+    if (!flying.Start(RouteOf(60))) {
+        state.SkipWithError(flying.error.c_str());
+        return false;
+    }
+    flying.Engage();
+    return true;
+}
+
+// The pictures' bytes of one screen, when they have changed.
+bool TakePicture(const host::Session& session, const char* screen, std::uint64_t& number,
+                 std::string& bytes) {
+    struct Taken {
+        std::uint64_t& number;
+        std::string& bytes;
+    } taken{number, bytes};
+    const ByteSink sink = [](void* to, const std::uint8_t* data, std::size_t size, std::uint64_t count) {
+        auto& picture = *static_cast<Taken*>(to);
+        picture.bytes.assign(reinterpret_cast<const char*>(data), size);
+        picture.number = count;
+    };
+    return session.linkage->inspection->picture(host::GaugeOfScreen(screen).c_str(), number, sink, &taken) !=
+           0;
+}
+
+void StreamNineScreens(benchmark::State& state) {
+    FlyingSession flying;
+    if (!LightScreens(flying, state)) return;
+    host::PictureStream streams[std::size(kNineScreens)];
+    double busy = 0;
+    std::size_t bytes = 0, ticks = 0;
+    std::string picture;
+    for (auto _ : state) {
+        TickSession(flying.session, false);
+        const auto start = Clock::now();
+        PaintGauges(flying.session);
+        for (std::size_t i = 0; i < std::size(kNineScreens); ++i) {
+            std::uint64_t number = streams[i].number;
+            if (TakePicture(flying.session, kNineScreens[i], number, picture))
+                bytes += NextPictureMessage(streams[i], picture, number).size();
+        }
+        const double seconds = SecondsSince(start);
+        state.SetIterationTime(seconds);
+        busy += seconds;
+        ++ticks;
+    }
+    state.counters["cpu_percent"] = busy / (static_cast<double>(ticks) / kTicksPerSecond) * 100;
+    state.counters["bytes_per_s"] =
+        static_cast<double>(bytes) / (static_cast<double>(ticks) / kTicksPerSecond);
+}
+BENCHMARK(StreamNineScreens)->UseManualTime()->Iterations(18 * 120)->Unit(benchmark::kMicrosecond);
+
+// A format button of the display select panel, pressed at each moment of a second in turn.
+void KeyPressToPicture(benchmark::State& state) {
+    FlyingSession flying;
+    if (!LightScreens(flying, state)) return;
+    int most = 0;
+    std::uint64_t number = 0;
+    std::string picture;
+    const char* const keys[] = {"TZ_MCP_L_INFO_Button", "TZ_MCP_L_SYS_Button"};
+    for (int press = 0; auto _ : state) {
+        for (int wait = 0; wait < 19; ++wait) TickSession(flying.session, false);
+        PaintGauges(flying.session);
+        TakePicture(flying.session, "capt_inb", number, picture);
+        const auto start = Clock::now();
+        host::SetNamedValue(keys[press++ % 2], 1);
+        int calls = 0;
+        do {
+            TickSession(flying.session, false);
+            PaintGauges(flying.session);
+            ++calls;
+        } while (!TakePicture(flying.session, "capt_inb", number, picture) && calls < 100);
+        state.SetIterationTime(SecondsSince(start));
+        most = std::max(most, calls);
+    }
+    state.counters["calls_max"] = most;
+}
+BENCHMARK(KeyPressToPicture)->UseManualTime()->Iterations(180)->Unit(benchmark::kMicrosecond);
+
+void HeadlessPainting(benchmark::State& state) {
+    FlyingSession flying;
+    if (!LightScreens(flying, state)) return;
+    constexpr int kTicks = 18 * 60;
+    for (auto _ : state)
+        for (int i = 0; i < kTicks; ++i) {
+            TickSession(flying.session, false);
+            PaintGauges(flying.session);
+        }
+    state.counters["times_real_time"] =
+        benchmark::Counter(kTicks / kTicksPerSecond, benchmark::Counter::kIsIterationInvariantRate);
+}
+BENCHMARK(HeadlessPainting)->Iterations(10)->UseRealTime()->Unit(benchmark::kMillisecond);
+
+}  // namespace

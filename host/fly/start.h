@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+
+#include "host/fly/fly.h"
+#include "host/session.h"
+
+namespace host {
+
+/// Brings the module up with the aircraft where the options want it: in the air on its route, or cold on the
+/// ground. With a recorder in the session the recording begins with the same. False with the reason.
+bool StartFlight(Session& session, const FlyOptions& options, std::string& error);
+
+}  // namespace host
