@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <nlohmann/json.hpp>
 #include <optional>
 
@@ -37,6 +38,7 @@ std::optional<std::string> ValueOf(const Session& session, const std::string& na
         return NumberText(NamedValue(name.substr(5)));
     }
     if (name.starts_with("host:")) return HostValue(name.substr(5));
+    if (name.starts_with("token:")) return NumberText(TokenOf(std::atoi(name.c_str() + 6)));
     if (name.starts_with("aircraft:")) {
         double value = 0;
         if (!AircraftValue(name.substr(9), value)) return {};

@@ -109,16 +109,19 @@ function readPrimitive(bytes) {
   }
 }
 
+const MOST_IMAGES = 200;
+
 export class Screen {
-  /** families: the font family of each number, as the host names them. */
-  constructor(canvas, families) {
+  /** families: the font family of each number, as the host names them; may come later. */
+  constructor(canvas, families = []) {
     this.canvas = canvas;
     this.context = canvas.getContext('2d');
     this.families = families;
     this.primitives = [];
     this.width = 564;
     this.height = 424;
-    this.stale = true;
+    this.dark = false;
+    this.pictures = 0;  // drawn so far
     new ResizeObserver(() => this.draw()).observe(canvas);
   }
 
@@ -137,15 +140,30 @@ export class Screen {
       }
     }
     this.primitives = next;
-    this.stale = false;
+    this.drawSoon();
+  }
+
+  /** Nothing is better than what was: without a link the screen is dark. What it had is kept, for the stream
+      goes on from it when the link was only late. */
+  setDark(dark) {
+    if (this.dark === dark) return;
+    this.dark = dark;
     this.draw();
   }
 
-  /** Nothing is better than what was: a lost link blanks the screen. */
-  blank() {
+  /** A new link begins with an empty screen. */
+  forget() {
     this.primitives = [];
-    this.stale = true;
     this.draw();
+  }
+
+  drawSoon() {
+    if (this.drawQueued) return;
+    this.drawQueued = true;
+    requestAnimationFrame(() => {
+      this.drawQueued = false;
+      this.draw();
+    });
   }
 
   draw() {
@@ -160,9 +178,11 @@ export class Screen {
     context.clearRect(0, 0, width, height);
     context.setTransform(this.sx, 0, 0, this.sy, 0, 0);
     context.save();
-    for (const primitive of this.primitives) primitive?.(this);
+    if (!this.dark)
+      for (const primitive of this.primitives) primitive?.(this);
     context.restore();
     context.restore();
+    ++this.pictures;
   }
 
   trace(path, dx = 0, dy = 0) {
@@ -254,6 +274,7 @@ export class Screen {
   static picture(file, loaded) {
     let picture = Screen.pictures.get(file);
     if (!picture) {
+      if (Screen.pictures.size >= MOST_IMAGES) Screen.pictures.delete(Screen.pictures.keys().next().value);
       picture = new Image();
       picture.onload = loaded;
       picture.src = `/image/${encodeURIComponent(file)}`;

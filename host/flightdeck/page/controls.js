@@ -1,0 +1,238 @@
+// Controls as they stand on a panel. A control writes its named variable as the cockpit's model would, and shows
+// what the variable says; what a click may do is the system's to decide.
+
+const LONG_PRESS = 500;  // ms on touch: a right click
+
+// What a control does when the module hasn't told, by how it looks.
+const DEFAULTS = {
+  button: {kind: 'latching', min: 0, max: 1},
+  switch: {kind: 'switch', min: 0, max: 1},
+  key: {kind: 'momentary', min: 0, max: 1},
+  handle: {kind: 'switch', min: 0, max: 1},
+  guard: {kind: 'guard', min: 0, max: 1},
+};
+
+export function element(tag, className, text, ...children) {
+  const made = document.createElement(tag);
+  if (className) made.className = className;
+  if (text) made.textContent = text;
+  made.append(...children);
+  return made;
+}
+
+/** Clicks of either button, the wheel, a long press and the keyboard as two senses: down (left) and up (right).
+    `halves`: on touch, where there is one finger, the right half means up. */
+export function bindPress(target, press, {halves = false} = {}) {
+  let timer = 0, long = false, touch = false;
+  target.addEventListener('pointerdown', (event) => {
+    long = false;
+    touch = event.pointerType !== 'mouse';
+    if (!touch) return;
+    timer = setTimeout(() => {
+      long = true;
+      press(true, event);
+    }, LONG_PRESS);
+  });
+  for (const end of ['pointerup', 'pointercancel', 'pointerleave'])
+    target.addEventListener(end, () => clearTimeout(timer));
+  target.addEventListener('click', (event) => {
+    if (long) return;
+    const box = target.getBoundingClientRect();
+    press(halves && touch && event.clientX > box.left + box.width / 2, event);
+  });
+  target.addEventListener('contextmenu', (event) => {
+    event.preventDefault();
+    if (!touch) press(true, event);
+  });
+  target.addEventListener('keydown', (event) => {
+    if (event.key !== 'ArrowUp' && event.key !== 'ArrowDown') return;
+    event.preventDefault();
+    press(event.key === 'ArrowUp', event);
+  });
+}
+
+export class Panels {
+  constructor(link) {
+    this.link = link;
+    this.classes = {};
+    this.elements = new Map();
+  }
+
+  /** The controls as the module tells them: name to "CLASS SET MIN MAX GUARD". */
+  setClasses(controls) {
+    this.classes = controls;
+    for (const [name, made] of this.elements) made.classList.toggle('unknown', !this.isKnown(name));
+  }
+  isKnown(name) { return Object.keys(this.classes).length === 0 || name in this.classes; }
+
+  behaviour(entry) {
+    const told = this.classes[entry.name];
+    if (!told) return DEFAULTS[entry.look] ?? DEFAULTS.key;
+    const [kind, , min, max] = told.split(' ');
+    return {kind, min: Number(min), max: Number(max)};
+  }
+
+  write(name, value) { this.link.send({type: 'lvar', name, value}); }
+
+  /** One click on a control's variable, `up` for the right button's sense. */
+  operate(entry, up) {
+    const {kind, min, max} = this.behaviour(entry), now = this.link.number(`lvar:${entry.name}`);
+    if (kind === 'momentary') return this.link.send({type: 'press', name: entry.name, value: up ? 2 : 1});
+    if (kind === 'guard') return this.write(entry.name, now === 0 ? 1 : 0);
+    if (kind === 'rotary') return this.write(entry.name, up ? (now >= max ? min : now + 1) : now <= min ? max : now - 1);
+    if (kind === 'switch' || kind === 'mirrored' && entry.look === 'switch') {
+      const next = Math.max(min, Math.min(max, now + (up ? 1 : -1)));
+      // At its end a two-position switch goes back: there is but one way.
+      return this.write(entry.name, next === now && max - min === 1 ? (now === min ? max : min) : next);
+    }
+    this.write(entry.name, now === 0 ? 1 : 0);
+  }
+
+  lamp([name, text, colour], parent) {
+    const lit = element('i', `lamp ${colour}`, text);
+    lit.dataset.lamp = name;
+    this.link.watch(`lvar:${name}`, (value) => lit.classList.toggle('lit', Number(value) !== 0));
+    parent.append(lit);
+  }
+
+  /** The element of a panel's entry. */
+  make(entry) {
+    const makers = {button: this.button, switch: this.selector, key: this.key, handle: this.handle,
+                    area: this.area, event: this.event};
+    const made = makers[entry.look].call(this, entry);
+    if (entry.name) {
+      made.dataset.name = entry.name;
+      made.title = entry.name;
+      if (['button', 'switch', 'key', 'handle'].includes(entry.look)) this.elements.set(entry.name, made);
+    }
+    return made;
+  }
+
+  // A control with its label above; what is pressed is its face.
+  frame(className, entry, face) {
+    const made = element('div', `control ${className}`);
+    made.append(element('span', 'label', entry.label), face);
+    if (entry.guard) this.cover(entry, made, face);
+    return made;
+  }
+
+  cover(entry, made, face) {
+    const cover = element('span', 'cover');
+    const wrap = element('div', 'guarded');
+    face.replaceWith(wrap);
+    wrap.append(face, cover);
+    wrap.dataset.guard = entry.guard;
+    this.elements.set(entry.guard, wrap);
+    this.link.watch(`lvar:${entry.guard}`, (value) => wrap.classList.toggle('open', Number(value) !== 0));
+    const guard = {look: 'guard', name: entry.guard};
+    bindPress(wrap, (up, event) => {
+      event.stopPropagation();
+      // A cover that stands open is shut at its edge, or by the right button like it was opened.
+      if (up || event.target === cover && wrap.classList.contains('open')) this.operate(guard, up);
+      else this.operate(entry, entry.look === 'switch' && this.link.number(`lvar:${entry.name}`) === 0);
+    });
+  }
+
+  button(entry) {
+    const face = element('button', 'face');
+    const stays = element('i', 'stays', entry.stays);
+    face.append(stays);
+    for (const lamp of entry.lamps) this.lamp(lamp, face);
+    this.link.watch(`lvar:${entry.name}`, (value) => {
+      face.classList.toggle('in', Number(value) !== 0);
+      face.setAttribute('aria-pressed', Number(value) !== 0);
+    });
+    if (entry.areas)
+      bindPress(face, () => this.link.send({type: 'area', gauge: 'MCP', button: 'left',
+                                             area: entry.areas[this.link.number(`lvar:${entry.name}`) === 0 ? 1 : 0]}));
+    else if (!entry.guard) bindPress(face, () => this.operate(entry, false));
+    return this.frame('push', entry, face);
+  }
+
+  selector(entry) {
+    const face = element('button', 'dial'), pointer = element('span', 'pointer'), text = element('span', 'position');
+    face.append(pointer);
+    const made = this.frame('selector', entry, face);
+    made.append(text);
+    for (const lamp of entry.lamps) this.lamp(lamp, made);
+    this.link.watch(`lvar:${entry.name}`, (value) => {
+      const {kind, min, max} = this.behaviour(entry), at = Number(value);
+      const count = Math.max(1, Math.max(max, at) - min);
+      const turn = kind === 'rotary' ? (at - min) * 20 : ((at - min) / count - 0.5) * Math.min(270, 60 * count);
+      pointer.style.transform = `rotate(${turn}deg)`;
+      const first = entry.positions.length === 3 && min === -1 ? -1 : 0;
+      text.textContent = entry.positions[at - first] ?? value;
+      face.setAttribute('aria-valuetext', text.textContent);
+    });
+    if (!entry.guard) {
+      bindPress(face, (up) => this.operate(entry, up), {halves: true});
+      face.addEventListener('wheel', (event) => {
+        event.preventDefault();
+        this.operate(entry, event.deltaY < 0);
+      }, {passive: false});
+    }
+    return made;
+  }
+
+  key(entry) {
+    const face = element('button', 'face', entry.lamps.length ? '' : entry.label);
+    for (const lamp of entry.lamps) this.lamp(lamp, face);
+    bindPress(face, (up) => this.operate(entry, up));
+    if (!entry.lamps.some(([, text]) => text)) {
+      if (entry.lamps.length) face.prepend(entry.label);
+      face.classList.add('plain');
+      const made = element('div', 'control key');
+      made.append(face);
+      return made;
+    }
+    return this.frame('push', entry, face);
+  }
+
+  handle(entry) {
+    const face = element('button', 'pull', entry.text);
+    const made = this.frame('handle', entry, face);
+    for (const lamp of entry.lamps) this.lamp(lamp, made);
+    this.link.watch(`lvar:${entry.name}`, (value) => face.classList.toggle('out', Number(value) !== 0));
+    bindPress(face, (up) => this.operate(entry, up));
+    return made;
+  }
+
+  // A button that is worked through a mouse area of its gauge.
+  area(entry) {
+    const face = element('button', 'face plain', entry.label), bar = element('i', 'bar');
+    face.append(bar);
+    const made = element('div', 'control key area', '', face);
+    made.dataset.area = entry.area;
+    const seen = () => bar.classList.toggle('lit', entry.lit.some(([name, on]) => on.includes(this.link.number(name))));
+    for (const [name] of entry.lit) this.link.watch(name, () => queueMicrotask(seen));
+    bindPress(face, (up) =>
+      this.link.send({type: 'area', gauge: entry.gauge, area: entry.area, button: up ? 'right' : 'left'}));
+    return made;
+  }
+
+  // What the pilot's own hardware does: a key event for each way.
+  event(entry) {
+    const face = element('button', 'lever'), text = element('span', 'position');
+    const made = this.frame('selector', entry, face);
+    made.append(text);
+    this.link.watch(entry.value, (value) => {
+      const on = Number(value) !== 0 ? 1 : 0;
+      face.classList.toggle('up', on === 1);
+      text.textContent = entry.texts[on];
+    });
+    bindPress(face, () =>
+      this.link.send({type: 'event', event: entry.events[this.link.number(entry.value) !== 0 ? 0 : 1], value: 0}));
+    return made;
+  }
+
+  /** A panel of titled groups. */
+  groups(list, className) {
+    const panel = element('div', `panel ${className}`);
+    for (const {title, controls} of list) {
+      const group = element('section', 'group', '', element('h3', '', title));
+      group.append(element('div', 'controls', '', ...controls.map((entry) => this.make(entry))));
+      panel.append(group);
+    }
+    return panel;
+  }
+}

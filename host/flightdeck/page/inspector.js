@@ -1,0 +1,77 @@
+// Finds and shows any variable of the system and any named variable, and sets it.
+
+import {element} from './controls.js';
+
+const MOST_ROWS = 150;
+
+export class Inspector {
+  constructor(link) {
+    this.link = link;
+    this.names = [];
+    this.ends = [];
+    this.search = element('input', 'search');
+    this.search.type = 'search';
+    this.search.placeholder = 'Part of a name, such as power or TZ_OH_Annun; or a path: FlightPlan[1].ident';
+    this.search.addEventListener('input', () => this.list());
+    this.rows = element('div', 'rows');
+    this.told = element('span', 'told');
+    this.element = element('div', 'inspector panel', '', element('div', 'bar', '', this.search, this.told), this.rows);
+  }
+
+  setNames(variables, named) {
+    this.names = [...Object.entries(variables), ...named.map((name) => [`lvar:${name}`, 'named variable'])];
+    if (this.shown) this.list();
+  }
+
+  /** Values are asked for only while it is looked at. */
+  show(shown) {
+    this.shown = shown;
+    if (shown) this.list();
+    else this.clear();
+  }
+
+  clear() {
+    for (const end of this.ends.splice(0)) end();
+    this.rows.replaceChildren();
+  }
+
+  list() {
+    this.clear();
+    const wanted = this.search.value.trim(), lower = wanted.toLowerCase();
+    const found = this.names.filter(([name]) => name.toLowerCase().includes(lower));
+    // A path into a record or a list isn't in the directory itself.
+    if (wanted && !this.names.some(([name]) => name === wanted) && /[.[]/.test(wanted)) found.unshift([wanted, 'path']);
+    this.told.textContent = found.length > MOST_ROWS ? `${MOST_ROWS} of ${found.length}` : String(found.length);
+    for (const [name, type] of found.slice(0, MOST_ROWS)) this.rows.append(this.row(name, type));
+  }
+
+  row(name, type) {
+    const value = element('input', 'value'), made = element('label', 'row', '', element('span', 'name', name), value);
+    made.dataset.variable = name;
+    made.append(element('span', 'type', type));
+    if (/^(list|record)/.test(type)) {
+      value.disabled = true;
+      value.placeholder = `${name}${type.startsWith('list') ? '[1]' : ''}.`;
+      return made;
+    }
+    const show = (text) => {
+      if (document.activeElement !== value) value.value = text;
+    };
+    this.ends.push(this.link.watch(name, show));
+    value.addEventListener('keydown', (event) => {
+      if (event.key === 'Enter') {
+        this.set(name, value.value);
+        value.blur();
+      }
+      if (event.key === 'Escape') value.blur();
+    });
+    value.addEventListener('blur', () => setTimeout(() => show(this.link.values.get(name) ?? ''), 400));
+    return made;
+  }
+
+  set(name, text) {
+    if (!name.startsWith('lvar:')) return this.link.send({type: 'set', name, text});
+    const value = Number(text);
+    if (text.trim() !== '' && Number.isFinite(value)) this.link.send({type: 'lvar', name: name.slice(5), value});
+  }
+}

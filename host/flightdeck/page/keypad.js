@@ -1,0 +1,34 @@
+// The multi-function keypads, and a computer's keyboard in their place.
+
+import {element} from './controls.js';
+import {keypad} from './panels.js';
+
+const variable = (side, key) => `TZ_FMC_${side}_${key}_Button`;
+
+export function makeKeypad(panels, side) {
+  const made = element('div', 'keypad panel');
+  made.tabIndex = 0;
+  made.dataset.side = side;
+  const key = (name, label, lamps = []) => panels.make({look: 'key', name: variable(side, name), label, lamps});
+  const block = (className, keys) => element('div', `keys ${className}`, '', ...keys);
+  const pages = keypad.pages.map(([name, label]) =>
+    key(name, label, name === 'EXEC' ? [[keypad.lamp[side], '', 'green']] : []));
+  made.append(
+      block('formats', keypad.formats.map((name) => key(name, name))),
+      block('pages', pages),
+      element('div', 'alphabet', '', block('letters', [...keypad.letters.map((name) => key(name, name)),
+                                                       ...keypad.last.map(([name, label]) => key(name, label))]),
+              block('digits', keypad.digits.map(([name, label]) => key(name, label)))));
+  made.addEventListener('keydown', (event) => typeKey(panels, side, event));
+  return made;
+}
+
+/** Presses the key of the keypad that a key of the keyboard stands for. */
+export function typeKey(panels, side, event) {
+  if (event.ctrlKey || event.altKey || event.metaKey) return;
+  const letter = /^[a-z0-9]$/i.test(event.key) ? event.key.toUpperCase() : keypad.typed[event.key];
+  if (!letter) return;
+  event.preventDefault();
+  event.stopPropagation();
+  panels.link.send({type: 'press', name: variable(side, letter), value: 1});
+}

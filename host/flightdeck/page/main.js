@@ -1,0 +1,135 @@
+// Puts the flight deck together and follows the link.
+
+import {element, Panels} from './controls.js';
+import {makeGlareshield} from './glareshield.js';
+import {Inspector} from './inspector.js';
+import {makeKeypad, typeKey} from './keypad.js';
+import {Link} from './link.js';
+import {efbKeys, efbLabels, overhead, pedestal} from './panels.js';
+import {Screens} from './screens.js';
+
+const alone = location.pathname.match(/^\/screen\/(\w+)$/)?.[1];
+
+const link = new Link({
+  hello(message) {
+    screens.forget();
+    screens.setFamilies(message.fonts ?? []);
+    loadFonts(message.fonts ?? []);
+    panels.setClasses(message.controls ?? {});
+    inspector.setNames(message.variables ?? {}, message.named ?? []);
+  },
+  picture(index, bytes) { screens.take(index, bytes); },
+  live(live) {
+    document.body.classList.toggle('lost', !live);
+    screens.setDark(!live);
+  },
+});
+const panels = new Panels(link);
+const screens = new Screens(link, (side, event) => typeKey(panels, side, event));
+const inspector = new Inspector(link);
+
+// The same files as the host's own rasteriser uses.
+let fontsLoaded = '';
+async function loadFonts(families) {
+  if (fontsLoaded === families.join()) return;
+  fontsLoaded = families.join();
+  document.fonts.clear();
+  await Promise.allSettled(families.map((family, number) => {
+    const font = new FontFace(family, `url(/font/${number})`, {weight: 'bold'});
+    document.fonts.add(font);
+    return font.load();
+  }));
+  screens.redraw();
+}
+
+function tablet(side) {
+  const keys = efbKeys[side];
+  const column = (className, names) => element('div', `efb-keys ${className}`, '', ...names.map((name) => panels.make(
+      {look: 'key', name: `TZ_EFB_${side}_${name}_Button`, label: efbLabels[name] ?? name, lamps: []})));
+  return element('div', `efb panel side-${side}`, '', column('top', keys.top), column('left', keys.left),
+                 screens.unit(side === 'L' ? 'efb_l' : 'efb_r'), column('right', keys.right),
+                 column('bottom', keys.bottom));
+}
+
+function timeControls() {
+  const made = element('div', 'time'), pause = element('button', 'pause', 'PAUSE');
+  pause.addEventListener('click', () =>
+    link.send({type: 'pause', value: link.number('host:paused') === 0 ? 1 : 0}));
+  link.watch('host:paused', (value) => {
+    pause.classList.toggle('lit', value === '1');
+    pause.setAttribute('aria-pressed', value === '1');
+  });
+  made.append(pause);
+  for (const rate of [0.5, 1, 2, 4, 8, 16, 32, 64]) {
+    const button = element('button', 'rate', rate === 0.5 ? '\u00bd' : String(rate));
+    button.title = `${rate} times real time`;
+    button.dataset.rate = rate;
+    button.addEventListener('click', () => link.send({type: 'rate', value: rate}));
+    link.watch('host:rate', (value) => button.classList.toggle('lit', Number(value) === rate));
+    made.append(button);
+  }
+  return made;
+}
+
+function bar() {
+  const made = element('header', 'top');
+  const number = (label, name, digits = 0) => {
+    const shown = element('b', '', '-');
+    link.watch(name, (value) => { shown.textContent = Number(value).toFixed(digits); });
+    return element('span', 'fact', label, shown);
+  };
+  const clock = element('b', '', '-');
+  link.watch('host:clock', (value) => { clock.textContent = value; });
+  const state = element('span', 'link-state');
+  made.append(element('h1', '', 'TZ900'), state, element('span', 'fact', 'UTC ', clock),
+              number('ALT ', 'aircraft:alt'), number('IAS ', 'aircraft:ias'), number('GS ', 'aircraft:gs'),
+              number('HDG ', 'aircraft:hdg'), number('FUEL ', 'aircraft:fuel'), number('PWR ', 'power_level'),
+              timeControls());
+  return made;
+}
+
+function lower() {
+  const views = {
+    Centre: element('div', 'view centre', '', tablet('L'), makeKeypad(panels, 'L'), screens.unit('lower'),
+                    makeKeypad(panels, 'R'), tablet('R')),
+    Overhead: element('div', 'view', '', panels.groups(overhead, 'overhead')),
+    Pedestal: element('div', 'view', '', panels.groups(pedestal, 'pedestal')),
+    Inspector: element('div', 'view inspection', '', inspector.element, screens.unit('debug')),
+  };
+  const tabs = element('nav', 'tabs'), made = element('section', 'lower-deck', '', tabs, ...Object.values(views));
+  const choose = (name) => {
+    for (const [other, view] of Object.entries(views)) view.hidden = other !== name;
+    for (const tab of tabs.children) tab.classList.toggle('lit', tab.dataset.view === name);
+    document.body.dataset.view = name;
+    inspector.show(name === 'Inspector');
+    history.replaceState(null, '', `${location.pathname}${location.search}#${name}`);
+  };
+  for (const name of Object.keys(views)) {
+    const tab = element('button', 'tab', name);
+    tab.dataset.view = name;
+    tab.addEventListener('click', () => choose(name));
+    tabs.append(tab);
+  }
+  const asked = decodeURIComponent(location.hash.slice(1));
+  choose(asked in views ? asked : 'Centre');
+  return made;
+}
+
+function deck() {
+  const displays = element('section', 'displays');
+  displays.append(screens.unit('capt_outb'), screens.unit('capt_inb'),
+                  element('div', 'middle', '', screens.unit('hud'), screens.unit('stby')),
+                  screens.unit('fo_inb'), screens.unit('fo_outb'));
+  document.body.append(bar(), makeGlareshield(panels), displays, lower());
+}
+
+document.body.classList.add('lost');
+if (alone) {
+  document.body.classList.add('alone');
+  document.title = `TZ900 ${alone}`;
+  document.body.append(screens.canvas(alone));
+} else {
+  deck();
+}
+// For tests and the curious.
+window.deck = {link, screens, panels};
