@@ -235,6 +235,7 @@ export class Screen {
     this.enter(axes);
     context.font = `bold ${size}px "${this.families[family] ?? this.families[0]}"`;
     context.fontKerning = 'none';
+    context.textRendering = 'geometricPrecision';  // places and sizes as they are, no hinting
     context.textBaseline = 'alphabetic';
     context.fillStyle = colour;
     context.fillText(text, 0, 0);
