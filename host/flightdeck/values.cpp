@@ -64,6 +64,7 @@ std::string DeckGreeting(const Session& session) {
     json greeting{{"type", "hello"}};
     for (const auto& [family, file] : Ask(inspection.list_fonts).results) greeting["fonts"].push_back(family);
     greeting["controls"] = json::object();
+    for (const auto& [name, told] : Ask(inspection.list_controls).results) greeting["controls"][name] = told;
     greeting["variables"] = json::object();
     for (const auto& [name, type] : Ask(inspection.list_variables, "").results)
         greeting["variables"][name] = type;

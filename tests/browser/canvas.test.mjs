@@ -9,7 +9,7 @@ import {test} from 'node:test';
 import {openBrowser, openDeck, startHost} from './support.mjs';
 
 const WIDTH = 320, HEIGHT = 240;
-const MEAN = 2;     // of 255, over all pixels
+const MEAN = 3;     // of 255, over all pixels
 const SHIFT = 0.5;  // pixels
 
 // The picture form ends with its primitives, each a length and its bytes; a message for a page that has nothing

@@ -58,18 +58,19 @@ export class Panels {
     this.elements = new Map();
   }
 
-  /** The controls as the module tells them: name to "CLASS SET MIN MAX GUARD". */
-  setClasses(controls) {
+  /** The controls as the module tells them, name to "CLASS SET MIN MAX GUARD", and all named variables. */
+  setClasses(controls, named) {
     this.classes = controls;
+    this.named = new Set(named);
     for (const [name, made] of this.elements) made.classList.toggle('unknown', !this.isKnown(name));
   }
-  isKnown(name) { return Object.keys(this.classes).length === 0 || name in this.classes; }
+  isKnown(name) { return name in this.classes || this.named.has(name); }
 
   behaviour(entry) {
-    const told = this.classes[entry.name];
-    if (!told) return DEFAULTS[entry.look] ?? DEFAULTS.key;
+    const told = this.classes[entry.name], own = {min: entry.min, max: entry.max};
+    if (!told) return {...DEFAULTS[entry.look] ?? DEFAULTS.key, ...entry.max && own};
     const [kind, , min, max] = told.split(' ');
-    return {kind, min: Number(min), max: Number(max)};
+    return {kind, min: entry.min ?? Number(min), max: entry.max ?? Number(max)};
   }
 
   write(name, value) { this.link.send({type: 'lvar', name, value}); }
@@ -158,10 +159,9 @@ export class Panels {
     this.link.watch(`lvar:${entry.name}`, (value) => {
       const {kind, min, max} = this.behaviour(entry), at = Number(value);
       const count = Math.max(1, Math.max(max, at) - min);
-      const turn = kind === 'rotary' ? (at - min) * 20 : ((at - min) / count - 0.5) * Math.min(270, 60 * count);
+      const turn = kind === 'rotary' ? (at - min) / (count + 1) * 360 : ((at - min) / count - 0.5) * Math.min(270, 60 * count);
       pointer.style.transform = `rotate(${turn}deg)`;
-      const first = entry.positions.length === 3 && min === -1 ? -1 : 0;
-      text.textContent = entry.positions[at - first] ?? value;
+      text.textContent = entry.positions[at - min] ?? (kind === 'rotary' ? '' : value);
       face.setAttribute('aria-valuetext', text.textContent);
     });
     if (!entry.guard) {

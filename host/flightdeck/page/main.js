@@ -15,7 +15,7 @@ const link = new Link({
     screens.forget();
     screens.setFamilies(message.fonts ?? []);
     loadFonts(message.fonts ?? []);
-    panels.setClasses(message.controls ?? {});
+    panels.setClasses(message.controls ?? {}, message.named ?? []);
     inspector.setNames(message.variables ?? {}, message.named ?? []);
   },
   picture(index, bytes) { screens.take(index, bytes); },

@@ -6,7 +6,7 @@
 //   key     springs back
 //   handle  a fire handle
 //   lamp    only lights
-// `guard` names the variable of the cover over it. A lamp is [variable, text, colour].
+// `guard` names the variable of the cover over it, `min` and `max` the ends of what the module doesn't poll. A lamp is [variable, text, colour].
 
 const OH = 'TZ_OH_', LAMP = 'TZ_OH_Annun_';
 
@@ -81,7 +81,7 @@ export const overhead = [
     selector('ENG_R_START_Switch', 'R Start', ['START', 'NORM']),
     guarded('ECC_L_Button', 'ECC_L_Guard_Switch', 'EEC Mode L', 'NORM', ['ECCL_ALTN', 'ALTN']),
     guarded('ECC_R_Button', 'ECC_R_Guard_Switch', 'EEC Mode R', 'NORM', ['ECCR_ALTN', 'ALTN']),
-    selector('GND_TEST_Switch', 'Gnd Test', ['NORM', 'ENABLE']),
+    selector('GND_TEST_Switch', 'Gnd Test', ['OFF', 'NORM', 'TEST']),
   ]},
   {title: 'Fire', controls: [
     {look: 'handle', name: OH + 'APU_FIRE_HNDL', label: 'APU Fire', text: 'APU',
@@ -89,7 +89,7 @@ export const overhead = [
     button('CFA_FWD_Button', 'Cargo Arm Fwd', 'ARMED'),
     button('CFA_AFT_Button', 'Cargo Arm Aft', 'ARMED'),
     guarded('CFA_DISCH_Button', 'DISCH_Guard_Switch', 'Cargo Disch', 'DISCH'),
-    push('FIRE_OHTEST_Button', 'Fire Test'),
+    button('FIRE_OHTEST_Button', 'Fire Test', 'TEST'),
   ]},
   {title: 'Air', controls: [
     button('AC_LPACK_Button', 'L Pack', 'AUTO', ['LPAC_OFF', 'OFF']),
@@ -111,7 +111,7 @@ export const overhead = [
   ]},
   {title: 'Cargo', controls: [
     button('FWDCARGO_AC_Button', 'Fwd Cargo A/C', 'ON', ['CARGOT_OFF', 'OFF']),
-    selector('FWDCARGO_FLOW_Switch', 'Fwd Flow', ['LOW', 'HIGH']),
+    selector('FWDCARGO_FLOW_Switch', 'Fwd Flow', ['OFF', 'LOW', 'HIGH']),
     button('Bulk_Button', 'Bulk Heat', 'ON', ['BULK_OFF', 'OFF']),
   ]},
   {title: 'Anti-ice', controls: [
@@ -145,7 +145,7 @@ export const overhead = [
   {title: 'Cabin and crew', controls: [
     selector('SEATB_SIGN_Switch', 'Seat Belts', OFF_AUTO_ON),
     button('CAB_CHM_Button', 'Cabin Chime', 'ON'),
-    {...selector('EMER_LTS_Switch', 'Emer Lights', ['OFF', 'ARMED', 'ON']), guard: OH + 'EMER_LTS_Safety_Switch'},
+    {...selector('EMER_LTS_Switch', 'Emer Lights', ['ARMED', 'ON']), guard: OH + 'EMER_LTS_Safety_Switch'},
     guarded('PASS_OXY1_Button', 'PASSOXY_Guard_Switch', 'Pass Oxygen', '', ['POXY_ON', 'ON']),
     {look: 'key', name: 'TZ_OXYGEN_TEST_Switch01', label: 'Oxygen Test', lamps: []},
     button('FD_DOOR_Button', 'Flt Deck Door', 'AUTO', ['FDD_OFF', 'OFF']),
@@ -179,6 +179,7 @@ export const efis = {
     key('TZ_MCP_L_BRST_STD_Button', 'STD'),
     knob('TZ_MCP_L_NDMAP_Knob', 'ND Mode', ['APP', 'VOR', 'MAP', 'PLN']),
     key('TZ_MCP_L_NDMAP_Knob_PUSH', 'ND CTR'),
+    key('tz_cpt_nd_knob_clicked', 'ND PUSH'),
     knob('TZ_MCP_L_RANGE_Knob', 'Range'),
     key('TZ_MCP_L_RNG_CTR_Button', 'TFC CTR'),
     key('TZ_MCP_L_WXR_Button', 'WXR'),
@@ -255,7 +256,8 @@ export const modeControl = {
     {look: 'switch', name: 'TZ_MCP_R_FD_Switch', label: 'F/D', positions: OFF_ON, lamps: []},
   ],
   more: [key('TZ_MCP_IAS_MACH_Button', 'IAS/ MACH'), key('TZ_MCP_XFR_Speed_Button', 'XFR'),
-         knob('ALT_INTV_knob', 'Alt Intv')],
+         key('ALT_INTV_knob', 'ALT INTV'),
+         {look: 'button', name: 'TZ_MCP_HDG_TRK_Status', label: 'Hdg / Trk', stays: 'TRK', lamps: []}],
 };
 
 // A keypad's keys by their names behind TZ_FMC_L_ and TZ_FMC_R_, and what a computer's keyboard calls them.
@@ -284,10 +286,10 @@ export const efbLabels = {ZOOMIN: 'Z+', ZOOMOUT: 'Z-', LFT: '<', RGT: '>', UP: '
 // What the pilot's own hardware does is a key event: [off, on].
 export const pedestal = [
   {title: 'Main panel', controls: [
-    knob('TZ_MAIN_PFD_MFD_L_Switch', 'PFD / MFD', ['OUTBD', 'NORM', 'INBD']),
+    {...knob('TZ_MAIN_PFD_MFD_L_Switch', 'PFD / MFD', ['OUTBD', 'NORM', 'INBD']), min: -1, max: 1},
     knob('TZ_MAIN_AIRDATA_ATT_L_Switch', 'Air Data L', ['ALTN', 'AUTO']),
     knob('TZ_MAIN_AIRDATA_ATT_R_Switch', 'Air Data R', ['ALTN', 'AUTO']),
-    knob('auto_brake_switch', 'Autobrake', ['RTO', 'OFF', 'DISARM', '1', '2', '3', '4', 'MAX']),
+    {...knob('auto_brake_switch', 'Autobrake', ['RTO', 'OFF', 'DISARM', '1', '2', '3', '4', 'MAX']), max: 7},
     key('TZ_Wheel_L_HUD_Button', 'HUD'),
   ]},
   {title: 'Standby instrument', controls: [
@@ -318,6 +320,6 @@ export const pedestal = [
   {title: 'Aft aisle', controls: [
     knob('TZ_AFT_Transponder_Knob', 'Transponder', ['STBY', 'ALT OFF', 'XPNDR', 'TA', 'TA/RA']),
     knob('TZ_AFT_FD_DOOR_Switch', 'Flt Deck Door', ['UNLKD', 'AUTO', 'DENY']),
-    knob('TZ_AFT_OBS_Audio_Switch', 'Obs Audio', ['CAPT', 'NORM', 'F/O']),
+    knob('TZ_AFT_OBS_Audio_Switch', 'Obs Audio', ['NORM', 'CAPT']),
   ]},
 ];

@@ -1,0 +1,117 @@
+// A pilot's morning: from a cold aircraft to lit screens, by clicking.
+
+import assert from 'node:assert/strict';
+import {test} from 'node:test';
+import {litPixels, openBrowser, openDeck, startHost, until, untilValue, valueOf} from './support.mjs';
+
+const face = (name) => `[data-name="${name}"] :is(.face, .dial)`;
+const isLit = (page, lamp) => page.evaluate((lamp) =>
+  document.querySelector(`[data-lamp="${lamp}"]`).classList.contains('lit'), lamp);
+const number = async (page, name) => Number(await valueOf(page, name));
+
+async function openCold(t) {
+  const host = await startHost(t, '--cold'), browser = await openBrowser(t);
+  const page = await openDeck(t, browser, host.address, '#Overhead');
+  // The system looks at its panels from the eighth second on.
+  await page.click('.rate[data-rate="16"]');
+  await until('the panels to be looked at', async () => Number(await valueOf(page, 'aircraft:alt')) > 0 &&
+      await page.evaluate(() => window.deck.link.values.get('host:clock') > '12:00:12'));
+  await page.click('.rate[data-rate="1"]');
+  return page;
+}
+
+test('from battery to screens', async (t) => {
+  const page = await openCold(t);
+  assert.equal(await number(page, 'power_level'), 0);
+  for (const screen of ['capt_outb', 'capt_inb', 'fo_inb', 'fo_outb', 'stby'])
+    assert.equal(await litPixels(page, screen), 0, screen);
+
+  await page.click(face('TZ_OH_ELE_BAT_Button'));
+  await untilValue(page, 'power_level', 5);
+  await until('the APU generator\'s OFF lamp', () => isLit(page, 'TZ_OH_Annun_OFF_APUL'));
+  assert.equal(await litPixels(page, 'capt_outb'), 0, 'the battery alone lights no unit');
+
+  await page.click(face('TZ_OH_ELE_APU_Switch'), {button: 'right'});
+  await untilValue(page, 'lvar:TZ_OH_ELE_APU_Switch', 1);
+  await page.click(face('TZ_OH_ELE_APU_Switch'), {button: 'right'});
+  await untilValue(page, 'apu_starting', 1);
+  await untilValue(page, 'lvar:TZ_OH_ELE_APU_Switch', 1);  // START springs back to ON
+  await page.click('.rate[data-rate="32"]');
+  await untilValue(page, 'apu_pwr_avail', 1, 120);
+  await page.click('.rate[data-rate="1"]');
+  await page.click(face('TZ_OH_APU_GEN_LEFT_Button'));
+  await untilValue(page, 'power_level', 455);
+  await until('the OFF lamp to go out', async () => !await isLit(page, 'TZ_OH_Annun_OFF_APUL'));
+  for (const screen of ['capt_outb', 'fo_outb', 'fo_inb', 'stby'])
+    await until(`${screen} lit`, async () => await litPixels(page, screen) > 0);
+
+  // The lower unit waits for its counter, ten seconds behind the power.
+  await page.click('[data-view="Centre"].tab');
+  if (await number(page, 'du_lwr_startup_cnt') < 58) assert.equal(await litPixels(page, 'lower'), 0);
+  await until('the lower unit lit', async () => await litPixels(page, 'lower') > 0);
+  assert.equal(await number(page, 'du_lwr_startup_cnt'), 60);
+  await until('the inboard unit lit', async () => await litPixels(page, 'capt_inb') > 0, 200);
+});
+
+test('a shut guard refuses', async (t) => {
+  const page = await openCold(t);
+  const guard = '[data-guard="TZ_OH_GEN_L1_Guard_Switch"]';
+  await page.click(guard);
+  // The system puts the button back.
+  await until('the refusal', async () => await valueOf(page, 'lvar:TZ_OH_DRVDISC_L1_Button') === '0' &&
+                                         await valueOf(page, 'drive_disc_l1') === '0');
+  await page.waitForTimeout(1500);
+  assert.equal(await valueOf(page, 'drive_disc_l1'), '0');
+  await page.click(guard, {button: 'right'});
+  await until('an open guard', () => page.evaluate((guard) =>
+    document.querySelector(guard).classList.contains('open'), guard));
+  await untilValue(page, 'TZ_OH_GEN_L1_Guard_Switch', 1);
+  const box = await page.locator(guard).boundingBox();
+  await page.mouse.click(box.x + box.width / 2, box.y + box.height * 0.8);  // below the cover's edge
+  await untilValue(page, 'drive_disc_l1', 1);
+  await page.click(guard, {button: 'right'});
+  await untilValue(page, 'TZ_OH_GEN_L1_Guard_Switch', 0);
+  assert.equal(await valueOf(page, 'drive_disc_l1'), '1', 'for good');
+});
+
+test('every control of the system has its place on a panel', async (t) => {
+  const host = await startHost(t, '--cold'), browser = await openBrowser(t);
+  const page = await openDeck(t, browser, host.address);
+  const {missing, wrongGuards, unknown} = await page.evaluate(() => {
+    const {classes, elements} = window.deck.panels;
+    const notOnPanels = /_CDU_KEYPRESS$/;  // numbers that outside software writes
+    const names = Object.keys(classes);
+    return {
+      missing: names.filter((name) => !elements.has(name) && !notOnPanels.test(name)),
+      unknown: [...document.querySelectorAll('.unknown')].map((made) => made.dataset.name ?? made.dataset.guard),
+      wrongGuards: names.filter((name) => {
+        const guard = classes[name].split(' ')[4];
+        const there = elements.get(name)?.querySelector('.guarded')?.dataset.guard ?? '-';
+        return there !== guard;
+      }),
+    };
+  });
+  assert.deepEqual({missing, wrongGuards, unknown}, {missing: [], wrongGuards: [], unknown: []});
+});
+
+test('the keyboard types on the keypad that has the focus, and the mode control panel turns', async (t) => {
+  const page = await openCold(t);
+  await page.click('[data-view="Centre"].tab');
+  await page.evaluate(() => {
+    window.pressed = [];
+    const send = window.deck.link.send.bind(window.deck.link);
+    window.deck.link.send = (message) => {
+      if (message.type === 'press') window.pressed.push(message.name);
+      send(message);
+    };
+  });
+  await page.locator('.keypad[data-side="R"]').focus();
+  await page.keyboard.type('k7/');
+  await page.keyboard.press('Backspace');
+  assert.deepEqual(await page.evaluate(() => window.pressed), ['K', '7', 'SLASH', 'CLR'].map((key) => `TZ_FMC_R_${key}_Button`));
+
+  const heading = Number(await valueOf(page, 'ap_hdgbug'));
+  await page.click('[data-area="hdg +10"]');
+  await page.click('[data-area="hdg +1"]');
+  await untilValue(page, 'ap_hdgbug', (heading + 11) % 360);
+});
