@@ -25,7 +25,9 @@ std::vector<fs::path> SourceFiles(const std::string& top) {
     std::vector<fs::path> files;
     for (const auto& entry : fs::recursive_directory_iterator(fs::path(SourceDir()) / top)) {
         const std::string extension = entry.path().extension();
-        if (extension == ".cpp" || extension == ".h" || extension == ".js") files.push_back(entry.path());
+        if (entry.path().string().find("node_modules") != std::string::npos) continue;
+        if (extension == ".cpp" || extension == ".h" || extension == ".js" || extension == ".mjs")
+            files.push_back(entry.path());
     }
     std::sort(files.begin(), files.end());
     return files;
