@@ -34,32 +34,33 @@ double SecondsSince(Clock::time_point start) {
     return std::chrono::duration<double>(Clock::now() - start).count();
 }
 
-// Every mode on the lower unit, which shows the most of them; the slowest is the figure.
-void ComposeEachMode(benchmark::State& state) {
+// The slowest of all modes, on the lower unit, which can show most of them.
+void ComposeSlowestMode(benchmark::State& state) {
     const FakeHost host;
     electrical.power_level = 1000;
     displays.du_lwr_startup_cnt = 60;
     const PaintedGauge& lower = *FindPaintedGauge("DU_LOWER_VC");
-    std::vector<int> modes;
-    for (int mode = 1; mode <= 200; ++mode)
-        if (ContentsOf(mode)) modes.push_back(mode);
-    std::vector<double> seconds(modes.size(), 1);
     DrawList list;
-    for (auto _ : state) {
-        for (std::size_t i = 0; i < modes.size(); ++i) {
-            displays.du_lower_mode = modes[i];
-            const auto start = Clock::now();
-            ComposeFrame(lower, list);
-            seconds[i] = std::min(seconds[i], SecondsSince(start));
+    const auto compose = [&](int mode) {
+        displays.du_lower_mode = mode;
+        ComposeFrame(lower, list);
+    };
+    int slowest = 0;
+    double most = 0;
+    for (int mode = 1; mode <= 200; ++mode) {
+        if (!ContentsOf(mode)) continue;
+        compose(mode);  // the first time loads fonts
+        const auto start = Clock::now();
+        for (int i = 0; i < 100; ++i) compose(mode);
+        if (const double seconds = SecondsSince(start); seconds > most) {
+            most = seconds;
+            slowest = mode;
         }
-        state.SetIterationTime(*std::max_element(seconds.begin(), seconds.end()));
     }
+    for (auto _ : state) compose(slowest);
+    state.counters["mode"] = slowest;
 }
-BENCHMARK(ComposeEachMode)
-    ->Name("ComposeDisplayUnit")
-    ->UseManualTime()
-    ->Iterations(200)
-    ->Unit(benchmark::kMicrosecond);
+BENCHMARK(ComposeSlowestMode)->Name("ComposeDisplayUnit")->Unit(benchmark::kMicrosecond);
 
 // As full as a map with all its layers over a busy terminal area.
 DrawList DensePicture() {
@@ -163,7 +164,9 @@ void KeyPressToPicture(benchmark::State& state) {
     std::string picture;
     const char* const keys[] = {"TZ_MCP_L_INFO_Button", "TZ_MCP_L_SYS_Button"};
     for (int press = 0; auto _ : state) {
-        for (int wait = 0; wait < 19; ++wait) TickSession(flying.session, false);
+        do {
+            TickSession(flying.session, false);
+        } while (host::world.ticks % 18 != press % 18);
         PaintGauges(flying.session);
         TakePicture(flying.session, "capt_inb", number, picture);
         const auto start = Clock::now();
