@@ -12,7 +12,7 @@ namespace {
 
 constexpr int kWidth = 182, kBoxHeight = 100, kUpperSeparator = 75;
 constexpr int kRightHalfAt = 382;
-constexpr float kLabelSize = 10, kValueSize = 11;
+constexpr float kLabelSize = 9, kValueSize = 11;
 constexpr char kValueFamily[] = "Courier New";
 constexpr char kNoValue[] = "----------";
 

@@ -33,12 +33,6 @@ bool UnitIsPowered(int unit) {
     }
 }
 
-int ModeOfUnit(int unit) {
-    const int modes[] = {displays.du_capt_outb_mode, displays.du_capt_inb_mode, displays.du_fo_inb_mode,
-                         displays.du_fo_outb_mode, displays.du_lower_mode};
-    return modes[unit - 1];
-}
-
 }  // namespace
 
 bool ComposeFrame(const PaintedGauge& gauge, DrawList& list) {
@@ -48,7 +42,7 @@ bool ComposeFrame(const PaintedGauge& gauge, DrawList& list) {
     switch (gauge.painting) {
         case Painting::kDisplayUnit:
             if (UnitIsPowered(gauge.unit))
-                return ComposeDisplayUnit(graphics, ModeOfUnit(gauge.unit), gauge.unit, gauge.gauge_id);
+                return ComposeDisplayUnit(graphics, DisplayModeOf(gauge.unit), gauge.unit, gauge.gauge_id);
             GdipGraphicsClear(graphics, kDark);
             break;
         case Painting::kStandby:

@@ -1,6 +1,7 @@
 #include "module/gauge_table.h"
 
 #include "display/gauge.h"
+#include "display/selector_gauges.h"
 #include "module/lifecycle.h"
 #include "module/mcp_gauge.h"
 
@@ -29,8 +30,8 @@ const GaugeHeader kGauges[] = {
     {"DU_LOWER_PW", kPainted, ServePaintedGauge},
     {"OVERHEAD", kMouseOnly},
     {"DEBUG", kPainted, ServePaintedGauge},
-    {"DSP_CAPT", kMouseOnly},
-    {"DSP_FO", kMouseOnly},
+    {"DSP_CAPT", kMouseOnly, ServeSelectorGauge},
+    {"DSP_FO", kMouseOnly, ServeSelectorGauge},
     {"MFK_CAPT", kMouseOnly},
     {"MFK_FO", kMouseOnly},
     {"ENG_START", kMouseOnly},
@@ -44,7 +45,7 @@ const GaugeHeader kGauges[] = {
     {"MCP", kMouseOnly, nullptr, McpMouseAreas().data(), static_cast<int32_t>(McpMouseAreas().size())},
     {"WINTOG", kMouseOnly},
     {"GEAR_AUTOBRAKE", kMouseOnly},
-    {"CAPT_DU_MODE", kMouseOnly},
+    {"CAPT_DU_MODE", kMouseOnly, ServeSelectorGauge},
     {"CAPT_CLOCK_BUTTON", kMouseOnly},
     {"CAPT_CANC_RECALL_BUTTON", kMouseOnly},
     {"GEAR_AUTOBRAKE", kMouseOnly},  // panels know it at both places

@@ -33,6 +33,13 @@ struct DisplayState {
 extern DisplayState displays;
 extern const std::span<const Variable> kDisplayVariables;
 
+/// The display mode of a unit, 1 to 5.
+inline int& DisplayModeOf(int unit) {
+    int* const modes[] = {&displays.du_capt_outb_mode, &displays.du_capt_inb_mode, &displays.du_fo_inb_mode,
+                          &displays.du_fo_outb_mode, &displays.du_lower_mode};
+    return *modes[unit - 1];
+}
+
 /// The system page on a half (1 left, 2 right) of a unit. The outboard units show that of the inboard unit of
 /// their side.
 inline int& SystemPageOf(int unit, int half) {

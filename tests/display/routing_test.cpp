@@ -44,21 +44,21 @@ TEST(Routing, InboardButtons) {
         {kCaptain, 2, 5, kCdu, 50},  // the CDU moves over
         {kCaptain, 2, 42, kNd, 47},  // one full-width ND
         {kCaptain, 1, 19, kChkl, 11},     {kCaptain, 1, 11, kComm, 19},
-        {kCaptain, 1, 42, kCdu, 7 + 2},  // ND and CDU: the CDU moves to the left, (CDU, SELECT)
-        {kCaptain, 1, 50, kCdu, 50},     // already on the right
-        {kCaptain, 2, 45, kCdu, 45},     // EICAS stays
+        {kCaptain, 1, 42, kCdu, 9},   // ND and CDU: the CDU moves to the left, (CDU, SELECT)
+        {kCaptain, 1, 50, kCdu, 50},  // already on the right
+        {kCaptain, 2, 45, kCdu, 45},  // EICAS stays
         {kCaptain, 2, 65, kSys, 57},      {kCaptain, 1, 63, kSys, 63},
         {kCaptain, 1, 80, kNd, 80},  // a PFD stays
         {kCaptain, 2, 80, kNd, 85},       {kCaptain, 2, 83, kNd, 83},
         {kFirstOfficer, 1, 31, kCdu, 31},  // EICAS stays on the left
-        {kFirstOfficer, 2, 31, kCdu, 27}, {kFirstOfficer, 1, 43 - 1, kCdu, 3},
+        {kFirstOfficer, 2, 31, kCdu, 27}, {kFirstOfficer, 1, 42, kCdu, 3},
         {kFirstOfficer, 1, 58, kCdu, 3},  {kFirstOfficer, 1, 8, kNd, 47},
         {kFirstOfficer, 2, 3, kCdu, 3},   {kFirstOfficer, 2, 88, kNd, 88},
         {kFirstOfficer, 1, 93, kCdu, 93},
     };
     for (const auto& row : kCases) {
         ResetSystemState();
-        displays.du_lower_mode = 50 + 4 - 4;  // SELECT and CDU
+        displays.du_lower_mode = 50;  // SELECT and CDU
         displays.dsp_capt_mode_button = displays.dsp_fo_mode_button = row.half;
         int& mode = row.side == kCaptain ? displays.du_capt_inb_mode : displays.du_fo_inb_mode;
         mode = row.mode;
@@ -88,7 +88,7 @@ TEST(Routing, UnitsGiveWayToEachOther) {
         // a press on an inboard unit clears the lower unit's half of that side
         {false, kCaptain, kCdu, 43, 4, 4, 51},
         {false, kFirstOfficer, kCdu, 31, 3, 27, 9},
-        {false, kFirstOfficer, kCdu, 31, 43 - 1, 27, 48},
+        {false, kFirstOfficer, kCdu, 31, 42, 27, 48},
         {false, kCaptain, kChkl, 42, 3, 11, 3},
         // a press on the lower unit clears the inboard unit of that side
         {true, kCaptain, kCdu, 6, 50, 53, 3},
