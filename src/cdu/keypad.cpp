@@ -1,27 +1,20 @@
 #include "cdu/keypad.h"
 
-#include <string>
-#include <string_view>
-
 #include "fmc/execute_route.h"
+#include "fmc/route.h"
 #include "state/cdu.h"
 #include "state/plan.h"
 
 namespace {
 
-constexpr std::size_t kScratchPadLength = 24;
-constexpr std::string_view kDeleteMessage = "DELETE";
-constexpr int kFirstModeItem = 17, kLastModeItem = 28;
-constexpr int kExecItem = 22, kPreviousPageItem = 29, kNextPageItem = 30;
-
-void Append(CduState& unit, char character) {
-    if (unit.ScratchPad.size() < kScratchPadLength) unit.ScratchPad += character;
+void Append(std::string& scratchpad, char character) {
+    if (scratchpad.size() < kScratchPadLimit) scratchpad.push_back(character);
 }
 
 }  // namespace
 
 void OnCduKeyChar(int side, char character) {
-    Append(CduOf(side), character);
+    Append(CduOf(side).ScratchPad, character);
 }
 
 void OnSpace(int side) {
@@ -30,7 +23,7 @@ void OnSpace(int side) {
         unit.ScratchPad.clear();
         unit.ScratchMessage.clear();
     } else {
-        unit.ScratchPad += ' ';
+        unit.ScratchPad.push_back(' ');
     }
 }
 
@@ -39,19 +32,19 @@ void OnDelete(int side) {
 }
 
 void OnSlash(int side) {
-    Append(CduOf(side), '/');
+    OnCduKeyChar(side, '/');
 }
 
 void OnPlusMinus(int side) {
-    CduState& unit = CduOf(side);
-    std::string& text = unit.ScratchPad;
-    if (text.size() >= kScratchPadLength) return;
-    if (text.ends_with('-'))
-        text.back() = '+';
-    else if (text.ends_with('+'))
-        text.back() = '-';
+    std::string& scratchpad = CduOf(side).ScratchPad;
+    if (scratchpad.size() >= kScratchPadLimit) return;
+    const char last = scratchpad.empty() ? ' ' : scratchpad.back();
+    if (last == '-')
+        scratchpad.back() = '+';
+    else if (last == '+')
+        scratchpad.back() = '-';
     else
-        text += '-';
+        scratchpad.push_back('-');
 }
 
 void OnClear(int side) {
@@ -63,20 +56,15 @@ void OnClear(int side) {
 }
 
 void OnExec(int) {
-    if (plan.fms_fpln_active == 2 || plan.fms_fpln_active == 4) ExecuteRoute();
+    if (plan.fms_fpln_active != kRouteActivated && plan.fms_fpln_active != kRouteModified) return;
+    ExecuteRoute();
+    LeaveLegsView();
 }
 
-void OnCduKeyPress(int side, int item) {
-    CduState& unit = CduOf(side);
-    const bool line_key = (item >= 1 && item <= 6) || (item >= 9 && item <= 14);
-    if (line_key)
-        unit.PendingLine = item;
-    else if (item == kExecItem)
-        OnExec(side);
-    else if (item == kPreviousPageItem)
-        unit.PrevPagePending = 1;
-    else if (item == kNextPageItem)
-        unit.NextPagePending = 1;
-    else if (item >= kFirstModeItem && item <= kLastModeItem)
-        unit.PendingItem = item;
+void OnPreviousPage(int side) {
+    CduOf(side).PrevPagePending = 1;
+}
+
+void OnNextPage(int side) {
+    CduOf(side).NextPagePending = 1;
 }

@@ -1,28 +1,24 @@
 #pragma once
 
-// The keys of the multi-function keypad, for the CDU of a side (kCaptain, kFirstOfficer). They act on the
-// scratchpad at once, whatever page stands.
+#include <cstddef>
 
-/// Appends a character while the scratchpad has fewer than 24. A scratch message stays and hides it.
+// The keypad of a CDU, one function a key: they act on the scratchpad at once, whatever page is shown. Side 1
+// is the captain's, 2 the first officer's.
+
+constexpr std::size_t kScratchPadLimit = 24;
+
+/// A letter, a digit or the point: one more character, silently dropped at 24.
 void OnCduKeyChar(int side, char character);
-
-/// Appends a blank, beyond 24 too; takes a pending "DELETE" back together with the scratchpad.
+/// SP: takes a waiting DELETE back with the scratchpad, else adds a blank, without the limit.
 void OnSpace(int side);
-
-/// Arms the deletion of a line.
 void OnDelete(int side);
-
 void OnSlash(int side);
-
-/// Appends "-", or changes a sign that stands last.
+/// +/-: "-", then turns the sign at the end of the scratchpad.
 void OnPlusMinus(int side);
-
-/// Takes the scratch message away, else the last character.
+/// CLR: the scratch message goes, else the last character.
 void OnClear(int side);
-
-/// Executes what awaits execution.
+/// EXEC: puts what waits into force; nothing but the click when nothing waits.
 void OnExec(int side);
-
-/// Presses an item of the CDU's face: 1 to 6 and 9 to 14 are line keys, 17 to 30 soft keys. Other numbers do
-/// nothing.
-void OnCduKeyPress(int side, int item);
+/// PREV PAGE and NEXT PAGE wait for a page that has a family.
+void OnPreviousPage(int side);
+void OnNextPage(int side);

@@ -1,5 +1,6 @@
 #include "display/compose.h"
 
+#include "cdu/cdu_format.h"
 #include "display/aux_strip.h"
 #include "display/content_place.h"
 #include "display/modes.h"
@@ -21,12 +22,17 @@ void DrawSelectPrompt(Graphics& graphics, const ContentPlace& place) {
     CentredText(graphics, middle, kTop, 14, kBlack, "SELECT MFD");
 }
 
+void DrawCduContent(Graphics& graphics, const ContentPlace& place) {
+    DrawCdu(graphics, place.half, place.unit);
+}
+
 struct ContentRow {
     Content content;
     void (*draw)(Graphics& graphics, const ContentPlace& place);
 };
 constexpr ContentRow kContents[] = {
     {Content::kAux, DrawAuxStrip},
+    {Content::kCdu, DrawCduContent},
     {Content::kSelect, DrawSelectPrompt},
 };
 

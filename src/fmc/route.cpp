@@ -11,6 +11,7 @@
 #include "navdata/airport_file.h"
 #include "platform/host.h"
 #include "state/airports.h"
+#include "state/cdu.h"
 #include "state/cfg.h"
 #include "state/lnav.h"
 #include "state/perf.h"
@@ -122,6 +123,7 @@ void EraseModification() {
     plan.fms_fpln_active = kRouteActive;
     RefreshLegsForModification();
     RebuildRouteRows();
+    LeaveLegsView();
 }
 
 void ClearFlightPlan() {

@@ -6,8 +6,12 @@
 #include "state/cdu.h"
 #include "state/cfg.h"
 #include "state/pos_init.h"
+#include "state/sim.h"
+#include "state/vnav.h"
 
 namespace {
+
+constexpr std::string_view kDragRequired = "DRAG REQUIRED";
 
 // Texts stand as the crew knows them, slips included.
 
@@ -136,6 +140,13 @@ int FindByTitle(CduState& unit, std::string_view title) {
     return 0;
 }
 
+// Those above close the gap; 0 removes nothing.
+void RemoveAt(CduState& unit, int place) {
+    if (place == 0) return;
+    for (int i = place; i < unit.CduMessageCount; ++i) unit.CduMessages[i] = unit.CduMessages[i + 1];
+    unit.CduMessages[unit.CduMessageCount--] = {};
+}
+
 }  // namespace
 
 void PostCduMessage(std::string_view title, int kind, int help_id, int side) {
@@ -156,10 +167,25 @@ void PostCduMessage(std::string_view title, int kind, int help_id, int side) {
 }
 
 void RemoveCduMessageByTitle(std::string_view title) {
-    for (CduState& unit : cdu) {
-        const int found = FindByTitle(unit, title);
-        if (found == 0) continue;
-        for (int i = found; i < unit.CduMessageCount; ++i) unit.CduMessages[i] = unit.CduMessages[i + 1];
-        unit.CduMessages[unit.CduMessageCount--] = {};
+    for (CduState& unit : cdu) RemoveAt(unit, FindByTitle(unit, title));
+}
+
+void ClearCduMessage(int side) {
+    CduState& unit = CduOf(side);
+    if (unit.CduMessageCount == 0) return;
+    const CduMessage cleared = unit.CduMessages[unit.CduMessageCount];
+    if (cleared.title == kDragRequired) {
+        RemoveCduMessageByTitle(kDragRequired);
+        vnav.drag_msg_changed_at = sim.abs_time;
+        return;
+    }
+    RemoveAt(unit, unit.CduMessageCount);
+    CduState& other = CduOf(side == kCaptain ? kFirstOfficer : kCaptain);
+    for (int i = other.CduMessageCount; i >= 1; --i) {
+        const CduMessage& message = other.CduMessages[i];
+        if (message.title != cleared.title || message.body != cleared.body || message.kind != cleared.kind)
+            continue;
+        RemoveAt(other, i);
+        return;
     }
 }

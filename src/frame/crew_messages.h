@@ -16,9 +16,20 @@ constexpr int kRedAdvisory = 100;
 constexpr int kHelpFixedList = 0;
 constexpr int kHelpFlightPlanSaved = 1;
 constexpr int kHelpAirportCode = 6;
+constexpr int kHelpCompanyRoute = 7;
+constexpr int kHelpNotAllowed = 8;
+constexpr int kHelpRoute = 9;
 constexpr int kHelpNavdataDate = 12;
+constexpr int kHelpFlightNumber = 16;
 constexpr int kHelpTodBeforeToc = 24;
 constexpr int kHelpDragRequired = 25;
+constexpr int kHelpOrigin = 41;
+constexpr int kHelpDestination = 42;
+constexpr int kHelpWindAltitude = 48;
+constexpr int kHelpWeatherMissing = 50;
+constexpr int kHelpWindEntry = 53;
+constexpr int kHelpFourWinds = 54;
+constexpr int kHelpAltOat = 55;
 
 /// Tells the crew something on the CDU: pushes a message on the list of each addressed side (kCaptain,
 /// kFirstOfficer, kBothSides). Nothing is posted for a help id without a row, for help 0 with a title that
@@ -28,3 +39,7 @@ void PostCduMessage(std::string_view title, int kind, int help_id, int side);
 
 /// Removes the first message with that title from each side's list.
 void RemoveCduMessageByTitle(std::string_view title);
+
+/// CLR MSG: removes the newest message of a side, and the same message (title, body, kind) from the other
+/// side's list. "DRAG REQUIRED" goes from both lists by its title, and its monitor counts from now.
+void ClearCduMessage(int side);

@@ -132,4 +132,8 @@ void PollKeyboard() {
 void ReleaseKeyboard() {
     CloseDevice();
     keyboard = {};
+    for (CduState& unit : cdu) {
+        unit.PcKeyboardActive = 0;
+        unit.keyboard_commands = {};
+    }
 }

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <cstdarg>
+#include <cstdio>
 
 namespace {
 
@@ -52,4 +54,13 @@ void LowerCase(std::string& text) {
 
 bool EqualIgnoringCase(std::string_view a, std::string_view b) {
     return std::ranges::equal(a, b, {}, Upper, Upper);
+}
+
+std::string Format(const char* format, ...) {
+    char text[512];
+    va_list arguments;
+    va_start(arguments, format);
+    const int length = std::vsnprintf(text, sizeof text, format, arguments);
+    va_end(arguments);
+    return length < 0 ? std::string() : std::string(text);
 }

@@ -18,3 +18,6 @@ double LeadingDouble(std::string_view text);
 void UpperCase(std::string& text);
 void LowerCase(std::string& text);
 bool EqualIgnoringCase(std::string_view a, std::string_view b);
+
+/// A text by printf's rules, cut at 511 characters.
+[[gnu::format(printf, 1, 2)]] std::string Format(const char* format, ...);

@@ -14,24 +14,53 @@ struct CduMessage {
     int side = 0;
 };
 
+constexpr const char* kDeleteMessage = "DELETE";  // the scratch message of the DEL key
+constexpr int kCduItems = 31;                     // item numbers 1 to 30; 0 = none
+
 /// One CDU. cdu[0] is the captain's, cdu[1] the first officer's: CduOf(side).
 struct CduState {
     int fms_page = 0;
-    int prev_fms_page = 0;
+    int prev_fms_page = 0;       // where a page that settles something goes back to
+    int fms_vnav_page = 1;       // 1 CLB, 2 CRZ, 3 DES
     std::string ScratchPad;      // at most 24 characters from the keypad
     std::string ScratchMessage;  // hides the scratchpad while not empty
-    int ItemCursor = 0;
-    int PendingLine = 0;  // line key waiting for the next page call: 1-6 left, 9-14 right
-    int PrevPagePending = 0, NextPagePending = 0;  // until a page with several pages takes them
-    int PendingItem = 0;  // item of the face that a KEYPRESS variable names; 0 = none
-    int PcKeyboardActive = 0;
-    GrowingList<CduMessage> CduMessages;  // from 1, CduMessageCount is the newest
+    int ItemCursor = 0;          // item under the keyboard cursor, 0 = none
+    int PendingLine = 0;         // line key waiting for the next page call: 1-6 left, 9-14 right
+    int PrevPagePending = 0, NextPagePending = 0;   // until a page with a family takes them
+    std::array<int, kCduItems> KeyPressTimer = {};  // ticks; above 0 the key is drawn pressed
+    std::array<int, 15> line_selectable = {};       // line keys that had a function at the last page call
+    int PcKeyboardActive = 0;                       // the scratchpad takes the PC keyboard
+    std::array<int, 2> keyboard_commands = {};      // 1 left, 2 up, 3 right, 4 down, 5 enter; 0 = free
+    GrowingList<CduMessage> CduMessages;            // from 1, CduMessageCount is the newest
     int CduMessageCount = 0;
+    int ClearMessageTimer = 0;  // ticks; the newest message goes when it runs out
+    // page within a family, from 1
+    int rte_index = 1, legs_index = 1, rte_data_index = 1;
+    int dep_index = 1, arr_index = 1, select_index = 1;
+    int progress_index = 1, altn_index = 1, fix_index = 1;
+    int flight_plans_index = 1, panels_index = 1;
+};
+
+/// What both CDUs share of the route pages.
+struct RoutePages {
+    int LegsView = 0;           // 0 normal, 1 direct-to selection, 2 hold selection
+    int HoldSelectIndex = 0;    // leg picked in view 2, 0 = none
+    int DirectSelectIndex = 0;  // leg picked in view 1, 0 = none
+    int PendingSelectRow = 0;   // where a pick on SELECT DESIRED WPT goes in; 0 = the hold or direct-to path
+    int hold_candidate = 0;     // the pick on SELECT DESIRED WPT that waits for "HOLD AT"
+    int wind_leg = 0;           // leg of the wind page
 };
 
 extern std::array<CduState, 2> cdu;
+extern RoutePages route_pages;
 extern const std::span<const Variable> kCduVariables;
+extern const std::span<const Variable> kRoutePageVariables;
 
 inline CduState& CduOf(int side) {
     return cdu[side == 2 ? 1 : 0];
+}
+
+/// LEGS goes back to its normal view; what was picked in another is forgotten.
+inline void LeaveLegsView() {
+    route_pages.LegsView = route_pages.HoldSelectIndex = route_pages.DirectSelectIndex = 0;
 }

@@ -5,6 +5,8 @@ PosInitState pos_init;
 namespace {
 constexpr Variable kRows[] = {
     {"RefAirport", &pos_init.RefAirport},
+    {"inertial_lat", &pos_init.inertial_lat},
+    {"inertial_lon", &pos_init.inertial_lon},
 };
 }  // namespace
 

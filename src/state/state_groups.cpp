@@ -63,6 +63,7 @@ constexpr StateGroup kGroups[] = {
     {"autoflight", Reset<&autoflight>, &kAutoflightVariables},
     {"sound", Reset<&sound>, &kSoundVariables},
     {"cdu", Reset<&cdu>, &kCduVariables},
+    {"route_pages", Reset<&route_pages>, &kRoutePageVariables},
     {"displays", Reset<&displays>, &kDisplayVariables},
     {"nd", Reset<&nd>, &kNdVariables},
     {"instruments", Reset<&instruments>, &kInstrumentVariables},

@@ -33,6 +33,7 @@ constexpr Variable kRows[] = {
     {"clb_next_restr_alt", &vnav.clb_next_restr_alt},
     {"des_next_restr_alt", &vnav.des_next_restr_alt},
     {"step_due", &vnav.step_due},
+    {"drag_msg_changed_at", &vnav.drag_msg_changed_at},
 };
 }  // namespace
 

@@ -29,6 +29,7 @@ struct VnavState {
     double tod_test_dist = 0;  // nm, test distance of the TOD check; -4 = shortcut
     double clb_next_restr_alt = 0, des_next_restr_alt = 0;
     int step_due = 0;
+    double drag_msg_changed_at = 0;  // s, host time at which "DRAG REQUIRED" last came or went
 };
 
 extern VnavState vnav;

@@ -3,9 +3,9 @@
 #include <string_view>
 #include <utility>
 
+#include "cdu/items.h"
 #include "cdu/keypad.h"
 #include "module/controls/panels.h"
-#include "state/cdu.h"
 #include "state/cockpit.h"
 #include "state/side.h"
 
@@ -37,8 +37,8 @@ consteval auto Keypad() {
         Key(KeyVariable(kSide, "SP"), [](int) { OnSpace(kSide); }),
         Key(KeyVariable(kSide, "DEL"), [](int) { OnDelete(kSide); }),
         Key(KeyVariable(kSide, "CLR"), [](int) { OnClear(kSide); }),
-        Key(KeyVariable(kSide, "PRVPG"), [](int) { CduOf(kSide).PrevPagePending = 1; }),
-        Key(KeyVariable(kSide, "NXTPG"), [](int) { CduOf(kSide).NextPagePending = 1; }),
+        Key(KeyVariable(kSide, "PRVPG"), [](int) { OnPreviousPage(kSide); }),
+        Key(KeyVariable(kSide, "NXTPG"), [](int) { OnNextPage(kSide); }),
         Key(KeyVariable(kSide, "EXEC"), [](int) { OnExec(kSide); }),
     });
     return JoinTables(Characters<kSide>(std::make_index_sequence<kCharacters.size()>()), kOthers);

@@ -1,0 +1,78 @@
+#include "cdu/cdu_service.h"
+
+#include "cdu/cursor.h"
+#include "cdu/items.h"
+#include "cdu/page.h"
+#include "cdu/page_table.h"
+#include "frame/crew_messages.h"
+#include "state/keyboard.h"
+#include "state/lnav.h"
+
+namespace {
+
+void CountDownPresses(CduState& unit) {
+    for (int& timer : unit.KeyPressTimer)
+        if (timer > 0) --timer;
+}
+
+void StepClearMessage(int side) {
+    int& timer = CduOf(side).ClearMessageTimer;
+    if (timer > 0 && --timer == 0) ClearCduMessage(side);
+}
+
+// The keyboard's code joins a queue of two; a third is written over the second.
+void QueueKeyboardCommand(CduState& unit) {
+    if (keyboard.keyboard_code == 0 || unit.PcKeyboardActive == 0) return;
+    unit.keyboard_commands[unit.keyboard_commands[0] == 0 ? 0 : 1] = keyboard.keyboard_code;
+    keyboard.keyboard_code = 0;
+}
+
+void TakeKeyboardCommand(int side) {
+    CduState& unit = CduOf(side);
+    int& slot = unit.keyboard_commands[unit.keyboard_commands[0] != 0 ? 0 : 1];
+    const int command = slot;
+    slot = 0;
+    if (command == 0) return;
+    if (command != kCursorEnter) {
+        MoveCursor(side, command);
+    } else if (unit.ItemCursor >= kItemInitRef) {
+        EnterSoftKey(side, unit.ItemCursor);
+    } else if (unit.ItemCursor > 0) {
+        unit.PendingLine = unit.ItemCursor;
+        unit.ItemCursor = NextLineDown(side, unit.ItemCursor);
+    }
+}
+
+bool HasSomethingPending(const CduState& unit) {
+    if (unit.PendingLine != 0) return true;
+    if (unit.PrevPagePending == 0 && unit.NextPagePending == 0) return false;
+    const CduPage* page = FindPage(unit.fms_page);
+    return page != nullptr && page->is_family;
+}
+
+}  // namespace
+
+void CallPage(Graphics& graphics, int side) {
+    CduState& unit = CduOf(side);
+    PageCall call{graphics, side, unit.PendingLine, unit};
+    unit.PendingLine = 0;
+    unit.line_selectable = {};
+    if (const CduPage* page = FindPage(unit.fms_page)) page->draw(call);
+}
+
+void StepCdu(int side, bool shown) {
+    CduState& unit = CduOf(side);
+    CountDownPresses(unit);
+    StepClearMessage(side);
+    QueueKeyboardCommand(unit);
+    if (lnav.hold_select_due == side) {
+        lnav.hold_select_due = 0;
+        OpenHoldSelection(side);
+    }
+    if (!shown) return;
+    TakeKeyboardCommand(side);
+    if (!HasSomethingPending(unit)) return;
+    DrawList unseen;
+    Graphics graphics = GdipCreateGraphics(unseen, 564, 424);
+    CallPage(graphics, side);
+}

@@ -1,0 +1,9 @@
+#pragma once
+
+struct PageCall;
+
+/// LEGS: the legs with their constraints, the direct-to and the selection of a hold.
+void LegsPage(PageCall& call);
+
+/// Inserts a candidate of the entry at a leg, as the pick on SELECT DESIRED WPT asks.
+void InsertPickedLeg(PageCall& call, int leg, int candidate);

@@ -1,0 +1,111 @@
+#pragma once
+
+#include <string_view>
+
+#include "paint/colours.h"
+#include "paint/graphics.h"
+#include "state/cdu.h"
+#include "state/side.h"
+
+// The words in which CDU pages are written. A page is one function: it acts on the line key that is pending,
+// then draws the whole face. Coordinates are those of one half, 282 by 424.
+
+constexpr int kL1 = 1, kL2 = 2, kL3 = 3, kL4 = 4, kL5 = 5, kL6 = 6;
+constexpr int kR1 = 9, kR2 = 10, kR3 = 11, kR4 = 12, kR5 = 13, kR6 = 14;
+
+// Page ids, as panel state files keep them.
+constexpr int kPageFlightPlans = 1;
+constexpr int kPagePerfInit = 3;
+constexpr int kPageLegs = 6;
+constexpr int kPageSelectWpt = 9;
+constexpr int kPageDepartures = 10;
+constexpr int kPageArrivals = 11;
+constexpr int kPageApproachRef = 12;
+constexpr int kPageVnav = 15;
+constexpr int kPagePanels = 20;
+constexpr int kPageRte = 22;
+constexpr int kPageInitRefIndex = 23;
+constexpr int kPageDepArrIndex = 24;
+constexpr int kPageIdent = 25;
+constexpr int kPagePosInit = 26;
+constexpr int kPageTakeoffRef = 27;
+constexpr int kPageRefNavData = 28;
+constexpr int kPageProgress = 33;
+constexpr int kPageFixInfo = 37;
+constexpr int kPageHold = 39;
+constexpr int kPageNavRadio = 49;
+constexpr int kPageAltn = 51;
+constexpr int kPageThrustLim = 52;
+constexpr int kPageAltnDetail = 53;
+constexpr int kPagePosReport = 54;
+constexpr int kPageRteData = 55;
+constexpr int kPageAnnouncements = 56;
+constexpr int kPageDescentForecast = 57;
+constexpr int kPageWind = 58;
+
+/// One call of a page.
+struct PageCall {
+    Graphics& graphics;
+    int side;  // kCaptain or kFirstOfficer
+    int line;  // the pending line key, kL1 to kL6, kR1 to kR6; 0 = none. Seen by one call only
+    CduState& unit;
+};
+
+// --- what the crew has done
+
+/// The DEL key waits for a line.
+bool IsDelete(const PageCall& call);
+/// The text on the scratchpad.
+const std::string& Entry(const PageCall& call);
+/// An entry has been taken: scratchpad and scratch message are empty.
+void ClearEntry(PageCall& call);
+/// An entry is refused: it stays on the scratchpad, and the crew is told why.
+void Refuse(PageCall& call, std::string_view title, int help_id);
+/// DELETE on a line that has nothing to delete.
+void RefuseDelete(PageCall& call);
+/// A value goes down to the scratchpad.
+void CopyDown(PageCall& call, std::string_view text);
+/// Moves the index of a family of `count` pages by what PREV PAGE and NEXT PAGE ask, with wrap-around.
+void TurnPages(PageCall& call, int& index, int count);
+void GoToPage(int side, int page);
+
+/// 1 to 6 for a line key of the left or right column; 0 for one of the other column, and for none.
+int LeftLine(int line);
+int RightLine(int line);
+
+// --- what the crew sees
+
+/// A line key that does something: its box is bright, the cursor may rest on it.
+void MarkSelectable(PageCall& call, int line);
+
+constexpr float kLabelSize = 9, kSmallSize = 10, kDataSize = 11;
+
+void PageText(PageCall& call, double x, double y, std::string_view text, Rgb colour = kWhite,
+              float size = kDataSize);
+/// In columns of seven units, whatever the font of the display units.
+void ColumnText(PageCall& call, double x, double y, std::string_view text, Rgb colour = kWhite);
+/// On the white box of a value that a modification holds.
+void HighlightedText(PageCall& call, double x, double y, std::string_view text);
+
+void Title(PageCall& call, double x, std::string_view text, Rgb colour = kWhite);
+/// "ACT" or "MOD" before the title, by the state of the route.
+void RouteStatusMark(PageCall& call, double x);
+void PageCounter(PageCall& call, int index, int count);
+
+double LabelY(int row);
+double DataY(int row);
+void LeftLabel(PageCall& call, int row, std::string_view text, Rgb colour = kCyan);
+void LeftData(PageCall& call, int row, std::string_view text, Rgb colour = kWhite, float size = kDataSize);
+void RightLabel(PageCall& call, int row, std::string_view text, Rgb colour = kCyan);
+void RightData(PageCall& call, int row, std::string_view text, Rgb colour = kWhite, float size = kDataSize);
+void HighlightedLeft(PageCall& call, int row, std::string_view text);
+void HighlightedRight(PageCall& call, int row, std::string_view text);
+
+/// A field that must be filled: a small box for each character.
+void EntryBoxes(PageCall& call, double x, double y, int count);
+void LeftBoxes(PageCall& call, int row, int count);
+void RightBoxes(PageCall& call, int row, int count);
+/// The frame behind a value that may be entered.
+void EntryFrame(PageCall& call, int x, int y, int width);
+/// The line of dashes above the sixth line.
+void DashLine(PageCall& call);

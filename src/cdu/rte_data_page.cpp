@@ -1,0 +1,137 @@
+#include "cdu/rte_data_page.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "cdu/page.h"
+#include "cdu/shown_plan.h"
+#include "fmc/leg_list.h"
+#include "fmc/route.h"
+#include "frame/crew_messages.h"
+#include "platform/text.h"
+#include "state/cfg.h"
+#include "state/lnav.h"
+#include "state/perf.h"
+#include "state/sim.h"
+#include "state/vnav.h"
+
+namespace {
+
+constexpr int kLegsPerPage = 5;
+constexpr double kPoundsPerKg = 2.20462262185;
+constexpr double kUsableGroundSpeed = 60;  // kt; below it the planned one counts
+
+int FirstLeg() {
+    return std::max(1, ShownActiveLeg());
+}
+
+int PageCount() {
+    return std::max(1, (ShownCount() - FirstLeg() + kLegsPerPage) / kLegsPerPage);
+}
+
+struct Arrival {
+    double hours = 0;  // from now
+    double fuel_lb = 0;
+};
+
+double BurnPerNm(int leg) {
+    if (vnav.tod_stpos > 0 && leg > vnav.tod_stpos) return perf.des_burn_per_nm;
+    if (vnav.toc == 0 && vnav.toc_stpos > 0 && leg <= vnav.toc_stpos) return perf.clb_burn_per_nm;
+    return perf.crz_burn_per_nm;
+}
+
+double DistanceTo(int leg) {
+    if (leg == ShownActiveLeg() && lnav.wpt_dist > 0) return lnav.wpt_dist;
+    const ShownTrack track = TrackToLeg(leg);
+    return track.known ? track.dist : 0;
+}
+
+// What the aircraft will have at a leg, as it goes now.
+Arrival ArrivalAt(int leg) {
+    const double speed = sim.ground_speed_kt > kUsableGroundSpeed ? sim.ground_speed_kt : perf.avg_gs;
+    Arrival arrival{0, sim.total_fuel};
+    for (int i = FirstLeg(); i <= leg; ++i) {
+        const double distance = DistanceTo(i);
+        if (speed > 0) arrival.hours += distance / speed;
+        arrival.fuel_lb = std::max(0.0, arrival.fuel_lb - distance * BurnPerNm(i));
+    }
+    return arrival;
+}
+
+std::string EtaText(double hours_from_now) {
+    const double minutes =
+        std::fmod(sim.utc_hours * 60 + sim.utc_minutes + std::floor(hours_from_now * 60), 1440);
+    return Format("%02.0f%02.0fZ", std::floor(minutes / 60), std::fmod(minutes, 60));
+}
+
+bool HasWinds(const FlightPlanLeg& leg) {
+    return std::any_of(leg.wind.begin(), leg.wind.end(), [](const WindLevel& wind) { return wind.alt != 0; });
+}
+
+void OpenWinds(PageCall& call, int leg) {
+    if (leg > ShownCount() || !IsPlace(ShownLeg(leg))) return;
+    if (plan.fms_fpln_active == kRouteActive) AdvanceRouteState();
+    route_pages.wind_leg = leg;
+    GoToPage(call.side, kPageWind);
+}
+
+// No weather comes from anywhere: the crew is told so, with what a source would have to bring.
+void RequestWinds(PageCall& call) {
+    OpenModification();
+    Refuse(call, "INVALID WIND DATA UPLINK", kHelpWeatherMissing);
+}
+
+void OnLastLine(PageCall& call) {
+    if (call.line == kR6) {
+        if (plan.fms_fpln_active >= kRouteActivated) RequestWinds(call);
+        return;
+    }
+    if (plan.fms_fpln_active == kRouteModified) {
+        EraseModification();
+        ClearEntry(call);
+    } else {
+        GoToPage(call.side, kPageLegs);
+    }
+}
+
+void DrawRow(PageCall& call, int row, int leg) {
+    const FlightPlanLeg& shown = ShownLeg(leg);
+    if (!IsPlace(shown)) return;
+    const Arrival arrival = ArrivalAt(leg);
+    const double unit = cfg.WeightUnit == "KGS" ? kPoundsPerKg : 1;
+    const double y = DataY(row);
+    PageText(call, 34, y, EtaText(arrival.hours));
+    PageText(call, 90, y, shown.ident, leg == ShownActiveLeg() ? kMagenta : kWhite);
+    PageText(call, 150, y, Format("%3.1f", arrival.fuel_lb / unit / 1000));
+    if (HasWinds(shown)) PageText(call, 225, y, "W");
+    RightData(call, row, ">");
+    MarkSelectable(call, kR1 + row - 1);
+}
+
+}  // namespace
+
+void RteDataPage(PageCall& call) {
+    int& page = call.unit.rte_data_index;
+    TurnPages(call, page, PageCount());
+    const int first = FirstLeg() + (page - 1) * kLegsPerPage;
+    const int right = RightLine(call.line);
+    if (call.line == kL6 || call.line == kR6)
+        OnLastLine(call);
+    else if (right > 0)
+        OpenWinds(call, first + right - 1);
+
+    Title(call, 115, "RTE 1 DATA", plan.fms_fpln_active >= kRouteActive ? kMapGreen : kWhite);
+    RouteStatusMark(call, 90);
+    PageText(call, 230, 23, Format("%d/%d", page, PageCount()), kWhite, kLabelSize);
+    PageText(call, 40, LabelY(1), "ETA", kCyan, kLabelSize);
+    PageText(call, 90, LabelY(1), "WAYPOINT", kCyan, kLabelSize);
+    PageText(call, 155, LabelY(1), "FUEL", kCyan, kLabelSize);
+    RightLabel(call, 1, "WIND");
+    for (int row = 1; row <= kLegsPerPage && first + row - 1 <= ShownCount(); ++row)
+        DrawRow(call, row, first + row - 1);
+    DashLine(call);
+    LeftData(call, 6, plan.fms_fpln_active == kRouteModified ? "<ERASE" : "<LEGS");
+    RightData(call, 6, plan.fms_fpln_active < kRouteActivated ? "POS REF>" : "REQUEST>");
+    MarkSelectable(call, kL6);
+    if (plan.fms_fpln_active >= kRouteActivated) MarkSelectable(call, kR6);
+}

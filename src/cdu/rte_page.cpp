@@ -1,0 +1,318 @@
+#include "cdu/rte_page.h"
+
+#include <algorithm>
+
+#include "cdu/page.h"
+#include "cdu/shown_plan.h"
+#include "fmc/edit_legs.h"
+#include "fmc/endpoints.h"
+#include "fmc/insert_fix.h"
+#include "fmc/route.h"
+#include "fmc/route_airway.h"
+#include "fmc/route_rows.h"
+#include "frame/crew_messages.h"
+#include "navdata/parse_entry.h"
+#include "platform/text.h"
+#include "state/airports.h"
+#include "state/nav.h"
+
+namespace {
+
+constexpr int kRowsPerPage = 5;
+constexpr std::size_t kMaxFlightNumber = 10;
+constexpr const char* kDiscontinuity = "----------- ROUTE DISCONTINUITY  ------------";
+
+// --- page 1: the ends
+
+bool HasOrigin() {
+    return plan.ends_mod.origin != kNotSelected;
+}
+
+// What an end shows: a modification's value stands on a highlight.
+void DrawEnd(PageCall& call, int line, const std::string& active, const std::string& modified) {
+    const bool left = LeftLine(line) > 0;
+    const int row = LeftLine(line) + RightLine(line);
+    const bool in_mod = plan.fms_fpln_active == kRouteModified;
+    const std::string& value = in_mod ? modified : active;
+    if (value == kNotSelected)
+        left ? LeftBoxes(call, row, 4) : RightBoxes(call, row, 4);
+    else if (in_mod)
+        left ? HighlightedLeft(call, row, value) : HighlightedRight(call, row, value);
+    else
+        left ? LeftData(call, row, Format("%5s", value.c_str()))
+             : RightData(call, row, Format("%5s", value.c_str()));
+}
+
+void OriginLine(PageCall& call) {
+    LeftLabel(call, 1, "ORIGIN");
+    DrawEnd(call, kL1, plan.ends.origin, plan.ends_mod.origin);
+    MarkSelectable(call, kL1);
+}
+
+void OnOrigin(PageCall& call) {
+    if (IsDelete(call)) return RefuseDelete(call);
+    if (Entry(call).empty()) {
+        if (HasOrigin()) return CopyDown(call, plan.ends_mod.origin);
+        return Refuse(call, "INVALID ENTRY", kHelpOrigin);
+    }
+    if (EnterOrigin(Entry(call)) == 0) return Refuse(call, "NOT IN DATABASE", kHelpAirportCode);
+    ClearEntry(call);
+}
+
+void OnDestination(PageCall& call) {
+    if (IsDelete(call)) return RefuseDelete(call);
+    if (Entry(call).empty()) {
+        if (plan.ends_mod.dest != kNotSelected) return CopyDown(call, plan.ends_mod.dest);
+        return Refuse(call, "INVALID ENTRY", kHelpDestination);
+    }
+    if (EnterDestination(Entry(call)) == 0) return Refuse(call, "NOT IN DATABASE", kHelpAirportCode);
+    OpenModification();
+    ClearEntry(call);
+}
+
+void OnRunway(PageCall& call) {
+    if (IsDelete(call)) return RefuseDelete(call);
+    if (!HasOrigin()) return Refuse(call, "INVALID ENTRY", kHelpOrigin);
+    if (Entry(call).empty()) return;
+    if (SelectOriginRunway(Entry(call)) == 0) return Refuse(call, "NOT IN DATABASE", kHelpAirportCode);
+    ClearEntry(call);
+}
+
+void OnFlightNumber(PageCall& call) {
+    if (IsDelete(call)) return RefuseDelete(call);
+    if (Entry(call).empty()) return;
+    if (Entry(call).size() > kMaxFlightNumber) return Refuse(call, "INVALID ENTRY", kHelpFlightNumber);
+    plan.fms_fltno = Entry(call);
+    ClearEntry(call);
+}
+
+// No company route is stored, so that none begins with the text.
+void OnCompanyRoute(PageCall& call) {
+    if (IsDelete(call)) return RefuseDelete(call);
+    if (!Entry(call).empty()) Refuse(call, "NOT IN DATABASE", kHelpCompanyRoute);
+}
+
+void OnEndsLine(PageCall& call) {
+    switch (call.line) {
+        case kL1:
+            return OnOrigin(call);
+        case kR1:
+            return OnDestination(call);
+        case kL2:
+            return OnRunway(call);
+        case kR2:
+            return OnFlightNumber(call);
+        case kL3:
+            CduOf(call.side).flight_plans_index = 1;
+            return GoToPage(call.side, kPageFlightPlans);
+        case kR3:
+            return OnCompanyRoute(call);
+        case kR5:
+            call.unit.altn_index = 1;
+            return GoToPage(call.side, kPageAltn);
+        default:
+            if (IsDelete(call)) RefuseDelete(call);
+    }
+}
+
+void DrawEnds(PageCall& call) {
+    OriginLine(call);
+    RightLabel(call, 1, "DEST");
+    DrawEnd(call, kR1, plan.ends.dest, plan.ends_mod.dest);
+    if (HasOrigin()) {
+        LeftLabel(call, 2, "RUNWAY");
+        const bool in_mod = plan.fms_fpln_active == kRouteModified;
+        const std::string& runway = in_mod ? plan.ends_mod.dep_runway : plan.ends.dep_runway;
+        const std::string shown = runway == kNotSelected ? "-----" : Format("RW%s", runway.c_str());
+        if (in_mod && runway != kNotSelected)
+            HighlightedLeft(call, 2, shown);
+        else
+            LeftData(call, 2, shown);
+        MarkSelectable(call, kL2);
+    }
+    RightLabel(call, 2, "FLT NO");
+    if (plan.fms_fltno.empty())
+        RightBoxes(call, 2, static_cast<int>(kMaxFlightNumber));
+    else
+        RightData(call, 2, plan.fms_fltno);
+    LeftLabel(call, 3, "ROUTE");
+    LeftData(call, 3, "<REQUEST");
+    RightLabel(call, 3, "CO ROUTE");
+    EntryFrame(call, 151, static_cast<int>(DataY(3)), 100);
+    LeftLabel(call, 5, "ROUTE");
+    LeftData(call, 5, "<PRINT");
+    RightData(call, 5, "ALTN>");
+    for (const int line : {kR1, kR2, kL3, kR3, kR5}) MarkSelectable(call, line);
+}
+
+// --- pages 2 and up: the rows
+
+// The row that the active leg belongs to: those before it are flown and not shown.
+int FirstShownRow() {
+    const int active = std::max(1, ShownActiveLeg());
+    for (int leg = active; leg <= ShownCount(); ++leg)
+        for (int row = 1; row <= plan.route_cnt; ++row)
+            if (plan.Route[row].to == ShownLeg(leg).ident) return row;
+    return 1;
+}
+
+// One page more than the rows fill, so that there is always room for a new one.
+int PageCount() {
+    return 2 + (plan.route_cnt - FirstShownRow() + 1) / kRowsPerPage;
+}
+
+bool IsOpenAirway(const RouteRow& row) {
+    return row.to.empty() && row.via_type == "AWY";
+}
+
+void RowsChanged(PageCall& call) {
+    RebuildRouteRows();
+    OpenModification();
+    ClearEntry(call);
+}
+
+void OnVia(PageCall& call, int row) {
+    if (IsDelete(call)) {
+        if (RemoveViaRow(row) == 0) return RefuseDelete(call);
+        return call.unit.ScratchMessage.clear();
+    }
+    if (Entry(call).empty()) return;
+    const int fix = row > 1 ? FindRouteFix(row - 1, false) : 0;
+    if (fix == 0) return Refuse(call, "INVALID ENTRY", kHelpNotAllowed);
+    LoadAirway("#" + Entry(call), row, fix, call.side);
+    if (plan.awy_list_cnt < 1 || plan.awy_start_pos < 1) return Refuse(call, "NOT IN DATABASE", kHelpRoute);
+    const bool has_fix = row <= plan.route_cnt && !plan.Route[row].to.empty();
+    const int end = has_fix ? FindFixOnAirway(plan.Route[row].to) : 0;
+    if (end > 0)
+        InsertAirwaySegment(end);
+    else
+        InsertAirwayPlaceholder(fix + 1, plan.awy_name);
+    RowsChanged(call);
+}
+
+// The leg, from the row on, that a later row ends with.
+int FindLaterEnd(int row, const std::string& ident) {
+    for (int later = row + 1; later <= plan.route_cnt; ++later)
+        if (plan.Route[later].to == ident) return FindRouteFix(later, false);
+    return 0;
+}
+
+// The leg that a row ends with, or the place before a row without an end of its own.
+int ConnectFrom(int row) {
+    for (int earlier = row; earlier >= 1; --earlier)
+        if (const int leg = FindRouteFix(earlier, false)) return leg;
+    return 0;
+}
+
+void OnAirwayEnd(PageCall& call, int row, bool is_open) {
+    const std::string airway = plan.Route[row].via;
+    LoadAirway("#" + airway, row, FindRouteFix(row - 1, false), call.side);
+    const int end = FindFixOnAirway(Entry(call));
+    if (end == 0 || end == plan.awy_start_pos) return Refuse(call, "INVALID ENTRY", kHelpNotAllowed);
+    if (!is_open) RemoveToRow(row);
+    InsertAirwaySegment(end);
+    RowsChanged(call);
+}
+
+void OnTo(PageCall& call, int row) {
+    if (IsDelete(call)) {
+        if (RemoveToRow(row) == 0) return RefuseDelete(call);
+        return call.unit.ScratchMessage.clear();
+    }
+    const bool exists = row <= plan.route_cnt;
+    const RouteRow shown = exists ? plan.Route[row] : RouteRow{};
+    if (Entry(call).empty()) {
+        if (!shown.to.empty() && shown.to != "DISCO") CopyDown(call, shown.to);
+        return;
+    }
+    if (exists && Entry(call) == shown.to) return Refuse(call, "INVALID ENTRY", kHelpNotAllowed);
+    if (const int later = FindLaterEnd(row, Entry(call)); exists && later > 0) {
+        ConnectLegs(ConnectFrom(row), later, call.side);
+        return RowsChanged(call);
+    }
+    if (IsOpenAirway(shown)) return OnAirwayEnd(call, row, true);
+    if (shown.via_type == "AWY") return OnAirwayEnd(call, row, false);
+    ParseEntry(Entry(call));
+    if (nav.entry_cnt == 0) return Refuse(call, "NOT IN DATABASE", kHelpRoute);
+    if (nav.entry_cnt == 1) {
+        InsertDirectRow(1, row);
+        return RowsChanged(call);
+    }
+    route_pages.PendingSelectRow = row;
+    call.unit.prev_fms_page = kPageRte;
+    call.unit.select_index = 1;
+    GoToPage(call.side, kPageSelectWpt);
+}
+
+void DrawRow(PageCall& call, int line, int row) {
+    MarkSelectable(call, kL1 + line - 1);
+    MarkSelectable(call, kR1 + line - 1);
+    if (row > plan.route_cnt) {
+        LeftData(call, line, "-----");
+        RightData(call, line, "-----");
+        return;
+    }
+    const RouteRow& shown = plan.Route[row];
+    if (shown.to == "DISCO") return PageText(call, 34, DataY(line), kDiscontinuity, kWhite, kLabelSize);
+    LeftData(call, line, shown.via);
+    RightData(call, line, shown.to.empty() ? "-----" : Format("%8s", shown.to.c_str()));
+}
+
+void DrawRows(PageCall& call, int first_row) {
+    PageText(call, 40, LabelY(1), "  VIA", kCyan, kLabelSize);
+    RightLabel(call, 1, "TO");
+    for (int line = 1; line <= kRowsPerPage; ++line) {
+        const int row = first_row + line - 1;
+        if (row <= plan.route_cnt + 1) DrawRow(call, line, row);
+    }
+}
+
+// --- both
+
+void OnLastLine(PageCall& call) {
+    if (call.line == kL6 && plan.fms_fpln_active == kRouteModified) {
+        EraseModification();
+        ClearEntry(call);
+    }
+    if (call.line != kR6) return;
+    if (plan.fms_fpln_active == kRouteEntered)
+        AdvanceRouteState();
+    else if (plan.fms_fpln_active > kRouteEntered)
+        GoToPage(call.side, kPagePerfInit);
+}
+
+void DrawLastLine(PageCall& call) {
+    const int state = plan.fms_fpln_active;
+    LeftData(call, 6, state == kRouteModified ? "<ERASE" : "<RTE 2");
+    if (state == kRouteModified) MarkSelectable(call, kL6);
+    if (state == kRouteNone) return;
+    RightData(call, 6, state == kRouteEntered ? "ACTIVATE>" : "PERF INIT>");
+    MarkSelectable(call, kR6);
+}
+
+}  // namespace
+
+void RtePage(PageCall& call) {
+    int& index = call.unit.rte_index;
+    TurnPages(call, index, PageCount());
+    const int first_row = FirstShownRow() + (index - 2) * kRowsPerPage;
+    const int left = LeftLine(call.line), right = RightLine(call.line);
+    if (left == 6 || right == 6)
+        OnLastLine(call);
+    else if (index == 1 && call.line > 0)
+        OnEndsLine(call);
+    else if (left > 0)
+        OnVia(call, first_row + left - 1);
+    else if (right > 0)
+        OnTo(call, first_row + right - 1);
+
+    Title(call, 132, "RTE 1", plan.fms_fpln_active == kRouteActive ? kMapGreen : kWhite);
+    RouteStatusMark(call, 110);
+    PageCounter(call, index, PageCount());
+    if (index == 1)
+        DrawEnds(call);
+    else
+        DrawRows(call, FirstShownRow() + (index - 2) * kRowsPerPage);
+    DashLine(call);
+    DrawLastLine(call);
+}

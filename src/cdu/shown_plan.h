@@ -1,0 +1,18 @@
+#pragma once
+
+#include "state/plan.h"
+
+// What the route pages show: the active route in state 3, the working copy in every other state.
+
+const FlightPlanLeg& ShownLeg(int index);
+int ShownCount();
+/// The leg that is flown to, in the list that is shown; 0 = none.
+int ShownActiveLeg();
+
+/// Course (degrees magnetic, 1 to 360) and distance (nm) of a shown leg from the place before it.
+struct ShownTrack {
+    bool known = false;
+    double course = 0;
+    double dist = 0;
+};
+ShownTrack TrackToLeg(int index);

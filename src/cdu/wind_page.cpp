@@ -1,0 +1,202 @@
+#include "cdu/wind_page.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+
+#include "cdu/page.h"
+#include "cdu/shown_plan.h"
+#include "fmc/route.h"
+#include "frame/crew_messages.h"
+#include "platform/text.h"
+#include "state/cfg.h"
+
+namespace {
+
+constexpr int kMinAltitude = 100, kMaxAltitude = 43100;
+constexpr int kMinTemperature = -99, kTemperatureLimit = 60;
+constexpr int kWindRows = 4;
+
+using Winds = std::array<WindLevel, 4>;
+
+/// ISA, with the tropopause at 36000 ft.
+double StandardTemperature(double altitude_ft) {
+    return 15 - std::min(altitude_ft, 36000.0) * 0.00198119994;
+}
+
+std::string AltitudeText(int altitude) {
+    return altitude < cfg.TransAlt ? Format("%d", altitude) : Format("FL%d", altitude / 100);
+}
+
+FlightPlanLeg& EditedLeg() {
+    return plan.FlightPlanMod[route_pages.wind_leg];
+}
+
+// Rows in the order of their altitudes, the empty ones last.
+void SortWinds(Winds& winds) {
+    std::stable_sort(winds.begin(), winds.end(), [](const WindLevel& a, const WindLevel& b) {
+        return a.alt != 0 && (b.alt == 0 || a.alt < b.alt);
+    });
+}
+
+int CountWinds(const Winds& winds) {
+    return static_cast<int>(
+        std::count_if(winds.begin(), winds.end(), [](const WindLevel& w) { return w.alt != 0; }));
+}
+
+bool IsNumber(std::string_view text) {
+    if (text.starts_with('-') || text.starts_with('+')) text.remove_prefix(1);
+    return !text.empty() && text.find_first_not_of("0123456789.") == std::string_view::npos;
+}
+
+// Both sides of a slash; nothing without one.
+std::optional<std::pair<std::string_view, std::string_view>> SplitAtSlash(std::string_view text) {
+    const std::size_t slash = text.find('/');
+    if (slash == std::string_view::npos) return {};
+    return std::pair(text.substr(0, slash), text.substr(slash + 1));
+}
+
+bool IsFlightLevel(std::string_view text) {
+    return text.starts_with("FL");
+}
+
+void OnAltitude(PageCall& call, int row) {
+    Winds winds = ShownLeg(route_pages.wind_leg).wind;
+    WindLevel& level = winds[static_cast<std::size_t>(row - 1)];
+    if (IsDelete(call)) {
+        if (level.alt == 0) return RefuseDelete(call);
+        level = {};
+    } else if (Entry(call).empty()) {
+        return;
+    } else {
+        const std::string_view text = Entry(call);
+        const int altitude = IsFlightLevel(text) ? LeadingInt(text.substr(2)) * 100 : LeadingInt(text);
+        if (altitude < kMinAltitude || altitude > kMaxAltitude)
+            return Refuse(call, "INVALID WIND ALTITUDE", kHelpWindAltitude);
+        if (CountWinds(winds) == kWindRows) return Refuse(call, "INVALID ENTRY", kHelpFourWinds);
+        winds[static_cast<std::size_t>(CountWinds(winds))] = {altitude, 0, 0};
+    }
+    SortWinds(winds);
+    OpenModification();
+    EditedLeg().wind = winds;
+    ClearEntry(call);
+}
+
+void OnWind(PageCall& call, int row) {
+    const WindLevel shown = ShownLeg(route_pages.wind_leg).wind[static_cast<std::size_t>(row - 1)];
+    double direction = 0, speed = 0;
+    if (IsDelete(call)) {
+        if (shown.alt == 0) return RefuseDelete(call);
+    } else {
+        if (Entry(call).empty()) return;
+        const auto parts = SplitAtSlash(Entry(call));
+        if (shown.alt == 0 || !parts || !IsNumber(parts->first) || !IsNumber(parts->second))
+            return Refuse(call, "INVALID WIND ENTRY", kHelpWindEntry);
+        direction = LeadingDouble(parts->first);
+        speed = LeadingDouble(parts->second);
+        const auto in_range = [](double value) { return value >= 0 && value < 360; };
+        if (!in_range(direction) || !in_range(speed))
+            return Refuse(call, "INVALID WIND ENTRY", kHelpWindEntry);
+    }
+    OpenModification();
+    WindLevel& level = EditedLeg().wind[static_cast<std::size_t>(row - 1)];
+    level.dir = direction;
+    level.spd = speed;
+    ClearEntry(call);
+}
+
+void OnTemperature(PageCall& call) {
+    if (IsDelete(call)) {
+        if (ShownLeg(route_pages.wind_leg).temp_alt == 0) return RefuseDelete(call);
+        OpenModification();
+        EditedLeg().temp_alt = 0;
+        EditedLeg().temp = 0;
+        return ClearEntry(call);
+    }
+    if (Entry(call).empty()) return;
+    const auto parts = SplitAtSlash(Entry(call));
+    if (!parts || !IsNumber(parts->second)) return Refuse(call, "INVALID ALT/OAT ENTRY", kHelpAltOat);
+    const std::string_view altitude_text =
+        IsFlightLevel(parts->first) ? parts->first.substr(2) : parts->first;
+    int altitude = IsNumber(altitude_text) ? LeadingInt(altitude_text) : 0;
+    if (altitude < 1000) altitude *= 100;
+    const double temperature = LeadingDouble(parts->second);
+    if (altitude <= 0 || altitude > kMaxAltitude || temperature < kMinTemperature ||
+        temperature >= kTemperatureLimit)
+        return Refuse(call, "INVALID ALT/OAT ENTRY", kHelpAltOat);
+    OpenModification();
+    EditedLeg().temp_alt = altitude;
+    EditedLeg().temp = temperature;
+    ClearEntry(call);
+}
+
+void OnLastLine(PageCall& call) {
+    if (call.line == kR6) return GoToPage(call.side, kPageRteData);
+    if (plan.fms_fpln_active == kRouteModified) {
+        EraseModification();
+        ClearEntry(call);
+    } else {
+        GoToPage(call.side, kPageLegs);
+    }
+}
+
+void DrawWinds(PageCall& call, const FlightPlanLeg& leg) {
+    const double deviation = leg.temp_alt > 0 ? leg.temp - StandardTemperature(leg.temp_alt) : 0;
+    for (int row = 1; row <= kWindRows; ++row) {
+        const WindLevel& level = leg.wind[static_cast<std::size_t>(row - 1)];
+        MarkSelectable(call, kL1 + row - 1);
+        if (level.alt == 0) {
+            LeftData(call, row, "----");
+            continue;
+        }
+        MarkSelectable(call, kR1 + row - 1);
+        LeftData(call, row, AltitudeText(level.alt));
+        PageText(call, 110, DataY(row),
+                 Format("%.0f\xb0"
+                        "c",
+                        StandardTemperature(level.alt) + deviation));
+        RightData(call, row, Format("%03.0f/%.0fKT", level.dir, level.spd));
+    }
+}
+
+void DrawTemperature(PageCall& call, const FlightPlanLeg& leg) {
+    RightLabel(call, 5, "ALT/OAT");
+    const std::string altitude =
+        leg.temp_alt < cfg.TransAlt ? Format("%d", leg.temp_alt) : Format("FL%d", leg.temp_alt / 100);
+    RightData(call, 5, leg.temp_alt == 0 ? "----/---" : altitude + Format("/%.0f", leg.temp));
+    MarkSelectable(call, kR5);
+}
+
+}  // namespace
+
+void WindPage(PageCall& call) {
+    const int first = std::max(1, ShownActiveLeg());
+    const int count = std::max(1, ShownCount() - first + 1);
+    int place = std::clamp(route_pages.wind_leg - first + 1, 1, count);
+    TurnPages(call, place, count);
+    route_pages.wind_leg = first + place - 1;
+    const int left = LeftLine(call.line), right = RightLine(call.line);
+    if (left == 6 || right == 6)
+        OnLastLine(call);
+    else if (left >= 1 && left <= kWindRows)
+        OnAltitude(call, left);
+    else if (right >= 1 && right <= kWindRows)
+        OnWind(call, right);
+    else if (right == 5)
+        OnTemperature(call);
+
+    const FlightPlanLeg& leg = ShownLeg(route_pages.wind_leg);
+    Title(call, 105, leg.ident, route_pages.wind_leg == ShownActiveLeg() ? kMagenta : kWhite);
+    Title(call, 140, "WIND");
+    PageText(call, 228, 23, Format("%d/%d", place, count), kWhite, kLabelSize);
+    LeftLabel(call, 1, "ALT");
+    PageText(call, 110, LabelY(1), "OAT", kCyan, kLabelSize);
+    RightLabel(call, 1, "DIR/SPD");
+    DrawWinds(call, leg);
+    DrawTemperature(call, leg);
+    DashLine(call);
+    LeftData(call, 6, plan.fms_fpln_active == kRouteModified ? "<ERASE" : "<LEGS");
+    RightData(call, 6, "RTE DATA>");
+    MarkSelectable(call, kL6);
+    MarkSelectable(call, kR6);
+}
