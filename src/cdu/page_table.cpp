@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <iterator>
 
+#include "cdu/arrivals_page.h"
+#include "cdu/dep_arr_index_page.h"
+#include "cdu/departures_page.h"
 #include "cdu/legs_page.h"
 #include "cdu/rte_data_page.h"
 #include "cdu/rte_page.h"

@@ -7,10 +7,12 @@
 #include "fmc/route.h"
 #include "fmc/route_rows.h"
 #include "navdata/airport_file.h"
+#include "navdata/procedure_files.h"
 #include "state/airports.h"
 #include "state/lnav.h"
 #include "state/perf.h"
 #include "state/plan.h"
+#include "state/procedure_lists.h"
 #include "state/vnav.h"
 
 namespace {
@@ -48,8 +50,21 @@ bool IsOfArrival(const FlightPlanLeg& leg) {
 
 }  // namespace
 
-int EnterOrigin(std::string_view ident) {
+int LoadOriginAirport(std::string_view ident) {
     if (LoadAirport(ident, airports.origin_airport) != kLoaded) return 0;
+    LoadSids(airports.origin_airport);
+    return 1;
+}
+
+int LoadDestinationAirport(std::string_view ident) {
+    if (LoadAirport(ident, airports.dest_airport) != kLoaded) return 0;
+    LoadStars(airports.dest_airport);
+    LoadApproaches(airports.dest_airport);
+    return 1;
+}
+
+int EnterOrigin(std::string_view ident) {
+    if (LoadOriginAirport(ident) == 0) return 0;
     RemoveAllHolds();
     plan.executed_hold_cnt = 0;
     ClearLegs(plan.FlightPlan, plan.fp_cnt);
@@ -67,6 +82,7 @@ int EnterOrigin(std::string_view ident) {
     plan.ends.origin = airports.origin_airport.ident;
     plan.ends_mod = plan.ends;
     plan.procedures = plan.procedures_kept = {};
+    procedure_lists = {};
     plan.fms_fpln_active = kRouteNone;
     plan.new_route = 1;
     perf.cruise_alt = 0;
@@ -77,7 +93,7 @@ int EnterOrigin(std::string_view ident) {
 }
 
 int EnterDestination(std::string_view ident) {
-    if (LoadAirport(ident, airports.dest_airport) != kLoaded) return 0;
+    if (LoadDestinationAirport(ident) == 0) return 0;
     EnsureEnds();
     if (plan.fms_fpln_active == kRouteActive) {
         AdvanceRouteState();

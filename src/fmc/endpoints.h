@@ -4,6 +4,11 @@
 
 // The two ends of the route, as the RTE page enters them.
 
+/// Fills the slot of the origin or the destination, its departures or its arrivals and approaches with it. 1,
+/// or 0 when the airport isn't in the database (nothing changes).
+int LoadOriginAirport(std::string_view ident);
+int LoadDestinationAirport(std::string_view ident);
+
 /// Starts a new route at an airport: both leg lists begin there, everything selected or planned before is
 /// gone, the state is 0. 1, or 0 when the airport isn't in the database (nothing changes).
 int EnterOrigin(std::string_view ident);

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "fmc/edit_legs.h"
+#include "fmc/endpoints.h"
 #include "fmc/holds.h"
 #include "fmc/leg_list.h"
 #include "fmc/path.h"
@@ -13,7 +14,6 @@
 #include "fmc/route.h"
 #include "fmc/route_rows.h"
 #include "fmc/vertical_segment.h"
-#include "navdata/airport_file.h"
 #include "navdata/geodesy.h"
 #include "navdata/magnetic_model.h"
 #include "state/airports.h"
@@ -195,7 +195,7 @@ void SettleDestination() {
     const FlightPlanLeg& last = plan.FlightPlan[plan.fp_cnt];
     if (last.type != "APT") return;
     const bool changed = airports.dest_airport.ident != last.ident;
-    if (changed || plan.fms_fpln_active < kRouteActive) LoadAirport(last.ident, airports.dest_airport);
+    if (changed || plan.fms_fpln_active < kRouteActive) LoadDestinationAirport(last.ident);
     plan.ends.dest = plan.ends_mod.dest = last.ident;
     if (!changed) return;
     plan.procedures = {.dep_sid = plan.procedures.dep_sid, .dep_trans = plan.procedures.dep_trans};
@@ -206,7 +206,7 @@ void SettleOrigin() {
     const FlightPlanLeg& first = plan.FlightPlan[0];
     if (first.type != "APT") return;
     const bool changed = airports.origin_airport.ident != first.ident;
-    if (changed || plan.fms_fpln_active < kRouteActive) LoadAirport(first.ident, airports.origin_airport);
+    if (changed || plan.fms_fpln_active < kRouteActive) LoadOriginAirport(first.ident);
     if (plan.fms_fpln_active < kRouteActive && sim.on_ground == 1) perf.fplog_mode = -1;
     FillDefaultSpeeds();
     if (changed) {

@@ -3,12 +3,13 @@
 #include <algorithm>
 #include <utility>
 
+#include "fmc/endpoints.h"
 #include "fmc/holds.h"
 #include "fmc/leg_list.h"
+#include "fmc/procedure_legs.h"
 #include "fmc/route_rows.h"
 #include "frame/fuel_loader.h"
 #include "frame/key_events.h"
-#include "navdata/airport_file.h"
 #include "platform/host.h"
 #include "state/airports.h"
 #include "state/cdu.h"
@@ -48,9 +49,8 @@ void ClearPendingEntries() {
 void BringBackEnds() {
     plan.ends_mod = plan.ends;
     plan.procedures = plan.procedures_kept;
-    if (airports.origin_airport.ident != plan.ends.origin)
-        LoadAirport(plan.ends.origin, airports.origin_airport);
-    if (airports.dest_airport.ident != plan.ends.dest) LoadAirport(plan.ends.dest, airports.dest_airport);
+    if (airports.origin_airport.ident != plan.ends.origin) LoadOriginAirport(plan.ends.origin);
+    if (airports.dest_airport.ident != plan.ends.dest) LoadDestinationAirport(plan.ends.dest);
 }
 
 // A direct-to whose fix has been passed in the meantime is none any more.
@@ -124,6 +124,7 @@ void EraseModification() {
     RefreshLegsForModification();
     RebuildRouteRows();
     LeaveLegsView();
+    BuildApproachTransitions();
 }
 
 void ClearFlightPlan() {

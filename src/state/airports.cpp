@@ -1,5 +1,7 @@
 #include "state/airports.h"
 
+#include "state/procedures_describe.h"
+
 template <>
 struct Describe<RunwayData> {
     using R = RunwayData;
@@ -35,6 +37,14 @@ struct Describe<AirportData> {
         FieldRow<&A::elevation_ft>("elevation_ft"),
         FieldRow<&A::procedure_cnt>("procedure_cnt"),
         FieldRow<&A::runways>("runways"),
+        FieldRow<&A::sids>("sids"),
+        FieldRow<&A::sid_cnt>("sid_cnt"),
+        FieldRow<&A::stars>("stars"),
+        FieldRow<&A::star_cnt>("star_cnt"),
+        FieldRow<&A::approaches>("approaches"),
+        FieldRow<&A::approach_cnt>("approach_cnt"),
+        FieldRow<&A::approach_kinds>("approach_kinds"),
+        FieldRow<&A::approach_kind_cnt>("approach_kind_cnt"),
     };
     static constexpr ValueType type{.kind = ValueKind::kRecord, .fields = fields};
 };

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "state/growing_list.h"
+#include "state/procedures.h"
 #include "state/variable.h"
 
 struct RunwayData {
@@ -28,8 +29,13 @@ struct AirportData {
     std::string ident;
     std::string name;
     int elevation_ft = 0;
-    int procedure_cnt = 0;
+    int procedure_cnt = 0;            // SIDs, STARs and approaches together
     GrowingList<RunwayData> runways;  // from 1
+    // procedures, each list from 1; filled when the airport becomes an end of the route
+    GrowingList<ProcedureRecord> sids, stars, approaches;
+    int sid_cnt = 0, star_cnt = 0, approach_cnt = 0;
+    GrowingList<std::string> approach_kinds;  // in order of first appearance
+    int approach_kind_cnt = 0;
 };
 
 /// The slots that stand side by side: five of the flight, two of the tablet's performance pages.

@@ -74,6 +74,7 @@ constexpr Variable kRoutePageRows[] = {
     {"DirectSelectIndex", &route_pages.DirectSelectIndex},
     {"PendingSelectRow", &route_pages.PendingSelectRow},
     {"hold_candidate", &route_pages.hold_candidate},
+    {"arrivals_of_origin", &route_pages.arrivals_of_origin},
     {"wind_leg", &route_pages.wind_leg},
 };
 }  // namespace

@@ -6,25 +6,22 @@
 #include "state/cfg.h"
 #include "state/cockpit.h"
 #include "state/displays.h"
-#include "state/efb.h"
 #include "state/electrical.h"
 #include "state/flight_log.h"
 #include "state/host_link.h"
 #include "state/identity.h"
-#include "state/instruments.h"
 #include "state/irs.h"
 #include "state/keyboard.h"
 #include "state/lnav.h"
 #include "state/module_life.h"
 #include "state/nav.h"
 #include "state/nav_tables.h"
-#include "state/nd.h"
 #include "state/nearest.h"
 #include "state/perf.h"
 #include "state/placement.h"
 #include "state/plan.h"
 #include "state/pos_init.h"
-#include "state/requests.h"
+#include "state/procedure_lists.h"
 #include "state/sim.h"
 #include "state/sound.h"
 #include "state/time_base.h"
@@ -56,6 +53,7 @@ constexpr StateGroup kGroups[] = {
     {"nearest", Reset<&nearest>, &kNearestVariables},
     {"airports", Reset<&airports>, &kAirportVariables},
     {"plan", Reset<&plan>, &kPlanVariables},
+    {"procedure_lists", Reset<&procedure_lists>, &kProcedureListVariables},
     {"perf", Reset<&perf>, &kPerfVariables},
     {"flight_log", Reset<&flight_log>, &kFlightLogVariables},
     {"vnav", Reset<&vnav>, &kVnavVariables},
@@ -65,10 +63,6 @@ constexpr StateGroup kGroups[] = {
     {"cdu", Reset<&cdu>, &kCduVariables},
     {"route_pages", Reset<&route_pages>, &kRoutePageVariables},
     {"displays", Reset<&displays>, &kDisplayVariables},
-    {"nd", Reset<&nd>, &kNdVariables},
-    {"instruments", Reset<&instruments>, &kInstrumentVariables},
-    {"efb", Reset<&efb>, &kEfbVariables},
-    {"requests", Reset<&requests>, &kRequestVariables},
     {"electrical", Reset<&electrical>, &kElectricalVariables},
 };
 

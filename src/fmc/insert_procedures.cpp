@@ -1,0 +1,368 @@
+#include "fmc/insert_procedures.h"
+
+#include <algorithm>
+#include <string>
+#include <utility>
+
+#include "fmc/holds.h"
+#include "fmc/leg_list.h"
+#include "fmc/route.h"
+#include "fmc/route_rows.h"
+#include "navdata/geodesy.h"
+#include "navdata/ident_index.h"
+#include "platform/text.h"
+#include "state/airports.h"
+#include "state/nav_tables.h"
+#include "state/plan.h"
+#include "state/procedure_lists.h"
+
+namespace {
+
+constexpr double kSamePlace = 1;  // nm
+constexpr std::size_t kWindowLength = 11;
+
+enum class Kind { kSid, kStar, kApproach };
+
+bool IsNear(double lat1, double lon1, double lat2, double lon2) {
+    return GreatCircle(lat1, lon1, lat2, lon2).dist < kSamePlace;
+}
+
+bool IsCoded(const ProcedureLeg& leg) {
+    return !leg.code.empty();
+}
+
+// --- a leg of a procedure as a leg of the route
+
+// Navaids are told from fixes by the database; the procedure files don't.
+void LookUpType(FlightPlanLeg& leg) {
+    leg.type = "INT";
+    VisitIdent(nav_tables.nav_index, leg.ident, [&leg](int number) {
+        const NavaidRow& row = nav_tables.NavaidTable[number];
+        if (row.ident != leg.ident || !IsNear(row.lat, row.lon, leg.lat, leg.lon)) return true;
+        leg.type = row.type == "V" ? "VOR" : "NDB";
+        leg.freq = row.freq;
+        return false;
+    });
+}
+
+bool TakeWindow(std::string_view token, Kind kind, FlightPlanLeg& leg) {
+    if (token.size() != kWindowLength || token.back() != 'B') return false;
+    leg.block_above = LeadingInt(token.substr(0, 5));
+    leg.block_below = LeadingInt(token.substr(5, 5));
+    leg.alt_restr = 0;
+    leg.restr_code = leg.restr_code >= 2 ? 3 : 1;
+    leg.restr_type = kind == Kind::kStar ? 3 : 0;
+    return true;
+}
+
+bool Counts(int altitude, Kind kind) {
+    if (kind == Kind::kSid) return altitude >= 1000 && altitude % 100 == 0;
+    return altitude >= (kind == Kind::kStar ? 100 : 1);
+}
+
+void TakeAltitude(std::string_view token, Kind kind, FlightPlanLeg& leg) {
+    if (TakeWindow(token, kind, leg)) return;
+    const int altitude = LeadingInt(token);
+    if (!Counts(altitude, kind)) return;
+    leg.alt_restr = altitude;
+    leg.restr_code = leg.restr_code >= 2 ? 3 : 1;
+    const std::string_view behind = token.substr(std::min(token.size(), kind == Kind::kApproach ? 1UL : 4UL));
+    const bool above = behind.find('+') != std::string_view::npos;
+    const bool below = behind.find('-') != std::string_view::npos;
+    leg.restr_type = above ? 1 : below ? 2 : 0;
+}
+
+FlightPlanLeg LegOf(const ProcedureLeg& from) {
+    FlightPlanLeg leg;
+    leg.ident = from.ident;
+    leg.lat = from.lat;
+    leg.lon = from.lon;
+    leg.mod_flag = 1;
+    leg.flyover = from.flyover;
+    leg.dep_turn = from.turn;
+    if (IsCoded(from)) {
+        leg.vector = from.code;
+        leg.until_alt = from.code_alt;
+        leg.from_hdg = from.code_course;
+        leg.anchor_lat = from.file_lat;
+        leg.anchor_lon = from.file_lon;
+        leg.vector_lat = from.start_lat;
+        leg.vector_lon = from.start_lon;
+        leg.type = "WPT";
+    } else {
+        LookUpType(leg);
+    }
+    return leg;
+}
+
+bool IsSameFix(const FlightPlanLeg& a, const FlightPlanLeg& b) {
+    return a.ident == b.ident && IsPlace(a) && a.vector.empty() && b.vector.empty() && b.via != "HOLD" &&
+           a.via != "HOLD";
+}
+
+// --- the ends
+
+void PutOrigin() {
+    FlightPlanLeg& first = plan.FlightPlanMod[0];
+    const AirportData& origin = airports.origin_airport;
+    if (origin.ident.empty()) return;
+    if (first.type != "APT" || first.ident != origin.ident) {
+        first = {};
+        first.alt = origin.elevation_ft;
+    }
+    first.ident = origin.ident;
+    first.type = "APT";
+    first.lat = origin.lat;
+    first.lon = origin.lon;
+    for (int i = 1; i <= origin.runway_cnt; ++i) {
+        if (origin.runways[i].ident != plan.ends_mod.dep_runway) continue;
+        first.lat = origin.runways[i].lat;
+        first.lon = origin.runways[i].lon;
+    }
+}
+
+FlightPlanLeg DestinationLeg() {
+    FlightPlanLeg leg;
+    const AirportData& dest = airports.dest_airport;
+    leg.ident = dest.ident;
+    leg.type = "APT";
+    leg.lat = dest.lat;
+    leg.lon = dest.lon;
+    leg.alt = dest.elevation_ft;
+    return leg;
+}
+
+void EnsureDestination() {
+    EnsureEnds();
+    FlightPlanLeg& last = plan.FlightPlanMod[plan.mod_cnt];
+    if (last.type == "APT") return;
+    if (last.ident.empty())
+        last = DestinationLeg();
+    else
+        plan.FlightPlanMod[++plan.mod_cnt] = DestinationLeg();
+}
+
+// --- taking a procedure out
+
+bool IsOfApproach(const FlightPlanLeg& leg) {
+    return leg.appr_wpt_type.starts_with("IAF") || leg.appr_wpt_type == "FAF" || leg.via_type == "APPR";
+}
+
+// Legs that two procedures share stay, as the other's.
+void RemoveProcedure(std::string_view via_type, std::string_view other) {
+    for (int i = plan.mod_cnt - 1; i >= 1; --i) {
+        FlightPlanLeg& leg = plan.FlightPlanMod[i];
+        if (leg.via_type == via_type) {
+            RemoveModLegs(i, 1);
+        } else if (leg.via_type == "SIDSTAR") {
+            leg.via_type = other;
+            leg.via = other == "SID" ? plan.procedures.dep_sid : plan.procedures.arr_star;
+        }
+    }
+    MergeNeighbourDiscos();
+}
+
+// The last leg of the route before approach and destination.
+int LastRouteLeg() {
+    int leg = plan.mod_cnt;
+    while (leg > 0 && (IsOfApproach(plan.FlightPlanMod[leg]) || plan.FlightPlanMod[leg].type == "APT")) --leg;
+    if (leg > 0 && IsDisco(plan.FlightPlanMod[leg])) --leg;
+    return leg;
+}
+
+// The fix that an approach had taken over from the route stands there again.
+void RestoreReusedLeg(int route_end) {
+    ProcedureLists& lists = procedure_lists;
+    if (std::exchange(lists.reused, 0) == 0 || route_end >= plan.mod_cnt) return;
+    FlightPlanLeg& leg = plan.FlightPlanMod[route_end + 1];
+    if (leg.ident == lists.reused_leg.ident && leg.via_type == "APPR") leg = lists.reused_leg;
+}
+
+int RemoveApproach() {
+    RestoreReusedLeg(LastRouteLeg());
+    const int end = LastRouteLeg();
+    RemoveModLegs(end + 1, plan.mod_cnt - end);
+    return end;
+}
+
+void RefreshActiveLeg() {
+    if (plan.fms_fpln_active < kRouteActive || plan.direct_to_pending == 1) return;
+    const int to = PendingActiveLeg();
+    if (to < 1 || to > plan.mod_cnt) return;
+    const FlightPlanLeg& from_leg = plan.FlightPlanMod[to - 1];
+    const FlightPlanLeg& to_leg = plan.FlightPlanMod[to];
+    ActiveLegRecord& leg = plan.ActiveLegMod;
+    if (leg.to == to_leg.ident && leg.to_lat == to_leg.lat && leg.to_lon == to_leg.lon) return;
+    leg.from = from_leg.ident;
+    leg.from_lat = from_leg.lat;
+    leg.from_lon = from_leg.lon;
+    leg.to = to_leg.ident;
+    leg.to_lat = to_leg.lat;
+    leg.to_lon = to_leg.lon;
+}
+
+void Finish() {
+    RefreshActiveLeg();
+    OpenModification();
+    RebuildRouteRows();
+}
+
+// --- approaches
+
+double RecordAltitude(int leg) {
+    if (leg < 1 || leg > procedure_lists.approach_leg_cnt) return 0;
+    return LeadingInt(procedure_lists.ApproachLegs[leg].alt_token);
+}
+
+double ApproachSpeed(std::string_view role) {
+    if (role.starts_with("IAF")) return 190;
+    if (role == "FAF") return 170;
+    return role == "MAP" ? 140 : 180;
+}
+
+// Where the file tells no altitude for a leg of the missed approach, it lies between its neighbours.
+void SetMissedAltitude(FlightPlanLeg& leg, const FlightPlanLeg& leg_before, int record) {
+    double altitude = RecordAltitude(record - 1);
+    if (altitude == 0 && leg_before.via == "MISSED APPR" && leg_before.alt_restr > 0)
+        altitude = leg_before.alt_restr;
+    const double after = RecordAltitude(record + 1);
+    if (record < procedure_lists.approach_leg_cnt && after > altitude) altitude += (after - altitude) / 2;
+    if (altitude <= 0) return;
+    leg.alt_restr = leg.alt = altitude;
+    leg.restr_code = leg.restr_code > 1 ? 3 : 1;
+}
+
+bool RepeatsLegBefore(int record) {
+    if (record < 2) return false;
+    const ProcedureLeg& leg = procedure_lists.ApproachLegs[record];
+    const ProcedureLeg& before = procedure_lists.ApproachLegs[record - 1];
+    return leg.ident == before.ident && IsNear(leg.lat, leg.lon, before.lat, before.lon);
+}
+
+FlightPlanLeg ApproachLeg(int record, const FlightPlanLeg& leg_before, bool missed) {
+    const ProcedureLeg& from = procedure_lists.ApproachLegs[record];
+    FlightPlanLeg leg = LegOf(from);
+    leg.via_type = "APPR";
+    leg.via = missed ? "MISSED APPR" : IsDisco(leg_before) ? "DIRECT" : procedure_lists.approach_via;
+    if (from.applies_to != "---") leg.appr_wpt_type = from.applies_to;
+    leg.ias_restr = ApproachSpeed(leg.appr_wpt_type);
+    leg.restr_code = 2;
+    if (missed || leg.appr_wpt_type == "MAP") leg.flyover = 1;
+    TakeAltitude(from.alt_token, Kind::kApproach, leg);
+    if (missed && leg.alt_restr <= 0 && leg.restr_code == 2) SetMissedAltitude(leg, leg_before, record);
+    return leg;
+}
+
+FlightPlanLeg DestinationOnRunway() {
+    FlightPlanLeg leg = DestinationLeg();
+    const AirportData& dest = airports.dest_airport;
+    for (int i = 1; i <= dest.runway_cnt; ++i) {
+        if (dest.runways[i].ident != plan.procedures.arr_appr_rwy) continue;
+        leg.lat = dest.runways[i].lat;
+        leg.lon = dest.runways[i].lon;
+    }
+    return leg;
+}
+
+void WriteApproachLegs(int end) {
+    ProcedureLists& lists = procedure_lists;
+    const std::string& first = lists.ApproachLegs[1].ident;
+    const bool reuse = end > 0 && plan.FlightPlanMod[end].ident == first && !IsCoded(lists.ApproachLegs[1]);
+    int position = end + 1;
+    if (reuse) {
+        lists.reused_leg = plan.FlightPlanMod[end];
+        lists.reused = 1;
+        RemoveHold(end);
+        position = end;
+    } else if (end > 0) {
+        OpenModLeg(position++).ident = "DISCO";
+    }
+    bool missed = false;
+    for (int record = 1; record <= lists.approach_leg_cnt; ++record) {
+        if (missed && lists.missed_approach_wanted == 0) break;
+        const FlightPlanLeg before = plan.FlightPlanMod[position - 1];
+        FlightPlanLeg leg = ApproachLeg(record, before, missed);
+        const bool is_hold = missed && record == lists.approach_leg_cnt && RepeatsLegBefore(record);
+        if (is_hold) leg.via = "HOLD";
+        const bool is_map = leg.appr_wpt_type == "MAP";
+        FlightPlanLeg& slot = reuse && record == 1 ? plan.FlightPlanMod[position] : OpenModLeg(position);
+        slot = std::move(leg);
+        if (is_hold) MarkHold(position, false, std::max(0, PlaceBefore(plan.FlightPlanMod, position - 1)));
+        missed = missed || is_map;
+        ++position;
+    }
+}
+
+}  // namespace
+
+void InsertDeparture() {
+    EnsureEnds();
+    RemoveProcedure("SID", "STAR");
+    PutOrigin();
+    const ProcedureLists& lists = procedure_lists;
+    int position = 1;
+    for (int i = 1; i <= lists.departure_leg_cnt; ++i) {
+        const ProcedureLeg& from = lists.DepartureLegs[i];
+        FlightPlanLeg leg = LegOf(from);
+        leg.via_type = "SID";
+        leg.via = plan.procedures.dep_sid;
+        TakeAltitude(from.alt_token, Kind::kSid, leg);
+        if (position > 1 && IsSameFix(plan.FlightPlanMod[position - 1], leg)) continue;
+        OpenModLeg(position++) = std::move(leg);
+    }
+    const int last = position - 1;
+    if (last >= 1 && position < plan.mod_cnt &&
+        IsSameFix(plan.FlightPlanMod[last], plan.FlightPlanMod[position])) {
+        const bool of_star = plan.FlightPlanMod[position].via_type == "STAR";
+        RemoveModLegs(position, 1);
+        if (of_star) plan.FlightPlanMod[last].via_type = "SIDSTAR";
+    }
+    Finish();
+}
+
+void InsertArrival() {
+    EnsureEnds();
+    RemoveProcedure("STAR", "SID");
+    EnsureDestination();
+    int point = plan.mod_cnt;
+    while (point > 0) {
+        const FlightPlanLeg& leg = plan.FlightPlanMod[point];
+        const bool passed_over =
+            leg.via_type == "STAR" || IsOfApproach(leg) || leg.type == "APT" || IsDisco(leg);
+        if (!passed_over) break;
+        --point;
+    }
+    const ProcedureLists& lists = procedure_lists;
+    int position = point + 1;
+    for (int i = 1; i <= lists.arrival_leg_cnt; ++i) {
+        const ProcedureLeg& from = lists.ArrivalLegs[i];
+        FlightPlanLeg leg = LegOf(from);
+        leg.via_type = "STAR";
+        leg.via = plan.procedures.arr_star;
+        TakeAltitude(from.alt_token, Kind::kStar, leg);
+        FlightPlanLeg& before = plan.FlightPlanMod[position - 1];
+        if (position > 1 && IsSameFix(before, leg)) {
+            if (before.via_type == "SID") before.via_type = "SIDSTAR";
+            continue;
+        }
+        OpenModLeg(position++) = std::move(leg);
+    }
+    // Where the approach begins with the arrival's last fix, nothing stands between them.
+    const GrowingList<FlightPlanLeg>& legs = plan.FlightPlanMod;
+    if (position + 1 < plan.mod_cnt && IsDisco(legs[position]) &&
+        IsSameFix(legs[position - 1], legs[position + 1])) {
+        procedure_lists.reused_leg = legs[position - 1];
+        procedure_lists.reused = 1;
+        RemoveModLegs(position - 1, 2);
+    }
+    Finish();
+}
+
+void InsertApproach() {
+    EnsureEnds();
+    const int end = RemoveApproach();
+    if (procedure_lists.approach_leg_cnt > 0) WriteApproachLegs(end);
+    FlightPlanLeg& dest = OpenModLeg(plan.mod_cnt + 1);
+    dest = DestinationOnRunway();
+    Finish();
+}

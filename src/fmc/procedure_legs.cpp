@@ -1,0 +1,166 @@
+#include "fmc/procedure_legs.h"
+
+#include <algorithm>
+
+#include "navdata/leg_codes.h"
+#include "navdata/magnetic_model.h"
+#include "navdata/procedure_files.h"
+#include "state/airports.h"
+#include "state/perf.h"
+#include "state/plan.h"
+#include "state/procedure_lists.h"
+
+namespace {
+
+constexpr int kMostDepartureLegs = 80;
+constexpr int kMostTransitions = 50;
+constexpr std::string_view kForAll = "---";
+
+bool Names(std::string_view list, std::string_view name) {
+    while (!list.empty()) {
+        const std::string_view item = list.substr(0, list.find(','));
+        if (item == name) return true;
+        list.remove_prefix(std::min(list.size(), item.size() + 1));
+    }
+    return false;
+}
+
+std::string_view TransitionOf(const ProcedureRecord& record) {
+    const std::size_t point = record.name.find('.');
+    return point == std::string::npos ? std::string_view() : std::string_view(record.name).substr(point + 1);
+}
+
+// Legs of the records with a base name that `take` accepts; the count stops at `most`.
+template <class Take>
+void Collect(const GrowingList<ProcedureRecord>& records, int count, std::string_view base, int most,
+             GrowingList<ProcedureLeg>& legs, int& leg_cnt, Take take) {
+    for (int i = 1; i <= count; ++i) {
+        const ProcedureRecord& record = records[i];
+        if (record.base_name != base) continue;
+        for (int leg = 1; leg <= record.leg_cnt && leg_cnt < most; ++leg)
+            if (take(record, record.legs[leg])) legs[++leg_cnt] = record.legs[leg];
+    }
+}
+
+// The first coded leg was computed for the first runway of the procedure's list.
+void RecomputeForRunway(ProcedureLeg& leg, const std::string& runway) {
+    LegCode code;
+    if (leg.code.find('/') == std::string::npos || !ParseLegCode(leg.code, code)) return;
+    const AirportData& airport = airports.origin_airport;
+    LegCodeInput input{.start = {},
+                       .entry_course = 0,
+                       .reference = {leg.file_lat, leg.file_lon},
+                       .altitude = leg.code_alt,
+                       .elevation = static_cast<double>(airport.elevation_ft),
+                       .variation = MagVarAt(airport.lat, airport.lon),
+                       .climb_speed = perf.climb_ias > 0 ? perf.climb_ias : 250};
+    if (!StartOfClimb(airport, runway, input.variation, input.start.lat, input.start.lon, input.entry_course))
+        return;
+    LatLon end;
+    if (ComputeDepartureLeg(code, input, end) != 0) return;
+    leg.start_lat = input.start.lat;
+    leg.start_lon = input.start.lon;
+    leg.lat = end.lat;
+    leg.lon = end.lon;
+}
+
+bool IsApproachRole(std::string_view segment) {
+    return segment.empty() || segment == kForAll || segment == "IAF*" || segment == "MAP" || segment == "FAF";
+}
+
+bool IsSelectedApproach(const ProcedureRecord& record) {
+    const ProcedureSelections& chosen = plan.procedures;
+    const bool of_runway =
+        record.runways.empty() || record.runways.find(chosen.arr_appr_rwy) != std::string::npos;
+    return record.kind == chosen.arr_appr && of_runway;
+}
+
+}  // namespace
+
+const char* SelectedDepartureRunway() {
+    return plan.ends_mod.dep_runway.c_str();
+}
+
+void BuildDepartureLegs() {
+    ProcedureLists& lists = procedure_lists;
+    const ProcedureSelections& chosen = plan.procedures;
+    const std::string runway = SelectedDepartureRunway();
+    const bool runway_known = runway != kNotSelected;
+    const AirportData& origin = airports.origin_airport;
+    lists.departure_leg_cnt = 0;
+    if (chosen.dep_sid == kNotSelected) return;
+    const auto add = [&](bool transition) {
+        Collect(origin.sids, origin.sid_cnt, chosen.dep_sid, kMostDepartureLegs, lists.DepartureLegs,
+                lists.departure_leg_cnt, [&](const ProcedureRecord& record, const ProcedureLeg& leg) {
+                    const std::string_view own = TransitionOf(record);
+                    if (transition != !own.empty() || (transition && own != chosen.dep_trans)) return false;
+                    return transition || leg.applies_to == kForAll || Names(leg.applies_to, runway) ||
+                           Names(leg.applies_to, chosen.dep_trans);
+                });
+    };
+    add(false);
+    add(true);
+    if (runway_known && lists.departure_leg_cnt > 0) RecomputeForRunway(lists.DepartureLegs[1], runway);
+}
+
+void BuildArrivalLegs() {
+    ProcedureLists& lists = procedure_lists;
+    const ProcedureSelections& chosen = plan.procedures;
+    const AirportData& dest = airports.dest_airport;
+    lists.arrival_leg_cnt = 0;
+    if (chosen.arr_star == kNotSelected) return;
+    const auto is_of_transition = [&](const ProcedureRecord& record, const ProcedureLeg& leg) {
+        return TransitionOf(record) == chosen.arr_trans || Names(leg.applies_to, chosen.arr_trans);
+    };
+    constexpr int kNoLimit = 100000;
+    Collect(dest.stars, dest.star_cnt, chosen.arr_star, kNoLimit, lists.ArrivalLegs, lists.arrival_leg_cnt,
+            is_of_transition);
+    Collect(dest.stars, dest.star_cnt, chosen.arr_star, kNoLimit, lists.ArrivalLegs, lists.arrival_leg_cnt,
+            [&](const ProcedureRecord& record, const ProcedureLeg& leg) {
+                if (is_of_transition(record, leg) || !TransitionOf(record).empty()) return false;
+                return leg.applies_to == kForAll || Names(leg.applies_to, chosen.arr_appr_rwy);
+            });
+}
+
+void BuildApproachLegs() {
+    ProcedureLists& lists = procedure_lists;
+    ProcedureSelections& chosen = plan.procedures;
+    const AirportData& dest = airports.dest_airport;
+    lists.approach_leg_cnt = 0;
+    lists.approach_via.clear();
+    chosen.appr_type = "-";
+    if (chosen.arr_appr == kNotSelected) return;
+    for (int i = 1; i <= dest.approach_cnt; ++i) {
+        const ProcedureRecord& record = dest.approaches[i];
+        if (!IsSelectedApproach(record)) continue;
+        for (int n = 1; n <= record.leg_cnt; ++n) {
+            const ProcedureLeg& leg = record.legs[n];
+            const bool of_transition = leg.segment == chosen.arr_appr_trans;
+            if (of_transition || IsApproachRole(leg.segment) || leg.marker == "*")
+                lists.ApproachLegs[++lists.approach_leg_cnt] = leg;
+        }
+    }
+    if (lists.approach_leg_cnt == 0) return;
+    lists.approach_via =
+        chosen.arr_appr + (chosen.arr_appr_rwy == kNotSelected ? std::string() : chosen.arr_appr_rwy);
+    chosen.appr_type = lists.approach_via.substr(0, 3);
+}
+
+void BuildApproachTransitions() {
+    ProcedureLists& lists = procedure_lists;
+    lists.approach_transition_cnt = 0;
+    const AirportData& dest = airports.dest_airport;
+    if (plan.procedures.arr_appr == kNotSelected) return;
+    for (int i = 1; i <= dest.approach_cnt; ++i) {
+        const ProcedureRecord& record = dest.approaches[i];
+        if (!IsSelectedApproach(record)) continue;
+        for (int n = 1; n <= record.leg_cnt; ++n) {
+            const std::string& name = record.legs[n].segment;
+            bool known = IsApproachRole(name);
+            for (int t = 1; t <= lists.approach_transition_cnt; ++t)
+                known = known || lists.approach_transitions[t] == name;
+            if (known || lists.approach_transition_cnt >= kMostTransitions) continue;
+            lists.approach_transitions[++lists.approach_transition_cnt] = name;
+        }
+    }
+}

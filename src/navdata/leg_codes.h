@@ -1,0 +1,44 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "navdata/geodesy.h"
+
+// Coded legs: a leg without a fix of its own, such as "/RT/H300/IC270": turn right to heading 300 until
+// intercepting course 270 of the fix. Loading turns each into a computed end point.
+
+struct LegCode {
+    int turn = 0;     // 0 none, 1 left, 2 right
+    char letter = 0;  // 'T' track, 'H' heading, 'C' course
+    int course = 0;   // degrees magnetic
+    enum Until { kNothing, kIntercept, kDistance, kAltitude, kVectors } until = kNothing;
+    double limit = 0;  // of kIntercept the inbound course (degrees magnetic), of kDistance nm
+};
+
+/// False for a text that is no code.
+bool ParseLegCode(std::string_view text, LegCode& code);
+
+/// The name under which a coded leg is shown: "(INTC)", "VECTORS", "(1200)" or "HD190".
+std::string LegCodeIdent(const LegCode& code, std::string_view alt_token);
+
+/// What a coded leg is computed from.
+struct LegCodeInput {
+    LatLon start;              // where the leg begins
+    double entry_course;       // degrees magnetic, on which the aircraft comes to it
+    LatLon reference;          // the fix of the code's line
+    double altitude = 0;       // ft, of the line
+    double elevation = 0;      // ft, of the airport
+    int variation = 0;         // degrees, east positive
+    double climb_speed = 250;  // kt
+};
+
+constexpr int kLegFails = -99;
+
+/// The end of a coded leg: 0, or kLegFails and `end` unchanged. `start` moves where a turn begins the leg.
+int ComputeDepartureLeg(const LegCode& code, LegCodeInput& input, LatLon& end);
+/// The same rules.
+int ComputeArrivalLeg(const LegCode& code, LegCodeInput& input, LatLon& end);
+/// The same, with the gentler climb of a missed approach. A heading with a turn is what follows a procedure
+/// turn, whose two legs stand before it and end at `start`: it isn't offset again.
+int ComputeApproachLeg(const LegCode& code, LegCodeInput& input, LatLon& end);
