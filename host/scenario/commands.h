@@ -11,10 +11,14 @@ namespace host {
 std::vector<Command> SetUpCommands();
 std::vector<Command> TimeCommands();
 std::vector<Command> HostSideCommands();
+std::vector<Command> CduCommands();
 std::vector<Command> LookingCommands();
 
 /// "0xEVENT VALUE" lines of the key events sent since the last `events`.
 std::string EventsText();
+
+/// One call of the module, and a picture of each visible gauge if this is the call for it.
+void TickScenario(Scenario& scenario, bool paused_frame);
 
 /// A number word; throws CommandError that names what it should be.
 double NumberWord(const Word& word, std::string_view what);

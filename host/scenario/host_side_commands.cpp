@@ -178,8 +178,6 @@ std::vector<Command> HostSideCommands() {
         {"window", "IDENT 0|1", "window 5 1", Command::kAnytime, 2, 2, Window},
         {"click", "GAUGE X Y [left|right]", "click DU_LOWER_MC 100 200", Command::kAfter, 3, 4, Click},
         {"press", "GAUGE AREA [left|right]", "press MCP \"hdg +10\"", Command::kAfter, 2, 3, Press},
-        {"keys", "L|R TEXT", "", Command::kAnytime, 2, 2, NotYet},
-        {"cdu", "L|R KEY...", "", Command::kAnytime, 2, 100, NotYet},
         {"route", "\"ORIG[/RWY] FIX AIRWAY FIX ... DEST[/RWY]\"", "route \"KSEA BTG J1 OED KSFO\"",
          Command::kAfter, 1, 1, Route},
         {"exec", "", "exec", Command::kAfter, 0, 0, Exec},

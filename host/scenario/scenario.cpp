@@ -13,7 +13,8 @@ namespace host {
 const std::vector<Command>& Commands() {
     static const std::vector<Command> kCommands = [] {
         std::vector<Command> all;
-        for (const auto& group : {SetUpCommands(), TimeCommands(), HostSideCommands(), LookingCommands()})
+        for (const auto& group :
+             {SetUpCommands(), TimeCommands(), HostSideCommands(), CduCommands(), LookingCommands()})
             all.insert(all.end(), group.begin(), group.end());
         return all;
     }();

@@ -23,27 +23,18 @@ int TicksOf(const Word& seconds) {
     return static_cast<int>(ticks);
 }
 
-// One call, and a picture of each visible gauge if this is the call for it.
-void Step(Scenario& scenario, bool paused_frame) {
-    TickSession(scenario.session, paused_frame);
-    if (scenario.paint_every > 0 && ++scenario.calls_since_paint >= scenario.paint_every) {
-        scenario.calls_since_paint = 0;
-        PaintGauges(scenario.session);
-    }
-}
-
 void Tick(Scenario& scenario, const std::vector<Word>& words) {
-    for (int left = CountWord(words); left > 0; --left) Step(scenario, false);
+    for (int left = CountWord(words); left > 0; --left) TickScenario(scenario, false);
 }
 
 void Frame(Scenario& scenario, const std::vector<Word>& words) {
-    for (int left = CountWord(words); left > 0; --left) Step(scenario, true);
+    for (int left = CountWord(words); left > 0; --left) TickScenario(scenario, true);
 }
 
 void Run(Scenario& scenario, const std::vector<Word>& words) {
     if (words[1].text != "until") {
         if (words.size() != 2) throw CommandError{"`run SECONDS` takes one number"};
-        for (int left = TicksOf(words[1]); left > 0; --left) Step(scenario, false);
+        for (int left = TicksOf(words[1]); left > 0; --left) TickScenario(scenario, false);
         return;
     }
     if (words.size() < 7 || words[words.size() - 2].text != "max")
@@ -55,7 +46,7 @@ void Run(Scenario& scenario, const std::vector<Word>& words) {
             TellFailure(scenario, condition, have);
             return;
         }
-        Step(scenario, false);
+        TickScenario(scenario, false);
     }
 }
 
@@ -66,6 +57,14 @@ void Paint(Scenario& scenario, const std::vector<Word>& words) {
 }
 
 }  // namespace
+
+void TickScenario(Scenario& scenario, bool paused_frame) {
+    TickSession(scenario.session, paused_frame);
+    if (scenario.paint_every > 0 && ++scenario.calls_since_paint >= scenario.paint_every) {
+        scenario.calls_since_paint = 0;
+        PaintGauges(scenario.session);
+    }
+}
 
 std::vector<Command> TimeCommands() {
     return {

@@ -25,6 +25,7 @@ constexpr int kNormalView = 0, kDirectView = 1, kHoldView = 2;
 constexpr const char* kDegree = "\xb0";
 constexpr const char* kHoldAt = "HOLD AT ";
 constexpr int kConstraintX = 165, kSlashX = 200;
+constexpr float kDistanceSize = 8;  // five columns in 25 units
 
 int FirstLeg() {
     return std::max(1, ShownActiveLeg());
@@ -284,8 +285,8 @@ void DrawLabel(PageCall& call, int line, int leg) {
     if (!track.known) return;
     PageText(call, 40, y, Format("%03.0f%s", track.course, kDegree), kWhite, kLabelSize);
     if (!shown.via_type.empty()) PageText(call, 70, y, shown.via, kWhite, kLabelSize);
-    PageText(call, 130, y, Format("%5.0f", track.dist), kWhite, kLabelSize);
-    PageText(call, 155, y, "NM", kWhite, kLabelSize);
+    PageText(call, 130, y, Format("%5.0f", track.dist), kWhite, kDistanceSize);
+    PageText(call, 155, y, "NM", kWhite, kDistanceSize);
 }
 
 void DrawIdent(PageCall& call, int line, int leg) {

@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "cdu/items.h"
 #include "fmc/route_operations.h"
 #include "fmc/route_text.h"
 #include "module/controls/control_table.h"
@@ -115,6 +116,12 @@ int ListControls(ResultSink sink, void* context) {
     return 1;
 }
 
+int PressClearMessage(int side) {
+    const StateLock lock;
+    OnClearMessage(side);
+    return 1;
+}
+
 constexpr InspectionTable kInspection = {
     .version = kLinkageVersion,
     .read_variable = ReadVariable,
@@ -130,6 +137,7 @@ constexpr InspectionTable kInspection = {
     .picture_png = CopyPicturePng,
     .list_fonts = ListFonts,
     .list_controls = ListControls,
+    .press_clear_message = PressClearMessage,
 };
 
 }  // namespace

@@ -50,6 +50,8 @@ struct InspectionTable {
     /// MAX at MIN), knob (toggles), guarded (stays in once pressed), guard (0 shut, 1 open), mirrored (only
     /// read). GUARD: the variable of the guard that must stand at 1, or "-".
     int (*list_controls)(ResultSink sink, void* context);
+    /// CLR MSG of a side's CDU (1 or 2), the one key of it that no variable of the cockpit stands for.
+    int (*press_clear_message)(int side);
 };
 
 struct ModuleLinkage {

@@ -2,6 +2,8 @@
 
 #include <cstring>
 
+#include "cdu/cdu_service.h"
+#include "display/cdu_shown.h"
 #include "frame/aircraft.h"
 #include "frame/key_events.h"
 #include "frame/keyboard_capture.h"
@@ -17,6 +19,7 @@
 #include "state/identity.h"
 #include "state/module_life.h"
 #include "state/plan.h"
+#include "state/side.h"
 #include "state/sim.h"
 #include "state/time_base.h"
 
@@ -77,6 +80,7 @@ void RunUpdateCycle(bool virtual_cockpit) {
     if (module_life.outputs_running == 1) {
         time_base.frame_phase = time_base.frame_phase >= 17 ? 0 : time_base.frame_phase + 1;
         PollControls();
+        for (const int side : {kCaptain, kFirstOfficer}) StepCdu(side, IsCduShown(side));
         TickOutputs();
     }
 }

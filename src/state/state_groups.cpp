@@ -6,22 +6,26 @@
 #include "state/cfg.h"
 #include "state/cockpit.h"
 #include "state/displays.h"
+#include "state/efb.h"
 #include "state/electrical.h"
 #include "state/flight_log.h"
 #include "state/host_link.h"
 #include "state/identity.h"
+#include "state/instruments.h"
 #include "state/irs.h"
 #include "state/keyboard.h"
 #include "state/lnav.h"
 #include "state/module_life.h"
 #include "state/nav.h"
 #include "state/nav_tables.h"
+#include "state/nd.h"
 #include "state/nearest.h"
 #include "state/perf.h"
 #include "state/placement.h"
 #include "state/plan.h"
 #include "state/pos_init.h"
 #include "state/procedure_lists.h"
+#include "state/requests.h"
 #include "state/sim.h"
 #include "state/sound.h"
 #include "state/time_base.h"
@@ -63,6 +67,10 @@ constexpr StateGroup kGroups[] = {
     {"cdu", Reset<&cdu>, &kCduVariables},
     {"route_pages", Reset<&route_pages>, &kRoutePageVariables},
     {"displays", Reset<&displays>, &kDisplayVariables},
+    {"nd", Reset<&nd>, &kNdVariables},
+    {"instruments", Reset<&instruments>, &kInstrumentVariables},
+    {"efb", Reset<&efb>, &kEfbVariables},
+    {"requests", Reset<&requests>, &kRequestVariables},
     {"electrical", Reset<&electrical>, &kElectricalVariables},
 };
 
