@@ -10,6 +10,7 @@ namespace {
 // Alpha 0: the host's blank screen shows through.
 constexpr Argb kDark = 0x0072bd61;
 constexpr int kFirstLevel = 15, kSecondLevel = 180;
+constexpr int kBatteryAlone = 5;  // lights no unit, however long it lasts
 
 bool MayPaint(ShownIn shown_in) {
     const bool in_2d = displays.cockpit_2d_active == 1;
@@ -22,12 +23,12 @@ bool UnitIsPowered(int unit) {
         case 1:
             return power >= kFirstLevel;
         case 2:
-            return power != 0 && displays.du_cib_startup_cnt >= 90;
+            return power > kBatteryAlone && displays.du_cib_startup_cnt >= 90;
         case 3:
         case 4:
             return power >= kSecondLevel;
         case 5:
-            return power != 0 && displays.du_lwr_startup_cnt >= 60;
+            return power > kBatteryAlone && displays.du_lwr_startup_cnt >= 60;
         default:
             return false;
     }
