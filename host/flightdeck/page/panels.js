@@ -170,6 +170,8 @@ export const displaySelect = (side) => ({
 const knob = (name, label, positions = []) => ({look: 'switch', name, label, positions, lamps: []});
 const key = (name, label, ...lamps) => ({look: 'key', name, label, lamps});
 
+const RANGES = ['0.5', '1', '2', '5', '10', '20', '40', '80', '160', '320', '640', '1280'];  // NM
+
 export const efis = {
   L: [
     knob('TZ_MCP_L_RADIO_BARO_Knob', 'Mins', ['RADIO', 'BARO']),
@@ -177,10 +179,10 @@ export const efis = {
     key('TZ_MCP_L_RB_RST_Button', 'RST'),
     knob('TZ_MCP_L_BAROSET_Knob', 'Baro'),
     key('TZ_MCP_L_BRST_STD_Button', 'STD'),
-    knob('TZ_MCP_L_NDMAP_Knob', 'ND Mode', ['APP', 'VOR', 'MAP', 'PLN']),
+    knob('TZ_MCP_L_NDMAP_Knob', 'ND Mode', ['MAP', 'PLAN']),
     key('TZ_MCP_L_NDMAP_Knob_PUSH', 'ND CTR'),
     key('tz_cpt_nd_knob_clicked', 'ND PUSH'),
-    knob('TZ_MCP_L_RANGE_Knob', 'Range'),
+    knob('TZ_MCP_L_RANGE_Knob', 'Range', RANGES),
     key('TZ_MCP_L_RNG_CTR_Button', 'TFC CTR'),
     key('TZ_MCP_L_WXR_Button', 'WXR'),
     key('TZ_MCP_L_TERR_Button', 'TERR'),
@@ -193,8 +195,8 @@ export const efis = {
     knob('TZ_MCP_R_RADIO_BARO_Knob', 'Mins', ['RADIO', 'BARO']),
     knob('TZ_MCP_R_BAROSET_Knob', 'Baro'),
     key('TZ_MCP_R_BRST_STD_Button', 'STD'),
-    knob('TZ_MCP_R_NDMAP_Knob', 'ND Mode', ['APP', 'VOR', 'MAP', 'PLN']),
-    knob('TZ_MCP_R_RANGE_Knob', 'Range'),
+    knob('TZ_MCP_R_NDMAP_Knob', 'ND Mode', ['MAP', 'PLAN']),
+    knob('TZ_MCP_R_RANGE_Knob', 'Range', RANGES),
     key('TZ_MCP_R_RNG_CTR_Button', 'TFC CTR'),
     key('TZ_MCP_R_WXR_Button', 'WXR'),
     key('TZ_MCP_R_TERR_Button', 'TERR'),
