@@ -1,4 +1,6 @@
 #include <CLI/CLI.hpp>
+#include <algorithm>
+#include <cctype>
 #include <iostream>
 
 #include "host/fly/fly.h"
@@ -28,7 +30,14 @@ int main(int argc, char** argv) {
         ->check(CLI::Range(0, 65535));
     fly->add_option("--address", fly_options.address,
                     "of the flight deck, 127.0.0.1; a wider one, such as 0.0.0.0, asks for a token");
-    fly->add_option("--token", fly_options.token, "what a browser must know; made up when not given");
+    const auto plain = [](const std::string& token) {
+        const bool good = token.size() >= 8 && std::all_of(token.begin(), token.end(), [](unsigned char c) {
+                              return std::isalnum(c) || c == '-' || c == '_';
+                          });
+        return good ? std::string() : "a token is 8 or more letters, digits, - and _";
+    };
+    fly->add_option("--token", fly_options.token, "what a browser must know; made up when not given")
+        ->check(CLI::Validator(plain, ""));
     fly->add_option("--route", fly_options.route, "a filed route text instead of the demonstration's");
     fly->add_option("--root", fly_options.root, "the simulator's root folder")->check(CLI::ExistingDirectory);
     fly->add_option("--navdata", fly_options.navdata, "the navigation data folder")

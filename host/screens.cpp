@@ -30,8 +30,12 @@ constexpr Screen kScreens[] = {
 }  // namespace
 
 std::string GaugeOfScreen(std::string_view screen) {
+    return GaugeOfScreen(screen, IsMainPanelShown());
+}
+
+std::string GaugeOfScreen(std::string_view screen, bool in_2d) {
     for (const Screen& row : kScreens)
-        if (row.name == screen) return IsMainPanelShown() ? row.gauge_2d : row.gauge;
+        if (row.name == screen) return in_2d ? row.gauge_2d : row.gauge;
     return {};
 }
 

@@ -10,6 +10,8 @@ namespace host {
 /// The gauge that paints a screen now: "capt_outb capt_inb fo_inb fo_outb lower hud stby efb_l efb_r debug".
 /// The two-dimensional cockpit has gauges of its own for the captain's units. Empty for another name.
 std::string GaugeOfScreen(std::string_view screen);
+/// The same by whether the two-dimensional cockpit is shown; for other threads than the host's.
+std::string GaugeOfScreen(std::string_view screen, bool in_2d);
 
 /// Asks every visible gauge for a picture and has it painted at once, in gauge order.
 void PaintGauges(Session& session);

@@ -128,7 +128,8 @@ class Browser;
 // The last picture of a screen, encoded once for all browsers.
 struct LastPicture {
     std::string bytes;
-    std::uint64_t number = 0;  // as the source counts
+    std::uint64_t number = 0;         // ours, 0 = none yet
+    std::uint64_t source_number = 0;  // as the source counts, which may begin anew
     Clock::time_point asked{};
 };
 
@@ -553,9 +554,10 @@ const LastPicture& FlightDeck::Network::PictureOf(std::size_t screen) {
     last.asked = now;
     std::string bytes;
     std::uint64_t number = 0;
-    if (pictures && pictures(std::string(kScreens[screen]), last.number, bytes, number)) {
+    if (pictures && pictures(std::string(kScreens[screen]), last.source_number, bytes, number)) {
         last.bytes = std::move(bytes);
-        last.number = number;
+        last.source_number = number;
+        ++last.number;
     }
     return last;
 }
@@ -609,6 +611,11 @@ FlightDeck::~FlightDeck() {
 bool FlightDeck::Start(std::string& error) {
     Network& network = *network_;
     beast::error_code failed;
+    std::error_code missing;
+    if (!std::filesystem::is_directory(network.settings.page_folder, missing)) {
+        error = "the page's folder " + network.settings.page_folder + " is missing";
+        return false;
+    }
     const auto address = asio::ip::make_address(network.settings.address, failed);
     if (failed) {
         error = network.settings.address + " is no address";

@@ -1,9 +1,12 @@
 #include "host/fly/deck_loop.h"
 
+#include <atomic>
 #include <chrono>
 #include <cstdio>
+#include <map>
 #include <random>
 #include <thread>
+#include <utility>
 
 #include "host/flightdeck/commands.h"
 #include "host/flightdeck/deck.h"
@@ -37,9 +40,11 @@ DeckSettings SettingsOf(const Session& session, const FlyOptions& options) {
     return settings;
 }
 
-PictureSource PicturesOf(const InspectionTable& inspection) {
-    return [&inspection](const std::string& screen, std::uint64_t after, std::string& bytes,
-                         std::uint64_t& number) {
+// Which gauge paints a screen changes with the cockpit that is shown; each counts its own pictures.
+PictureSource PicturesOf(const InspectionTable& inspection, const std::atomic<bool>& in_2d) {
+    return [&inspection, &in_2d, painted_by = std::map<std::string, std::string>{}](
+               const std::string& screen, std::uint64_t after, std::string& bytes,
+               std::uint64_t& number) mutable {
         struct Picture {
             std::string& bytes;
             std::uint64_t& number;
@@ -49,7 +54,9 @@ PictureSource PicturesOf(const InspectionTable& inspection) {
             to.bytes.assign(reinterpret_cast<const char*>(data), size);
             to.number = count;
         };
-        return inspection.picture(GaugeOfScreen(screen).c_str(), after, sink, &picture) != 0;
+        const std::string gauge = GaugeOfScreen(screen, in_2d);
+        if (std::exchange(painted_by[screen], gauge) != gauge) after = 0;
+        return inspection.picture(gauge.c_str(), after, sink, &picture) != 0;
     };
 }
 
@@ -68,11 +75,14 @@ void TakeCommands(Session& session, FlightDeck& deck, PressQueue& presses) {
 bool RunFlightDeck(Session& session, const FlyOptions& options, const volatile std::sig_atomic_t& interrupted,
                    const std::function<void()>& each_second, std::string& error) {
     const DeckSettings settings = SettingsOf(session, options);
-    FlightDeck deck(settings, PicturesOf(*session.linkage->inspection));
+    std::atomic<bool> in_2d = IsMainPanelShown();
+    FlightDeck deck(settings, PicturesOf(*session.linkage->inspection, in_2d));
     deck.SetGreeting(DeckGreeting(session));
     if (!deck.Start(error)) return false;
-    std::printf("The flight deck is at http://%s:%d/%s%s (Ctrl-C ends)\n", options.address.c_str(),
-                deck.port(), settings.token.empty() ? "" : "?token=", settings.token.c_str());
+    const bool is_v6 = options.address.find(':') != std::string::npos;
+    std::printf("The flight deck is at http://%s%s%s:%d/%s%s (Ctrl-C ends)\n", is_v6 ? "[" : "",
+                options.address.c_str(), is_v6 ? "]" : "", deck.port(),
+                settings.token.empty() ? "" : "?token=", settings.token.c_str());
     std::fflush(stdout);
 
     PressQueue presses;
@@ -85,6 +95,7 @@ bool RunFlightDeck(Session& session, const FlyOptions& options, const volatile s
             TickSession(session, false);
             if (world.ticks % 18 == 0) each_second();
         }
+        in_2d = IsMainPanelShown();
         RequestPictures(session);
         if (period % kPublishEvery == 0) deck.PublishValues(ReadValues(session, deck.WatchedNames()));
         next += kPeriod;
