@@ -21,6 +21,8 @@ struct Growth {
 };
 Growth GrowthOf(const Matrix& m) {
     constexpr double kNothing = 1e-12;
+    if (m.b == 0 && m.c == 0 && m.a > 0 && m.d > kNothing)
+        return {m.d, {0, static_cast<float>(m.a / m.d), 0}};
     const double run = std::hypot(m.a, m.b);
     const double height = run > kNothing ? std::fabs(m.a * m.d - m.b * m.c) / run : 0;
     if (height <= kNothing) return {height, {}};
@@ -30,8 +32,10 @@ Growth GrowthOf(const Matrix& m) {
              static_cast<float>(run / height), static_cast<float>(slant / height)}};
 }
 
-bool IsRoundPen(const LocalAxes& axes) {
-    return std::fabs(axes.stretch - 1) < 1e-4f && std::fabs(axes.skew) < 1e-4f;
+// Turned, mirrored or scaled alike both ways: a pen stays round.
+bool KeepsCircles(const Matrix& m) {
+    const double run = m.a * m.a + m.b * m.b, rise = m.c * m.c + m.d * m.d;
+    return std::fabs(run - rise) <= 1e-4 * run && std::fabs(m.a * m.c + m.b * m.d) <= 1e-4 * run;
 }
 
 // What the newest operation does to coordinates comes first.
@@ -59,13 +63,15 @@ bool Drawable(const Graphics& graphics, const GraphicsPath& path) {
 
 void StrokeOnce(Graphics& graphics, const Pen& pen, const GraphicsPath& path, double width) {
     DrawList& list = *graphics.list;
-    const Growth growth = GrowthOf(graphics.world);
+    const Matrix& world = graphics.world;
+    const Growth growth =
+        KeepsCircles(world) ? Growth{std::sqrt(world.a * world.a + world.b * world.b), {}} : GrowthOf(world);
     const auto scale = static_cast<float>(growth.height);
     const std::size_t dashes = list.dashes.size();
     for (const float dash : pen.dashes.All()) list.dashes.push_back(dash * pen.width * scale);
     StrokePath stroke{Record(graphics, path), pen.colour, static_cast<float>(width) * scale};
     stroke.dashes = Extend(dashes, list.dashes.size());
-    if (!IsRoundPen(growth.axes)) stroke.axes = growth.axes;
+    stroke.axes = growth.axes;
     list.primitives.emplace_back(stroke);
 }
 
