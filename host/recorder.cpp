@@ -28,22 +28,24 @@ bool OpenRecording(Recorder& recorder, const std::string& file, std::string& err
     return false;
 }
 
-void Record(Recorder& recorder, std::initializer_list<std::string> words) {
-    recorder.calls = 0;
+void Record(Recorder* recorder, std::initializer_list<std::string> words) {
+    if (recorder == nullptr) return;
+    recorder->calls = 0;
     const auto has_quote = [](const std::string& word) { return word.find('"') != std::string::npos; };
     std::string line = std::any_of(words.begin(), words.end(), has_quote) ? "# not expressible:" : "";
     for (const std::string& word : words) line += (line.empty() ? "" : " ") + Quoted(word);
-    recorder.file << line << '\n' << std::flush;
+    recorder->file << line << '\n' << std::flush;
 }
 
-void RecordCall(Recorder& recorder, bool paused_frame) {
-    if (recorder.calls == 0 || recorder.paused != paused_frame) {
-        recorder.calls = 0;
-        recorder.calls_line = recorder.file.tellp();
+void RecordCall(Recorder* recorder, bool paused_frame) {
+    if (recorder == nullptr) return;
+    if (recorder->calls == 0 || recorder->paused != paused_frame) {
+        recorder->calls = 0;
+        recorder->calls_line = recorder->file.tellp();
     }
-    recorder.paused = paused_frame;
-    recorder.file.seekp(recorder.calls_line);
-    recorder.file << (paused_frame ? "frame " : "tick ") << ++recorder.calls << '\n' << std::flush;
+    recorder->paused = paused_frame;
+    recorder->file.seekp(recorder->calls_line);
+    recorder->file << (paused_frame ? "frame " : "tick ") << ++recorder->calls << '\n' << std::flush;
 }
 
 }  // namespace host

@@ -19,11 +19,13 @@ struct Recorder {
 /// Begins a recording, over what the file held. False with the reason.
 bool OpenRecording(Recorder& recorder, const std::string& file, std::string& error);
 
+// The next two do nothing without a recorder.
+
 /// Writes one command of the scenario language; words with blanks are quoted. One that the language can't
 /// express becomes a comment.
-void Record(Recorder& recorder, std::initializer_list<std::string> words);
+void Record(Recorder* recorder, std::initializer_list<std::string> words);
 
 /// Counts one pre-update call that is about to be made.
-void RecordCall(Recorder& recorder, bool paused_frame);
+void RecordCall(Recorder* recorder, bool paused_frame);
 
 }  // namespace host

@@ -132,7 +132,7 @@ bool StartSession(Session& session, std::string& error) {
 }
 
 void TickSession(Session& session, bool paused_frame) {
-    if (session.recorder != nullptr) RecordCall(*session.recorder, paused_frame);
+    RecordCall(session.recorder, paused_frame);
     DispatchQueuedCalls();
     if (!paused_frame) {
         AdvanceClock();

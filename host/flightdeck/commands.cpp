@@ -16,15 +16,10 @@ constexpr int kKeyPause = 0x10019;
 constexpr std::size_t kMostWaiting = 60;
 constexpr int kLetGoTicks = 54;  // a control that nobody lets go within 3 seconds isn't served
 
-// Takes down what is done, as the scenario command that does the same.
-void TakeDown(Session& session, std::initializer_list<std::string> words) {
-    if (session.recorder != nullptr) Record(*session.recorder, words);
-}
-
 void SendKey(Session& session, int event, int value) {
     char number[16];
     std::snprintf(number, sizeof number, "0x%x", static_cast<unsigned>(event));
-    TakeDown(session, {"key", number, std::to_string(value)});
+    Record(session.recorder, {"key", number, std::to_string(value)});
     QueueKeyEvent(event, value);
 }
 
@@ -37,18 +32,18 @@ void SetRate(Session& session, double rate) {
     if (rate <= 0) return;
     world.sim_rate = std::clamp(rate, 0.25, 64.0);
     FillClockTokens();
-    TakeDown(session, {"warp", NumberText(world.sim_rate)});
+    Record(session.recorder, {"warp", NumberText(world.sim_rate)});
 }
 
 void Click(Session& session, const std::string& gauge, double x, double y, bool right) {
     if (gauge.empty()) return;
-    TakeDown(session, {"click", gauge, NumberText(x), NumberText(y), right ? "right" : "left"});
+    Record(session.recorder, {"click", gauge, NumberText(x), NumberText(y), right ? "right" : "left"});
     PressMouse(session, gauge, x, y, right);
 }
 
 void SetVariable(Session& session, const std::string& name, double value) {
     if (!NamedVariableExists(name)) return;
-    TakeDown(session, {"lvar", name, NumberText(value)});
+    Record(session.recorder, {"lvar", name, NumberText(value)});
     SetNamedValue(name, value);
 }
 
@@ -71,14 +66,15 @@ void ApplyDeckCommand(Session& session, const DeckCommand& command) {
             // What the module refuses is no part of a recording.
             if (Ask(session.linkage->inspection->write_variable, command.name.c_str(), command.text.c_str())
                     .good)
-                TakeDown(session, {"set", command.name, command.text});
+                Record(session.recorder, {"set", command.name, command.text});
             break;
         case DeckCommand::kMouse:
             Click(session, MouseGaugeOfScreen(command.name), command.x, command.y, command.right);
             break;
         case DeckCommand::kMouseArea:
             if (PressMouseArea(session, command.name, command.text, command.right))
-                TakeDown(session, {"press", command.name, command.text, command.right ? "right" : "left"});
+                Record(session.recorder,
+                       {"press", command.name, command.text, command.right ? "right" : "left"});
             break;
         case DeckCommand::kKeyEvent:
             SendKey(session, static_cast<int>(command.value), static_cast<int>(command.x));

@@ -14,23 +14,19 @@ namespace {
 
 constexpr int kTokenMasterBattery = 364;
 
-void TakeDown(Session& session, std::initializer_list<std::string> words) {
-    if (session.recorder != nullptr) Record(*session.recorder, words);
-}
-
 std::string Absolute(const std::string& folder) {
     return std::filesystem::absolute(folder).string();
 }
 
-void TakeDownSettings(Session& session, const FlyOptions& options) {
-    if (!options.root.empty()) TakeDown(session, {"root", Absolute(options.root)});
-    if (!options.navdata.empty()) TakeDown(session, {"navdata", Absolute(options.navdata)});
-    if (!options.aircraft.empty()) TakeDown(session, {"aircraft", options.aircraft});
-    for (const std::string& line : session.settings.cfg_lines) TakeDown(session, {"cfg", line});
-    TakeDown(session, {"warp", NumberText(world.sim_rate)});
-    TakeDown(session, {"token", std::to_string(kTokenMasterBattery), options.cold ? "0" : "1"});
-    TakeDown(session, {"fdm", "on"});
-    TakeDown(session, {"start"});
+void RecordSettings(Session& session, const FlyOptions& options) {
+    if (!options.root.empty()) Record(session.recorder, {"root", Absolute(options.root)});
+    if (!options.navdata.empty()) Record(session.recorder, {"navdata", Absolute(options.navdata)});
+    if (!options.aircraft.empty()) Record(session.recorder, {"aircraft", options.aircraft});
+    for (const std::string& line : session.settings.cfg_lines) Record(session.recorder, {"cfg", line});
+    Record(session.recorder, {"warp", NumberText(world.sim_rate)});
+    Record(session.recorder, {"token", std::to_string(kTokenMasterBattery), options.cold ? "0" : "1"});
+    Record(session.recorder, {"fdm", "on"});
+    Record(session.recorder, {"start"});
 }
 
 // The first leg's runway end, or the airport, as a place in the air on the way to the first fix.
@@ -53,21 +49,21 @@ bool StartFlight(Session& session, const FlyOptions& options, std::string& error
     session.settings.title = options.aircraft;
     session.settings.fdm = true;
     if (options.root.empty()) session.settings.cfg_lines = {options.cold ? "Battery=0" : "SystemsOn=1"};
-    TakeDownSettings(session, options);
+    RecordSettings(session, options);
     if (!PrepareSession(session, error)) return false;
     SetToken(kTokenMasterBattery, options.cold ? 0 : 1);
     if (!StartSession(session, error)) return false;
     if (options.cold) {
-        TakeDown(session, {"cold"});
+        Record(session.recorder, {"cold"});
         ShutDownAircraft();
         return true;
     }
-    TakeDown(session, {"route", options.route});
-    TakeDown(session, {"exec"});
+    Record(session.recorder, {"route", options.route});
+    Record(session.recorder, {"exec"});
     if (!EnterRoute(session, options.route, error) || !ExecuteRoute(session, error)) return false;
     const Placement at = AfterTakeOff(session);
-    TakeDown(session, {"at", NumberText(at.lat), NumberText(at.lon), NumberText(at.alt_ft),
-                       NumberText(at.heading), NumberText(at.ias)});
+    Record(session.recorder, {"at", NumberText(at.lat), NumberText(at.lon), NumberText(at.alt_ft),
+                              NumberText(at.heading), NumberText(at.ias)});
     PlaceAircraft(at);
     return true;
 }

@@ -40,14 +40,14 @@ struct Recording {
 TEST(Recorder, WritesCallsAndCommandsInTheirOrder) {
     Recording recording;
     Recorder& recorder = recording.recorder;
-    Record(recorder, {"start"});
-    for (int i = 0; i < 12; ++i) RecordCall(recorder, false);
+    Record(&recorder, {"start"});
+    for (int i = 0; i < 12; ++i) RecordCall(&recorder, false);
     EXPECT_EQ(TextOf(recording.file), "start\ntick 12\n") << "whole at any time";
-    for (int i = 0; i < 3; ++i) RecordCall(recorder, true);
-    Record(recorder, {"route", "KSEA BTG"});
-    Record(recorder, {"set", "capt.ScratchPad", ""});
-    RecordCall(recorder, true);
-    Record(recorder, {"set", "x", "a \"b\"\nc"});
+    for (int i = 0; i < 3; ++i) RecordCall(&recorder, true);
+    Record(&recorder, {"route", "KSEA BTG"});
+    Record(&recorder, {"set", "capt.ScratchPad", ""});
+    RecordCall(&recorder, true);
+    Record(&recorder, {"set", "x", "a \"b\"\nc"});
     EXPECT_EQ(TextOf(recording.file),
               "start\ntick 12\nframe 3\nroute \"KSEA BTG\"\nset capt.ScratchPad \"\"\nframe 1\n"
               "# not expressible: set x \"a \"b\"\\nc\"\n");
