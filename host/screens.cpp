@@ -18,7 +18,7 @@ constexpr Screen kScreens[] = {
     {"capt_outb", "DU_CAPT_OUTB_VC", "DU_CAPT_OUTB_2D", "DU_CAPT_OUTB_MC"},
     {"capt_inb", "DU_CAPT_INB_VC", "DU_CAPT_INB_2D", "DU_CAPT_INB_MC"},
     {"fo_inb", "DU_FO_INB_VC", "DU_FO_INB_PW", "DU_FO_INB_MC"},
-    {"fo_outb", "DU_FO_OUTB_VC", "DU_FO_OUTB_PW", nullptr},
+    {"fo_outb", "DU_FO_OUTB_VC", "DU_FO_OUTB_PW", "DU_FO_OUTB_PW"},
     {"lower", "DU_LOWER_VC", "DU_LOWER_PW", "DU_LOWER_MC"},
     {"hud", "HUD", "HUD", nullptr},
     {"stby", "STBY_PFD", "STBY_PFD", nullptr},

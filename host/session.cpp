@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <span>
 
 #include "host/module_library.h"
 #include "host/root_folder.h"
@@ -142,13 +143,27 @@ void TickSession(Session& session, bool paused_frame) {
     CallGauges(session, kServicePreUpdate);
 }
 
-bool PressMouseArea(Session& session, const std::string& gauge, const std::string& area, bool right) {
+namespace {
+
+// Hands a press at a point of the gauge's frame to an area.
+void Press(PanelGauge& panel, const MouseRectangle& area, int x, int y, bool right) {
+    panel.instance.mouse_x = x;
+    panel.instance.mouse_y = y;
+    area.callback(&panel.instance, right ? kMouseRightSingle : kMouseLeftSingle);
+}
+
+std::span<const MouseRectangle> AreasOf(const GaugeHeader& gauge) {
+    return {gauge.mouse, static_cast<std::size_t>(gauge.mouse_count)};
+}
+
+}  // namespace
+
+bool PressMouseArea(Session& session, const std::string& gauge, const std::string& name, bool right) {
     for (PanelGauge& panel : session.gauges) {
-        const GaugeHeader& header = *panel.instance.gauge;
-        if (gauge != header.name) continue;
-        for (int i = 0; i < header.mouse_count; ++i) {
-            if (area != header.mouse[i].name) continue;
-            header.mouse[i].callback(&panel.instance, right ? kMouseRightSingle : kMouseLeftSingle);
+        if (gauge != panel.instance.gauge->name) continue;
+        for (const MouseRectangle& area : AreasOf(*panel.instance.gauge)) {
+            if (name != area.name) continue;
+            Press(panel, area, area.x + area.width / 2, area.y + area.height / 2, right);
             return true;
         }
     }
@@ -157,12 +172,10 @@ bool PressMouseArea(Session& session, const std::string& gauge, const std::strin
 
 bool PressMouse(Session& session, const std::string& gauge, double x, double y, bool right) {
     for (PanelGauge& panel : session.gauges) {
-        const GaugeHeader& header = *panel.instance.gauge;
-        if (gauge != header.name) continue;
-        for (int i = 0; i < header.mouse_count; ++i) {
-            const MouseRectangle& area = header.mouse[i];
+        if (gauge != panel.instance.gauge->name) continue;
+        for (const MouseRectangle& area : AreasOf(*panel.instance.gauge)) {
             if (x < area.x || y < area.y || x >= area.x + area.width || y >= area.y + area.height) continue;
-            area.callback(&panel.instance, right ? kMouseRightSingle : kMouseLeftSingle);
+            Press(panel, area, static_cast<int>(x), static_cast<int>(y), right);
             return true;
         }
     }

@@ -1,6 +1,5 @@
 #include <array>
 #include <chrono>
-#include <cstdlib>
 #include <filesystem>
 
 #include "host/root_folder.h"
@@ -125,42 +124,6 @@ void Warp(Scenario&, const std::vector<Word>& words) {
     FillClockTokens();
 }
 
-// A button by its name, a bar by "up" or "down", a knob by detents: ten of them are one big step.
-void Mcp(Scenario& scenario, const std::vector<Word>& words) {
-    const std::string control = words[1].text;
-    const auto press = [&](const std::string& area) { return PressMouseArea(scenario.session, "MCP", area); };
-    if (words.size() == 2) {
-        if (!press(control)) throw CommandError{"the MCP has no button \"" + control + "\""};
-        return;
-    }
-    if (control == "alt" && words[2].text == "push") throw CommandError{"not available yet"};
-    if (words[2].text == "up" || words[2].text == "down") {
-        if (!press(control + ' ' + words[2].text)) throw CommandError{"only the bar moves up and down"};
-        return;
-    }
-    const int detents = IntWord(words[2], "a number of detents");
-    const bool big = detents % 10 == 0;
-    const std::string area = control + (detents < 0 ? " -" : " +") + (big ? "10" : "1");
-    for (int left = std::abs(big ? detents / 10 : detents); left > 0; --left)
-        if (!press(area)) throw CommandError{"the MCP has no knob \"" + control + "\"; spd hdg alt vswheel"};
-}
-
-bool IsRight(const std::vector<Word>& words, std::size_t at) {
-    if (words.size() <= at || words[at].text == "left") return false;
-    if (words[at].text == "right") return true;
-    throw CommandError{"\"" + words[at].text + "\"; left or right"};
-}
-
-void Click(Scenario& scenario, const std::vector<Word>& words) {
-    PressMouse(scenario.session, words[1].text, NumberWord(words[2], "a place across"),
-               NumberWord(words[3], "a place down"), IsRight(words, 4));
-}
-
-void Press(Scenario& scenario, const std::vector<Word>& words) {
-    if (!PressMouseArea(scenario.session, words[1].text, words[2].text, IsRight(words, 3)))
-        throw CommandError{words[1].text + " has no area \"" + words[2].text + "\""};
-}
-
 void NotYet(Scenario&, const std::vector<Word>&) {
     throw CommandError{"not available yet"};
 }
@@ -176,14 +139,10 @@ std::vector<Command> HostSideCommands() {
         {"simevent", "sound|pause 0|1, flightsaved|flightloaded \"NAME\", client ID", "simevent sound 0",
          Command::kAnytime, 2, 2, SimEvent},
         {"window", "IDENT 0|1", "window 5 1", Command::kAnytime, 2, 2, Window},
-        {"click", "GAUGE X Y [left|right]", "click DU_LOWER_MC 100 200", Command::kAfter, 3, 4, Click},
-        {"press", "GAUGE AREA [left|right]", "press MCP \"hdg +10\"", Command::kAfter, 2, 3, Press},
         {"route", "\"ORIG[/RWY] FIX AIRWAY FIX ... DEST[/RWY]\"", "route \"KSEA BTG J1 OED KSFO\"",
          Command::kAfter, 1, 1, Route},
         {"exec", "", "exec", Command::kAfter, 0, 0, Exec},
-        {"mcp", "CONTROL [N|up|down]", "mcp hdg 10", Command::kAfter, 1, 2, Mcp},
         {"age", "FILE HOURS", "age Velarion/tz900.cfg 24", Command::kAfter, 2, 2, Age},
-        {"efb", "L|R X Y", "", Command::kAnytime, 3, 3, NotYet},
         {"terrain", "flat METRES | model", "terrain flat 100", Command::kAnytime, 1, 2, Terrain},
         {"wind", "DIR KT", "wind 270 40", Command::kAnytime, 2, 2, Wind},
         {"oat", "C", "oat 15", Command::kAnytime, 1, 1, Oat},

@@ -14,7 +14,7 @@ const std::vector<Command>& Commands() {
     static const std::vector<Command> kCommands = [] {
         std::vector<Command> all;
         for (const auto& group :
-             {SetUpCommands(), TimeCommands(), HostSideCommands(), CduCommands(), LookingCommands()})
+             {SetUpCommands(), TimeCommands(), HostSideCommands(), CockpitCommands(), CduCommands(), LookingCommands()})
             all.insert(all.end(), group.begin(), group.end());
         return all;
     }();

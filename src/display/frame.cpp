@@ -1,6 +1,7 @@
 #include "display/frame.h"
 
 #include "display/compose.h"
+#include "display/routing.h"
 #include "paint/graphics.h"
 #include "state/displays.h"
 #include "state/electrical.h"

@@ -137,6 +137,23 @@ void ToggleFirstOfficerInboard() {
 
 }  // namespace
 
+int ModeOfUnit(int unit) {
+    switch (unit) {
+        case 1:
+            return displays.du_capt_outb_mode;
+        case 2:
+            return displays.du_capt_inb_mode;
+        case 3:
+            return displays.du_fo_inb_mode;
+        case 4:
+            return displays.du_fo_outb_mode;
+        case 5:
+            return displays.du_lower_mode;
+        default:
+            return 0;
+    }
+}
+
 void PressInboardFormat(int side, Content content) {
     if (ChangeInboard(side, content)) ClearOnLower(side == kCaptain ? kLeft : kRight, content);
 }
@@ -201,6 +218,10 @@ void ShowSelectLamps() {
 void MoveDisplaySelector(int position) {
     const int before = displays.du_sel_pos;
     if (position == before || position < -1 || position > 1) return;
+    if (position * before < 0) {  // from end to end it passes the middle
+        MoveDisplaySelector(0);
+        return MoveDisplaySelector(position);
+    }
     displays.du_sel_pos = position;
     int& inboard = displays.du_capt_inb_mode;
     int& outboard = displays.du_capt_outb_mode;

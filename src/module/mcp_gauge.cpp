@@ -1,17 +1,17 @@
 #include "module/mcp_gauge.h"
 
-#include <array>
+#include <iterator>
 #include <utility>
 
 #include "guidance/mcp.h"
-#include "platform/state_lock.h"
+#include "module/mouse_areas.h"
 
 namespace {
 
 struct McpControl {
     const char* area;  // name of the mouse area
     const char* control;
-    enum Kind { kButton, kKnob, kBar } kind = kButton;
+    enum Kind { kButton, kKnob, kKnobPush, kBar } kind = kButton;
     int amount = 0;  // detents of a knob; 1 = the bar down
 };
 
@@ -48,11 +48,10 @@ constexpr McpControl kControls[] = {
     {"vswheel +10", "vswheel", McpControl::kKnob, 10},
     {"bar down", "bar", McpControl::kBar, 1},
     {"bar up", "bar", McpControl::kBar, 0},
+    {"alt push", "alt", McpControl::kKnobPush},
 };
-constexpr std::size_t kControlCount = std::size(kControls);
 
 void Act(const McpControl& control) {
-    const StateLock lock;
     switch (control.kind) {
         case McpControl::kButton:
             PressMcpButton(control.control);
@@ -60,29 +59,26 @@ void Act(const McpControl& control) {
         case McpControl::kKnob:
             TurnMcpKnob(control.control, control.amount);
             break;
+        case McpControl::kKnobPush:
+            PushAltitudeKnob();
+            break;
         case McpControl::kBar:
             MoveDisengageBar(control.amount == 1);
             break;
     }
 }
 
-// The host's callback brings no data of ours, so that each area has a function of its own.
 template <std::size_t kIndex>
-int32_t OnPress(GaugeInstance*, uint32_t) {
+void Press(uint32_t) {
     Act(kControls[kIndex]);
-    return 0;
 }
 
-// The areas stand in a grid of eight columns over the gauge's frame.
 template <std::size_t... kIndex>
-constexpr auto LayOut(std::index_sequence<kIndex...>) {
-    constexpr int kColumns = 8, kWidth = 70, kHeight = 40;
-    return std::array{MouseRectangle{kControls[kIndex].area,
-                                     static_cast<int16_t>(static_cast<int>(kIndex) % kColumns * kWidth),
-                                     static_cast<int16_t>(static_cast<int>(kIndex) / kColumns * kHeight),
-                                     kWidth, kHeight, OnPress<kIndex>}...};
+constexpr auto Areas(std::index_sequence<kIndex...>) {
+    const MouseArea areas[] = {{kControls[kIndex].area, OnPress<Press<kIndex>>}...};
+    return LayOut(areas);
 }
-constexpr auto kAreas = LayOut(std::make_index_sequence<kControlCount>());
+constexpr auto kAreas = Areas(std::make_index_sequence<std::size(kControls)>());
 
 }  // namespace
 

@@ -1,5 +1,6 @@
 #include "module/tick_outputs.h"
 
+#include <algorithm>
 #include <numeric>
 
 #include "display/routing.h"
@@ -14,6 +15,7 @@
 #include "state/autoflight.h"
 #include "state/cfg.h"
 #include "state/cockpit.h"
+#include "state/displays.h"
 #include "state/electrical.h"
 #include "state/module_life.h"
 #include "state/perf.h"
@@ -91,6 +93,15 @@ void UpdateExecLamps() {
     WriteNamedVar(NamedVar("TZ_FMC_EXEC_R_Annun"), lit);
 }
 
+// The captain's selector is acted on where it is seen to have moved.
+void TakeDisplaySelector() {
+    const int position = std::clamp(WholeNumber(ReadNamedVar(NamedVar("TZ_MAIN_PFD_MFD_L_Switch"))), -1, 1);
+    if (position == displays.du_sel_pos) return;
+    cockpit.TZ_MAIN_PFD_MFD_L_Switch = position;
+    MoveDisplaySelector(position);
+    ShowSelectLamps();
+}
+
 struct ModelValue {
     NamedVarRef variable;
     double SimSnapshot::*value;
@@ -125,6 +136,7 @@ void TickOutputs() {
     if (time_base.tick3s_phase == 22) SystemsEvery3s();
     if (time_base.tick2s_phase == 0 && cfg.VASdisplay == 1) sim.free_address_gb = Host().free_address_space();
     StepSecond(phase);
+    TakeDisplaySelector();
     if (phase == 0 || phase == 9) UpdateExecLamps();
     if (time_base.frame_phase % 2 == 0) ReadModelValues();
 }

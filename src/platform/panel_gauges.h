@@ -40,6 +40,7 @@ struct GaugeInstance {
     const char* parameters;            // of the panel's gauge line: "VC" in the virtual cockpit, else empty
     void* user_data;                   // the gauge's own
     GaugeElement* elements = nullptr;  // head of its chain
+    int32_t mouse_x = 0, mouse_y = 0;  // of the press that is handed over, in the gauge's logical frame
 };
 
 constexpr uint32_t kMouseLeftSingle = 0x20000000;

@@ -1,5 +1,13 @@
 #include "state/displays.h"
 
+template <>
+struct Describe<FormatClick> {
+    static constexpr Field fields[] = {FieldRow<&FormatClick::unit>("unit"),
+                                       FieldRow<&FormatClick::half>("half"), FieldRow<&FormatClick::x>("x"),
+                                       FieldRow<&FormatClick::y>("y")};
+    static constexpr ValueType type{.kind = ValueKind::kRecord, .fields = fields};
+};
+
 DisplayState displays;
 
 namespace {
@@ -23,6 +31,10 @@ constexpr Variable kRows[] = {
     {"info_status", &displays.info_status},
     {"compose_busy", &displays.compose_busy},
     {"cockpit_2d_active", &displays.cockpit_2d_active},
+    {"comm_click", &displays.comm_click},
+    {"nd_click", &displays.nd_click},
+    {"chkl_click", &displays.chkl_click},
+    {"info_click", &displays.info_click},
     {"du_lwr_startup_cnt", &displays.du_lwr_startup_cnt},
     {"du_cib_startup_cnt", &displays.du_cib_startup_cnt},
     {"du_pfd_ah_startup_cnt", &displays.du_pfd_ah_startup_cnt},

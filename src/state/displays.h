@@ -5,6 +5,13 @@
 
 #include "state/variable.h"
 
+/// The last press on a format, until its owner has taken it.
+struct FormatClick {
+    int unit = 0;      // 1 to 5; 0 = none waits
+    int half = 0;      // 1 left, 2 right
+    int x = 0, y = 0;  // from the half's upper left corner
+};
+
 /// The routing of formats to the five Display Units: a display mode each, and what the select panels act on.
 /// Changed on the host's thread only, by display/routing.
 struct DisplayState {
@@ -24,6 +31,7 @@ struct DisplayState {
     int info_status = 0;
     std::array<int, 28> compose_busy = {};  // by gauge id: 1 = its picture is being composed
     int cockpit_2d_active = 0;              // the two-dimensional cockpit is shown, taken once a tick
+    FormatClick comm_click, nd_click, chkl_click, info_click;
     // start-up counters, seconds
     int du_lwr_startup_cnt = 0;     // to 60
     int du_cib_startup_cnt = 0;     // to 90

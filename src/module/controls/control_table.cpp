@@ -29,6 +29,7 @@ const PollSet kSets[] = {
     {"displays", At({5, 9, 13, 17}), DisplayControls()},
     {"glareshield", At({0, 6, 10, 14}), GlareshieldControls()},
     {"other", At({1, 5, 9, 13}), OtherControls()},
+    {"selector", 0, SelectorControls()},
 };
 
 struct PanelLamp {
@@ -52,10 +53,10 @@ std::span<const PollSet> PollSets() {
     return kSets;
 }
 
-const Control* FindControl(std::string_view variable) {
+const Control* FindControl(NamedVarRef variable) {
     for (const PollSet& set : kSets)
         for (const Control& control : set.controls)
-            if (NameOf(control.variable) == variable) return &control;
+            if (control.variable.row == variable.row) return &control;
     return nullptr;
 }
 
@@ -80,9 +81,10 @@ const char* ClassName(ControlClass kind) {
 
 void WriteControlVariables() {
     for (const PollSet& set : kSets)
-        for (const Control& control : set.controls)
-            if (control.shadow != nullptr && !control.kept_by_model)
-                WriteNamedVar(control.variable, *control.shadow);
+        for (const Control& control : set.controls) {
+            const bool models_own = control.kept_by_model || control.kind == ControlClass::kMirrored;
+            if (control.shadow != nullptr && !models_own) WriteNamedVar(control.variable, *control.shadow);
+        }
     for (const PanelLamp& lamp : kLamps) WriteNamedVar(lamp.variable, *lamp.lit);
 }
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <span>
-#include <string_view>
 
 #include "module/controls/control.h"
 
@@ -15,8 +14,8 @@ struct PollSet {
 /// Every control of the cockpit, in the order in which one poll goes through them.
 std::span<const PollSet> PollSets();
 
-/// The control of a named variable; null for a name that is no control's.
-const Control* FindControl(std::string_view variable);
+/// The control of a named variable; null for one that is no control's.
+const Control* FindControl(NamedVarRef variable);
 
 /// The guard whose position stands in `shadow`; null when none does.
 const Control* FindGuard(const int* shadow);

@@ -80,7 +80,7 @@ constexpr Control kGlareshield[] = {
     Momentary(NamedVar("TZ_MCP_R_FPV_Button"), ToggleOnPfd<&PfdSide::fpv_on, kFirstOfficer>),
     Momentary(NamedVar("TZ_MCP_L_MTRS_Button"), ToggleOnPfd<&PfdSide::mtrs_on, kCaptain>),
     Momentary(NamedVar("TZ_MCP_R_MTRS_Button"), ToggleOnPfd<&PfdSide::mtrs_on, kFirstOfficer>),
-    KeptByModel(Mirrored(NamedVar("auto_brake_switch"), &cockpit.autobrake_switch)),
+    Mirrored(NamedVar("auto_brake_switch"), &cockpit.autobrake_switch),
     Momentary(NamedVar("tz_cpt_nd_knob_clicked"),
               [](int clicks) { StepRange(kCaptain, clicks > 0 ? 1 : -1); }),
     Momentary(NamedVar("TZ_EFB_L_DSPL_Button"), ChangeTabletBrightness),
@@ -106,6 +106,11 @@ constexpr Control kOther[] = {
     Mirrored(NamedVar("TZ_tcp1_TERR_OVRD"), &cockpit.TZ_tcp1_TERR_OVRD),
 };
 
+// Looked at by the output step, in every frame.
+constexpr Control kSelector[] = {
+    Switch(NamedVar("TZ_MAIN_PFD_MFD_L_Switch"), &cockpit.TZ_MAIN_PFD_MFD_L_Switch, -1, 1),
+};
+
 }  // namespace
 
 std::span<const Control> AlwaysPolledControls() {
@@ -116,4 +121,7 @@ std::span<const Control> GlareshieldControls() {
 }
 std::span<const Control> OtherControls() {
     return kOther;
+}
+std::span<const Control> SelectorControls() {
+    return kSelector;
 }

@@ -6,7 +6,10 @@
 #include "systems/apu.h"
 #include "systems/battery.h"
 #include "systems/electrical.h"
+#include "systems/engine_controls.h"
+#include "systems/flight_computers.h"
 #include "systems/irs.h"
+#include "systems/lights.h"
 
 namespace {
 
@@ -16,7 +19,8 @@ constexpr Control kForward[] = {
     Knob(NamedVar("TZ_OH_IRS_RIGHT_Switch"), &cockpit.irs_right_knob,
          [](int) { FollowIrsKnob(kFirstOfficer); }),
     Guard(NamedVar("TZ_OH_PFC_Safety_Switch"), &cockpit.TZ_OH_PFC_Safety_Switch),
-    UnderGuard(NamedVar("TZ_OH_PFC_G_Switch"), &cockpit.TZ_OH_PFC_G_Switch, &cockpit.TZ_OH_PFC_Safety_Switch),
+    UnderGuard(NamedVar("TZ_OH_PFC_G_Switch"), &cockpit.TZ_OH_PFC_G_Switch, &cockpit.TZ_OH_PFC_Safety_Switch,
+               FollowPfcSwitch),
     Latching(NamedVar("TZ_OH_CAB_UTIL_Button"), &cockpit.cabin_util_button),
     Latching(NamedVar("TZ_OH_PASS_SEATS_Button"), &cockpit.ife_pass_seats_button),
     Latching(NamedVar("TZ_OH_ELE_BAT_Button"), &cockpit.battery_button, FollowBatteryButton),
@@ -76,8 +80,10 @@ static_assert(std::size(kMiddle) == 26);
 constexpr Control kEngine[] = {
     Latching(NamedVar("TZ_OH_FIRE_OHTEST_Button"), &cockpit.TZ_OH_FIRE_OHTEST_Button),
     Mirrored(NamedVar("TZ_OH_APU_FIRE_HNDL"), &cockpit.TZ_OH_APU_FIRE_HNDL),
-    Mirrored(NamedVar("TZ_AFT_ENG1_FIRE_HNDL"), &cockpit.TZ_AFT_ENG1_FIRE_HNDL),
-    Mirrored(NamedVar("TZ_AFT_ENG2_FIRE_HNDL"), &cockpit.TZ_AFT_ENG2_FIRE_HNDL),
+    Mirrored(NamedVar("TZ_AFT_ENG1_FIRE_HNDL"), &cockpit.TZ_AFT_ENG1_FIRE_HNDL,
+             [](int) { FollowFireHandle(1); }),
+    Mirrored(NamedVar("TZ_AFT_ENG2_FIRE_HNDL"), &cockpit.TZ_AFT_ENG2_FIRE_HNDL,
+             [](int) { FollowFireHandle(2); }),
     Latching(NamedVar("TZ_OH_CFA_FWD_Button"), &cockpit.TZ_OH_CFA_FWD_Button),
     Latching(NamedVar("TZ_OH_CFA_AFT_Button"), &cockpit.TZ_OH_CFA_AFT_Button),
     Guard(NamedVar("TZ_OH_DISCH_Guard_Switch"), &cockpit.TZ_OH_DISCH_Guard_Switch),
@@ -109,17 +115,26 @@ constexpr Control kEngine[] = {
     Switch(NamedVar("TZ_OH_WING_ANTICE_Switch"), &cockpit.TZ_OH_WING_ANTICE_Switch, 0, 2),
     Switch(NamedVar("TZ_OH_AI_L_ENG_Switch"), &cockpit.TZ_OH_AI_L_ENG_Switch, 0, 2),
     Switch(NamedVar("TZ_OH_AI_R_ENG_Switch"), &cockpit.TZ_OH_AI_R_ENG_Switch, 0, 2),
-    Latching(NamedVar("TZ_OH_LT_BEACON_Button"), &cockpit.beacon_lights_button),
-    Latching(NamedVar("TZ_OH_LT_NAV_Button"), &cockpit.nav_lights_button),
-    Latching(NamedVar("TZ_OH_LT_LOGO_Button"), &cockpit.logo_lights_button),
-    Latching(NamedVar("TZ_OH_LT_WING_Button"), &cockpit.wing_lights_button),
-    Latching(NamedVar("TZ_OH_LT_STROBE_Switch"), &cockpit.strobe_lights_button),
-    Latching(NamedVar("TZ_OH_LT_TAXI_Switch"), &cockpit.taxi_lights_button),
+    Latching(NamedVar("TZ_OH_LT_BEACON_Button"), &cockpit.beacon_lights_button,
+             [](int) { FollowLight(Light::kBeacon); }),
+    Latching(NamedVar("TZ_OH_LT_NAV_Button"), &cockpit.nav_lights_button,
+             [](int) { FollowLight(Light::kNav); }),
+    Latching(NamedVar("TZ_OH_LT_LOGO_Button"), &cockpit.logo_lights_button,
+             [](int) { FollowLight(Light::kLogo); }),
+    Latching(NamedVar("TZ_OH_LT_WING_Button"), &cockpit.wing_lights_button,
+             [](int) { FollowLight(Light::kWing); }),
+    Latching(NamedVar("TZ_OH_LT_STROBE_Switch"), &cockpit.strobe_lights_button,
+             [](int) { FollowLight(Light::kStrobe); }),
+    Latching(NamedVar("TZ_OH_LT_TAXI_Switch"), &cockpit.taxi_lights_button,
+             [](int) { FollowLight(Light::kTaxi); }),
     Latching(NamedVar("TZ_OH_LT_L_RWYTF_Switch"), &cockpit.ovhd_rwy_lights_l_switch),
     Latching(NamedVar("TZ_OH_LT_R_RWYTF_Switch"), &cockpit.ovhd_rwy_lights_r_switch),
-    KeptByModel(Latching(NamedVar("TZ_OH_LDG_LEFT_Switch"), &cockpit.ovhd_ldg_lights_l_switch)),
-    KeptByModel(Latching(NamedVar("TZ_OH_LDG_NSE_Switch"), &cockpit.ovhd_nose_lights_switch)),
-    KeptByModel(Latching(NamedVar("TZ_OH_LDG_RIGHT_Switch"), &cockpit.ovhd_ldg_lights_r_switch)),
+    KeptByModel(
+        Latching(NamedVar("TZ_OH_LDG_LEFT_Switch"), &cockpit.ovhd_ldg_lights_l_switch, FollowLandingLights)),
+    KeptByModel(
+        Latching(NamedVar("TZ_OH_LDG_NSE_Switch"), &cockpit.ovhd_nose_lights_switch, FollowLandingLights)),
+    KeptByModel(
+        Latching(NamedVar("TZ_OH_LDG_RIGHT_Switch"), &cockpit.ovhd_ldg_lights_r_switch, FollowLandingLights)),
     Latching(NamedVar("TZ_OH_Humid_Button"), &cockpit.humid_button),
 };
 static_assert(std::size(kEngine) == 42);

@@ -15,3 +15,4 @@ std::span<const Control> KeypadControls();
 std::span<const Control> DisplayControls();
 std::span<const Control> GlareshieldControls();
 std::span<const Control> OtherControls();
+std::span<const Control> SelectorControls();

@@ -1,0 +1,245 @@
+#include "module/mouse_gauges.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "display/clicks.h"
+#include "frame/key_events.h"
+#include "module/controls/control_table.h"
+#include "module/controls/operate.h"
+#include "module/mouse_areas.h"
+#include "platform/host.h"
+#include "state/cockpit.h"
+#include "state/efb.h"
+#include "state/side.h"
+#include "systems/engine_controls.h"
+
+namespace {
+
+constexpr std::string_view kOverheadPrefix = "TZ_OH_", kOverheadLampPrefix = "TZ_OH_Annun_";
+
+constexpr bool IsOverheadLamp(std::string_view name) {
+    return name.starts_with(kOverheadLampPrefix);
+}
+constexpr bool IsOverheadControl(std::string_view name) {
+    return name.starts_with(kOverheadPrefix) && !IsOverheadLamp(name);
+}
+
+// Rows of the catalogue whose names pass.
+template <bool (*kPasses)(std::string_view)>
+consteval auto Rows() {
+    constexpr auto kCount = [] {
+        std::size_t count = 0;
+        for (const NamedVariable& variable : kNamedVariables)
+            if (kPasses(variable.name)) ++count;
+        return count;
+    }();
+    std::array<int, kCount> rows{};
+    std::size_t next = 0;
+    for (int row = 0; row < kNamedVariableCount; ++row)
+        if (kPasses(kNamedVariables[static_cast<std::size_t>(row)].name)) rows[next++] = row;
+    return rows;
+}
+constexpr auto kOverheadRows = Rows<IsOverheadControl>();
+constexpr auto kOverheadLampRows = Rows<IsOverheadLamp>();
+
+template <const auto& kRows, std::size_t... kIndex>
+consteval auto AreasOfRows(int left, std::index_sequence<kIndex...>) {
+    const MouseArea areas[] = {ControlArea<kRows[kIndex]>()...};
+    return LayOut(areas, left);
+}
+constexpr auto kOverhead = AreasOfRows<kOverheadRows>(0, std::make_index_sequence<kOverheadRows.size()>());
+
+template <char kSide>
+constexpr bool IsKeypadKey(std::string_view name) {
+    return name.starts_with(std::string_view(kSide == 'L' ? "TZ_FMC_L_" : "TZ_FMC_R_"));
+}
+constexpr auto kCaptainKeyRows = Rows<IsKeypadKey<'L'>>();
+constexpr auto kFirstOfficerKeyRows = Rows<IsKeypadKey<'R'>>();
+constexpr auto kCaptainKeypad =
+    AreasOfRows<kCaptainKeyRows>(0, std::make_index_sequence<kCaptainKeyRows.size()>());
+constexpr auto kFirstOfficerKeypad =
+    AreasOfRows<kFirstOfficerKeyRows>(0, std::make_index_sequence<kFirstOfficerKeyRows.size()>());
+
+// What a display select panel has: the side buttons, the formats, and cancel/recall.
+template <char kSide>
+constexpr bool IsDisplaySelectKey(std::string_view name) {
+    constexpr std::string_view kKeys[] = {"MFD_L_Button", "MFD_R_Button", "CDU_Button",   "CHKL_Button",
+                                          "COMM_Button",  "INFO_Button",  "ND_Button",    "SYS_Button",
+                                          "EICAS_Button", "ENG_Button",   "CANRCL_Button"};
+    constexpr std::string_view kPrefix = kSide == 'L' ? "TZ_MCP_L_" : "TZ_MCP_R_";
+    return name.starts_with(kPrefix) && std::ranges::count(kKeys, name.substr(kPrefix.size())) == 1;
+}
+constexpr auto kCaptainSelectRows = Rows<IsDisplaySelectKey<'L'>>();
+constexpr auto kFirstOfficerSelectRows = Rows<IsDisplaySelectKey<'R'>>();
+constexpr auto kCaptainSelect =
+    AreasOfRows<kCaptainSelectRows>(0, std::make_index_sequence<kCaptainSelectRows.size()>());
+constexpr auto kFirstOfficerSelect =
+    AreasOfRows<kFirstOfficerSelectRows>(0, std::make_index_sequence<kFirstOfficerSelectRows.size()>());
+
+// One area for the control of a variable.
+template <NamedVarRef kVariable>
+constexpr auto kSingle = LayOut({ControlArea<kVariable.row>()});
+
+constexpr auto kEngineStart = LayOut({
+    ControlArea<NamedVar("TZ_OH_ENG_L_START_Switch").row>(),
+    ControlArea<NamedVar("TZ_OH_ENG_R_START_Switch").row>(),
+    {"fuel control 1", OnPress<[](uint32_t) { ToggleFuelControl(1); }>},
+    {"fuel control 2", OnPress<[](uint32_t) { ToggleFuelControl(2); }>},
+});
+
+// The windows of the strip are the panel's: they count from 1, 0 is the main panel itself.
+template <int kIdent>
+void Toggle(uint32_t) {
+    ToggleWindow(kIdent);
+}
+constexpr auto kWindowToggles = LayOut({
+    {"window 1", OnPress<Toggle<1>>},
+    {"window 2", OnPress<Toggle<2>>},
+    {"window 3", OnPress<Toggle<3>>},
+    {"window 4", OnPress<Toggle<4>>},
+    {"window 5", OnPress<Toggle<5>>},
+    {"window 6", OnPress<Toggle<6>>},
+    {"window 7", OnPress<Toggle<7>>},
+    {"window 8", OnPress<Toggle<8>>},
+});
+
+// The model owns the selector: -1 RTO, 0 OFF, 1 DISARM, 2 to 5 for 1 to 4, 6 MAX.
+void TurnAutobrake(uint32_t flags) {
+    constexpr int kRto = -1, kMax = 6;
+    const int step = flags == kMouseRightSingle ? 1 : -1;
+    cockpit.autobrake_switch = std::clamp(cockpit.autobrake_switch + step, kRto, kMax);
+    WriteNamedVar(NamedVar("auto_brake_switch"), cockpit.autobrake_switch);
+}
+constexpr auto kGearAutobrake = LayOut({
+    {"gear lever", OnPress<[](uint32_t) { SendKeyEvent(kKeyPanelButton, 0); }>},
+    {"autobrake", OnPress<TurnAutobrake>},
+});
+
+template <int kUnit>
+int32_t OnScreenPress(GaugeInstance* instance, uint32_t) {
+    const StateLock lock;
+    OnDisplayUnitClick(instance->mouse_x, instance->mouse_y, kUnit);
+    return 0;
+}
+constexpr MouseRectangle kScreens[] = {
+    {"screen", 0, 0, 564, 424, OnScreenPress<1>}, {"screen", 0, 0, 564, 424, OnScreenPress<2>},
+    {"screen", 0, 0, 564, 424, OnScreenPress<3>}, {"screen", 0, 0, 564, 424, OnScreenPress<4>},
+    {"screen", 0, 0, 564, 424, OnScreenPress<5>},
+};
+
+constexpr int kCanvasWidth = 340, kCanvasHeight = 448;
+
+template <int kSide>
+int32_t OnTabletTouch(GaugeInstance* instance, uint32_t) {
+    const StateLock lock;
+    EfbSide& tablet = EfbOf(kSide);
+    tablet.EfbMouseX = instance->mouse_x;
+    tablet.EfbMouseY = instance->mouse_y;
+    tablet.touch_pending = 1;
+    return 0;
+}
+
+template <char kSide>
+constexpr bool IsBezelKey(std::string_view name) {
+    return name.starts_with(std::string_view(kSide == 'L' ? "TZ_EFB_L_" : "TZ_EFB_R_"));
+}
+constexpr auto kCaptainBezelRows = Rows<IsBezelKey<'L'>>();
+constexpr auto kFirstOfficerBezelRows = Rows<IsBezelKey<'R'>>();
+
+template <int kSide, const auto& kRows>
+consteval auto Tablet() {
+    const auto keys = AreasOfRows<kRows>(kCanvasWidth, std::make_index_sequence<kRows.size()>());
+    std::array<MouseRectangle, keys.size() + 1> areas{};
+    areas[0] = {"screen", 0, 0, kCanvasWidth, kCanvasHeight, OnTabletTouch<kSide>};
+    std::copy(keys.begin(), keys.end(), areas.begin() + 1);
+    return areas;
+}
+constexpr auto kCaptainTablet = Tablet<kCaptain, kCaptainBezelRows>();
+constexpr auto kFirstOfficerTablet = Tablet<kFirstOfficer, kFirstOfficerBezelRows>();
+
+// Walks a gauge's chain; what stands behind its end isn't there to show.
+class Elements {
+  public:
+    explicit Elements(GaugeElement* head) : next_(head) {}
+    bool AtEnd() const { return next_ == nullptr; }
+    void ShowNext(bool shown) {
+        if (next_ == nullptr) return;
+        if (shown)
+            next_->flags &= ~kElementHidden;
+        else
+            next_->flags |= kElementHidden;
+        next_ = next_->next;
+    }
+
+  private:
+    GaugeElement* next_;
+};
+
+}  // namespace
+
+void ClickVariable(NamedVarRef variable, uint32_t flags) {
+    if (const Control* control = FindControl(variable)) ClickControl(*control, flags);
+}
+
+std::span<const MouseRectangle> OverheadAreas() {
+    return kOverhead;
+}
+std::span<const MouseRectangle> DisplaySelectAreas(int side) {
+    return side == kCaptain ? std::span<const MouseRectangle>(kCaptainSelect) : kFirstOfficerSelect;
+}
+std::span<const MouseRectangle> KeypadAreas(int side) {
+    return side == kCaptain ? std::span<const MouseRectangle>(kCaptainKeypad) : kFirstOfficerKeypad;
+}
+std::span<const MouseRectangle> EngineStartAreas() {
+    return kEngineStart;
+}
+std::span<const MouseRectangle> WindowToggleAreas() {
+    return kWindowToggles;
+}
+std::span<const MouseRectangle> GearAutobrakeAreas() {
+    return kGearAutobrake;
+}
+std::span<const MouseRectangle> DisplaySelectorAreas() {
+    return kSingle<NamedVar("TZ_MAIN_PFD_MFD_L_Switch")>;
+}
+std::span<const MouseRectangle> ClockAreas() {
+    return kSingle<NamedVar("TZ_MCP_Clock_L_Button")>;
+}
+std::span<const MouseRectangle> CancelRecallAreas() {
+    return kSingle<NamedVar("TZ_MCP_L_CANRCL_Button")>;
+}
+std::span<const MouseRectangle> WeatherAreas() {
+    return kSingle<NamedVar("TZ_MCP_L_WXR_Button")>;
+}
+std::span<const MouseRectangle> TrafficAreas() {
+    return kSingle<NamedVar("TZ_MCP_L_TFC_Button")>;
+}
+std::span<const MouseRectangle> TerrainAreas() {
+    return kSingle<NamedVar("TZ_MCP_L_TERR_Button")>;
+}
+std::span<const MouseRectangle> DisplayUnitAreas(int unit) {
+    return std::span(kScreens).subspan(static_cast<std::size_t>(unit - 1), 1);
+}
+std::span<const MouseRectangle> TabletAreas(int side) {
+    return side == kCaptain ? std::span<const MouseRectangle>(kCaptainTablet) : kFirstOfficerTablet;
+}
+
+void ServeOverhead(GaugeInstance* instance, int32_t service_id) {
+    if (service_id != kServicePreDraw || instance->elements == nullptr) return;
+    const StateLock lock;
+    Elements elements(instance->elements);
+    for (const PollSet& set : PollSets())
+        for (const Control& control : set.controls) {
+            if (control.shadow == nullptr || !IsOverheadControl(NameOf(control.variable))) continue;
+            for (int position = control.min + 1; position <= control.max; ++position)
+                elements.ShowNext(*control.shadow == position);
+        }
+    for (const int row : kOverheadLampRows) {
+        if (elements.AtEnd()) return;
+        elements.ShowNext(ReadNamedVar({row}) != 0);
+    }
+}
