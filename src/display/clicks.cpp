@@ -9,7 +9,8 @@
 namespace {
 
 constexpr int kLeft = 1, kRight = 2;
-constexpr int kHalfWidth = 283;    // the right half begins here for the mouse
+constexpr int kHalfWidth = 282;
+constexpr int kRightShift = 283;  // touch areas of the right half are those of the left, this much further on
 constexpr int kWideNdShift = 141;  // the wide ND's keys stand around the middle of the unit
 
 // A point in a half's own frame.
@@ -98,7 +99,7 @@ void TouchSystemPage(const Touch& at) {
 void TouchContent(Content content, const Touch& at) {
     switch (content) {
         case Content::kCdu:
-            return OnCduClick(at.x + (at.half == kRight ? kHalfWidth : 0), at.y, at.unit);
+            return OnCduClick(at.x + (at.half == kRight ? kRightShift : 0), at.y, at.unit);
         case Content::kComm:
             return TouchComm(at);
         case Content::kChkl:
@@ -124,5 +125,5 @@ void OnDisplayUnitClick(int x, int y, int unit) {
     if (x < kHalfWidth)
         TouchContent(contents->left, {unit, kLeft, x, y});
     else
-        TouchContent(contents->right, {unit, kRight, x - kHalfWidth, y});
+        TouchContent(contents->right, {unit, kRight, x - kRightShift, y});
 }

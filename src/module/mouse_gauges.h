@@ -25,7 +25,7 @@ std::span<const MouseRectangle> DisplayUnitAreas(int unit);
 /// A tablet's canvas, and beside it the keys of its bezel.
 std::span<const MouseRectangle> TabletAreas(int side);
 
-/// The service of OVERHEAD. Its elements are pictures of controls and lamps, shown and hidden by what they stand
-/// for: one for each position above the lowest of each overhead control, in the order of the poll, then one for
-/// each overhead lamp.
+/// The service of OVERHEAD. Its elements are pictures of controls and lamps, shown and hidden by what they
+/// stand for: one for each position above the lowest of each overhead control, in the order of the poll, then
+/// one for each overhead lamp.
 void ServeOverhead(GaugeInstance* instance, int32_t service_id);
