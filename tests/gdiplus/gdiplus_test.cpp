@@ -22,11 +22,16 @@ bool Runs(const std::string& command) {
     return std::system((command + " >/dev/null 2>&1").c_str()) == 0;
 }
 
-// Wine with a world of its own inside the build folder, without a display or a browser.
+// Wine's own world, made once for all builds: it is large.
+fs::path Prefix() {
+    return fs::path(BinaryDir()).parent_path().parent_path() / "wine";
+}
+
+// Wine without a display or a browser.
 std::string WineIn(const fs::path& folder) {
     return "cd '" + folder.string() +
            "' && WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml=' DISPLAY= WINEPREFIX='" +
-           (folder / "prefix").string() + "' wine";
+           Prefix().string() + "' wine";
 }
 
 // The picture that image cases draw: blocks of colours.
@@ -160,7 +165,7 @@ TEST(GdiPlus, PicturesAreAlike) {
     if (!Runs("wine --version")) GTEST_SKIP() << "needs the packages wine and wine64";
     const fs::path folder = fs::path(BinaryDir()).parent_path() / "gdiplus";
     fs::create_directories(folder);
-    if (!fs::exists(folder / "prefix/system.reg")) {
+    if (!fs::exists(Prefix() / "system.reg")) {
         ASSERT_TRUE(Runs(WineIn(folder) + "boot -i")) << "Wine can't make its folder";
     }
 
@@ -172,7 +177,7 @@ TEST(GdiPlus, PicturesAreAlike) {
         const auto family = static_cast<std::uint16_t>(i);
         families << FamilyName(family) << '\t' << InstalledFamily(family) << '\n';
         const fs::path file = FontFile(family);
-        fs::copy_file(file, folder / "prefix/drive_c/windows/Fonts" / file.filename(),
+        fs::copy_file(file, Prefix() / "drive_c/windows/Fonts" / file.filename(),
                       fs::copy_options::overwrite_existing);
     }
     families.close();
