@@ -150,6 +150,11 @@ void OnFix(PageCall& call, int leg) {
 
 // --- right keys: the constraint
 
+// A departure's window bears the type of "at".
+bool IsWindow(const FlightPlanLeg& leg) {
+    return leg.restr_code != 0 && leg.alt_restr <= 0 && leg.block_above > 0;
+}
+
 bool HasConstraint(const FlightPlanLeg& leg) {
     return leg.restr_code > 0;
 }
@@ -164,8 +169,7 @@ std::string SpeedText(const FlightPlanLeg& leg) {
 }
 
 std::string ConstraintAltitude(const FlightPlanLeg& leg) {
-    if (leg.restr_type == 3 && leg.block_above > 0)
-        return Format("%-3.0fA%-3.0fB", leg.block_above / 100, leg.block_below / 100);
+    if (IsWindow(leg)) return Format("%-3.0fA%-3.0fB", leg.block_above / 100, leg.block_below / 100);
     const bool constrained = (leg.restr_code == 1 || leg.restr_code == 3) && leg.alt_restr > 0;
     if (!constrained) return {};
     return AltitudeText(leg.alt_restr) + (leg.restr_type == 1 ? "A" : leg.restr_type == 2 ? "B" : "");
@@ -304,9 +308,8 @@ void DrawConstraint(PageCall& call, int line, int leg) {
     if (!IsPlace(shown)) return;
     const double y = DataY(line);
     EntryFrame(call, 155, static_cast<int>(y), 90);
-    const bool window = shown.restr_type == 3 && shown.block_above > 0;
     const bool speed = shown.ias_restr > 0 || shown.mach_restr > 0;
-    if (window)
+    if (IsWindow(shown))
         return PageText(call, kConstraintX, y,
                         (speed ? SpeedText(shown) : std::string("----")) + "/" + ConstraintAltitude(shown),
                         kWhite, kSmallSize);

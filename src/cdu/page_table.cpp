@@ -15,8 +15,14 @@
 namespace {
 
 constexpr CduPage kPages[] = {
-    {kPageLegs, LegsPage, true},       {kPageSelectWpt, SelectWptPage, true}, {kPageRte, RtePage, true},
-    {kPageRteData, RteDataPage, true}, {kPageWind, WindPage, true},
+    {kPageLegs, LegsPage, true},
+    {kPageSelectWpt, SelectWptPage, true},
+    {kPageDepartures, DeparturesPage, true},
+    {kPageArrivals, ArrivalsPage, true},
+    {kPageRte, RtePage, true},
+    {kPageDepArrIndex, DepArrIndexPage, false},
+    {kPageRteData, RteDataPage, true},
+    {kPageWind, WindPage, true},
 };
 
 struct FirstItem {
