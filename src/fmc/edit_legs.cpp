@@ -6,6 +6,11 @@
 #include "fmc/leg_list.h"
 #include "fmc/route.h"
 #include "fmc/route_rows.h"
+#include "navdata/geodesy.h"
+#include "navdata/leg_codes.h"
+#include "navdata/magnetic_model.h"
+#include "state/airports.h"
+#include "state/perf.h"
 #include "state/sim.h"
 
 namespace {
@@ -115,12 +120,50 @@ int RemoveViaRow(int row) {
     return 1;
 }
 
+namespace {
+
+// A coded leg that turns or tracks is built again from where the leg before it now ends.
+void RecomputeCodedLeg(int index) {
+    GrowingList<FlightPlanLeg>& legs = plan.FlightPlanMod;
+    FlightPlanLeg& leg = legs[index];
+    LegCode code;
+    const bool movable =
+        leg.vector.starts_with("RT") || leg.vector.starts_with("LT") || leg.vector.starts_with("T");
+    const int before = PlaceBefore(legs, index);
+    if (!movable || before < 1 || !ParseLegCode("/" + leg.vector, code)) return;
+    const bool departing = IsOfSid(leg);
+    const AirportData& airport = departing ? airports.origin_airport : airports.dest_airport;
+    const int variation = MagVarAt(airport.lat, airport.lon);
+    const FlightPlanLeg& from = legs[before];
+    const int earlier = PlaceBefore(legs, before);
+    double entry_course = from.from_hdg;
+    if (from.vector.empty() && earlier >= 0)
+        entry_course =
+            GreatCircle(legs[earlier].lat, legs[earlier].lon, from.lat, from.lon).bearing - variation;
+    LegCodeInput input{.start = {from.lat, from.lon},
+                       .entry_course = entry_course,
+                       .reference = {leg.anchor_lat, leg.anchor_lon},
+                       .altitude = leg.until_alt,
+                       .elevation = static_cast<double>(airport.elevation_ft),
+                       .variation = variation,
+                       .climb_speed = perf.climb_ias > 0 ? perf.climb_ias : 250};
+    LatLon end;
+    const int failed =
+        leg.via_type == "APPR" ? ComputeApproachLeg(code, input, end) : ComputeDepartureLeg(code, input, end);
+    if (failed != 0) return;
+    leg.lat = end.lat;
+    leg.lon = end.lon;
+}
+
+}  // namespace
+
 void NormalizeLegs() {
     GrowingList<FlightPlanLeg>& legs = plan.FlightPlanMod;
     for (int i = plan.mod_cnt; i >= 1; --i)
         if (IsThen(legs[i])) RemoveModLegs(i, 1);
     MergeNeighbourDiscos();
     for (int i = 1; i <= plan.mod_cnt; ++i) {
+        RecomputeCodedLeg(i);
         if (legs[i].ident != "VECTORS") continue;
         const int before = PlaceBefore(legs, i);
         if (before < 0) continue;

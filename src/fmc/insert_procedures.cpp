@@ -81,7 +81,7 @@ FlightPlanLeg LegOf(const ProcedureLeg& from) {
     leg.flyover = from.flyover;
     leg.dep_turn = from.turn;
     if (IsCoded(from)) {
-        leg.vector = from.code;
+        leg.vector = from.text == "VECTOR" ? "Vector" : from.code.substr(1);  // without the leading "/"
         leg.until_alt = from.code_alt;
         leg.from_hdg = from.code_course;
         leg.anchor_lat = from.file_lat;
@@ -93,6 +93,10 @@ FlightPlanLeg LegOf(const ProcedureLeg& from) {
         LookUpType(leg);
     }
     return leg;
+}
+
+std::string RunwayText(const std::string& runway) {
+    return runway == kNotSelected ? std::string() : runway;
 }
 
 bool IsSameFix(const FlightPlanLeg& a, const FlightPlanLeg& b) {
@@ -244,6 +248,7 @@ FlightPlanLeg ApproachLeg(int record, const FlightPlanLeg& leg_before, bool miss
     FlightPlanLeg leg = LegOf(from);
     leg.via_type = "APPR";
     leg.via = missed ? "MISSED APPR" : IsDisco(leg_before) ? "DIRECT" : procedure_lists.approach_via;
+    leg.rwy = RunwayText(plan.procedures.arr_appr_rwy);
     if (from.applies_to != "---") leg.appr_wpt_type = from.applies_to;
     leg.ias_restr = ApproachSpeed(leg.appr_wpt_type);
     leg.restr_code = 2;
@@ -306,6 +311,7 @@ void InsertDeparture() {
         FlightPlanLeg leg = LegOf(from);
         leg.via_type = "SID";
         leg.via = plan.procedures.dep_sid;
+        leg.rwy = RunwayText(plan.ends_mod.dep_runway);
         TakeAltitude(from.alt_token, Kind::kSid, leg);
         if (position > 1 && IsSameFix(plan.FlightPlanMod[position - 1], leg)) continue;
         OpenModLeg(position++) = std::move(leg);
@@ -339,6 +345,7 @@ void InsertArrival() {
         FlightPlanLeg leg = LegOf(from);
         leg.via_type = "STAR";
         leg.via = plan.procedures.arr_star;
+        leg.rwy = RunwayText(plan.procedures.arr_appr_rwy);
         TakeAltitude(from.alt_token, Kind::kStar, leg);
         FlightPlanLeg& before = plan.FlightPlanMod[position - 1];
         if (position > 1 && IsSameFix(before, leg)) {

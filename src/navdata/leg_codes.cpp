@@ -15,6 +15,7 @@ constexpr double kLeastRest = 0.2;                             // nm, of a climb
 constexpr double kFeetPerNm = 6076.12;
 constexpr double kTurnBeyondCrossing = 0.019444;  // nm a degree
 constexpr int kMaxInterceptError = 7;             // degrees
+constexpr double kFarthestCrossing = 500;         // nm
 constexpr int kTouching = 2;                      // degrees between lines that count as one
 
 double Folded(double degrees) {
@@ -89,10 +90,12 @@ int UntilDistance(const LegCode& code, const LegCodeInput& input, LatLon& end) {
     return 0;
 }
 
-// The crossing lies ahead, on the course.
-bool IsAhead(const LegCodeInput& input, double bearing, const LatLon& point) {
-    const DistBearing to = GreatCircle(input.start.lat, input.start.lon, point.lat, point.lon);
-    return Between(to.bearing, bearing) < kMaxInterceptError;
+// The point lies on the half line from `from` in a direction, on this side of the globe: diverging lines
+// cross on the other.
+bool LiesAlong(const LatLon& from, double bearing, const LatLon& point) {
+    const DistBearing to = GreatCircle(from.lat, from.lon, point.lat, point.lon);
+    if (to.dist > kFarthestCrossing) return false;
+    return to.dist < kNmPerStep || Between(to.bearing, bearing) < kMaxInterceptError;
 }
 
 int UntilIntercept(const LegCode& code, const LegCodeInput& input, LatLon& end) {
@@ -107,7 +110,7 @@ int UntilIntercept(const LegCode& code, const LegCodeInput& input, LatLon& end) 
     for (const double line : {radial, Folded(radial + 180)}) {
         if (IntersectBearings(input.start.lat, input.start.lon, bearing, input.reference.lat,
                               input.reference.lon, line, crossing.lat, crossing.lon) != 0 ||
-            !IsAhead(input, bearing, crossing))
+            !LiesAlong(input.start, bearing, crossing) || !LiesAlong(input.reference, line, crossing))
             continue;
         if (code.turn != 0)
             crossing = ProjectPoint(crossing.lat, crossing.lon, Folded(code.limit + input.variation),
