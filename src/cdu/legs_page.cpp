@@ -135,7 +135,10 @@ void OnFix(PageCall& call, int leg) {
     if (route_pages.LegsView == kHoldView && Entry(call).starts_with(kHoldAt))
         return HoldAtEntry(call, leg + 1, route_pages.hold_candidate);
     if (const int found = FindFollowing(leg, Entry(call)); found > 0) {
-        ConnectLegs(leg, found, call.side);
+        if (IsDisco(ShownLeg(leg)))  // the gap is closed
+            for (int i = found - 1; i >= leg; --i) DeleteLegWithDiscontinuity(i, true, call.side);
+        else
+            ConnectLegs(leg, found, call.side);
         return LegsChanged(call);
     }
     const std::string& text = Entry(call);
