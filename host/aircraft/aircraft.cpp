@@ -262,8 +262,10 @@ void PlaceAircraftAt(Aircraft& aircraft, double lat, double lon, double altitude
         double low = 0, high = 1;
         for (int i = 0; i < 20; ++i) {
             aircraft.controls.thrust_lever = (low + high) / 2;
-            for (Engine& engine : aircraft.engines)
+            for (Engine& engine : aircraft.engines) {
                 engine.n1 = kIdleN1 + (kFullN1 - kIdleN1) * (low + high) / 2;
+                engine.n2 = kIdleN2;
+            }
             const std::array<double, 3> fuel = aircraft.fuel_lb;
             StepEngines(aircraft, 0);
             aircraft.fuel_lb = fuel;
@@ -271,7 +273,10 @@ void PlaceAircraftAt(Aircraft& aircraft, double lat, double lon, double altitude
             (thrust < needed ? low : high) = aircraft.controls.thrust_lever;
         }
     } else {
-        for (Engine& engine : aircraft.engines) engine.n1 = engine.running ? kIdleN1 : 0;
+        for (Engine& engine : aircraft.engines) {
+            engine.n1 = engine.running ? kIdleN1 : 0;
+            engine.n2 = engine.running ? kIdleN2 : 0;
+        }
         StepEngines(aircraft, 0);
     }
     StepPlace(aircraft, 0);

@@ -9,13 +9,15 @@ struct Engine {
     double egt_c = 15;
     double thrust_n = 0;
     double fuel_flow = 0;  // lb/h
-    bool running = true;
+    bool running = true;   // fuel is open and burns
+    bool starter = false;  // turns the core while it doesn't run
 };
 
-constexpr double kIdleN1 = 22, kFullN1 = 100;
+constexpr double kIdleN1 = 22, kFullN1 = 100, kIdleN2 = 65;
 
 /// Moves an engine on by `dt` seconds. `lever` 0 idle to 1 full; `static_thrust` at sea level, newtons;
-/// `density_ratio` and `temperature_ratio` to sea level. An engine that isn't running spools down.
+/// `density_ratio` and `temperature_ratio` to sea level. An engine that isn't running spools down;
+/// one whose fuel is opened runs up to idle in some fifteen seconds.
 void StepEngine(Engine& engine, double lever, double mach, double density_ratio, double temperature_ratio,
                 double static_thrust, double dt);
 

@@ -167,6 +167,8 @@ void TakeControlsFromTokens(Aircraft& aircraft) {
     aircraft.controls.wheel_brakes = TokenOf(323) >= 32000 ? 1 : 0;
     aircraft.engines[0].running = TokenOf(560) != 0;
     aircraft.engines[1].running = TokenOf(570) != 0;
+    aircraft.engines[0].starter = TokenOf(563) != 0;
+    aircraft.engines[1].starter = TokenOf(573) != 0;
 }
 
 bool TakeDataWrites(Aircraft& aircraft) {

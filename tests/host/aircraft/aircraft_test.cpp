@@ -177,6 +177,34 @@ TEST(AircraftTokens, CarryTheRawUnits) {
     EXPECT_NEAR(CalcOf("(A:INDICATED ALTITUDE, feet)"), 31000, 1e-6);
 }
 
+TEST(AircraftTokens, AnEngineIsCrankedLitAndCutOff) {
+    world = {};
+    Aircraft aircraft;
+    PlaceAircraftAt(aircraft, 47, -122, 400, 90, 0, 400);
+    for (Engine& engine : aircraft.engines) engine = Engine{.running = false};
+    FillTokens(aircraft);
+    SetToken(323, 32767);  // brakes
+    const auto n2_after = [&](double seconds) {
+        TakeControlsFromTokens(aircraft);
+        FlyFor(aircraft, seconds);
+        FillTokens(aircraft);
+        return TokenOf(644);
+    };
+    EXPECT_EQ(n2_after(10), 0);
+    SetToken(573, 1);
+    EXPECT_GT(n2_after(30), 25) << "enough to light it";
+    EXPECT_LT(TokenOf(644), 30) << "the starter alone gets it no further";
+    EXPECT_EQ(TokenOf(643), 0);
+    SetToken(570, 1);
+    EXPECT_LT(n2_after(5), 50) << "too slow yet for a generator";
+    EXPECT_NEAR(n2_after(30), 65, 0.5);
+    EXPECT_NEAR(TokenOf(643), 22, 0.5);
+    SetToken(573, 0);
+    SetToken(570, 0);
+    EXPECT_LT(n2_after(5), 50);
+    EXPECT_LT(n2_after(60), 1);
+}
+
 TEST(AircraftTokens, ControlsSetByTokenMoveTheAircraft) {
     world = {};
     Aircraft aircraft;
