@@ -39,11 +39,13 @@ using Clock = std::chrono::steady_clock;
 constexpr std::size_t kMaxMessage = 64 * 1024;
 constexpr std::size_t kMaxWatched = 2000;
 constexpr std::size_t kMaxBrowsers = 32;
+constexpr int kMaxConnections = 200;        // of HTTP, before they become a browser's link
 constexpr std::size_t kMaxCommands = 1000;  // that wait for the host's loop, of all browsers
 constexpr int kMessageBurst = 400;          // of one browser
 constexpr double kMessagesPerSecond = 100;
 constexpr int kSendBuffer = 256 * 1024;  // bytes: what is on its way to a slow browser is soon old
-constexpr auto kPicturePeriod = std::chrono::milliseconds(55);
+constexpr auto kPicturePeriod =
+    std::chrono::milliseconds(30);  // shorter than the workers', so that none waits
 constexpr auto kBeat = std::chrono::milliseconds(500);
 constexpr auto kLoopSilence = std::chrono::seconds(1);  // after which the host's loop counts as stopped
 constexpr auto kPeerSilence = std::chrono::seconds(20);
@@ -136,6 +138,7 @@ struct LastPicture {
 struct FlightDeck::Network {
     DeckSettings settings;
     PictureSource pictures;
+    int connections = 0;  // network thread only
     asio::io_context io{1};
     tcp::acceptor acceptor{io};
     asio::steady_timer accept_pause{io};
@@ -399,7 +402,12 @@ namespace {
 class Connection : public std::enable_shared_from_this<Connection> {
   public:
     Connection(tcp::socket&& socket, FlightDeck::Network& network)
-        : stream_(std::move(socket)), network_(network) {}
+        : stream_(std::move(socket)), network_(network) {
+        ++network_.connections;
+    }
+    ~Connection() { --network_.connections; }
+    Connection(const Connection&) = delete;
+    Connection& operator=(const Connection&) = delete;
 
     void Read() {
         parser_.emplace();
@@ -530,7 +538,7 @@ void FlightDeck::Network::Accept() {
             beast::error_code ignored;
             socket.set_option(tcp::no_delay(true), ignored);
             socket.set_option(asio::socket_base::send_buffer_size(kSendBuffer), ignored);
-            std::make_shared<Connection>(std::move(socket), *this)->Read();
+            if (connections < kMaxConnections) std::make_shared<Connection>(std::move(socket), *this)->Read();
             return Accept();
         }
         // Out of files, say: time may help.

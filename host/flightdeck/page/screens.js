@@ -49,6 +49,7 @@ export class Screens {
     const screen = new Screen(canvas, this.families);
     this.screens.set(name, screen);
     this.observer.observe(canvas);
+    const hasKeypad = /^(capt_|fo_|lower)/.test(name);
     let side = name.startsWith('fo') ? 'R' : 'L';
     const press = (event, button) => {
       event.preventDefault();
@@ -61,7 +62,7 @@ export class Screens {
     };
     canvas.addEventListener('click', (event) => press(event, 'left'));
     canvas.addEventListener('contextmenu', (event) => press(event, 'right'));
-    canvas.addEventListener('keydown', (event) => this.typed(side, event));
+    if (hasKeypad) canvas.addEventListener('keydown', (event) => this.typed(side, event));
     return canvas;
   }
 
