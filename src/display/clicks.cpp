@@ -1,7 +1,7 @@
 #include "display/clicks.h"
 
 #include "cdu/items.h"
-#include "display/routing.h"
+#include "display/modes.h"
 #include "state/displays.h"
 #include "state/nd.h"
 #include "state/side.h"
@@ -78,16 +78,8 @@ constexpr SystemPage kSystemPages[] = {
 // The pages without a strip of their own but for the way back.
 constexpr Area kBackToStat = {2, 55, 0, 24};
 
-// The outboard units show the inboard's pages of their side.
-int& SystemPageOf(const Touch& at) {
-    const bool left = at.half == kLeft;
-    if (at.unit == 5) return left ? displays.du_lower_l_sys_page : displays.du_lower_r_sys_page;
-    if (at.unit <= 2) return left ? displays.du_capt_inb_l_sys_page : displays.du_capt_inb_r_sys_page;
-    return left ? displays.du_fo_inb_l_sys_page : displays.du_fo_inb_r_sys_page;
-}
-
 void TouchSystemPage(const Touch& at) {
-    int& page = SystemPageOf(at);
+    int& page = SystemPageOf(at.unit, at.half);
     if (page == kCbPage || page == kMaintPage) {
         if (kBackToStat.Has(at)) page = kStatPage;
         return;
@@ -118,7 +110,8 @@ void TouchContent(Content content, const Touch& at) {
 }  // namespace
 
 void OnDisplayUnitClick(int x, int y, int unit) {
-    const int mode = ModeOfUnit(unit);
+    if (unit < 1 || unit > 5) return;
+    const int mode = DisplayModeOf(unit);
     const auto contents = ContentsOf(mode);
     if (!contents) return;
     if (mode == kModeWideNd) return TouchNd({unit, kLeft, x - kWideNdShift, y});

@@ -137,23 +137,6 @@ void ToggleFirstOfficerInboard() {
 
 }  // namespace
 
-int ModeOfUnit(int unit) {
-    switch (unit) {
-        case 1:
-            return displays.du_capt_outb_mode;
-        case 2:
-            return displays.du_capt_inb_mode;
-        case 3:
-            return displays.du_fo_inb_mode;
-        case 4:
-            return displays.du_fo_outb_mode;
-        case 5:
-            return displays.du_lower_mode;
-        default:
-            return 0;
-    }
-}
-
 void PressInboardFormat(int side, Content content) {
     if (ChangeInboard(side, content)) ClearOnLower(side == kCaptain ? kLeft : kRight, content);
 }

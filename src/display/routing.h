@@ -5,9 +5,6 @@
 // What the display select panels, the keypads and the captain's selector do to the display modes. A press
 // that has no effect by the rules leaves everything as it is; no rule produces a code that isn't listed.
 
-/// The display mode of a unit, 1 to 5; 0, no mode, for another number.
-int ModeOfUnit(int unit);
-
 /// A format button of a display select panel: CDU, CHKL, COMM, INFO, ND or SYS for the side's inboard unit,
 /// on the half that the panel acts on.
 void PressInboardFormat(int side, Content content);
