@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "frame/lamps.h"
 #include "frame/tokens.h"
 #include "module/gauge_table.h"
 #include "module/lifecycle.h"
@@ -386,6 +387,8 @@ TEST(ServiceCycle, TeardownAndReconnectKeepConfigurationAndNavigationData) {
     sim_host.Run(5);
     host.PutFile("Velarion/tz900.cfg", "AccelHt=1000\n");
     host.registered_names.clear();
+    electrical.fwd_ext_pwr_avail = 1;
+    ShowLamp(NamedVar("TZ_OH_Annun_OFF_BATT"), true);
     sim_host.Serve(kServicePreKill);
     EXPECT_EQ(host.key_hooks.size(), 1u);
     sim_host.Serve(kServiceConnectToWindow);  // the pending kill tears down, the connect brings all back
@@ -397,6 +400,10 @@ TEST(ServiceCycle, TeardownAndReconnectKeepConfigurationAndNavigationData) {
     sim_host.Serve(kServicePreInitialize);
     EXPECT_EQ(cfg.AccelHt, 1500);                         // not read again
     EXPECT_EQ(host.NamedVar("TZ_OH_ELE_BAT_Button"), 1);  // the model shows the shadow again
+    EXPECT_EQ(host.NamedVar("ext_power_avail"), 1);
+    EXPECT_EQ(host.NamedVar("TZ_OH_Annun_OFF_BATT"), 0);
+    ShowLamp(NamedVar("TZ_OH_Annun_OFF_BATT"), true);  // what was shown before went with the variable
+    EXPECT_EQ(host.NamedVar("TZ_OH_Annun_OFF_BATT"), 1);
     EXPECT_EQ(module_life.startup_done, 1);
     EXPECT_EQ(host.key_hooks.size(), 1u);
     host.calc_texts["(A:TITLE,string)"] = "Something else";

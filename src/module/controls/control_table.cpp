@@ -5,6 +5,7 @@
 #include "module/controls/operate.h"
 #include "module/controls/panels.h"
 #include "state/cockpit.h"
+#include "state/module_life.h"
 #include "state/time_base.h"
 
 namespace {
@@ -82,7 +83,9 @@ const char* ClassName(ControlClass kind) {
 void WriteControlVariables() {
     for (const PollSet& set : kSets)
         for (const Control& control : set.controls) {
-            const bool models_own = control.kept_by_model || control.kind == ControlClass::kMirrored;
+            // After the start its position is known here, and a variable registered anew isn't.
+            const bool kept_by_model = control.kept_by_model && module_life.startup_done == 0;
+            const bool models_own = kept_by_model || control.kind == ControlClass::kMirrored;
             if (control.shadow != nullptr && !models_own) WriteNamedVar(control.variable, *control.shadow);
         }
     for (const PanelLamp& lamp : kLamps) WriteNamedVar(lamp.variable, *lamp.lit);
