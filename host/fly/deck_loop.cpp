@@ -70,6 +70,11 @@ void TakeCommands(Session& session, FlightDeck& deck, PressQueue& presses) {
     for (const DeckCommand& press : TakeDuePresses(presses)) ApplyDeckCommand(session, press);
 }
 
+void MakeCall(Session& session, bool paused_frame) {
+    TickSession(session, paused_frame);
+    if (world.paints_in_line) PaintGauges(session);
+}
+
 }  // namespace
 
 bool RunFlightDeck(Session& session, const FlyOptions& options, const volatile std::sig_atomic_t& interrupted,
@@ -90,13 +95,13 @@ bool RunFlightDeck(Session& session, const FlyOptions& options, const volatile s
     auto next = Clock::now();
     for (int period = 0; interrupted == 0; ++period) {
         TakeCommands(session, deck, presses);
-        if (world.paused) TickSession(session, true);
+        if (world.paused) MakeCall(session, true);
         for (ticks_due += world.paused ? 0 : world.sim_rate; ticks_due >= 1 && !world.paused; --ticks_due) {
-            TickSession(session, false);
+            MakeCall(session, false);
             if (world.ticks % 18 == 0) each_second();
         }
         in_2d = IsMainPanelShown();
-        RequestPictures(session);
+        if (!world.paints_in_line) RequestPictures(session);
         if (period % kPublishEvery == 0) deck.PublishValues(ReadValues(session, deck.WatchedNames()));
         next += kPeriod;
         if (Clock::now() > next + kLate) next = Clock::now();

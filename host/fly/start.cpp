@@ -41,7 +41,8 @@ Placement AfterTakeOff(const Session& session) {
 }  // namespace
 
 bool StartFlight(Session& session, const FlyOptions& options, std::string& error) {
-    world.paints_in_line = options.headless;
+    // A recording is painted as its playback will be, call by call: pages take input as they are drawn.
+    world.paints_in_line = options.headless || session.recorder != nullptr;
     world.sim_rate = options.headless ? 1 : options.rate;
     session.settings.demo_root = options.demo_root;
     session.settings.root = options.root;

@@ -62,7 +62,10 @@ void FlyALittle(Session& session) {
     using Command = DeckCommand;
     const auto apply = [&](const Command& command) { ApplyDeckCommand(session, command); };
     const auto calls = [&](int count) {
-        for (; count > 0; --count) TickSession(session, world.paused);
+        for (; count > 0; --count) {
+            TickSession(session, world.paused);
+            PaintGauges(session);
+        }
     };
     calls(170);
     apply({.kind = Command::kKeyEvent, .value = 0x101f5, .x = 251});
@@ -75,6 +78,8 @@ void FlyALittle(Session& session) {
     apply({.kind = Command::kStateVariable, .name = "du_lower_mode", .text = "44"});
     apply({.kind = Command::kStateVariable, .name = "du_lower_mode", .text = "not a number"});
     apply({.kind = Command::kStateVariable, .name = "capt.ScratchPad", .text = "TO KSFO # 1"});
+    apply({.kind = Command::kNamedVariable, .name = "TZ_FMC_L_B_Button", .value = 1});
+    calls(20);
     apply({.kind = Command::kRate, .value = 4});
     apply({.kind = Command::kMouse, .name = "capt_inb", .x = 100.5, .y = 400, .right = true});
     apply({.kind = Command::kMouse, .name = "hud", .x = 1, .y = 1});
@@ -133,7 +138,6 @@ TEST(Recorder, PlaysBackToTheSameState) {
         std::string error;
         ASSERT_TRUE(StartFlight(session, options, error)) << error;
         FlyALittle(session);
-        PaintGauges(session);
         const std::string texts = TextsOf(session), state = StateOf(session);
         StopSession(session);
         EXPECT_EQ(texts.find("\"ND\"") == std::string::npos, cold) << texts;
