@@ -42,6 +42,7 @@ void ShowControls() {
 void StartSystemsRunning() {
     if (cockpit.battery_button == 0) {
         cockpit.battery_button = 1;
+        WriteNamedVar(NamedVar("TZ_OH_ELE_BAT_Button"), 1);
         if (ReadToken(kTokenMasterBattery) == 0 && electrical.batt_volts > 0)
             SendKeyEvent(kKeyMasterBatteryToggle, 0);
         electrical.batt_volts = 28.0;

@@ -3,12 +3,14 @@
 
 #include "display/nd_controls.h"
 #include "guidance/mcp.h"
+#include "module/controls/control_table.h"
 #include "module/controls/panels.h"
 #include "state/cockpit.h"
 #include "state/displays.h"
 #include "state/efb.h"
 #include "state/electrical.h"
 #include "state/instruments.h"
+#include "state/nd.h"
 #include "state/requests.h"
 #include "state/side.h"
 #include "state/time_base.h"
@@ -66,6 +68,12 @@ void ChangeTabletBrightness(int click) {
         std::clamp(efb.EfbBrightness + (click == 2 ? kBrightnessStep : -kBrightnessStep), 0.0, 1.0);
 }
 
+// Another gauge turns the captain's range knob by this variable.
+void TurnRangeKnob(int clicks) {
+    StepRange(kCaptain, clicks > 0 ? 1 : -1);
+    ShowShadow(&nd[0].rng_knob);
+}
+
 constexpr Control kGlareshield[] = {
     {.variable = NamedVar("ext_power_avail"),
      .shadow = &electrical.fwd_ext_pwr_avail,
@@ -81,8 +89,7 @@ constexpr Control kGlareshield[] = {
     Momentary(NamedVar("TZ_MCP_L_MTRS_Button"), ToggleOnPfd<&PfdSide::mtrs_on, kCaptain>),
     Momentary(NamedVar("TZ_MCP_R_MTRS_Button"), ToggleOnPfd<&PfdSide::mtrs_on, kFirstOfficer>),
     Mirrored(NamedVar("auto_brake_switch"), &cockpit.autobrake_switch),
-    Momentary(NamedVar("tz_cpt_nd_knob_clicked"),
-              [](int clicks) { StepRange(kCaptain, clicks > 0 ? 1 : -1); }),
+    Momentary(NamedVar("tz_cpt_nd_knob_clicked"), TurnRangeKnob),
     Momentary(NamedVar("TZ_EFB_L_DSPL_Button"), ChangeTabletBrightness),
 };
 // ALT_INTV_knob, also of this set, is seen in every frame already.
