@@ -14,6 +14,7 @@
 #include "fmc/route.h"
 #include "fmc/route_airway.h"
 #include "fmc/route_rows.h"
+#include "fmc/select_procedures.h"
 #include "navdata/airways.h"
 #include "navdata/geodesy.h"
 #include "navdata/parse_entry.h"
@@ -21,6 +22,7 @@
 #include "state/lnav.h"
 #include "state/perf.h"
 #include "state/plan.h"
+#include "state/procedure_lists.h"
 #include "state/side.h"
 #include "state/vnav.h"
 
@@ -272,6 +274,44 @@ bool EnterAirway(const RouteWords& words, std::size_t& i, std::string& error) {
                  ParseFiledEntry(next) ? "the fix isn't on airway " + airway : "no such fix or airway");
 }
 
+// A procedure's name with an optional transition, "ALDER1.DMAAB".
+struct ProcedureWord {
+    std::string_view name, transition;
+};
+ProcedureWord SplitProcedure(std::string_view word) {
+    const std::size_t point = word.find('.');
+    if (point == std::string_view::npos) return {word, {}};
+    return {word.substr(0, point), word.substr(point + 1)};
+}
+
+// The departure at word 1, where one stands, with the fix behind it that is its transition or its end. Gives
+// the number of words used up.
+std::size_t EnterDeparture(const RouteWords& words) {
+    const ProcedureWord word = SplitProcedure(words.text[1]);
+    if (!SelectSidByName(word.name)) return 0;
+    if (SelectDepartureTransitionByName(word.transition)) return 1;
+    const std::string& next = words.text[2];
+    const bool used = words.text.size() > 3 &&
+                      (plan.FlightPlanMod[LastFix()].ident == next || SelectDepartureTransitionByName(next));
+    return used ? 2 : 1;
+}
+
+// The arrival that is the last word before the destination, as soon as the words reach it: joined by the
+// transition that is named, that stands before it, or that the route has come to.
+bool EnterArrival(const RouteWords& words, std::size_t& i) {
+    const std::size_t star_at = words.text.size() - 2;
+    const ProcedureWord word = SplitProcedure(words.text[star_at]);
+    if (i + 1 == star_at && IsArrivalTransition(std::string(word.name), words.text[i])) {
+        SelectStarByName(word.name);
+        SelectArrivalTransitionByName(words.text[i++]);
+        return true;
+    }
+    const std::string last_fix = plan.FlightPlanMod[LastFix()].ident;
+    if (i != star_at || !SelectStarByName(word.name)) return false;
+    SelectArrivalTransitionByName(word.transition.empty() ? std::string_view(last_fix) : word.transition);
+    return true;
+}
+
 bool EnterWords(const RouteWords& words, std::string& error) {
     if (words.text.size() < 2) {
         error = "a route needs an origin and a destination";
@@ -280,9 +320,10 @@ bool EnterWords(const RouteWords& words, std::string& error) {
     if (!EnterEnds(words, error)) return false;
     if (words.cruise_alt > 0) perf.pending_cruise_alt = words.cruise_alt;
     const std::size_t last = words.text.size() - 1;
-    for (std::size_t i = 1; i < last; ++i) {
+    const std::size_t of_departure = last > 1 ? EnterDeparture(words) : 0;
+    for (std::size_t i = 1 + of_departure; i < last; ++i) {
         const bool direct = words.text[i - 1] == "DCT" || i == 1 || i + 1 == last;
-        if (words.text[i] == "DCT") continue;
+        if (words.text[i] == "DCT" || EnterArrival(words, i)) continue;
         const bool entered =
             !direct && IsAirway(words.text[i]) ? EnterAirway(words, i, error) : EnterFix(words, i, error);
         if (!entered) return false;
@@ -298,6 +339,7 @@ struct RouteBefore {
     VnavState vnav_before = vnav;
     LnavState lnav_before = lnav;
     AirportSlots airports_before = airports;
+    ProcedureLists lists_before = procedure_lists;
 
     void Restore() {
         plan = std::move(plan_before);
@@ -305,6 +347,7 @@ struct RouteBefore {
         vnav = vnav_before;
         lnav = lnav_before;
         airports = std::move(airports_before);
+        procedure_lists = std::move(lists_before);
     }
 };
 

@@ -9,6 +9,7 @@
 #include "state/airports.h"
 #include "state/plan.h"
 #include "state/procedure_lists.h"
+#include "state/side.h"
 
 namespace {
 
@@ -237,4 +238,43 @@ void SelectApproachTransition(int, int index) {
     if (index < 1 || index > lists.approach_transition_cnt) return;
     Toggle(plan.procedures.arr_appr_trans, lists.approach_transitions[index]);
     WriteApproach();
+}
+
+namespace {
+
+// Calls `select` with the place of a name that isn't chosen yet; true when it is chosen then.
+template <class Select>
+bool SelectByName(const Names& names, std::string_view name, const std::string& chosen, Select select) {
+    const auto found = std::find(names.begin(), names.end(), name);
+    if (found == names.end()) return false;
+    if (chosen != name) select(static_cast<int>(found - names.begin()) + 1);
+    return true;
+}
+
+}  // namespace
+
+bool SelectSidByName(std::string_view name) {
+    return SelectByName(SidNames(), name, plan.procedures.dep_sid,
+                        [](int index) { SelectSid(kCaptain, index, false); });
+}
+
+bool SelectDepartureTransitionByName(std::string_view name) {
+    return SelectByName(DepartureTransitions(), name, plan.procedures.dep_trans,
+                        [](int index) { SelectDepartureTransition(kCaptain, index); });
+}
+
+bool SelectStarByName(std::string_view name) {
+    return SelectByName(StarNames(airports.dest_airport), name, plan.procedures.arr_star,
+                        [](int index) { SelectArrival(kCaptain, index, false); });
+}
+
+bool SelectArrivalTransitionByName(std::string_view name) {
+    return SelectByName(ArrivalTransitions(airports.dest_airport), name, plan.procedures.arr_trans,
+                        [](int index) { SelectArrivalTransition(kCaptain, index); });
+}
+
+bool IsArrivalTransition(const std::string& star, std::string_view name) {
+    const AirportData& dest = airports.dest_airport;
+    const Names names = Transitions(dest, dest.stars, dest.star_cnt, star);
+    return std::find(names.begin(), names.end(), name) != names.end();
 }

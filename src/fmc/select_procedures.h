@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "state/airports.h"
@@ -23,6 +24,15 @@ struct ApproachChoice {
 /// Those for the runways of the chosen STAR, unless an approach is chosen.
 std::vector<ApproachChoice> ApproachChoices(const AirportData& airport);
 std::vector<std::string> ArrivalRunways(const AirportData& airport);
+
+/// Chooses a SID of the origin, a STAR of the destination or a transition of either by its name ("ALDER1").
+/// False, and nothing chosen, when there is none.
+bool SelectSidByName(std::string_view name);
+bool SelectDepartureTransitionByName(std::string_view name);
+bool SelectStarByName(std::string_view name);
+bool SelectArrivalTransitionByName(std::string_view name);
+/// A STAR of the destination has a transition of that name.
+bool IsArrivalTransition(const std::string& star, std::string_view name);
 
 /// `index` counts from 1 in the list; with `keep` the selection stands and its legs are written anew.
 void SelectSid(int side, int index, bool keep);
