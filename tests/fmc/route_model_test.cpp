@@ -11,6 +11,7 @@
 #include "fmc/leg_list.h"
 #include "fmc/route.h"
 #include "fmc/route_airway.h"
+#include "fmc/route_invariants.h"
 #include "fmc/route_operations.h"
 #include "fmc/route_rows.h"
 #include "fmc/route_text.h"
@@ -27,27 +28,12 @@
 
 namespace {
 
-std::string Idents(const GrowingList<FlightPlanLeg>& legs, int count) {
-    std::string text;
-    for (int i = 0; i <= count; ++i) text += (i > 0 ? " " : "") + legs[i].ident;
-    return text;
-}
 std::string ModLegs() {
     return Idents(plan.FlightPlanMod, plan.mod_cnt);
 }
 std::string ActiveLegs() {
     return Idents(plan.FlightPlan, plan.fp_cnt);
 }
-std::string Rows() {
-    std::string text;
-    for (int i = 1; i <= plan.route_cnt; ++i) {
-        const RouteRow& row = plan.Route[i];
-        text += (i > 1 ? ", " : "") + row.via + (row.via_type.empty() ? "" : "(" + row.via_type + ")") + " " +
-                (row.to.empty() ? "-" : row.to);
-    }
-    return text;
-}
-
 class RouteModel : public testing::Test {
   protected:
     RouteModel() {
@@ -643,42 +629,6 @@ TEST_F(RouteModel, OperationsAreCheckedBeforeTheyRun) {
     for (const auto& test : kCases) EXPECT_EQ(Op(test.line), test.answer) << test.line;
     EXPECT_EQ(Op("Nothing").substr(0, 38), "unknown operation \"Nothing\"; known are");
     EXPECT_EQ(ModLegs(), "ORIG AAA AAFIX BBFIX CCC DEST");
-}
-
-// What must hold whatever the crew does.
-void ExpectInvariants(const std::string& after) {
-    for (const auto* list : {&plan.FlightPlan, &plan.FlightPlanMod}) {
-        const int count = list == &plan.FlightPlan ? plan.fp_cnt : plan.mod_cnt;
-        ASSERT_GE(count, 0) << after;
-        ASSERT_GE(list->size(), count + 2) << after;
-        for (int i = 1; i <= count; ++i)
-            ASSERT_FALSE(IsDisco((*list)[i]) && IsDisco((*list)[i - 1]))
-                << after << ": " << Idents(*list, count);
-        for (int i = count + 1; i < count + 3; ++i) ASSERT_TRUE((*list)[i].ident.empty()) << after;
-    }
-    for (int i = 0; i <= plan.fp_cnt; ++i) ASSERT_NE(plan.FlightPlan[i].ident, "THEN") << after;
-    ASSERT_LE(plan.hold_cnt, kMostHolds) << after;
-    for (int i = 1; i <= plan.hold_cnt; ++i) {
-        if (plan.HoldList[i].pending_leg == kHoldTakenOut) continue;
-        const int leg = HoldLegInModification(plan.HoldList[i]);
-        ASSERT_GE(leg, 1) << after;
-        ASSERT_LE(leg, plan.mod_cnt) << after;
-        ASSERT_LE(plan.HoldList[i].leg, plan.fp_cnt) << after;
-        ASSERT_EQ(plan.FlightPlanMod[leg].hold_pos, i) << after;
-        ASSERT_EQ(plan.FlightPlanMod[leg].ident, plan.HoldList[i].ident) << after;
-        const int before = i > 1 ? HoldLegInModification(plan.HoldList[i - 1]) : 0;
-        ASSERT_LT(before, leg) << after;
-    }
-    if (plan.fms_fpln_active >= kRouteActive) {
-        ASSERT_GE(plan.stpos, 1) << after;
-        ASSERT_LE(plan.stpos, plan.fp_cnt) << after;
-        ASSERT_GE(plan.mod_stpos, 1) << after;
-        ASSERT_LE(plan.mod_stpos, plan.mod_cnt) << after;
-    }
-    ASSERT_LE(plan.mod_bod_pos, plan.mod_cnt) << after;
-    const std::string rows = Rows();
-    RebuildRouteRows();
-    ASSERT_EQ(Rows(), rows) << after;
 }
 
 TEST_F(RouteModel, HoldsItsInvariantsUnderRandomEdits) {

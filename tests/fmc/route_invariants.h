@@ -1,0 +1,62 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "fmc/holds.h"
+#include "fmc/leg_list.h"
+#include "fmc/route.h"
+#include "fmc/route_rows.h"
+#include "state/plan.h"
+
+inline std::string Idents(const GrowingList<FlightPlanLeg>& legs, int count) {
+    std::string text;
+    for (int i = 0; i <= count; ++i) text += (i > 0 ? " " : "") + legs[i].ident;
+    return text;
+}
+inline std::string Rows() {
+    std::string text;
+    for (int i = 1; i <= plan.route_cnt; ++i) {
+        const RouteRow& row = plan.Route[i];
+        text += (i > 1 ? ", " : "") + row.via + (row.via_type.empty() ? "" : "(" + row.via_type + ")") + " " +
+                (row.to.empty() ? "-" : row.to);
+    }
+    return text;
+}
+
+// What must hold whatever the crew does.
+inline void ExpectInvariants(const std::string& after) {
+    for (const auto* list : {&plan.FlightPlan, &plan.FlightPlanMod}) {
+        const int count = list == &plan.FlightPlan ? plan.fp_cnt : plan.mod_cnt;
+        ASSERT_GE(count, 0) << after;
+        ASSERT_GE(list->size(), count + 2) << after;
+        for (int i = 1; i <= count; ++i)
+            ASSERT_FALSE(IsDisco((*list)[i]) && IsDisco((*list)[i - 1]))
+                << after << ": " << Idents(*list, count);
+        for (int i = count + 1; i < count + 3; ++i) ASSERT_TRUE((*list)[i].ident.empty()) << after;
+    }
+    for (int i = 0; i <= plan.fp_cnt; ++i) ASSERT_NE(plan.FlightPlan[i].ident, "THEN") << after;
+    ASSERT_LE(plan.hold_cnt, kMostHolds) << after;
+    for (int i = 1; i <= plan.hold_cnt; ++i) {
+        if (plan.HoldList[i].pending_leg == kHoldTakenOut) continue;
+        const int leg = HoldLegInModification(plan.HoldList[i]);
+        ASSERT_GE(leg, 1) << after;
+        ASSERT_LE(leg, plan.mod_cnt) << after;
+        ASSERT_LE(plan.HoldList[i].leg, plan.fp_cnt) << after;
+        ASSERT_EQ(plan.FlightPlanMod[leg].hold_pos, i) << after;
+        ASSERT_EQ(plan.FlightPlanMod[leg].ident, plan.HoldList[i].ident) << after;
+        const int before = i > 1 ? HoldLegInModification(plan.HoldList[i - 1]) : 0;
+        ASSERT_LT(before, leg) << after;
+    }
+    if (plan.fms_fpln_active >= kRouteActive) {
+        ASSERT_GE(plan.stpos, 1) << after;
+        ASSERT_LE(plan.stpos, plan.fp_cnt) << after;
+        ASSERT_GE(plan.mod_stpos, 1) << after;
+        ASSERT_LE(plan.mod_stpos, plan.mod_cnt) << after;
+    }
+    ASSERT_LE(plan.mod_bod_pos, plan.mod_cnt) << after;
+    const std::string rows = Rows();
+    RebuildRouteRows();
+    ASSERT_EQ(Rows(), rows) << after;
+}
