@@ -1,0 +1,87 @@
+#include <benchmark/benchmark.h>
+
+#include <string>
+
+#include "cdu/cdu_format.h"
+#include "cdu/page.h"
+#include "fmc/endpoints.h"
+#include "fmc/select_procedures.h"
+#include "navdata/nav_tables.h"
+#include "state/airports.h"
+#include "state/plan.h"
+#include "support/fake_host.h"
+
+// What the crew waits for at the CDU.
+
+namespace {
+
+constexpr int kPages[] = {kPageRte, kPageLegs, kPageRteData, kPageWind, kPageDepartures, kPageArrivals};
+
+void FillRoute(int last) {
+    for (int i = 0; i <= last; ++i) {
+        FlightPlanLeg& leg = plan.FlightPlan[i];
+        leg.ident = "LEG" + std::to_string(i);
+        leg.type = "INT";
+        leg.via = i % 2 == 0 ? "DIRECT" : "Q" + std::to_string(i / 10);
+        leg.lat = 30 + i * 0.2;
+        leg.lon = i % 3 * 0.1;
+        plan.FlightPlanMod[i] = leg;
+    }
+    plan.fp_cnt = plan.mod_cnt = last;
+    plan.stpos = plan.mod_stpos = 1;
+    plan.fms_fpln_active = 3;
+}
+
+// Both CDUs of the lower unit, each page in turn on a route of 120 legs: the mean of one CDU.
+void DrawPages(benchmark::State& state) {
+    const FakeHost host;
+    FillRoute(120);
+    DrawList picture;
+    int turn = 0;
+    for (auto _ : state) {
+        picture.primitives.clear();
+        picture.verbs.clear();
+        picture.points.clear();
+        picture.text.clear();
+        cdu[0].fms_page = kPages[turn++ % std::size(kPages)];
+        Graphics graphics = GdipCreateGraphics(picture, 564, 424);
+        DrawCdu(graphics, 1, 5);
+    }
+}
+BENCHMARK(DrawPages)->Name("CduPage")->Unit(benchmark::kMicrosecond);
+
+// A procedure file of the world's size: 5000 airports with 40 legs each, about 12 MB, the one wanted last.
+std::string WorldOfProcedures() {
+    std::string text;
+    for (int airport = 0; airport < 5000; ++airport) {
+        const std::string icao = airport == 4999 ? "ORIG" : "X" + std::to_string(100 + airport);
+        text += "[" + icao + "]\n";
+        for (int sid = 0; sid < 4; ++sid) {
+            const std::string name = "DEPA" + std::to_string(sid);
+            text += "T " + name + " RNAV 16,34\n" + name + " /T160/UA 2500 16 0 0\n";
+            for (int leg = 0; leg < 9; ++leg)
+                text += name + " FIX" + std::to_string(leg) + " 12000+ --- 40." + std::to_string(leg) +
+                        "12345 10.123456\n";
+        }
+    }
+    return text;
+}
+
+void InsertFromTheWorld(benchmark::State& state) {
+    const FakeHost host;
+    host.PutFile("Velarion/TZ900/Navdata/apts.txt",
+                 "ORIG ORIGIN 430 39.0 10.0 16_9000_39.02_9.99_160.0_0_-_0 34_9000_38.98_10.01_340.0_0_-_0\n"
+                 "DEST DESTINATION 1200 45.0 10.0 09_8000_45.0_9.98_90.0_0_-_0\n");
+    host.PutFile("Velarion/TZ900/Navdata/sids.txt", WorldOfProcedures());
+    LoadNavTables();
+    EnterOrigin("ORIG");
+    EnterDestination("DEST");
+    for (auto _ : state) {
+        LoadOriginAirport("ORIG");
+        SelectSid(1, 1, false);
+    }
+    state.counters["sids"] = airports.origin_airport.sid_cnt;
+}
+BENCHMARK(InsertFromTheWorld)->Name("InsertProcedure/world")->Unit(benchmark::kMillisecond);
+
+}  // namespace
