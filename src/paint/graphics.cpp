@@ -57,8 +57,17 @@ PaintPath Record(Graphics& graphics, const GraphicsPath& path) {
     return {Extend(verbs, list.verbs.size()), Extend(points, list.points.size()), path.winding};
 }
 
+// Coordinates beyond this are errors of whoever computed them, and too large for those who paint.
+constexpr float kFarthest = 1e6f;
+
+bool IsNear(PaintPoint p) {
+    return std::fabs(p.x) <= kFarthest && std::fabs(p.y) <= kFarthest;
+}
+
 bool Drawable(const Graphics& graphics, const GraphicsPath& path) {
-    return graphics.list != nullptr && path.points.size() > 1;
+    return graphics.list != nullptr && path.points.size() > 1 &&
+           std::ranges::all_of(path.points,
+                               [&](PaintPoint p) { return IsNear(Map(graphics.world, p.x, p.y)); });
 }
 
 void StrokeOnce(Graphics& graphics, const Pen& pen, const GraphicsPath& path, double width) {
@@ -66,12 +75,14 @@ void StrokeOnce(Graphics& graphics, const Pen& pen, const GraphicsPath& path, do
     const Matrix& world = graphics.world;
     const Growth growth =
         KeepsCircles(world) ? Growth{std::sqrt(world.a * world.a + world.b * world.b), {}} : GrowthOf(world);
+    constexpr float kThinnest = 1;  // below it a pen is a line of one pixel, and its dashes count in these
     const auto scale = static_cast<float>(growth.height);
     const std::size_t dashes = list.dashes.size();
-    for (const float dash : pen.dashes.All()) list.dashes.push_back(dash * pen.width * scale);
+    const float dash_unit = std::max(pen.width * scale, kThinnest);
+    for (const float dash : pen.dashes.All()) list.dashes.push_back(dash * dash_unit);
     StrokePath stroke{Record(graphics, path), pen.colour, static_cast<float>(width) * scale};
     stroke.dashes = Extend(dashes, list.dashes.size());
-    stroke.axes = growth.axes;
+    if (stroke.width * std::max(growth.axes.stretch, 1.0f) > kThinnest) stroke.axes = growth.axes;
     list.primitives.emplace_back(stroke);
 }
 
@@ -104,7 +115,7 @@ void DrawWithArrow(Graphics& graphics, const Pen& pen, const GraphicsPath& path)
 }
 
 void Stroke(Graphics& graphics, const Pen& pen, const GraphicsPath& path) {
-    if (!Drawable(graphics, path) || !(pen.width >= 0)) return;
+    if (!Drawable(graphics, path) || !(pen.width >= 0 && pen.width <= kFarthest)) return;
     if (pen.compound.count >= 2) {
         for (std::size_t i = 0; i + 1 < pen.compound.count; i += 2) {
             const double from = pen.compound.values[i], to = pen.compound.values[i + 1];
@@ -292,10 +303,12 @@ void GdipSetPenDashStyle(Pen& pen, int style) {
 }
 
 void GdipSetPenDashArray(Pen& pen, std::span<const float> dashes) {
-    SetNumbers(pen.dashes, dashes);
+    if (std::ranges::all_of(dashes, [](float dash) { return dash > 0 && dash <= kFarthest; }))
+        SetNumbers(pen.dashes, dashes);
 }
 void GdipSetPenCompoundArray(Pen& pen, std::span<const float> edges) {
-    SetNumbers(pen.compound, edges);
+    if (std::ranges::all_of(edges, [](float edge) { return edge >= 0 && edge <= 1; }))
+        SetNumbers(pen.compound, edges);
 }
 LineArrowCap GdipCreateAdjustableArrowCap(float height, float width, bool filled) {
     return {height, width, filled};
@@ -427,6 +440,12 @@ void GdipSetStringFormatLineAlign(StringFormat& format, LineAlign align) {
 
 namespace {
 
+// Larger letters are an error of whoever computed them, and slow to paint.
+bool IsReadable(float size, const LocalAxes& axes) {
+    constexpr float kLargest = 2000, kMostLean = 50;
+    return size > 0 && size * std::max(axes.stretch, 1.0f) <= kLargest && std::fabs(axes.skew) <= kMostLean;
+}
+
 // As many characters as fit into `width` ems, one at least.
 std::string_view Fitting(std::string_view line, std::uint16_t family, float width) {
     std::size_t fits = std::min<std::size_t>(line.size(), 1);
@@ -486,6 +505,8 @@ void GdipDrawString(Graphics& graphics, std::string_view text, const Font& font,
     if (layout.line_align == LineAlign::kFar) top += rect.height - height;
 
     const Growth growth = GrowthOf(graphics.world);
+    const auto size = static_cast<float>(font.size * growth.height);
+    if (!IsReadable(size, growth.axes)) return;
     while (!text.empty()) {
         const std::string_view line = TakeLine(text, lines_of);
         if (rect.height > 0 && (layout.flags & kFormatNoClip) == 0 && top >= rect.y + rect.height) break;
@@ -493,12 +514,12 @@ void GdipDrawString(Graphics& graphics, std::string_view text, const Font& font,
         if ((layout.flags & kFormatRightToLeft) != 0)
             left = rect.x + rect.width - padding - TextWidth(font.family, line) * font.size;
         const PaintPoint origin = Map(graphics.world, left, top + metrics.ascent * font.size);
-        const std::size_t first = list.text.size();
-        AppendUtf8(list.text, line);
-        if (!line.empty())
-            list.primitives.emplace_back(TextRun{origin.x, origin.y,
-                                                 static_cast<float>(font.size * growth.height), growth.axes,
-                                                 font.family, brush.colour, Extend(first, list.text.size())});
+        if (!line.empty() && IsNear(origin)) {
+            const std::size_t first = list.text.size();
+            AppendUtf8(list.text, line);
+            list.primitives.emplace_back(TextRun{origin.x, origin.y, size, growth.axes, font.family,
+                                                 brush.colour, Extend(first, list.text.size())});
+        }
         top += metrics.line_spacing * font.size;
     }
 }
@@ -509,7 +530,8 @@ Image GdipLoadImageFromFile(std::string_view file) {
     constexpr std::size_t kWidthAt = 16, kHeightAt = 20, kHead = 24;
     constexpr int kLargest = 16384;
     Image image{.file = std::string(file)};
-    const auto bytes = ReadFile(file);
+    constexpr std::size_t kLargestFile = std::size_t{1} << 26;
+    const auto bytes = ReadFile(file, FileRoot::kSimulator, kLargestFile);
     if (!bytes || bytes->size < kHead || !bytes->Text().starts_with(kSignature)) return image;
     const auto word = [&](std::size_t at) {
         std::uint32_t value = 0;
@@ -530,12 +552,13 @@ void GdipDrawImageRectI(Graphics& graphics, const Image& image, int x, int y, in
     if (graphics.list == nullptr || image.width <= 0 || image.height <= 0 || width <= 0 || height <= 0)
         return;
     DrawList& list = *graphics.list;
-    const std::size_t first = list.text.size();
-    list.text += image.file;
     const PaintPoint origin = Map(graphics.world, x, y);
     const Growth growth = GrowthOf(graphics.world);
-    list.primitives.emplace_back(DrawnImage{Extend(first, list.text.size()), origin.x, origin.y,
-                                            static_cast<float>(width * growth.height * growth.axes.stretch),
-                                            static_cast<float>(height * growth.height),
-                                            growth.axes.rotation});
+    const PaintPoint size{static_cast<float>(width * growth.height * growth.axes.stretch),
+                          static_cast<float>(height * growth.height)};
+    if (!IsNear(origin) || !IsNear(size) || !(size.x > 0 && size.y > 0)) return;
+    const std::size_t first = list.text.size();
+    list.text += image.file;
+    list.primitives.emplace_back(DrawnImage{Extend(first, list.text.size()), origin.x, origin.y, size.x,
+                                            size.y, growth.axes.rotation});
 }

@@ -10,7 +10,8 @@
 
 // The drawing operations under the names of the interface that they come from, recorded to a draw list.
 // Coordinates are logical. Pens, brushes, paths, fonts and formats are plain values: nothing has to be
-// deleted. A primitive that can't be drawn (no points, a negative size) is left out and the picture goes on.
+// deleted. A primitive that can't be drawn (no points, a negative size, a coordinate that is no number or
+// beyond a million) is left out and the picture goes on.
 
 struct Matrix {  // x' = a x + c y + e, y' = b x + d y + f
     double a = 1, b = 0, c = 0, d = 1, e = 0, f = 0;
@@ -115,7 +116,10 @@ void GdipResetClip(Graphics& graphics);
 // pens and brushes
 Pen GdipCreatePen1(Argb colour, float width);
 void GdipSetPenDashStyle(Pen& pen, int style);  // 0 solid, 1 dash, 2 dot, 3 dash dot, 4 dash dot dot
+/// Lengths in pen widths, or in pixels of a pen that is thinner than one. All above 0, else the pen stays as
+/// it is.
 void GdipSetPenDashArray(Pen& pen, std::span<const float> dashes);
+/// Edges from 0 to 1, else the pen stays as it is.
 void GdipSetPenCompoundArray(Pen& pen, std::span<const float> edges);
 LineArrowCap GdipCreateAdjustableArrowCap(float height, float width, bool filled);
 void GdipSetPenCustomEndCap(Pen& pen, LineArrowCap cap);

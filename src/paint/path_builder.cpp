@@ -82,7 +82,8 @@ void AddEllipse(GraphicsPath& path, double x, double y, double width, double hei
 }
 
 void AddArc(GraphicsPath& path, double x, double y, double width, double height, double start, double sweep) {
-    if (width <= 0 || height <= 0) return;
+    if (!(width > 0 && height > 0) || !std::isfinite(start) || !std::isfinite(sweep)) return;
+    start = std::fmod(start, 360);
     sweep = std::clamp(sweep, -360.0, 360.0);
     const double rx = width / 2, ry = height / 2, cx = x + rx, cy = y + ry;
     const double first = CircleAngle(start, rx, ry), last = CircleAngle(start + sweep, rx, ry);
@@ -148,8 +149,8 @@ GraphicsPath Flatten(const GraphicsPath& path, double tolerance) {
                                  end = path.points[next + 2];
                 next += 3;
                 const double length = Distance(at, c1) + Distance(c1, c2) + Distance(c2, end);
-                const int parts =
-                    std::clamp(static_cast<int>(std::sqrt(length / (4 * tolerance))) + 1, 2, 64);
+                const auto parts =
+                    static_cast<int>(std::clamp(std::sqrt(length / (4 * tolerance)) + 1, 2.0, 64.0));
                 for (int i = 1; i <= parts; ++i) {
                     const double t = static_cast<double>(i) / parts, u = 1 - t;
                     const double a = u * u * u, b = 3 * u * u * t, c = 3 * u * t * t, d = t * t * t;

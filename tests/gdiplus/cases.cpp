@@ -133,6 +133,18 @@ void DashesUnderTransform(Graphics& graphics) {
     GdipDrawLineI(graphics, pen, 0, 5, 40, 5);
 }
 
+void DashesOfThinPens(Graphics& graphics) {
+    Pen pen = GdipCreatePen1(kWhite, 0.1f);
+    GdipSetPenDashStyle(pen, 1);
+    GdipDrawLineI(graphics, pen, 8, 20, 150, 20);
+    pen.width = 0;
+    GdipDrawLineI(graphics, pen, 8, 40, 150, 40);
+    GdipScaleWorldTransform(graphics, 0.05, 0.05);
+    pen.width = 2;
+    GdipDrawLineI(graphics, pen, 160, 1200, 3000, 1200);
+    GdipDrawLineI(graphics, pen, 400, 1400, 400, 2300);
+}
+
 void FilledArrows(Graphics& graphics) {
     Pen pen = GdipCreatePen1(kWhite, 2);
     GdipSetPenCustomEndCap(pen, GdipCreateAdjustableArrowCap(6, 5, true));
@@ -343,6 +355,8 @@ constexpr PictureCase kCases[] = {
     {"dash_styles", DashStyles},
     {"dash_arrays", DashArrays},
     {"dashes_under_transform", DashesUnderTransform},
+    // Dashes of a line of one pixel count in pixels there at any scale, in units here.
+    {.name = "dashes_of_thin_pens", .draw = DashesOfThinPens, .at_scale = false},
     {"filled_arrows", FilledArrows},
     {"open_arrows", OpenArrows},
     // Wine's hatches keep their 8 pixels at any scale, ours 8 units.

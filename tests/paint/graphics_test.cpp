@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <limits>
+
 #include "paint/fonts.h"
 #include "paint/rasterise.h"
 #include "support/fake_host.h"
@@ -210,7 +213,32 @@ TEST(Graphics, WhatCannotBeDrawnIsLeftOut) {
                    GdipCreateSolidFill(kWhite));
     GdipDrawString(picture.graphics, "A", GdipCreateFont(0, -1), {0, 0, 0, 0}, nullptr,
                    GdipCreateSolidFill(kWhite));
+    const float nan = std::nanf("");
+    const double infinite = std::numeric_limits<double>::infinity();
+    const PaintPoint wild[] = {{0, 0}, {nan, 10}}, far[] = {{0, 0}, {3e38f, 0}};
+    GdipDrawLines(picture.graphics, GdipCreatePen1(kWhite, 1), wild);
+    GdipFillPolygon(picture.graphics, GdipCreateHatchBrush(HatchStyle::kCross, kRed, kWhite), far);
+    GdipDrawLineI(picture.graphics, GdipCreatePen1(kWhite, nan), 0, 0, 10, 10);
+    for (const double angle : {infinite, static_cast<double>(nan)})
+        GdipDrawArcI(picture.graphics, GdipCreatePen1(kWhite, 1), 0, 0, 20, 10, angle, 90);
+    GdipDrawString(picture.graphics, "A", GdipCreateFont(0, 12), {nan, 0, 0, 0}, nullptr,
+                   GdipCreateSolidFill(kWhite));
+    GdipScaleWorldTransform(picture.graphics, 0, 1);
+    GdipDrawString(picture.graphics, "A", GdipCreateFont(0, 12), {0, 0, 0, 0}, nullptr,
+                   GdipCreateSolidFill(kWhite));
     EXPECT_TRUE(picture.list.primitives.empty()) << Lines(picture.list);
+    // And what comes after it is drawn.
+    GdipResetWorldTransform(picture.graphics);
+    Pen pen = GdipCreatePen1(kWhite, 0);
+    const float none[] = {0, 0}, odd[] = {2, -1};
+    GdipSetPenDashArray(pen, none);
+    GdipSetPenDashArray(pen, odd);
+    GdipDrawArcI(picture.graphics, pen, 0, 0, 20, 10, 1e30, 90);
+    GdipSetPenDashStyle(pen, 1);
+    GdipDrawLineI(picture.graphics, pen, 0, 20, 50, 20);
+    GdipFillRectangleI(picture.graphics, GdipCreateSolidFill(kRed), 50, 50, 5, 5);
+    EXPECT_EQ(picture.Pixel(52, 52), kRed);
+    EXPECT_NE(Lines(picture.list).find("stroke 255,255,255,255 0 dash 3,1 M 0 20"), std::string::npos);
 }
 
 }  // namespace
