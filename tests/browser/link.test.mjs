@@ -67,6 +67,22 @@ test('one screen opens alone and follows its unit', async (t) => {
   await until('another format', async () => await shown() !== before);
 });
 
+test('a click on a screen reaches what lies there', async (t) => {
+  const host = await startHost(t), browser = await openBrowser(t);
+  const page = await openDeck(t, browser, host.address);
+  await until('a lit screen', async () => await litPixels(page, 'lower') > 0);
+  const click = async (x, y) => {
+    const box = await page.locator('canvas[data-screen=lower]').boundingBox();
+    await page.mouse.click(box.x + x / 564 * box.width, box.y + y / 424 * box.height);
+  };
+  // The keys RTE and LEGS of both halves, as they are drawn below the CDU.
+  await click(54, 234);
+  await until('the captain\'s RTE page', async () => await valueOf(page, 'capt_fms_page') === '22');
+  await click(282 + 76, 258);
+  await until('the first officer\'s LEGS page', async () => await valueOf(page, 'fo_fms_page') === '6');
+  assert.equal(await valueOf(page, 'capt_fms_page'), '22');
+});
+
 test('a page left open does not grow', async (t) => {
   const host = await startHost(t, '--rate', '16'), browser = await openBrowser(t);
   const page = await openDeck(t, browser, host.address);

@@ -291,7 +291,7 @@ export const pedestal = [
     {...knob('TZ_MAIN_PFD_MFD_L_Switch', 'PFD / MFD', ['OUTBD', 'NORM', 'INBD']), min: -1, max: 1},
     knob('TZ_MAIN_AIRDATA_ATT_L_Switch', 'Air Data L', ['ALTN', 'AUTO']),
     knob('TZ_MAIN_AIRDATA_ATT_R_Switch', 'Air Data R', ['ALTN', 'AUTO']),
-    {...knob('auto_brake_switch', 'Autobrake', ['RTO', 'OFF', 'DISARM', '1', '2', '3', '4', 'MAX']), max: 7},
+    {...knob('auto_brake_switch', 'Autobrake', ['RTO', 'OFF', 'DISARM', '1', '2', '3', '4', 'MAX']), min: -1, max: 6},
     key('TZ_Wheel_L_HUD_Button', 'HUD'),
   ]},
   {title: 'Standby instrument', controls: [
