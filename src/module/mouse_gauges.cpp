@@ -28,43 +28,17 @@ constexpr bool IsOverheadControl(std::string_view name) {
     return name.starts_with(kOverheadPrefix) && !IsOverheadLamp(name);
 }
 
-// Rows of the catalogue whose names pass.
-template <bool (*kPasses)(std::string_view)>
-consteval auto Rows() {
-    constexpr auto kCount = [] {
-        std::size_t count = 0;
-        for (const NamedVariable& variable : kNamedVariables)
-            if (kPasses(variable.name)) ++count;
-        return count;
-    }();
-    std::array<int, kCount> rows{};
-    std::size_t next = 0;
-    for (int row = 0; row < kNamedVariableCount; ++row)
-        if (kPasses(kNamedVariables[static_cast<std::size_t>(row)].name)) rows[next++] = row;
-    return rows;
-}
-constexpr auto kOverheadRows = Rows<IsOverheadControl>();
-constexpr auto kOverheadLampRows = Rows<IsOverheadLamp>();
-
-template <const auto& kRows, std::size_t... kIndex>
-consteval auto AreasOfRows(int left, std::index_sequence<kIndex...>) {
-    const MouseArea areas[] = {ControlArea<kRows[kIndex]>()...};
-    return LayOut(areas, left);
-}
-constexpr auto kOverhead = AreasOfRows<kOverheadRows>(0, std::make_index_sequence<kOverheadRows.size()>());
-
 template <char kSide>
 constexpr bool IsKeypadKey(std::string_view name) {
-    return name.starts_with(std::string_view(kSide == 'L' ? "TZ_FMC_L_" : "TZ_FMC_R_"));
+    return name.starts_with(kSide == 'L' ? "TZ_FMC_L_" : "TZ_FMC_R_");
 }
-constexpr auto kCaptainKeyRows = Rows<IsKeypadKey<'L'>>();
-constexpr auto kFirstOfficerKeyRows = Rows<IsKeypadKey<'R'>>();
-constexpr auto kCaptainKeypad =
-    AreasOfRows<kCaptainKeyRows>(0, std::make_index_sequence<kCaptainKeyRows.size()>());
-constexpr auto kFirstOfficerKeypad =
-    AreasOfRows<kFirstOfficerKeyRows>(0, std::make_index_sequence<kFirstOfficerKeyRows.size()>());
 
-// What a display select panel has: the side buttons, the formats, and cancel/recall.
+template <char kSide>
+constexpr bool IsBezelKey(std::string_view name) {
+    return name.starts_with(kSide == 'L' ? "TZ_EFB_L_" : "TZ_EFB_R_");
+}
+
+// What a display select panel has: the side buttons, the formats, the engine key and cancel/recall.
 template <char kSide>
 constexpr bool IsDisplaySelectKey(std::string_view name) {
     constexpr std::string_view kKeys[] = {"MFD_L_Button", "MFD_R_Button", "CDU_Button",   "CHKL_Button",
@@ -73,12 +47,32 @@ constexpr bool IsDisplaySelectKey(std::string_view name) {
     constexpr std::string_view kPrefix = kSide == 'L' ? "TZ_MCP_L_" : "TZ_MCP_R_";
     return name.starts_with(kPrefix) && std::ranges::count(kKeys, name.substr(kPrefix.size())) == 1;
 }
-constexpr auto kCaptainSelectRows = Rows<IsDisplaySelectKey<'L'>>();
-constexpr auto kFirstOfficerSelectRows = Rows<IsDisplaySelectKey<'R'>>();
-constexpr auto kCaptainSelect =
-    AreasOfRows<kCaptainSelectRows>(0, std::make_index_sequence<kCaptainSelectRows.size()>());
-constexpr auto kFirstOfficerSelect =
-    AreasOfRows<kFirstOfficerSelectRows>(0, std::make_index_sequence<kFirstOfficerSelectRows.size()>());
+
+using PassesName = bool (*)(std::string_view name);
+
+template <PassesName kPasses>
+consteval auto RowsWhere() {
+    constexpr auto kCount = std::ranges::count_if(kNamedVariables, kPasses, &NamedVariable::name);
+    std::array<int, static_cast<std::size_t>(kCount)> rows{};
+    std::size_t next = 0;
+    for (int row = 0; row < kNamedVariableCount; ++row)
+        if (kPasses(NameOf({row}))) rows[next++] = row;
+    return rows;
+}
+
+/// The rows of the catalogue whose names pass.
+template <PassesName kPasses>
+constexpr auto kRowsWhere = RowsWhere<kPasses>();
+
+template <PassesName kPasses, int kLeft, std::size_t... kIndex>
+consteval auto AreasOfRows(std::index_sequence<kIndex...>) {
+    return LayOut({ControlArea<kRowsWhere<kPasses>[kIndex]>()...}, kLeft);
+}
+
+/// An area for each of them, from a left edge on.
+template <PassesName kPasses, int kLeft = 0>
+constexpr auto kAreasWhere =
+    AreasOfRows<kPasses, kLeft>(std::make_index_sequence<kRowsWhere<kPasses>.size()>());
 
 // One area for the control of a variable.
 template <NamedVarRef kVariable>
@@ -143,23 +137,16 @@ int32_t OnTabletTouch(GaugeInstance* instance, uint32_t) {
     return 0;
 }
 
-template <char kSide>
-constexpr bool IsBezelKey(std::string_view name) {
-    return name.starts_with(std::string_view(kSide == 'L' ? "TZ_EFB_L_" : "TZ_EFB_R_"));
-}
-constexpr auto kCaptainBezelRows = Rows<IsBezelKey<'L'>>();
-constexpr auto kFirstOfficerBezelRows = Rows<IsBezelKey<'R'>>();
-
-template <int kSide, const auto& kRows>
+template <int kSide, PassesName kIsKey>
 consteval auto Tablet() {
-    const auto keys = AreasOfRows<kRows>(kCanvasWidth, std::make_index_sequence<kRows.size()>());
+    const auto& keys = kAreasWhere<kIsKey, kCanvasWidth>;
     std::array<MouseRectangle, keys.size() + 1> areas{};
     areas[0] = {"screen", 0, 0, kCanvasWidth, kCanvasHeight, OnTabletTouch<kSide>};
     std::copy(keys.begin(), keys.end(), areas.begin() + 1);
     return areas;
 }
-constexpr auto kCaptainTablet = Tablet<kCaptain, kCaptainBezelRows>();
-constexpr auto kFirstOfficerTablet = Tablet<kFirstOfficer, kFirstOfficerBezelRows>();
+constexpr auto kCaptainTablet = Tablet<kCaptain, IsBezelKey<'L'>>();
+constexpr auto kFirstOfficerTablet = Tablet<kFirstOfficer, IsBezelKey<'R'>>();
 
 // Walks a gauge's chain; what stands behind its end isn't there to show.
 class Elements {
@@ -186,13 +173,15 @@ void ClickVariable(NamedVarRef variable, uint32_t flags) {
 }
 
 std::span<const MouseRectangle> OverheadAreas() {
-    return kOverhead;
+    return kAreasWhere<IsOverheadControl>;
 }
 std::span<const MouseRectangle> DisplaySelectAreas(int side) {
-    return side == kCaptain ? std::span<const MouseRectangle>(kCaptainSelect) : kFirstOfficerSelect;
+    if (side == kCaptain) return kAreasWhere<IsDisplaySelectKey<'L'>>;
+    return kAreasWhere<IsDisplaySelectKey<'R'>>;
 }
 std::span<const MouseRectangle> KeypadAreas(int side) {
-    return side == kCaptain ? std::span<const MouseRectangle>(kCaptainKeypad) : kFirstOfficerKeypad;
+    if (side == kCaptain) return kAreasWhere<IsKeypadKey<'L'>>;
+    return kAreasWhere<IsKeypadKey<'R'>>;
 }
 std::span<const MouseRectangle> EngineStartAreas() {
     return kEngineStart;
@@ -225,7 +214,8 @@ std::span<const MouseRectangle> DisplayUnitAreas(int unit) {
     return std::span(kScreens).subspan(static_cast<std::size_t>(unit - 1), 1);
 }
 std::span<const MouseRectangle> TabletAreas(int side) {
-    return side == kCaptain ? std::span<const MouseRectangle>(kCaptainTablet) : kFirstOfficerTablet;
+    if (side == kCaptain) return kCaptainTablet;
+    return kFirstOfficerTablet;
 }
 
 void ServeOverhead(GaugeInstance* instance, int32_t service_id) {
@@ -238,7 +228,7 @@ void ServeOverhead(GaugeInstance* instance, int32_t service_id) {
             for (int position = control.min + 1; position <= control.max; ++position)
                 elements.ShowNext(*control.shadow == position);
         }
-    for (const int row : kOverheadLampRows) {
+    for (const int row : kRowsWhere<IsOverheadLamp>) {
         if (elements.AtEnd()) return;
         elements.ShowNext(ReadNamedVar({row}) != 0);
     }
