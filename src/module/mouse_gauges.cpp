@@ -103,9 +103,9 @@ constexpr auto kWindowToggles = LayOut({
 
 // The model owns the selector: -1 RTO, 0 OFF, 1 DISARM, 2 to 5 for 1 to 4, 6 MAX.
 void TurnAutobrake(uint32_t flags) {
-    constexpr int kRto = -1, kMax = 6;
+    const Control& selector = *FindControl(NamedVar("auto_brake_switch"));
     const int step = flags == kMouseRightSingle ? 1 : -1;
-    cockpit.autobrake_switch = std::clamp(cockpit.autobrake_switch + step, kRto, kMax);
+    cockpit.autobrake_switch = std::clamp(cockpit.autobrake_switch + step, selector.min, selector.max);
     WriteNamedVar(NamedVar("auto_brake_switch"), cockpit.autobrake_switch);
 }
 constexpr auto kGearAutobrake = LayOut({

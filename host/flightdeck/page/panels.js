@@ -56,7 +56,7 @@ export const overhead = [
         ['RAT_UNLKD', 'UNLKD']),
   ]},
   {title: 'Flight controls', controls: [
-    {...selector('PFC_G_Switch', 'Pri Flt Computers', ['DISC', 'AUTO'], ['DISC_PFC', 'DISC']), guard: OH + 'PFC_Safety_Switch'},
+    {...selector('PFC_G_Switch', 'Pri Flt Computers', ['AUTO', 'DISC'], ['DISC_PFC', 'DISC']), guard: OH + 'PFC_Safety_Switch'},
   ]},
   {title: 'IRS', controls: [
     selector('IRS_LEFT_Switch', 'IRS L', OFF_ON, ['BAT_IRS', 'ON BAT']),

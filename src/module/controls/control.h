@@ -75,8 +75,9 @@ constexpr Control Key(NamedVarRef variable, ControlFollower follow) {
 constexpr Control Momentary(NamedVarRef variable, ControlFollower follow) {
     return {variable, nullptr, ControlClass::kMomentary, 0, 1, nullptr, 0, follow};
 }
-constexpr Control Mirrored(NamedVarRef variable, int* shadow, ControlFollower follow = nullptr) {
-    return {variable, shadow, ControlClass::kMirrored, 0, 1, nullptr, 0, follow};
+constexpr Control Mirrored(NamedVarRef variable, int* shadow, ControlFollower follow = nullptr, int min = 0,
+                           int max = 1) {
+    return {variable, shadow, ControlClass::kMirrored, min, max, nullptr, 0, follow};
 }
 constexpr Control KeptByModel(Control control) {
     control.kept_by_model = true;

@@ -18,6 +18,7 @@
 
 namespace {
 
+constexpr int kAutobrakeRto = -1, kAutobrakeMax = 6;
 constexpr int kKnobTop = 18;
 constexpr int kMostMinimums = 15000, kMinimumsStep = 10;  // ft
 constexpr double kBrightnessStep = 0.1;
@@ -88,7 +89,7 @@ constexpr Control kGlareshield[] = {
     Momentary(NamedVar("TZ_MCP_R_FPV_Button"), ToggleOnPfd<&PfdSide::fpv_on, kFirstOfficer>),
     Momentary(NamedVar("TZ_MCP_L_MTRS_Button"), ToggleOnPfd<&PfdSide::mtrs_on, kCaptain>),
     Momentary(NamedVar("TZ_MCP_R_MTRS_Button"), ToggleOnPfd<&PfdSide::mtrs_on, kFirstOfficer>),
-    Mirrored(NamedVar("auto_brake_switch"), &cockpit.autobrake_switch),
+    Mirrored(NamedVar("auto_brake_switch"), &cockpit.autobrake_switch, nullptr, kAutobrakeRto, kAutobrakeMax),
     Momentary(NamedVar("tz_cpt_nd_knob_clicked"), TurnRangeKnob),
     Momentary(NamedVar("TZ_EFB_L_DSPL_Button"), ChangeTabletBrightness),
 };
