@@ -290,10 +290,6 @@ void GdipResetClip(Graphics& graphics) {
     graphics.clipped = false;
 }
 
-Pen GdipCreatePen1(Argb colour, float width) {
-    return {.colour = colour, .width = width};
-}
-
 void GdipSetPenDashStyle(Pen& pen, int style) {
     static constexpr float kDash[] = {3, 1}, kDot[] = {1, 1}, kDashDot[] = {3, 1, 1, 1},
                            kDashDotDot[] = {3, 1, 1, 1, 1, 1};
@@ -309,18 +305,6 @@ void GdipSetPenDashArray(Pen& pen, std::span<const float> dashes) {
 void GdipSetPenCompoundArray(Pen& pen, std::span<const float> edges) {
     if (std::ranges::all_of(edges, [](float edge) { return edge >= 0 && edge <= 1; }))
         SetNumbers(pen.compound, edges);
-}
-LineArrowCap GdipCreateAdjustableArrowCap(float height, float width, bool filled) {
-    return {height, width, filled};
-}
-void GdipSetPenCustomEndCap(Pen& pen, LineArrowCap cap) {
-    pen.end_cap = cap;
-}
-Brush GdipCreateSolidFill(Argb colour) {
-    return {.colour = colour};
-}
-Brush GdipCreateHatchBrush(HatchStyle style, Argb fore, Argb back) {
-    return {fore, true, style, back};
 }
 
 void GdipDrawLine(Graphics& graphics, const Pen& pen, double x1, double y1, double x2, double y2) {
@@ -423,19 +407,6 @@ void GdipAddPathPolygonI(GraphicsPath& path, std::span<const IntPoint> points) {
 }
 void GdipClosePathFigure(GraphicsPath& path) {
     ClosePath(path);
-}
-
-Font GdipCreateFont(std::uint16_t family, float size) {
-    return {family, size};
-}
-StringFormat GdipCreateStringFormat(int flags) {
-    return {.flags = flags};
-}
-void GdipSetStringFormatFlags(StringFormat& format, int flags) {
-    format.flags = flags;
-}
-void GdipSetStringFormatLineAlign(StringFormat& format, LineAlign align) {
-    format.line_align = align;
 }
 
 namespace {

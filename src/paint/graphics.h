@@ -114,17 +114,27 @@ void GdipSetClipRectI(Graphics& graphics, int x, int y, int width,
 void GdipResetClip(Graphics& graphics);
 
 // pens and brushes
-Pen GdipCreatePen1(Argb colour, float width);
+inline Pen GdipCreatePen1(Argb colour, float width) {
+    return {.colour = colour, .width = width};
+}
 void GdipSetPenDashStyle(Pen& pen, int style);  // 0 solid, 1 dash, 2 dot, 3 dash dot, 4 dash dot dot
 /// Lengths in pen widths, or in pixels of a pen that is thinner than one. All above 0, else the pen stays as
 /// it is.
 void GdipSetPenDashArray(Pen& pen, std::span<const float> dashes);
 /// Edges from 0 to 1, else the pen stays as it is.
 void GdipSetPenCompoundArray(Pen& pen, std::span<const float> edges);
-LineArrowCap GdipCreateAdjustableArrowCap(float height, float width, bool filled);
-void GdipSetPenCustomEndCap(Pen& pen, LineArrowCap cap);
-Brush GdipCreateSolidFill(Argb colour);
-Brush GdipCreateHatchBrush(HatchStyle style, Argb fore, Argb back);
+inline LineArrowCap GdipCreateAdjustableArrowCap(float height, float width, bool filled) {
+    return {height, width, filled};
+}
+inline void GdipSetPenCustomEndCap(Pen& pen, LineArrowCap cap) {
+    pen.end_cap = cap;
+}
+inline Brush GdipCreateSolidFill(Argb colour) {
+    return {.colour = colour};
+}
+inline Brush GdipCreateHatchBrush(HatchStyle style, Argb fore, Argb back) {
+    return {fore, true, style, back};
+}
 
 // outlines
 void GdipDrawLineI(Graphics& graphics, const Pen& pen, int x1, int y1, int x2, int y2);
@@ -158,10 +168,18 @@ void GdipAddPathPolygonI(GraphicsPath& path, std::span<const IntPoint> points);
 void GdipClosePathFigure(GraphicsPath& path);
 
 // text
-Font GdipCreateFont(std::uint16_t family, float size);
-StringFormat GdipCreateStringFormat(int flags);
-void GdipSetStringFormatFlags(StringFormat& format, int flags);
-void GdipSetStringFormatLineAlign(StringFormat& format, LineAlign align);
+inline Font GdipCreateFont(std::uint16_t family, float size) {
+    return {family, size};
+}
+inline StringFormat GdipCreateStringFormat(int flags) {
+    return {.flags = flags};
+}
+inline void GdipSetStringFormatFlags(StringFormat& format, int flags) {
+    format.flags = flags;
+}
+inline void GdipSetStringFormatLineAlign(StringFormat& format, LineAlign align) {
+    format.line_align = align;
+}
 /// A rectangle without size: no wrapping, its origin is the anchor. Text begins a sixth of an em inside.
 /// Text is of the ANSI code page; a line feed begins a new line.
 void GdipDrawString(Graphics& graphics, std::string_view text, const Font& font, const LayoutRect& rect,

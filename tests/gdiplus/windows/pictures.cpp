@@ -139,9 +139,6 @@ void GdipResetClip(Graphics&) {
     flat::GdipResetClip(surface);
 }
 
-Pen GdipCreatePen1(Argb colour, float width) {
-    return {.colour = colour, .width = width};
-}
 void GdipSetPenDashStyle(Pen& pen, int style) {
     pen.dashes.count = 1;
     pen.dashes.values[0] = static_cast<float>(-style);
@@ -153,18 +150,6 @@ void GdipSetPenDashArray(Pen& pen, std::span<const float> dashes) {
 void GdipSetPenCompoundArray(Pen& pen, std::span<const float> edges) {
     pen.compound.count = edges.size();
     std::copy(edges.begin(), edges.end(), pen.compound.values.begin());
-}
-LineArrowCap GdipCreateAdjustableArrowCap(float height, float width, bool filled) {
-    return {height, width, filled};
-}
-void GdipSetPenCustomEndCap(Pen& pen, LineArrowCap cap) {
-    pen.end_cap = cap;
-}
-Brush GdipCreateSolidFill(Argb colour) {
-    return {.colour = colour};
-}
-Brush GdipCreateHatchBrush(HatchStyle style, Argb fore, Argb back) {
-    return {fore, true, style, back};
 }
 
 void GdipDrawLineI(Graphics&, const Pen& pen, int x1, int y1, int x2, int y2) {
@@ -275,18 +260,6 @@ void GdipClosePathFigure(GraphicsPath& path) {
     flat::GdipClosePathFigure(RealPath(path));
 }
 
-Font GdipCreateFont(std::uint16_t family, float size) {
-    return {family, size};
-}
-StringFormat GdipCreateStringFormat(int flags) {
-    return {.flags = flags};
-}
-void GdipSetStringFormatFlags(StringFormat& format, int flags) {
-    format.flags = flags;
-}
-void GdipSetStringFormatLineAlign(StringFormat& format, LineAlign align) {
-    format.line_align = align;
-}
 void GdipDrawString(Graphics&, std::string_view text, const Font& font, const LayoutRect& rect,
                     const StringFormat* format, const Brush& brush) {
     Gdiplus::GpFontFamily* family = nullptr;
