@@ -6,6 +6,7 @@
 #include "display/modes.h"
 #include "paint/painter.h"
 #include "state/displays.h"
+#include "state/nd.h"
 #include "state/side.h"
 
 namespace {
@@ -62,8 +63,14 @@ ContentPlace PlaceOf(Content content, int mode, int unit, int half) {
                        .half = half,
                        .side = SideOf(content, unit, half),
                        .narrow = content == Content::kPfd && mode >= 80 && mode <= 87,
+                       .vsd = false,
                        .system_page = SystemPageOf(unit, half)};
-    if (content == Content::kNd) place.unit = place.side == kCaptain ? 2 : 3;
+    if (content == Content::kNd) {
+        constexpr int kMap = 3;
+        const NdSide& map = NdOf(place.side);
+        place.unit = place.side == kCaptain ? 2 : 3;
+        place.vsd = map.nd_mode == kMap && map.nd_vsd == 1;
+    }
     return place;
 }
 

@@ -8,5 +8,6 @@ struct ContentPlace {
     int half;         // 1 left, 2 right
     int side;         // kCaptain or kFirstOfficer
     bool narrow;      // the PFD, beside a whole half
+    bool vsd;         // the ND, with its vertical situation display
     int system_page;  // of this half of this unit
 };
