@@ -16,6 +16,7 @@
 #include "platform/text.h"
 #include "state/cfg.h"
 #include "state/nav.h"
+#include "state/nd.h"
 #include "state/sim.h"
 
 namespace {
@@ -260,6 +261,20 @@ void OnDirectEntry(PageCall& call) {
     if (!Entry(call).empty()) OnFix(call, FirstLeg());
 }
 
+// With the map in PLAN, STEP moves it from leg to leg.
+bool MapStandsOnALeg(const PageCall& call) {
+    constexpr int kPlanMap = 4;
+    return NdOf(call.side).nd_mode == kPlanMap && plan.fms_fpln_active > kRouteEntered;
+}
+
+void StepMapCentre(PageCall& call) {
+    int& centre = NdOf(call.side).plan_step;
+    const int first = FirstLeg();
+    int leg = centre < first ? first : centre + 1;
+    while (leg <= ShownCount() && !IsPlace(ShownLeg(leg))) ++leg;
+    centre = leg <= ShownCount() ? leg : first;
+}
+
 void OnLastLine(PageCall& call) {
     if (call.line == kL6) {
         if (plan.fms_fpln_active == kRouteModified && route_pages.LegsView == kNormalView) {
@@ -273,6 +288,7 @@ void OnLastLine(PageCall& call) {
     }
     if (route_pages.LegsView == kHoldView) return HoldAtPresentPosition(call);
     if (plan.fms_fpln_active == kRouteEntered) return AdvanceRouteState();
+    if (MapStandsOnALeg(call)) return StepMapCentre(call);
     if (plan.fms_fpln_active > kRouteEntered) {
         call.unit.rte_data_index = 1;
         GoToPage(call.side, kPageRteData);
@@ -304,6 +320,8 @@ void DrawIdent(PageCall& call, int line, int leg) {
         HighlightedLeft(call, line, ident);
     else
         LeftData(call, line, ident, leg == ShownActiveLeg() ? kMagenta : kWhite);
+    if (MapStandsOnALeg(call) && leg == NdOf(call.side).plan_step)
+        PageText(call, 110, DataY(line), "<CTR>", kWhite, kLabelSize);
 }
 
 void DrawConstraint(PageCall& call, int line, int leg) {
@@ -369,11 +387,13 @@ void DrawLastLine(PageCall& call, int page) {
     if (view == kNormalView) LeftData(call, 6, state == kRouteModified ? "<ERASE" : "<RTE 2 LEGS");
     if (view == kHoldView && route_pages.HoldSelectIndex > 0)
         LeftData(call, 6, ShownLeg(route_pages.HoldSelectIndex).ident);
-    const char* right = view == kHoldView                                                       ? "PPOS>"
-                        : state == kRouteEntered                                                ? "ACTIVATE>"
-                        : view == kNormalView && state == kRouteModified && page == PageCount() ? "STEP>"
-                        : state > kRouteEntered                                                 ? "RTE DATA>"
-                                                                                                : "";
+    const bool last_of_mod = state == kRouteModified && page == PageCount();
+    const bool steps = view == kNormalView && (last_of_mod || MapStandsOnALeg(call));
+    const char* right = view == kHoldView        ? "PPOS>"
+                        : state == kRouteEntered ? "ACTIVATE>"
+                        : steps                  ? "STEP>"
+                        : state > kRouteEntered  ? "RTE DATA>"
+                                                 : "";
     RightData(call, 6, right);
     if (right[0] != '\0') MarkSelectable(call, kR6);
 }

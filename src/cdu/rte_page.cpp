@@ -10,6 +10,7 @@
 #include "fmc/route.h"
 #include "fmc/route_airway.h"
 #include "fmc/route_rows.h"
+#include "fmc/select_procedures.h"
 #include "frame/crew_messages.h"
 #include "navdata/parse_entry.h"
 #include "platform/text.h"
@@ -75,6 +76,7 @@ void OnRunway(PageCall& call) {
     if (!HasOrigin()) return Refuse(call, "INVALID ENTRY", kHelpOrigin);
     if (Entry(call).empty()) return;
     if (SelectOriginRunway(Entry(call)) == 0) return Refuse(call, "NOT IN DATABASE", kHelpAirportCode);
+    if (plan.procedures.dep_sid != kNotSelected) SelectSid(call.side, 0, true);
     ClearEntry(call);
 }
 

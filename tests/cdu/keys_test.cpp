@@ -1,0 +1,179 @@
+#include <gtest/gtest.h>
+
+#include "cdu/cdu_service.h"
+#include "cdu/init_ref.h"
+#include "cdu/items.h"
+#include "cdu/page.h"
+#include "cdu/remote_keys.h"
+#include "frame/crew_messages.h"
+#include "state/cfg.h"
+#include "state/keyboard.h"
+#include "state/perf.h"
+#include "state/plan.h"
+#include "state/pos_init.h"
+#include "state/sim.h"
+#include "state/vnav.h"
+#include "support/fake_host.h"
+
+namespace {
+
+class CduKeys : public testing::Test {
+  protected:
+    static void Ticks(int count) {
+        for (int i = 0; i < count; ++i)
+            for (const int side : {kCaptain, kFirstOfficer}) StepCdu(side, true);
+    }
+    FakeHost host;
+};
+
+TEST_F(CduKeys, ByRemoteCode) {
+    for (const int code : {20, 45, 7, 15, 17, 16, 48, 18, 46, 6, 19, 53, 0, -1})
+        OnRemoteKey(kFirstOfficer, code);
+    EXPECT_EQ(cdu[1].ScratchPad, "AZ190./- ");
+    EXPECT_EQ(cdu[0].ScratchPad, "");
+    OnRemoteKey(kFirstOfficer, 49);
+    OnRemoteKey(kFirstOfficer, 47);
+    EXPECT_EQ(cdu[1].ScratchPad, "AZ190./-");
+    EXPECT_EQ(cdu[1].ScratchMessage, "DELETE");
+    OnRemoteKey(kFirstOfficer, 50);
+    OnRemoteKey(kFirstOfficer, 51);
+    EXPECT_EQ(cdu[1].PrevPagePending, 1);
+    EXPECT_EQ(cdu[1].NextPagePending, 1);
+}
+
+TEST_F(CduKeys, ModeKeysOpenTheirPages) {
+    struct Row {
+        int item, page, cursor;
+    };
+    constexpr Row kRows[] = {{18, 22, 1}, {19, 24, 1}, {20, 51, 1}, {21, 15, 1}, {23, 37, 6}, {24, 6, 1},
+                             {25, 6, 1},  {26, 6, 1},  {27, 33, 6}, {28, 49, 1}, {31, 49, 1}, {8, 49, 1}};
+    for (const Row& row : kRows) {
+        OnCduKeyPress(kCaptain, row.item);
+        EXPECT_EQ(cdu[0].fms_page, row.page) << row.item;
+        EXPECT_EQ(cdu[0].ItemCursor, row.cursor) << row.item;
+    }
+    EXPECT_EQ(cdu[0].KeyPressTimer[28], 9);
+    Ticks(9);
+    EXPECT_EQ(cdu[0].KeyPressTimer[28], 0);
+    plan.hold_cnt = 1;
+    OnCduKeyPress(kCaptain, 25);
+    EXPECT_EQ(cdu[0].fms_page, 39);
+    EXPECT_EQ(cdu[0].ItemCursor, 3);
+    // on LEGS in its hold selection, LEGS goes back to the normal view
+    plan.hold_cnt = 0;
+    OnCduKeyPress(kCaptain, 25);
+    EXPECT_EQ(route_pages.LegsView, 2);
+    OnCduKeyPress(kCaptain, 24);
+    EXPECT_EQ(route_pages.LegsView, 0);
+}
+
+TEST_F(CduKeys, InitRefGoesByThePhaseOfFlight) {
+    const auto page = [] {
+        SelectInitRefPage(kCaptain);
+        return cdu[0].fms_page;
+    };
+    cfg.AccelHt = 1500;
+    sim.radio_alt_ft = 1500;
+    EXPECT_EQ(page(), 26);
+    pos_init.inertial_lat = 47.4;
+    EXPECT_EQ(page(), 3);
+    perf.resv_fuel = 5;
+    perf.cruise_alt = 35000;
+    EXPECT_EQ(page(), 3);  // no runway
+    plan.ends.dep_runway = "16L";
+    EXPECT_EQ(page(), 3);  // no cost index
+    perf.cost_index = 0;
+    EXPECT_EQ(page(), 27);
+    sim.radio_alt_ft = 1501;
+    EXPECT_EQ(page(), 52);
+    vnav.toc = 1;
+    EXPECT_EQ(page(), 12);
+    vnav.toc = 0;
+    vnav.tod = 1;
+    EXPECT_EQ(page(), 12);
+}
+
+TEST_F(CduKeys, ClicksHitWhatTheyShow) {
+    OnCduClick(36, 224, 5);  // the captain's RTE on the lower unit
+    EXPECT_EQ(cdu[0].fms_page, 22);
+    OnCduClick(283 + 36, 224, 5);
+    EXPECT_EQ(cdu[1].fms_page, 22);
+    OnCduClick(10, 42, 2);
+    EXPECT_EQ(cdu[0].PendingLine, 1);
+    OnCduClick(283 + 275, 182 + 18, 1);  // the captain's units have the captain's CDU in both halves
+    EXPECT_EQ(cdu[0].PendingLine, 14);
+    OnCduClick(70, 224, 3);  // between RTE and DEP ARR
+    EXPECT_EQ(cdu[1].fms_page, 22);
+    OnCduClick(100, 210, 4);  // the scratchpad takes the keyboard, and from the other side
+    EXPECT_EQ(cdu[1].PcKeyboardActive, 1);
+    EXPECT_EQ(keyboard.keyboard_capture_r, 1);
+    OnCduClick(100, 210, 1);
+    EXPECT_EQ(cdu[1].PcKeyboardActive, 0);
+    EXPECT_EQ(keyboard.keyboard_capture_r, 0);
+    EXPECT_EQ(keyboard.keyboard_capture_l, 1);
+    OnCduClick(100, 210, 1);
+    EXPECT_EQ(keyboard.keyboard_capture_l, 0);
+    // CLR MSG acts at the end of its press, and only with a message
+    OnCduClick(210, 350, 1);
+    EXPECT_EQ(cdu[0].ClearMessageTimer, 0);
+    PostCduMessage("INVALID ENTRY", kEntryError, 8, kCaptain);
+    OnCduClick(210, 350, 1);
+    Ticks(8);
+    EXPECT_EQ(cdu[0].CduMessageCount, 1);
+    Ticks(1);
+    EXPECT_EQ(cdu[0].CduMessageCount, 0);
+}
+
+TEST_F(CduKeys, TheKeyboardCursorGoesRound) {
+    cdu[0].fms_page = kPageDepArrIndex;
+    plan.ends_mod.origin = "ORIG";
+    plan.ends_mod.dest = "DEST";
+    ToggleKeyboard(kCaptain);
+    EXPECT_EQ(cdu[0].ItemCursor, 1);
+    cdu[0].PendingLine = 5;  // lets the page mark its lines: L1, R1 and R2
+    Ticks(1);
+    struct Row {
+        int command, item;
+    };
+    constexpr Row kRows[] = {{3, 9},  {4, 10}, {1, 1},  {4, 9},  {4, 10}, {4, 17}, {1, 22},
+                             {4, 30}, {1, 29}, {1, 28}, {4, 1},  {2, 28}, {2, 23}, {1, 27},
+                             {2, 21}, {3, 22}, {3, 17}, {4, 23}, {4, 28}, {1, 30}, {4, 10}};
+    for (const Row& row : kRows) {
+        keyboard.keyboard_code = row.command;
+        Ticks(1);
+        EXPECT_EQ(cdu[0].ItemCursor, row.item) << "command " << row.command;
+    }
+    // Enter presses the line under the cursor and goes on to the next
+    cdu[0].ItemCursor = 1;
+    keyboard.keyboard_code = 5;
+    Ticks(1);
+    EXPECT_EQ(cdu[0].fms_page, kPageDepartures);
+    // and the soft key: INIT REF opens PERF INIT directly
+    cdu[0].ItemCursor = 17;
+    keyboard.keyboard_code = 5;
+    Ticks(1);
+    EXPECT_EQ(cdu[0].fms_page, kPagePerfInit);
+    EXPECT_EQ(cdu[0].ItemCursor, 17);
+}
+
+TEST_F(CduKeys, MessagesOfBothSidesGoTogether) {
+    PostCduMessage("INVALID ENTRY", kEntryError, 8, kCaptain);
+    PostCduMessage("DRAG REQUIRED", kAdvisory, 25, kBothSides);
+    PostCduMessage("UNABLE CRZ ALT", kEntryError, 24, kBothSides);
+    EXPECT_EQ(cdu[0].CduMessageCount, 3);
+    EXPECT_EQ(cdu[1].CduMessageCount, 2);
+    ClearCduMessage(kFirstOfficer);
+    EXPECT_EQ(cdu[0].CduMessageCount, 2);
+    EXPECT_EQ(cdu[0].CduMessages[2].title, "DRAG REQUIRED");
+    sim.abs_time = 1234;
+    ClearCduMessage(kCaptain);
+    EXPECT_EQ(cdu[0].CduMessageCount, 1);
+    EXPECT_EQ(cdu[1].CduMessageCount, 0);
+    EXPECT_EQ(vnav.drag_msg_changed_at, 1234);
+    ClearCduMessage(kFirstOfficer);
+    EXPECT_EQ(cdu[0].CduMessageCount, 1);
+    for (const int id : {3, 27, 49, 58, -1}) PostCduMessage("X", kEntryError, id, kCaptain);
+    EXPECT_EQ(cdu[0].CduMessageCount, 1);
+}
+
+}  // namespace
