@@ -1,0 +1,55 @@
+// A route entered in the browser: keys of the CDU by mouse and touch, entries by the keyboard.
+
+import assert from 'node:assert/strict';
+import {test} from 'node:test';
+import {openBrowser, openDeck, startHost, until, untilValue, valueOf} from './support.mjs';
+
+const CANVAS = 'canvas[data-screen="lower"]';
+const KEYS = {RTE: [52, 235], LEGS: [52, 259], CLR_MSG: [222, 352], L1: [60, 51], R1: [220, 51], R6: [220, 191]};
+
+async function openFlying(t, options) {
+  const host = await startHost(t), browser = await openBrowser(t);
+  const page = await openDeck(t, browser, host.address, '', options);
+  await untilValue(page, 'outputs_running', 1);  // the cockpit is looked at from the eighth second on
+  return page;
+}
+
+// Where a place of a unit's frame lies on the page.
+async function placeOn(page, [x, y]) {
+  const box = await page.locator(CANVAS).boundingBox();
+  return [box.x + x * box.width / 564, box.y + y * box.height / 424];
+}
+
+const press = async (page, key) => page.mouse.click(...await placeOn(page, KEYS[key]));
+
+test('mode keys, line keys, entries and messages', async (t) => {
+  const page = await openFlying(t);
+  await press(page, 'RTE');
+  await untilValue(page, 'capt_fms_page', 22);
+  await page.keyboard.type('qqqq');  // the canvas has the focus since it was clicked
+  await untilValue(page, 'capt.ScratchPad', 'QQQQ');
+  await press(page, 'R1');
+  await untilValue(page, 'capt.CduMessageCount', 1);
+  assert.equal(await valueOf(page, 'capt.ScratchPad'), 'QQQQ');
+  await press(page, 'CLR_MSG');
+  await untilValue(page, 'capt.CduMessageCount', 0);
+  for (let left = 3; left >= 0; --left) {
+    await page.keyboard.press('Backspace');
+    await untilValue(page, 'capt.ScratchPad', 'Q'.repeat(left));
+  }
+  await press(page, 'L1');  // the origin of the demonstration flight, copied down
+  await untilValue(page, 'capt.ScratchPad', 'KSEA');
+});
+
+test('by touch', async (t) => {
+  const page = await openFlying(t, {hasTouch: true, viewport: {width: 1280, height: 800}});
+  const tap = async (key) => page.touchscreen.tap(...await placeOn(page, KEYS[key]));
+  await tap('LEGS');
+  await untilValue(page, 'capt_fms_page', 6);
+  const first = await valueOf(page, 'FlightPlan[1].ident');
+  await tap('L1');
+  await until('the leg to be copied down', async () => {
+    const text = await valueOf(page, 'capt.ScratchPad');
+    return text && text !== '' && (text === first || /^[A-Z]+$/.test(text));
+  });
+});
