@@ -15,6 +15,7 @@
 #include "state/nav_tables.h"
 #include "state/plan.h"
 #include "state/procedure_lists.h"
+#include "state/sim.h"
 
 namespace {
 
@@ -365,11 +366,34 @@ void InsertArrival() {
     Finish();
 }
 
+namespace {
+
+// The aircraft was on its way to the destination itself: it goes directly to what now comes first.
+void GoDirectlyToApproach() {
+    int to = PendingActiveLeg();
+    while (to < plan.mod_cnt && !IsPlace(plan.FlightPlanMod[to])) ++to;
+    SetPendingActiveLeg(to);
+    plan.direct_to_pending = 1;
+    const FlightPlanLeg& leg = plan.FlightPlanMod[to];
+    plan.ActiveLegMod = {.from = "DIRECT",
+                         .from_lat = sim.plane_lat,
+                         .from_lon = sim.plane_lon,
+                         .to = leg.ident,
+                         .to_lat = leg.lat,
+                         .to_lon = leg.lon,
+                         .course = 0,
+                         .direct_flag = 1};
+}
+
+}  // namespace
+
 void InsertApproach() {
     EnsureEnds();
+    const bool to_destination = plan.fms_fpln_active >= kRouteActive && PendingActiveLeg() == plan.mod_cnt;
     const int end = RemoveApproach();
     if (procedure_lists.approach_leg_cnt > 0) WriteApproachLegs(end);
     FlightPlanLeg& dest = OpenModLeg(plan.mod_cnt + 1);
     dest = DestinationOnRunway();
+    if (to_destination && procedure_lists.approach_leg_cnt > 0) GoDirectlyToApproach();
     Finish();
 }
