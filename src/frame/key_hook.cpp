@@ -1,6 +1,7 @@
 #include "frame/key_hook.h"
 
 #include "frame/cues.h"
+#include "frame/engine_fuel.h"
 #include "frame/key_events.h"
 #include "frame/named_variables.h"
 #include "frame/tokens.h"
@@ -13,26 +14,18 @@
 
 namespace {
 
-struct EngineFuel {
-    int CockpitState::*control;  // 1 run, 2 cut-off
-    int CockpitState::*start_latch;
-    int starter_token;
-    int starter_toggle;
-};
-constexpr EngineFuel kEngine1 = {&CockpitState::eng1_thrott, &CockpitState::eng1_start_latch,
-                                 kTokenEng1Starter, kKeyEng1StarterToggle};
-constexpr EngineFuel kEngine2 = {&CockpitState::eng2_thrott, &CockpitState::eng2_start_latch,
-                                 kTokenEng2Starter, kKeyEng2StarterToggle};
+constexpr const EngineFuel& kEngine1 = kEngineFuel[0];
+constexpr const EngineFuel& kEngine2 = kEngineFuel[1];
 
 void FollowCutOff(const EngineFuel& engine) {
-    if (cockpit.*engine.control == 1) cockpit.*engine.control = 2;
+    if (cockpit.*engine.control == kFuelRun) cockpit.*engine.control = kFuelCutOff;
     if (ReadToken(engine.starter_token) != 0) SendKeyEvent(engine.starter_toggle, 0);
     RequestCue(kCueKeyClick);
 }
 
 void FollowFuelOn(const EngineFuel& engine) {
-    if (cockpit.*engine.control == 2) {
-        cockpit.*engine.control = 1;
+    if (cockpit.*engine.control == kFuelCutOff) {
+        cockpit.*engine.control = kFuelRun;
         cockpit.*engine.start_latch = 1;
     }
     RequestCue(kCueFuelOn);
@@ -42,7 +35,7 @@ void FollowAutopilotMaster() {
     if (autoflight.ap_master_l == 1 || autoflight.ap_master_r == 1) {
         WriteNamedVar(NamedVar("ap_master_disconnect"), 1);
     } else if (cfg.DiscPFCOnAPDisc == 1) {
-        cfg.PfcSwitch = 7;
+        cfg.PfcSwitch = kPfcNormal;
         cockpit.TZ_OH_PFC_G_Switch = 0;
         WriteNamedVar(NamedVar("TZ_OH_PFC_G_Switch"), 0);
     }

@@ -15,7 +15,6 @@ namespace {
 constexpr int kModeLnav = 6;
 constexpr int kModeVnavSpd = 5, kModeVnavPth = 6;
 constexpr int kModeBoxTicks = 180;
-constexpr int kPfcNormal = 7;
 constexpr double kNoValue = 999;
 // of ap_master_disconnect
 constexpr int kDisconnect = 1, kWarningDisconnect = 2;

@@ -21,7 +21,6 @@
 namespace {
 
 constexpr int kModeLnav = 6;
-constexpr int kPfcDisconnected = 4;
 
 struct Button {
     std::string_view name;

@@ -8,6 +8,9 @@
 
 #include "state/variable.h"
 
+// Positions of PfcSwitch.
+constexpr int kPfcDisconnected = 4, kPfcNormal = 7;
+
 /// The settings of tz900.cfg, each under its key. Read once at start by ReadConfig, changed by the
 /// configuration pages, written back by WriteConfig. Flags are 0 or 1.
 struct ConfigState {

@@ -9,8 +9,6 @@
 
 namespace {
 
-constexpr int kPfcDisconnected = 4;
-
 bool HasPower() {
     return electrical.power_level >= 5;
 }

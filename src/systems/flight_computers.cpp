@@ -4,7 +4,5 @@
 #include "state/cockpit.h"
 
 void FollowPfcSwitch(int) {
-    constexpr int kDisconnected = 4, kNormal = 7;
-    cfg.pfc_switch_off = cockpit.TZ_OH_PFC_G_Switch == 0 ? 0 : 1;
-    cfg.PfcSwitch = cfg.pfc_switch_off == 1 ? kDisconnected : kNormal;
+    cfg.PfcSwitch = cockpit.TZ_OH_PFC_G_Switch == 0 ? kPfcNormal : kPfcDisconnected;
 }
