@@ -1,6 +1,7 @@
 #include "host/flightdeck/commands.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
 #include <initializer_list>
 
@@ -47,6 +48,21 @@ void SetVariable(Session& session, const std::string& name, double value) {
     SetNamedValue(name, value);
 }
 
+void MoveLever(Session& session, const std::string& name, double value) {
+    struct Lever {
+        std::string_view name;
+        int token;
+        double full;
+    };
+    constexpr Lever kLevers[] = {{"flaps", 328, 16384}, {"gear", 331, 1}};
+    for (const Lever& lever : kLevers) {
+        if (lever.name != name) continue;
+        const double raw = std::round(std::clamp(value, 0.0, 1.0) * lever.full);
+        Record(session.recorder, {"token", std::to_string(lever.token), NumberText(raw)});
+        SetToken(lever.token, raw);
+    }
+}
+
 // "TZ_FMC_L" of "TZ_FMC_L_A_Button".
 std::string PanelOf(const std::string& name) {
     std::size_t end = 0;
@@ -78,6 +94,9 @@ void ApplyDeckCommand(Session& session, const DeckCommand& command) {
             break;
         case DeckCommand::kKeyEvent:
             SendKey(session, static_cast<int>(command.value), static_cast<int>(command.x));
+            break;
+        case DeckCommand::kLever:
+            MoveLever(session, command.name, command.value);
             break;
         case DeckCommand::kPause:
             SetPause(session, command.value != 0);

@@ -23,6 +23,7 @@ struct DeckCommand {
         kMouse,          // name (a screen), x, y in its logical frame, right
         kMouseArea,      // name (a gauge), text (the area's name), right
         kKeyEvent,       // value (the event), x (its value)
+        kLever,          // name "flaps" or "gear", value 0 up to 1 down: the pilot's own hardware
         kPause,          // value 0 or 1
         kRate,           // value: times real time, 0 to 64
     };

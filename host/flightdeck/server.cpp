@@ -285,6 +285,11 @@ class Browser : public std::enable_shared_from_this<Browser> {
             return number("event", command.value) && number("value", command.x) ? ""
                                                                                 : "event: event and value";
         }
+        if (type == "lever") {
+            command.kind = DeckCommand::kLever;
+            return text("name", command.name) && number("value", command.value) ? ""
+                                                                                : "lever: name and value";
+        }
         if (type == "pause" || type == "rate") {
             command.kind = type == "pause" ? DeckCommand::kPause : DeckCommand::kRate;
             return number("value", command.value) ? "" : type + ": value";

@@ -122,6 +122,7 @@ const REFUSED = [
   ['{"type": "area", "gauge": "MCP"}', 'area'],
   ['{"type": "event", "event": "pause", "value": 0}', 'event'],
   ['{"type": "rate", "value": "fast"}', 'rate'],
+  ['{"type": "lever", "name": "flaps"}', 'lever'],
   ['{"type": "screens", "names": ["door_camera"]}', 'no such screen'],
   ['{"type": "screens", "names": "lower"}', 'names'],
   ['{"type": "watch", "names": [5]}', 'names'],

@@ -99,7 +99,7 @@ export class Panels {
   /** The element of a panel's entry. */
   make(entry) {
     const makers = {button: this.button, switch: this.selector, key: this.key, handle: this.handle,
-                    area: this.area, event: this.event};
+                    area: this.area, event: this.event, lever: this.lever};
     const made = makers[entry.look].call(this, entry);
     if (entry.name) {
       made.dataset.name = entry.name;
@@ -222,6 +222,32 @@ export class Panels {
     });
     bindPress(face, () =>
       this.link.send({type: 'event', event: entry.events[this.link.number(entry.value) !== 0 ? 0 : 1], value: 0}));
+    return made;
+  }
+
+  // The pilot's own lever: a click moves it by one stop.
+  lever(entry) {
+    const face = element('button', 'dial'), pointer = element('span', 'pointer'), text = element('span', 'position');
+    face.append(pointer);
+    const made = this.frame('selector', entry, face), last = entry.stops.length - 1;
+    made.append(text);
+    made.dataset.lever = entry.lever;
+    const stop = () => {
+      const at = this.link.number(entry.value) / entry.full;
+      return entry.stops.reduce((best, [, value], i) =>
+        Math.abs(value - at) < Math.abs(entry.stops[best][1] - at) ? i : best, 0);
+    };
+    this.link.watch(entry.value, () => queueMicrotask(() => {
+      pointer.style.transform = `rotate(${(stop() / last - 0.5) * Math.min(270, 60 * last)}deg)`;
+      text.textContent = entry.stops[stop()][0];
+    }));
+    const move = (up) => this.link.send({type: 'lever', name: entry.lever,
+                                         value: entry.stops[Math.max(0, Math.min(last, stop() + (up ? 1 : -1)))][1]});
+    bindPress(face, (up) => move(last === 1 ? stop() === 0 : up), {halves: true});
+    face.addEventListener('wheel', (event) => {
+      event.preventDefault();
+      move(event.deltaY < 0);
+    }, {passive: false});
     return made;
   }
 

@@ -5,7 +5,9 @@
 //   switch  a selector with `positions` named from its lower end
 //   key     springs back
 //   handle  a fire handle
-//   lamp    only lights
+//   area    a button worked through a mouse area of its gauge
+//   event   what the pilot's own hardware does by key events, [off, on]
+//   lever   the pilot's own lever, with its stops
 // `guard` names the variable of the cover over it, `min` and `max` the ends of what the module doesn't poll. A lamp is [variable, text, colour].
 
 const OH = 'TZ_OH_', LAMP = 'TZ_OH_Annun_';
@@ -285,7 +287,6 @@ export const efbKeys = {
 export const efbLabels = {ZOOMIN: 'Z+', ZOOMOUT: 'Z-', LFT: '<', RGT: '>', UP: '^', DN: 'v', PGUP: 'PG UP',
                           PGDN: 'PG DN', REDIRECT: 'RDR'};
 
-// What the pilot's own hardware does is a key event: [off, on].
 export const pedestal = [
   {title: 'Main panel', controls: [
     {...knob('TZ_MAIN_PFD_MFD_L_Switch', 'PFD / MFD', ['OUTBD', 'NORM', 'INBD']), min: -1, max: 1},
@@ -309,6 +310,9 @@ export const pedestal = [
   {title: 'Throttle quadrant', controls: [
     {look: 'event', label: 'Fuel Ctrl L', value: 'token:560', texts: ['CUTOFF', 'RUN'], events: [0x101c3, 0x101bf]},
     {look: 'event', label: 'Fuel Ctrl R', value: 'token:570', texts: ['CUTOFF', 'RUN'], events: [0x101c8, 0x101c4]},
+    {look: 'lever', label: 'Flaps', lever: 'flaps', value: 'token:328', full: 16384,
+     stops: [0, 1, 5, 10, 15, 17, 18, 20, 25, 30].map((degrees) => [degrees === 0 ? 'UP' : String(degrees), degrees / 30])},
+    {look: 'lever', label: 'Gear', lever: 'gear', value: 'token:331', full: 1, stops: [['UP', 0], ['DOWN', 1]]},
     {look: 'event', label: 'Park Brake', value: 'token:323', texts: ['OFF', 'SET'], events: [0x100d8, 0x100d8]},
     knob('TZ_THQ_Altn_flpas_Switch', 'Altn Flaps', ['RET', 'OFF', 'EXT']),
     knob('TZ_THQ_Stab_Norm_L2', 'Stab L2', ['NORM', 'CUTOUT']),

@@ -70,4 +70,17 @@ TEST_F(Presses, ACommandForANameThatNobodyKnowsMakesNone) {
     EXPECT_EQ(host::NamedValue("TZ_FMC_L_A_Button"), 1);
 }
 
+TEST_F(Presses, LeversStayBetweenTheirStops) {
+    host::Session session;
+    const auto flaps = [&](double value) {
+        ApplyDeckCommand(session, {.kind = host::DeckCommand::kLever, .name = "flaps", .value = value});
+        return host::TokenOf(328);
+    };
+    EXPECT_EQ(flaps(0.5), 8192);
+    EXPECT_EQ(flaps(7), 16384);
+    EXPECT_EQ(flaps(-7), 0);
+    ApplyDeckCommand(session, {.kind = host::DeckCommand::kLever, .name = "gear", .value = 1});
+    EXPECT_EQ(host::TokenOf(331), 1);
+}
+
 }  // namespace
