@@ -53,6 +53,10 @@ struct Viewer {
     std::thread thread;
 };
 
+constexpr const char* kKeys[] = {"TZ_FMC_L_B_Button",     "TZ_FMC_R_NXTPG_Button", "TZ_MCP_L_CDU_Button",
+                                 "TZ_MCP_L_EICAS_Button", "TZ_FMC_L_CLR_Button",   "TZ_MCP_R_SYS_Button",
+                                 "TZ_FMC_R_EXEC_Button",  "TZ_MCP_L_INFO_Button",  "TZ_MCP_L_ND_Button"};
+
 void Fly(Session& session, Clock::time_point until) {
     for (int tick = 0; Clock::now() < until; ++tick) {
         TickSession(session, tick % 7 == 0);
@@ -61,6 +65,7 @@ void Fly(Session& session, Clock::time_point until) {
             session.linkage->inspection->write_variable(
                 "du_lower_mode", std::to_string(3 + tick / 5 % 63).c_str(),
                 [](void*, const char*, const char*) {}, nullptr);
+        if (tick % 8 == 0) SetNamedValue(kKeys[static_cast<std::size_t>(tick / 8) % std::size(kKeys)], 1);
         if (tick % 40 == 0) world.windows[kMainPanelWindow] = !world.windows[kMainPanelWindow];
         if (tick % 60 == 30) CallGauges(session, kServicePostInstall);
         std::this_thread::sleep_for(std::chrono::milliseconds(1));
