@@ -34,10 +34,11 @@ constexpr TokenEffect kTokenEffects[] = {
     {0x101f5, Effect::kStore, 116, 0, 0, 500},      {0x101f8, Effect::kSet, 75, 1013.25, 0, 0},
     {0x101fa, Effect::kStore, 107, 0, 0, 360},      {0x102c0, Effect::kStore, 369, 0, 0, 1},
     {0x10218, Effect::kToggle, 13, 1, 0, 0},        {0x10220, Effect::kSet, 331, 1, 0, 0},
-    {0x102bf, Effect::kToggle, 368, 1, 0, 0},       {0x102c1, Effect::kToggle, 364, 1, 0, 0},
-    {0x102f0, Effect::kToggle, 792, 1, 0, 0},       {0x102fc, Effect::kToggle, 563, 1, 0, 0},
-    {0x102fd, Effect::kToggle, 573, 1, 0, 0},       {0x10348, Effect::kStore, 620, 0, 0, 1},
-    {0x1034a, Effect::kStore, 621, 0, 0, 1},        {0x1034b, Effect::kStore, 619, 0, 0, 1},
+    {0x10022, Effect::kToggle, 331, 1, 0, 0},       {0x102bf, Effect::kToggle, 368, 1, 0, 0},
+    {0x102c1, Effect::kToggle, 364, 1, 0, 0},       {0x102f0, Effect::kToggle, 792, 1, 0, 0},
+    {0x102fc, Effect::kToggle, 563, 1, 0, 0},       {0x102fd, Effect::kToggle, 573, 1, 0, 0},
+    {0x10348, Effect::kStore, 620, 0, 0, 1},        {0x1034a, Effect::kStore, 621, 0, 0, 1},
+    {0x1034b, Effect::kStore, 619, 0, 0, 1},
 };
 
 // An effect changes a value set by hand too: the simulator's own controls act on it as on any other.

@@ -74,5 +74,30 @@ TEST(ScenarioHelp, WrongCommandsSayWhatWouldBeRight) {
     }
 }
 
+TEST(ScenarioHelp, WrongPressesSayWhatWouldBeRight) {
+    const struct {
+        const char *line, *told;
+    } kCases[] = {
+        {"click NOPE 1 1", "is no gauge that takes a mouse; DU_CAPT_OUTB_2D"},
+        {"click MCP 1 1 middle", "left or right"},
+        {"click MCP one 1", "a place across"},
+        {"press MCP nope", "has no area \"nope\"; lnav, vnav"},
+        {"efb L 340 1", "outside the canvas"},
+        {"mcp spd push", "only the alt knob"},
+    };
+    for (const auto& row : kCases) {
+        world = World{};
+        std::ostringstream out, errors;
+        Scenario scenario{{}, out};
+        scenario.session.settings.module_file = BinaryDir() + "/tz900.gau";
+        scenario.session.settings.demo_root = SourceDir() + "/data/root";
+        std::istringstream lines(std::string("start\nclick MCP 5000 5000\n") + row.line + '\n');
+        EXPECT_EQ(RunScenario(scenario, lines, "case.scn", errors), 2) << row.line;
+        StopSession(scenario.session);
+        EXPECT_TRUE(errors.str().starts_with("case.scn:3: ")) << errors.str();
+        EXPECT_NE(errors.str().find(row.told), std::string::npos) << row.line << ": " << errors.str();
+    }
+}
+
 }  // namespace
 }  // namespace host
