@@ -23,7 +23,8 @@ void FollowRangeKnob(int side) {
 }
 
 void StepRange(int side, int steps) {
-    NdOf(side).rng_knob += steps;
+    FollowRangeKnob(side);
+    NdOf(side).rng_knob += std::clamp(steps, -kLastRange, kLastRange);
     FollowRangeKnob(side);
 }
 

@@ -105,7 +105,8 @@ constexpr auto kWindowToggles = LayOut({
 void TurnAutobrake(uint32_t flags) {
     const Control& selector = *FindControl(NamedVar("auto_brake_switch"));
     const int step = flags == kMouseRightSingle ? 1 : -1;
-    cockpit.autobrake_switch = std::clamp(cockpit.autobrake_switch + step, selector.min, selector.max);
+    const int now = std::clamp(cockpit.autobrake_switch, selector.min, selector.max);
+    cockpit.autobrake_switch = std::clamp(now + step, selector.min, selector.max);
     WriteNamedVar(NamedVar("auto_brake_switch"), cockpit.autobrake_switch);
 }
 constexpr auto kGearAutobrake = LayOut({

@@ -1,5 +1,6 @@
 #include "module/service_cycle.h"
 
+#include <algorithm>
 #include <cstring>
 
 #include "cdu/cdu_service.h"
@@ -78,6 +79,7 @@ void RunUpdateCycle(bool virtual_cockpit) {
     if (since_start > kOutputsSeconds) module_life.outputs_running = 1;
     if (virtual_cockpit && main_panel_visible) return;
     if (module_life.outputs_running == 1) {
+        time_base.tick_phase = std::clamp(time_base.tick_phase, 0, 17);  // tables are indexed by it
         time_base.frame_phase = time_base.frame_phase >= 17 ? 0 : time_base.frame_phase + 1;
         PollControls();
         for (const int side : {kCaptain, kFirstOfficer}) StepCdu(side, IsCduShown(side));

@@ -38,8 +38,8 @@ void PressClock(int) {
 }
 
 void TurnMinimums(int step) {
-    instruments.minimums_value =
-        std::clamp(instruments.minimums_value + step * kMinimumsStep, 0, kMostMinimums);
+    int& value = instruments.minimums_value;
+    value = std::clamp(std::clamp(value, 0, kMostMinimums) + step * kMinimumsStep, 0, kMostMinimums);
 }
 
 constexpr Control kAlways[] = {

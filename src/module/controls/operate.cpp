@@ -35,8 +35,13 @@ void MoveTo(const Control& control, int position) {
     ShowShadow(&shadow);
 }
 
+// A position that has been set from outside may be any number.
+int WithinEnds(const Control& control, int position) {
+    return std::clamp(position, control.min, control.max);
+}
+
 void Step(const Control& control, int step) {
-    MoveTo(control, std::clamp(*control.shadow + step, control.min, control.max));
+    MoveTo(control, std::clamp(WithinEnds(control, *control.shadow) + step, control.min, control.max));
 }
 
 void Toggle(const Control& control) {
@@ -88,7 +93,7 @@ void ClickControl(const Control& control, std::uint32_t mouse_flag) {
             break;
         case ControlClass::kRotary: {
             const int step = right ? 1 : -1;
-            Turn(control, Wrapped(control, *control.shadow + step), step);
+            Turn(control, Wrapped(control, WithinEnds(control, *control.shadow) + step), step);
             break;
         }
         case ControlClass::kOneWay:
