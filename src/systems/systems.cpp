@@ -1,6 +1,7 @@
 #include "systems/systems.h"
 
 #include "frame/aircraft.h"
+#include "systems/air_lamps.h"
 #include "systems/apu.h"
 #include "systems/battery.h"
 #include "systems/electrical.h"
@@ -19,6 +20,7 @@ void SystemsSecond(int group) {
             StepElectricalPower();
             PublishApu();
             ShowElectricalLamps();
+            ShowAirLamps();
             break;
         case 2:
             StartApuInFlight();

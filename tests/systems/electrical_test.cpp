@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "frame/tokens.h"
+#include "lamp_cases.h"
 #include "module/controls/control_table.h"
 #include "state/cfg.h"
 #include "state/cockpit.h"
@@ -182,12 +183,7 @@ TEST(Electrical, ShedsLoads) {
 }
 
 TEST(Electrical, LightsItsLamps) {
-    struct Case {
-        const char* lamp;
-        const char* set;
-        int lit;
-    };
-    constexpr Case kCases[] = {
+    constexpr LampCase kCases[] = {
         {"OFF_BATT", "battery_button 0, power_level 6", 1},
         {"OFF_BATT", "battery_button 0, power_level 5", 0},
         {"OFF_BATT", "battery_button 1", 0},
@@ -230,21 +226,10 @@ TEST(Electrical, LightsItsLamps) {
         {"BAT_IRS", "irs_left 1, power_level 15", 0},
         {"BAT_IRS", "power_level 5", 0},
     };
-    for (const Case& row : kCases) {
-        FakeHost host;
-        double& lamp = host.NamedVar(std::string("TZ_OH_Annun_") + row.lamp);
-        SetVariables(
-            "power_level 100, battery_button 1, apu_gen_button 1, gen_l1_pwr 1, gen_l2_pwr 1, gen_r1_pwr 1, "
-            "gen_r2_pwr 1, n2_l 60, n2_r 60, ife_bus_on 1, cab_bus_on 1, PfcSwitch 7");
-        ShowElectricalLamps();
-        EXPECT_EQ(lamp, 0) << row.lamp;
-        SetVariables(row.set);
-        ShowElectricalLamps();
-        EXPECT_EQ(lamp, row.lit) << row.lamp << ": " << row.set;
-        const int writes = host.calls["set_named_var"];
-        ShowElectricalLamps();
-        EXPECT_EQ(host.calls["set_named_var"], writes) << "written on a change only";
-    }
+    CheckLamps(
+        "power_level 100, battery_button 1, apu_gen_button 1, gen_l1_pwr 1, gen_l2_pwr 1, gen_r1_pwr 1, "
+        "gen_r2_pwr 1, n2_l 60, n2_r 60, ife_bus_on 1, cab_bus_on 1, PfcSwitch 7",
+        kCases, ShowElectricalLamps);
 }
 
 TEST(Electrical, CabinBusesNeedPowerToComeOn) {

@@ -1,0 +1,48 @@
+#include "systems/air_lamps.h"
+
+#include "frame/lamps.h"
+#include "state/cockpit.h"
+#include "state/electrical.h"
+
+namespace {
+
+bool PackIsOff(int button) {
+    const int shed = electrical.load_shed_level;
+    return electrical.ac_bus_powered == 1 && (button == 0 || shed == 1 || shed == 2);
+}
+
+bool TrimAirIsOff(int button) {
+    return electrical.ac_bus_powered == 1 && button == 0;
+}
+
+bool IsManual(int button) {
+    return electrical.power_level >= 5 && button == 0;
+}
+
+bool HeatIsInoperative(int button) {
+    return button == 0 || electrical.ac_bus_powered == 0 || electrical.load_shed_level == 1;
+}
+
+constexpr Lamp kLamps[] = {
+    {NamedVar("TZ_OH_Annun_LPAC_OFF"), [] { return PackIsOff(cockpit.pack_l_button); }},
+    {NamedVar("TZ_OH_Annun_RPAC_OFF"), [] { return PackIsOff(cockpit.pack_r_button); }},
+    {NamedVar("TZ_OH_Annun_TAL_FAULT"), [] { return TrimAirIsOff(cockpit.trim_air_l_button); }},
+    {NamedVar("TZ_OH_Annun_TAR_FAULT"), [] { return TrimAirIsOff(cockpit.trim_air_r_button); }},
+    {NamedVar("TZ_OH_Annun_ACVENT_ALTN"), [] { return IsManual(cockpit.ventilation_button); }},
+    {NamedVar("TZ_OH_Annun_OVFWD_MAN"), [] { return IsManual(cockpit.fwd_outflow_valve_button); }},
+    {NamedVar("TZ_OH_Annun_OVAFT_MAN"), [] { return IsManual(cockpit.aft_outflow_valve_button); }},
+    {NamedVar("TZ_OH_Annun_PLS_INOP"),
+     [] { return HeatIsInoperative(cockpit.window_heat_primary_l_side_button); }},
+    {NamedVar("TZ_OH_Annun_PLF_INOP"),
+     [] { return HeatIsInoperative(cockpit.window_heat_primary_l_fwd_button); }},
+    {NamedVar("TZ_OH_Annun_PRF_INOP"),
+     [] { return HeatIsInoperative(cockpit.window_heat_primary_r_fwd_button); }},
+    {NamedVar("TZ_OH_Annun_PRS_INOP"),
+     [] { return HeatIsInoperative(cockpit.window_heat_primary_r_side_button); }},
+};
+
+}  // namespace
+
+void ShowAirLamps() {
+    ShowLamps(kLamps);
+}
