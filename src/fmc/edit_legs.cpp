@@ -43,21 +43,24 @@ RowLegs FindBlock(int leg) {
 
 void StartDirectTo(int to) {
     RemoveModLegs(1, to - 1);
-    SetPendingActiveLeg(1);
-    plan.direct_to_pending = 1;
-    const FlightPlanLeg& target = plan.FlightPlanMod[1];
-    ActiveLegRecord& leg = plan.ActiveLegMod;
-    leg = {.from = "DIRECT",
-           .from_lat = sim.plane_lat,
-           .from_lon = sim.plane_lon,
-           .to = target.ident,
-           .to_lat = target.lat,
-           .to_lon = target.lon,
-           .course = 0,
-           .direct_flag = 1};
+    GoDirectTo(1);
 }
 
 }  // namespace
+
+void GoDirectTo(int leg) {
+    SetPendingActiveLeg(leg);
+    plan.direct_to_pending = 1;
+    const FlightPlanLeg& target = plan.FlightPlanMod[leg];
+    plan.ActiveLegMod = {.from = "DIRECT",
+                         .from_lat = sim.plane_lat,
+                         .from_lon = sim.plane_lon,
+                         .to = target.ident,
+                         .to_lat = target.lat,
+                         .to_lon = target.lon,
+                         .course = 0,
+                         .direct_flag = 1};
+}
 
 void ConnectLegs(int from, int to, int) {
     if (from < 0 || to < from || to > plan.mod_cnt) return;

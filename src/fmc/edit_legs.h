@@ -7,6 +7,9 @@
 /// where the aircraft then is. Opens a modification. Positions out of order change nothing.
 void ConnectLegs(int from, int to, int side);
 
+/// Makes a leg of FlightPlanMod the one that EXEC starts a course to, from where the aircraft then is.
+void GoDirectTo(int leg);
+
 /// Takes a leg out: a "DISCO" takes its place, unless one stands beside it; with `reconnect` its neighbours
 /// are joined instead. Its hold goes first. The origin and the last leg stay.
 void DeleteLegWithDiscontinuity(int leg, bool reconnect, int side);

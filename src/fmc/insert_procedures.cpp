@@ -4,8 +4,10 @@
 #include <string>
 #include <utility>
 
+#include "fmc/edit_legs.h"
 #include "fmc/holds.h"
 #include "fmc/leg_list.h"
+#include "fmc/leg_type.h"
 #include "fmc/route.h"
 #include "fmc/route_rows.h"
 #include "navdata/geodesy.h"
@@ -15,7 +17,6 @@
 #include "state/nav_tables.h"
 #include "state/plan.h"
 #include "state/procedure_lists.h"
-#include "state/sim.h"
 
 namespace {
 
@@ -33,18 +34,6 @@ bool IsCoded(const ProcedureLeg& leg) {
 }
 
 // --- a leg of a procedure as a leg of the route
-
-// Navaids are told from fixes by the database; the procedure files don't.
-void LookUpType(FlightPlanLeg& leg) {
-    leg.type = "INT";
-    VisitIdent(nav_tables.nav_index, leg.ident, [&leg](int number) {
-        const NavaidRow& row = nav_tables.NavaidTable[number];
-        if (row.ident != leg.ident || !IsNear(row.lat, row.lon, leg.lat, leg.lon)) return true;
-        leg.type = row.type == "V" ? "VOR" : "NDB";
-        leg.freq = row.freq;
-        return false;
-    });
-}
 
 bool TakeWindow(std::string_view token, Kind kind, FlightPlanLeg& leg) {
     if (token.size() != kWindowLength || token.back() != 'B') return false;
@@ -91,7 +80,7 @@ FlightPlanLeg LegOf(const ProcedureLeg& from) {
         leg.vector_lon = from.start_lon;
         leg.type = "WPT";
     } else {
-        LookUpType(leg);
+        LookUpLegType(leg);
     }
     return leg;
 }
@@ -372,17 +361,7 @@ namespace {
 void GoDirectlyToApproach() {
     int to = PendingActiveLeg();
     while (to < plan.mod_cnt && !IsPlace(plan.FlightPlanMod[to])) ++to;
-    SetPendingActiveLeg(to);
-    plan.direct_to_pending = 1;
-    const FlightPlanLeg& leg = plan.FlightPlanMod[to];
-    plan.ActiveLegMod = {.from = "DIRECT",
-                         .from_lat = sim.plane_lat,
-                         .from_lon = sim.plane_lon,
-                         .to = leg.ident,
-                         .to_lat = leg.lat,
-                         .to_lon = leg.lon,
-                         .course = 0,
-                         .direct_flag = 1};
+    GoDirectTo(to);
 }
 
 }  // namespace

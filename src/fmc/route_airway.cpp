@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "fmc/leg_list.h"
+#include "fmc/leg_type.h"
 #include "fmc/route_rows.h"
 #include "navdata/airways.h"
 #include "navdata/geodesy.h"
@@ -17,18 +18,6 @@ constexpr double kSamePlace = 1;  // nm; the files of one cycle round their posi
 
 bool IsNear(double lat1, double lon1, double lat2, double lon2) {
     return GreatCircle(lat1, lon1, lat2, lon2).dist < kSamePlace;
-}
-
-// The files name the fixes of an airway without telling navaids from the rest.
-void LookUpType(FlightPlanLeg& leg) {
-    leg.type = "INT";
-    VisitIdent(nav_tables.nav_index, leg.ident, [&leg](int number) {
-        const NavaidRow& row = nav_tables.NavaidTable[number];
-        if (row.ident != leg.ident || !IsNear(row.lat, row.lon, leg.lat, leg.lon)) return true;
-        leg.type = row.type == "V" ? "VOR" : "NDB";
-        leg.freq = row.freq;
-        return false;
-    });
 }
 
 bool CandidatesHold(std::string_view ident) {
@@ -81,7 +70,7 @@ void LoadAirwayTowards(std::string_view name, int fix, std::string_view end) {
         leg.via = name;
         leg.via_type = "AWY";
         leg.mod_flag = 1;
-        LookUpType(leg);
+        LookUpLegType(leg);
     }
 }
 

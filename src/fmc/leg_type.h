@@ -1,0 +1,7 @@
+#pragma once
+
+#include "state/plan.h"
+
+/// Gives a leg its `type` and `freq` by ident and position: "VOR" or "NDB" for a navaid of the database
+/// within a mile, else "INT". Airways and procedures name their fixes without telling which they are.
+void LookUpLegType(FlightPlanLeg& leg);
