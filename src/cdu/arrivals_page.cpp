@@ -12,48 +12,48 @@
 
 namespace {
 
-const AirportData& ShownAirport() {
-    return route_pages.arrivals_of_origin == 1 ? airports.origin_airport : airports.dest_airport;
+const AirportData& ShownAirport(const PageCall& call) {
+    return call.unit.arrivals_of_origin == 1 ? airports.origin_airport : airports.dest_airport;
 }
 
-bool OfDestination() {
-    return route_pages.arrivals_of_origin == 0;
+bool OfDestination(const PageCall& call) {
+    return call.unit.arrivals_of_origin == 0;
 }
 
-bool StarIsChosen() {
-    return OfDestination() && plan.procedures.arr_star != kNotSelected;
+bool StarIsChosen(const PageCall& call) {
+    return OfDestination(call) && plan.procedures.arr_star != kNotSelected;
 }
 
-bool ApproachIsChosen() {
-    return OfDestination() && plan.procedures.arr_appr != kNotSelected;
+bool ApproachIsChosen(const PageCall& call) {
+    return OfDestination(call) && plan.procedures.arr_appr != kNotSelected;
 }
 
 std::string NameOf(const ApproachChoice& choice) {
     return choice.kind + choice.runway;
 }
 
-ProcedureColumn StarColumn() {
+ProcedureColumn StarColumn(const PageCall& call) {
     ProcedureColumn column;
-    if (!StarIsChosen()) {
-        AddItems(column, StarNames(ShownAirport()), "STARS", "- NONE -", "");
+    if (!StarIsChosen(call)) {
+        AddItems(column, StarNames(ShownAirport(call)), "STARS", "- NONE -", "");
         return column;
     }
     column.push_back({Format("%-6s", plan.procedures.arr_star.c_str()), "STARS", true, true});
-    AddItems(column, ArrivalTransitions(ShownAirport()), "TRANS", "-NONE-", plan.procedures.arr_trans);
+    AddItems(column, ArrivalTransitions(ShownAirport(call)), "TRANS", "-NONE-", plan.procedures.arr_trans);
     return column;
 }
 
-std::vector<std::string> ApproachNames() {
+std::vector<std::string> ApproachNames(const AirportData& airport) {
     std::vector<std::string> names;
-    for (const ApproachChoice& choice : ApproachChoices(ShownAirport()))
+    for (const ApproachChoice& choice : ApproachChoices(airport))
         names.push_back(Format("%5s", NameOf(choice).c_str()));
     return names;
 }
 
-ProcedureColumn ApproachColumn() {
+ProcedureColumn ApproachColumn(const PageCall& call) {
     ProcedureColumn column;
     const ProcedureSelections& chosen = plan.procedures;
-    if (ApproachIsChosen()) {
+    if (ApproachIsChosen(call)) {
         const std::string runway = chosen.arr_appr_rwy == kNotSelected ? std::string() : chosen.arr_appr_rwy;
         column.push_back({chosen.arr_appr + runway, "APPROACHES", true, true});
         std::vector<std::string> transitions;
@@ -62,8 +62,8 @@ ProcedureColumn ApproachColumn() {
         AddItems(column, transitions, "TRANS", "-NONE-", chosen.arr_appr_trans);
         return column;
     }
-    AddItems(column, ApproachNames(), "APPROACHES", "-NONE-", "");
-    AddItems(column, ArrivalRunways(ShownAirport()), "RUNWAYS", "-NONE -", chosen.arr_appr_rwy);
+    AddItems(column, ApproachNames(ShownAirport(call)), "APPROACHES", "-NONE-", "");
+    AddItems(column, ArrivalRunways(ShownAirport(call)), "RUNWAYS", "-NONE -", chosen.arr_appr_rwy);
     return column;
 }
 
@@ -82,16 +82,17 @@ int PlaceOfChosenApproach() {
 }
 
 // A selection on the origin's arrivals is a return: the origin becomes the destination.
-bool TakeOriginAsDestination() {
-    if (OfDestination()) return true;
+bool TakeOriginAsDestination(PageCall& call) {
+    if (OfDestination(call)) return true;
     if (EnterDestination(airports.origin_airport.ident) == 0) return false;
-    route_pages.arrivals_of_origin = 0;
+    call.unit.arrivals_of_origin = 0;
     return true;
 }
 
 void OnStarItem(PageCall& call, int item) {
-    const bool chosen = StarIsChosen();
-    if (!TakeOriginAsDestination()) return;
+    const bool chosen = StarIsChosen(call);
+    if (!TakeOriginAsDestination(call)) return;
+    ClearEntry(call);
     if (!chosen)
         SelectArrival(call.side, item, false);
     else if (item == 1)
@@ -101,8 +102,9 @@ void OnStarItem(PageCall& call, int item) {
 }
 
 void OnApproachItem(PageCall& call, int item) {
-    const bool chosen = ApproachIsChosen();
-    if (!TakeOriginAsDestination()) return;
+    const bool chosen = ApproachIsChosen(call);
+    if (!TakeOriginAsDestination(call)) return;
+    ClearEntry(call);
     const int approaches = static_cast<int>(ApproachChoices(airports.dest_airport).size());
     const int approach_rows = std::max(1, approaches);
     if (!chosen) {
@@ -133,15 +135,15 @@ void OnLine(PageCall& call, const ProcedureColumn& left, const ProcedureColumn& 
 
 void ArrivalsPage(PageCall& call) {
     int& page = call.unit.arr_index;
-    ProcedureColumn left = StarColumn(), right = ApproachColumn();
+    ProcedureColumn left = StarColumn(call), right = ApproachColumn(call);
     TurnPages(call, page, ProcedurePageCount(left, right));
     if (call.line > 0) {
         OnLine(call, left, right, page);
-        left = StarColumn();
-        right = ApproachColumn();
+        left = StarColumn(call);
+        right = ApproachColumn(call);
         page = std::min(page, ProcedurePageCount(left, right));
     }
-    Title(call, 80, Format("   %s ARRIVALS", ShownAirport().ident.c_str()));
+    Title(call, 80, Format("   %s ARRIVALS", ShownAirport(call).ident.c_str()));
     PageCounter(call, page, ProcedurePageCount(left, right));
     DrawProcedureColumns(call, left, right, page);
 }

@@ -52,7 +52,7 @@ void DrawLineKey(Graphics& graphics, const CduState& unit, int line) {
     const double middle = y + kLineKeyHeight / 2.0;
     if (IsPressed(unit, line)) FilledBox(graphics, x, y, kLineKeyWidth, kLineKeyHeight, kPressed);
     BoxOutline(graphics, x, y, kLineKeyWidth, kLineKeyHeight, bright ? kWhite : kDark);
-    Line(graphics, left ? 26 : 254, middle, left ? 30 : 258, middle, bright ? kCyan : kDark);
+    Line(graphics, left ? 26 : 254, middle, left ? 30 : 258, middle, bright ? kMapGreen : kCyan);
 }
 
 void DrawSoftKey(Graphics& graphics, const CduState& unit, const SoftKey& key) {
@@ -92,10 +92,10 @@ void DrawMessageWindow(Graphics& graphics, const CduState& unit) {
     const Rgb body = message.kind == kRedAdvisory     ? kMessageRed
                      : message.kind == kAmberAdvisory ? kAmber
                                                       : kWhite;
-    Text(graphics, 37, 342, kLabelSize, body, message.body);
+    Text(graphics, 37, 342, FittingSize(message.body, 155, 63), body, message.body);
     FilledBox(graphics, 204, 341, 37, 23, unit.ClearMessageTimer > 0 ? kPressed : kDark);
     BoxOutline(graphics, 204, 341, 37, 23, kGreyBorder);
-    Text(graphics, 205, 345, kLabelSize - 1, kWhite, "CLR\nMSG");
+    Text(graphics, 205, 345, kLabelSize - 2, kWhite, "CLR\nMSG");
     Text(graphics, 197, 368, kLabelSize - 1, kBlack, "TOTAL");
     Text(graphics, 214, 379, kLabelSize, kBlack, Format("%d", unit.CduMessageCount));
     Text(graphics, 195, 391, kLabelSize - 1, kBlack, "MESSAGES");
@@ -110,14 +110,14 @@ void OutlineLine(Graphics& graphics, int line) {
     const PaintPoint points[] = {{key, y - 1},  {stub, y - 1}, {stub, middle - 3}, {turn, middle - 3},
                                  {turn, y - 1}, {text, y - 1}, {text, y + 20},     {key, y + 20},
                                  {key, y + 10}, {key, y - 1}};
-    GdipDrawLines(graphics, GdipCreatePen1(Scaled(kGreen), 1), points);
+    GdipDrawLines(graphics, GdipCreatePen1(Scaled(kMapGreen), 1), points);
 }
 
 void DrawCursor(Graphics& graphics, const CduState& unit) {
     if (unit.PcKeyboardActive == 0) return;
     for (const SoftKey& key : SoftKeys())
         if (key.item == unit.ItemCursor)
-            BoxOutline(graphics, key.x, key.y, kSoftKeyWidth, kSoftKeyHeight, kGreen);
+            BoxOutline(graphics, key.x, key.y, kSoftKeyWidth, kSoftKeyHeight, kMapGreen);
     if (LeftLine(unit.ItemCursor) > 0 || RightLine(unit.ItemCursor) > 0)
         OutlineLine(graphics, unit.ItemCursor);
 }

@@ -9,7 +9,7 @@
 namespace {
 
 void OpenArrivals(PageCall& call, bool of_origin) {
-    route_pages.arrivals_of_origin = of_origin ? 1 : 0;
+    call.unit.arrivals_of_origin = of_origin ? 1 : 0;
     if (of_origin) {
         LoadStars(airports.origin_airport);
         LoadApproaches(airports.origin_airport);
@@ -60,7 +60,7 @@ void DepArrIndexPage(PageCall& call) {
     RightData(call, 4, "ARR>");
     PageText(call, 40, 173, "DEP", kCyan, kLabelSize);
     PageText(call, 122, 173, "OTHER", kCyan, kLabelSize);
-    RightLabel(call, 6, "ARR");
+    PageText(call, 233, 173, "ARR", kCyan, kLabelSize);
     LeftData(call, 6, "----");
     RightData(call, 6, "----");
 }

@@ -47,9 +47,11 @@ void OnLine(PageCall& call, const ProcedureColumn& left, const ProcedureColumn& 
             SelectSid(call.side, PlaceOfChosenSid(), false);
         else
             SelectDepartureTransition(call.side, item - 1);
+        ClearEntry(call);
     } else if (const int runway = RightLine(call.line) > 0 ? ItemAtRow(right, page, RightLine(call.line)) : 0;
                runway > 0) {
         SelectDepartureRunway(call.side, runway);
+        ClearEntry(call);
     }
 }
 

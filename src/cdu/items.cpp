@@ -57,13 +57,8 @@ int SoftKeyAt(double x, double y) {
     return 0;
 }
 
-void OpenLegs(int side, bool hold_view) {
+void OpenLegs(int side) {
     CduState& unit = CduOf(side);
-    if (unit.fms_page == kPageLegs && route_pages.LegsView == 2) LeaveLegsView();
-    if (hold_view) {
-        LeaveLegsView();
-        route_pages.LegsView = 2;
-    }
     unit.legs_index = 1;
     unit.fms_page = kPageLegs;
 }
@@ -106,13 +101,16 @@ void PressSoftKey(int side, int item, bool by_enter) {
             unit.fms_page = kPageFixInfo;
             break;
         case kItemLegs:
-            OpenLegs(side, false);
+            if (unit.fms_page == kPageLegs) LeaveLegsView();
+            OpenLegs(side);
             break;
         case kItemHold:
             if (plan.hold_cnt > 0)
                 unit.fms_page = kPageHold;
+            else if (by_enter && side == kFirstOfficer)
+                OpenLegs(side);  // in whatever view it is
             else
-                OpenLegs(side, !by_enter || side == kCaptain);
+                OpenHoldSelection(side);
             break;
         case kItemProg:
             unit.progress_index = 1;
@@ -139,7 +137,9 @@ bool IsModeKey(int item) {
 }  // namespace
 
 void OpenHoldSelection(int side) {
-    OpenLegs(side, true);
+    LeaveLegsView();
+    route_pages.LegsView = 2;
+    OpenLegs(side);
 }
 
 std::span<const SoftKey> SoftKeys() {

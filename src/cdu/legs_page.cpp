@@ -25,8 +25,12 @@ constexpr int kLegsPerPage = 5;
 constexpr int kNormalView = 0, kDirectView = 1, kHoldView = 2;
 constexpr const char* kDegree = "\xb0";
 constexpr const char* kHoldAt = "HOLD AT ";
-constexpr int kConstraintX = 165, kSlashX = 200;
-constexpr float kDistanceSize = 8;  // five columns in 25 units
+constexpr int kFaceRight = 251;
+// The frame of a constraint ends at 245, which the longest of each form must reach: "12000A",
+// "----/200A240B".
+constexpr int kConstraintX = 165, kWindowX = 157, kSlashX = 200, kAltitudeX = 205;
+constexpr float kEnteredSize = 10, kPredictedSize = 9;
+constexpr float kTrackSize = 8;  // the course in 20 units, the distance's five columns in 25
 
 int FirstLeg() {
     return std::max(1, ShownActiveLeg());
@@ -73,15 +77,13 @@ bool IsAlongTrack(const std::string& text) {
     return slash != std::string::npos && slash >= 2 && slash <= 5;
 }
 
-bool HasLetter(const std::string& text) {
-    return std::any_of(text.begin(), text.end(), [](char c) { return c >= 'A' && c <= 'Z'; });
-}
-
+// Refused without a place on that side of the fix, to which the distance would be measured.
 void EnterAlongTrack(PageCall& call, int leg) {
     const double distance = LeadingDouble(std::string_view(Entry(call)).substr(Entry(call).find('/') + 1));
-    if (distance == 0) return Refuse(call, "INVALID ENTRY", kHelpNotAllowed);
+    const int legs_before = plan.mod_cnt;
     plan.along_track_nm = distance;
-    InsertFixAt(leg, 0, true);
+    if (distance != 0) InsertFixAt(leg, 0, true);
+    if (plan.mod_cnt == legs_before) return Refuse(call, "INVALID ENTRY", kHelpNotAllowed);
     LegsChanged(call);
 }
 
@@ -103,6 +105,11 @@ void PickLeg(PageCall& call, int leg) {
     if (route_pages.LegsView == kHoldView) route_pages.HoldSelectIndex = leg;
 }
 
+// No more holds than the list takes, and none at a gap or behind the destination.
+bool CanHoldAt(int leg) {
+    return plan.hold_cnt < kMostHolds && leg < plan.mod_cnt && IsPlace(plan.FlightPlanMod[leg]);
+}
+
 // A hold has a leg of its own behind the fix at which it is flown.
 void PlaceHold(PageCall& call, int leg) {
     plan.FlightPlanMod[leg].via = "HOLD";
@@ -114,6 +121,7 @@ void PlaceHold(PageCall& call, int leg) {
 }
 
 void HoldAtLeg(PageCall& call, int leg) {
+    if (!CanHoldAt(leg)) return Refuse(call, "INVALID ENTRY", kHelpNotAllowed);
     const FlightPlanLeg fix = plan.FlightPlanMod[leg];
     FlightPlanLeg& hold = OpenModLeg(leg + 1);
     hold.ident = fix.ident;
@@ -126,15 +134,31 @@ void HoldAtLeg(PageCall& call, int leg) {
 }
 
 void HoldAtEntry(PageCall& call, int leg, int candidate) {
+    if (plan.hold_cnt >= kMostHolds) return Refuse(call, "INVALID ENTRY", kHelpNotAllowed);
+    EnsureEnds();
+    leg = std::min(leg, plan.mod_cnt);
     InsertFixAt(leg, candidate, true);
     PlaceHold(call, leg);
 }
 
+// The fix behind "HOLD AT ": the one picked, unless an entry on the other side has taken the list since.
+void HoldAtPick(PageCall& call, int leg) {
+    const std::string ident = Entry(call).substr(std::string_view(kHoldAt).size());
+    int pick = route_pages.hold_candidate;
+    if (pick < 1 || pick > nav.entry_cnt || nav.EntryCandidates[pick].ident != ident) {
+        ParseEntry(ident);
+        pick = 1;
+    }
+    if (nav.entry_cnt == 0) return Refuse(call, "NOT IN DATABASE", kHelpRoute);
+    HoldAtEntry(call, leg, pick);
+}
+
 void OnFix(PageCall& call, int leg) {
     if (IsDelete(call)) return DeleteLeg(call, leg);
+    if (leg > ShownCount() + 1) return;
     if (Entry(call).empty()) return PickLeg(call, leg);
     if (route_pages.LegsView == kHoldView && Entry(call).starts_with(kHoldAt))
-        return HoldAtEntry(call, leg + 1, route_pages.hold_candidate);
+        return HoldAtPick(call, leg + 1);
     if (const int found = FindFollowing(leg, Entry(call)); found > 0) {
         if (IsDisco(ShownLeg(leg)))  // the gap is closed
             for (int i = found - 1; i >= leg; --i) DeleteLegWithDiscontinuity(i, true, call.side);
@@ -145,10 +169,10 @@ void OnFix(PageCall& call, int leg) {
     const std::string& text = Entry(call);
     if (IsAlongTrack(text)) {
         const std::string fix = text.substr(0, text.find('/'));
-        const bool number_behind = !HasLetter(text.substr(text.find('/')));
-        if (leg <= ShownCount() && fix == ShownLeg(leg).ident && number_behind)
-            return EnterAlongTrack(call, leg);
+        if (leg <= ShownCount() && fix == ShownLeg(leg).ident) return EnterAlongTrack(call, leg);
     }
+    if (leg <= ShownCount() && text == ShownLeg(leg).ident)  // which the row has already
+        return Refuse(call, "INVALID ENTRY", kHelpNotAllowed);
     EnterFix(call, leg);
 }
 
@@ -211,6 +235,8 @@ void OnConstraint(PageCall& call, int leg) {
 // --- line 6
 
 void HoldAtPresentPosition(PageCall& call) {
+    if (plan.hold_cnt >= kMostHolds) return Refuse(call, "INVALID ENTRY", kHelpNotAllowed);
+    EnsureEnds();
     const int leg = std::max(1, ShownActiveLeg());
     const bool flying = plan.fms_fpln_active >= kRouteActive;
     if (plan.fms_fpln_active == kRouteActive) AdvanceRouteState();
@@ -227,18 +253,15 @@ void HoldAtPresentPosition(PageCall& call) {
 }
 
 void OnHoldEntry(PageCall& call) {
-    if (const int leg = route_pages.HoldSelectIndex) {
-        if (leg <= plan.mod_cnt) HoldAtLeg(call, leg);
-        return;
-    }
-    if (Entry(call).starts_with(kHoldAt)) return HoldAtEntry(call, FirstLeg(), route_pages.hold_candidate);
+    if (const int leg = route_pages.HoldSelectIndex) return HoldAtLeg(call, leg);
+    if (Entry(call).starts_with(kHoldAt)) return HoldAtPick(call, FirstLeg());
     if (Entry(call).empty()) return;
     for (int i = FirstLeg(); i < plan.mod_cnt; ++i)
         if (plan.FlightPlanMod[i].ident == Entry(call)) return HoldAtLeg(call, i);
     ParseEntry(Entry(call));
     if (nav.entry_cnt == 0) return Refuse(call, "NOT IN DATABASE", kHelpRoute);
     if (nav.entry_cnt > 1) return AskWhich(call, 0);
-    HoldAtEntry(call, route_pages.HoldSelectIndex + 1, 1);
+    HoldAtEntry(call, FirstLeg(), 1);
 }
 
 // The course on which a direct-to joins the picked leg.
@@ -252,7 +275,7 @@ void SetInterceptCourse(int leg) {
 void OnDirectEntry(PageCall& call) {
     if (const int leg = route_pages.DirectSelectIndex) {
         route_pages.DirectSelectIndex = 0;
-        if (leg > plan.mod_cnt) return;
+        if (leg > plan.mod_cnt || !IsPlace(plan.FlightPlanMod[leg])) return;
         if (plan.fms_fpln_active == kRouteActive) AdvanceRouteState();
         SetInterceptCourse(leg);
         ConnectLegs(PendingActiveLeg(), leg, call.side);
@@ -281,9 +304,9 @@ void OnLastLine(PageCall& call) {
             EraseModification();
             return ClearEntry(call);
         }
+        if (IsDelete(call)) return RefuseDelete(call);
         if (route_pages.LegsView == kHoldView) return OnHoldEntry(call);
         if (route_pages.LegsView == kDirectView) return OnDirectEntry(call);
-        if (IsDelete(call)) RefuseDelete(call);
         return;
     }
     if (route_pages.LegsView == kHoldView) return HoldAtPresentPosition(call);
@@ -302,14 +325,14 @@ void DrawLabel(PageCall& call, int line, int leg) {
     const FlightPlanLeg& before = ShownLeg(leg - 1);
     const double y = LabelY(line);
     if (leg > ShownActiveLeg() && (IsDisco(before) || IsThen(before)))
-        return PageText(call, 34, y, "----------- ROUTE DISCONTINUITY  -----------", kWhite, kLabelSize);
+        return FittedText(call, 34, y, kFaceRight, "----------- ROUTE DISCONTINUITY  -----------");
     if (shown.via == "HOLD") return PageText(call, 40, y, "HOLD AT", kWhite, kLabelSize);
     const ShownTrack track = TrackToLeg(leg);
     if (!track.known) return;
-    PageText(call, 40, y, Format("%03.0f%s", track.course, kDegree), kWhite, kLabelSize);
-    if (!shown.via_type.empty()) PageText(call, 70, y, shown.via, kWhite, kLabelSize);
-    PageText(call, 130, y, Format("%5.0f", track.dist), kWhite, kDistanceSize);
-    PageText(call, 155, y, "NM", kWhite, kDistanceSize);
+    PageText(call, 40, y, Format("%03.0f%s", track.course, kDegree), kWhite, kTrackSize);
+    if (!shown.via_type.empty()) PageText(call, 60, y, shown.via, kWhite, kTrackSize);
+    PageText(call, 130, y, Format("%5.0f", track.dist), kWhite, kTrackSize);
+    PageText(call, 155, y, "NM", kWhite, kTrackSize);
 }
 
 void DrawIdent(PageCall& call, int line, int leg) {
@@ -331,16 +354,15 @@ void DrawConstraint(PageCall& call, int line, int leg) {
     EntryFrame(call, 155, static_cast<int>(y), 90);
     const bool speed = shown.ias_restr > 0 || shown.mach_restr > 0;
     if (IsWindow(shown))
-        return PageText(call, kConstraintX, y,
-                        (speed ? SpeedText(shown) : std::string("----")) + "/" + ConstraintAltitude(shown),
-                        kWhite, kSmallSize);
-    PageText(call, kConstraintX, y, SpeedText(shown), kWhite, speed ? kDataSize : kSmallSize);
-    PageText(call, kSlashX, y, "/");
+        return PageText(call, kWindowX, y, SpeedText(shown) + "/" + ConstraintAltitude(shown), kWhite,
+                        kEnteredSize);
+    PageText(call, kConstraintX, y, SpeedText(shown), kWhite, speed ? kEnteredSize : kPredictedSize);
+    PageText(call, kSlashX, y, "/", kWhite, kEnteredSize);
     const std::string entered = ConstraintAltitude(shown);
     const std::string altitude = !entered.empty() ? entered
                                  : shown.alt > 0  ? AltitudeText(shown.alt)
                                                   : "----";
-    PageText(call, kSlashX + 7, y, altitude, kWhite, entered.empty() ? kSmallSize : kDataSize);
+    PageText(call, kAltitudeX, y, altitude, kWhite, entered.empty() ? kPredictedSize : kEnteredSize);
 }
 
 void DrawLegs(PageCall& call, int first) {
@@ -363,15 +385,15 @@ void DrawLegs(PageCall& call, int first) {
 void DrawViewLine(PageCall& call) {
     const double y = 176;
     if (route_pages.LegsView == kDirectView) {
-        PageText(call, 34, y, "--------------------------------- INTC CRS TO", kWhite, kLabelSize);
+        FittedText(call, 34, y, 215, "--------------------------------- INTC CRS TO");
         const int target = std::max(1, ShownActiveLeg());
         const double course = ShownLeg(target).rad_int;
         if (course >= 0)
-            PageText(call, 218, DataY(6), Format("%03.0f%s", course, kDegree));
+            PageText(call, 218, y, Format("%03.0f%s", course, kDegree), kWhite, kLabelSize);
         else
             EntryBoxes(call, 218, y, 4);
     } else if (route_pages.LegsView == kHoldView) {
-        PageText(call, 34, y, "------------------- HOLD AT  ------------------", kWhite, kLabelSize);
+        FittedText(call, 34, y, kFaceRight, "------------------- HOLD AT  ------------------");
         if (route_pages.HoldSelectIndex == 0 && plan.fms_fpln_active < kRouteModified)
             EntryBoxes(call, 37, DataY(6), 5);
     } else {
@@ -418,7 +440,7 @@ void LegsPage(PageCall& call) {
     const int left = LeftLine(call.line), right = RightLine(call.line);
     if (left == 6 || right == 6)
         OnLastLine(call);
-    else if (left > 0 && first + left - 1 <= ShownCount() + 1)
+    else if (left > 0)
         OnFix(call, first + left - 1);
     else if (right > 0)
         OnConstraint(call, first + right - 1);

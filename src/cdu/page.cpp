@@ -1,5 +1,7 @@
 #include "cdu/page.h"
 
+#include <algorithm>
+
 #include "fmc/route.h"
 #include "frame/crew_messages.h"
 #include "paint/painter.h"
@@ -77,9 +79,28 @@ void ColumnText(PageCall& call, double x, double y, std::string_view text, Rgb c
     if (!text.empty()) TextIn(call.graphics, "Courier New", x, y, kDataSize, colour, text);
 }
 
+float FittingSize(std::string_view text, double width, double height) {
+    // of the display units' font, in sizes
+    constexpr double kAdvance = 0.65, kLinePitch = 1.34;
+    constexpr double kSmallestSize = 5;
+    std::size_t columns = 1, column = 0, lines = 1;
+    for (const char c : text) {
+        column = c == '\n' ? 0 : column + 1;
+        columns = std::max(columns, column);
+        if (c == '\n') ++lines;
+    }
+    double size = std::min<double>(kLabelSize, width / (static_cast<double>(columns) * kAdvance));
+    if (height > 0) size = std::min(size, height / (static_cast<double>(lines) * kLinePitch));
+    return static_cast<float>(std::max(size, kSmallestSize));
+}
+
+void FittedText(PageCall& call, double x, double y, double right, std::string_view text) {
+    PageText(call, x, y, text, kWhite, FittingSize(text, right - x));
+}
+
 void HighlightedText(PageCall& call, double x, double y, std::string_view text) {
     const int width = static_cast<int>(static_cast<double>(text.size()) * kDataAdvance) + 3;
-    FilledBox(call.graphics, static_cast<int>(x), static_cast<int>(y), width, 14, kWhite);
+    FilledBox(call.graphics, static_cast<int>(x), static_cast<int>(y), width, 12, kWhite);
     PageText(call, x, y, text, kBlack);
 }
 

@@ -46,16 +46,12 @@ double DistanceTo(int leg) {
     return track.known ? track.dist : 0;
 }
 
-// What the aircraft will have at a leg, as it goes now.
-Arrival ArrivalAt(int leg) {
+// From one leg to the next, as the aircraft goes now.
+void FlyTo(Arrival& arrival, int leg) {
     const double speed = sim.ground_speed_kt > kUsableGroundSpeed ? sim.ground_speed_kt : perf.avg_gs;
-    Arrival arrival{0, sim.total_fuel};
-    for (int i = FirstLeg(); i <= leg; ++i) {
-        const double distance = DistanceTo(i);
-        if (speed > 0) arrival.hours += distance / speed;
-        arrival.fuel_lb = std::max(0.0, arrival.fuel_lb - distance * BurnPerNm(i));
-    }
-    return arrival;
+    const double distance = DistanceTo(leg);
+    if (speed > 0) arrival.hours += distance / speed;
+    arrival.fuel_lb = std::max(0.0, arrival.fuel_lb - distance * BurnPerNm(leg));
 }
 
 std::string EtaText(double hours_from_now) {
@@ -94,10 +90,9 @@ void OnLastLine(PageCall& call) {
     }
 }
 
-void DrawRow(PageCall& call, int row, int leg) {
+void DrawRow(PageCall& call, int row, int leg, const Arrival& arrival) {
     const FlightPlanLeg& shown = ShownLeg(leg);
     if (!IsPlace(shown)) return;
-    const Arrival arrival = ArrivalAt(leg);
     const double unit = cfg.WeightUnit == "KGS" ? kPoundsPerKg : 1;
     const double y = DataY(row);
     PageText(call, 34, y, EtaText(arrival.hours));
@@ -127,8 +122,11 @@ void RteDataPage(PageCall& call) {
     PageText(call, 90, LabelY(1), "WAYPOINT", kCyan, kLabelSize);
     PageText(call, 155, LabelY(1), "FUEL", kCyan, kLabelSize);
     RightLabel(call, 1, "WIND");
-    for (int row = 1; row <= kLegsPerPage && first + row - 1 <= ShownCount(); ++row)
-        DrawRow(call, row, first + row - 1);
+    Arrival arrival{0, sim.total_fuel};
+    for (int leg = FirstLeg(); leg < first + kLegsPerPage && leg <= ShownCount(); ++leg) {
+        FlyTo(arrival, leg);
+        if (leg >= first) DrawRow(call, leg - first + 1, leg, arrival);
+    }
     DashLine(call);
     LeftData(call, 6, plan.fms_fpln_active == kRouteModified ? "<ERASE" : "<LEGS");
     RightData(call, 6, plan.fms_fpln_active < kRouteActivated ? "POS REF>" : "REQUEST>");

@@ -246,6 +246,13 @@ void OnTo(PageCall& call, int row) {
     GoToPage(call.side, kPageSelectWpt);
 }
 
+void OnRow(PageCall& call, int row) {
+    if (row <= plan.route_cnt + 1)
+        LeftLine(call.line) > 0 ? OnVia(call, row) : OnTo(call, row);
+    else if (IsDelete(call))
+        RefuseDelete(call);
+}
+
 void DrawRow(PageCall& call, int line, int row) {
     MarkSelectable(call, kL1 + line - 1);
     MarkSelectable(call, kR1 + line - 1);
@@ -255,7 +262,7 @@ void DrawRow(PageCall& call, int line, int row) {
         return;
     }
     const RouteRow& shown = plan.Route[row];
-    if (shown.to == "DISCO") return PageText(call, 34, DataY(line), kDiscontinuity, kWhite, kLabelSize);
+    if (shown.to == "DISCO") return FittedText(call, 34, DataY(line), 251, kDiscontinuity);
     LeftData(call, line, shown.via);
     RightData(call, line, shown.to.empty() ? "-----" : Format("%8s", shown.to.c_str()));
 }
@@ -303,10 +310,8 @@ void RtePage(PageCall& call) {
         OnLastLine(call);
     else if (index == 1 && call.line > 0)
         OnEndsLine(call);
-    else if (left > 0)
-        OnVia(call, first_row + left - 1);
-    else if (right > 0)
-        OnTo(call, first_row + right - 1);
+    else if (call.line > 0)
+        OnRow(call, first_row + left + right - 1);
 
     Title(call, 132, "RTE 1", plan.fms_fpln_active == kRouteActive ? kMapGreen : kWhite);
     RouteStatusMark(call, 110);

@@ -6,6 +6,7 @@
 
 #include "cdu/page.h"
 #include "cdu/shown_plan.h"
+#include "fmc/leg_list.h"
 #include "fmc/route.h"
 #include "frame/crew_messages.h"
 #include "platform/text.h"
@@ -70,11 +71,11 @@ void OnAltitude(PageCall& call, int row) {
         return;
     } else {
         const std::string_view text = Entry(call);
-        const int altitude = IsFlightLevel(text) ? LeadingInt(text.substr(2)) * 100 : LeadingInt(text);
+        const double altitude = IsFlightLevel(text) ? LeadingInt(text.substr(2)) * 100.0 : LeadingInt(text);
         if (altitude < kMinAltitude || altitude > kMaxAltitude)
             return Refuse(call, "INVALID WIND ALTITUDE", kHelpWindAltitude);
         if (CountWinds(winds) == kWindRows) return Refuse(call, "INVALID ENTRY", kHelpFourWinds);
-        winds[static_cast<std::size_t>(CountWinds(winds))] = {altitude, 0, 0};
+        winds[static_cast<std::size_t>(CountWinds(winds))] = {static_cast<int>(altitude), 0, 0};
     }
     SortWinds(winds);
     OpenModification();
@@ -118,14 +119,14 @@ void OnTemperature(PageCall& call) {
     if (!parts || !IsNumber(parts->second)) return Refuse(call, "INVALID ALT/OAT ENTRY", kHelpAltOat);
     const std::string_view altitude_text =
         IsFlightLevel(parts->first) ? parts->first.substr(2) : parts->first;
-    int altitude = IsNumber(altitude_text) ? LeadingInt(altitude_text) : 0;
+    double altitude = IsNumber(altitude_text) ? LeadingInt(altitude_text) : 0;
     if (altitude < 1000) altitude *= 100;
     const double temperature = LeadingDouble(parts->second);
     if (altitude <= 0 || altitude > kMaxAltitude || temperature < kMinTemperature ||
         temperature >= kTemperatureLimit)
         return Refuse(call, "INVALID ALT/OAT ENTRY", kHelpAltOat);
     OpenModification();
-    EditedLeg().temp_alt = altitude;
+    EditedLeg().temp_alt = static_cast<int>(altitude);
     EditedLeg().temp = temperature;
     ClearEntry(call);
 }
@@ -173,8 +174,13 @@ void WindPage(PageCall& call) {
     const int first = std::max(1, ShownActiveLeg());
     const int count = std::max(1, ShownCount() - first + 1);
     int place = std::clamp(route_pages.wind_leg - first + 1, 1, count);
+    // A discontinuity has no wind: the page goes on past it.
+    const int step = call.unit.PrevPagePending == 1 ? count - 1 : 1;
     TurnPages(call, place, count);
+    for (int tries = 0; tries < count && !IsPlace(ShownLeg(first + place - 1)); ++tries)
+        place = (place - 1 + step) % count + 1;
     route_pages.wind_leg = first + place - 1;
+    if (!IsPlace(ShownLeg(route_pages.wind_leg)) && call.line != kL6 && call.line != kR6) call.line = 0;
     const int left = LeftLine(call.line), right = RightLine(call.line);
     if (left == 6 || right == 6)
         OnLastLine(call);

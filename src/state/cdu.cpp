@@ -43,6 +43,7 @@ constexpr Variable kRows[] = {
     {"capt.fix_index", &cdu[0].fix_index},
     {"capt.flight_plans_index", &cdu[0].flight_plans_index},
     {"capt.panels_index", &cdu[0].panels_index},
+    {"capt.arrivals_of_origin", &cdu[0].arrivals_of_origin},
     {"fo.ScratchPad", &cdu[1].ScratchPad},
     {"fo.ScratchMessage", &cdu[1].ScratchMessage},
     {"fo.ItemCursor", &cdu[1].ItemCursor},
@@ -67,6 +68,7 @@ constexpr Variable kRows[] = {
     {"fo.fix_index", &cdu[1].fix_index},
     {"fo.flight_plans_index", &cdu[1].flight_plans_index},
     {"fo.panels_index", &cdu[1].panels_index},
+    {"fo.arrivals_of_origin", &cdu[1].arrivals_of_origin},
 };
 constexpr Variable kRoutePageRows[] = {
     {"LegsView", &route_pages.LegsView},
@@ -74,7 +76,6 @@ constexpr Variable kRoutePageRows[] = {
     {"DirectSelectIndex", &route_pages.DirectSelectIndex},
     {"PendingSelectRow", &route_pages.PendingSelectRow},
     {"hold_candidate", &route_pages.hold_candidate},
-    {"arrivals_of_origin", &route_pages.arrivals_of_origin},
     {"wind_leg", &route_pages.wind_leg},
 };
 }  // namespace

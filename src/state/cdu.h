@@ -39,6 +39,7 @@ struct CduState {
     int dep_index = 1, arr_index = 1, select_index = 1;
     int progress_index = 1, altn_index = 1, fix_index = 1;
     int flight_plans_index = 1, panels_index = 1;
+    int arrivals_of_origin = 0;  // ARRIVALS shows those of the origin, for a return
 };
 
 /// What both CDUs share of the route pages.
@@ -48,7 +49,6 @@ struct RoutePages {
     int DirectSelectIndex = 0;   // leg picked in view 1, 0 = none
     int PendingSelectRow = 0;    // where a pick on SELECT DESIRED WPT goes in; 0 = the hold or direct-to path
     int hold_candidate = 0;      // the pick on SELECT DESIRED WPT that waits for "HOLD AT"
-    int arrivals_of_origin = 0;  // ARRIVALS shows those of the origin, for a return
     int wind_leg = 0;            // leg of the wind page
 };
 

@@ -65,6 +65,17 @@ TEST_F(CduKeys, ModeKeysOpenTheirPages) {
     EXPECT_EQ(route_pages.LegsView, 2);
     OnCduKeyPress(kCaptain, 24);
     EXPECT_EQ(route_pages.LegsView, 0);
+    // by the keyboard's Enter the first officer's HOLD leaves the view as it is
+    for (const int view : {0, 2}) {
+        cdu[1].fms_page = kPageLegs;
+        route_pages.LegsView = view;
+        EnterSoftKey(kFirstOfficer, kItemHold);
+        EXPECT_EQ(cdu[1].fms_page, kPageLegs);
+        EXPECT_EQ(route_pages.LegsView, view);
+    }
+    route_pages.LegsView = 0;
+    EnterSoftKey(kCaptain, kItemHold);
+    EXPECT_EQ(route_pages.LegsView, 2);
 }
 
 TEST_F(CduKeys, InitRefGoesByThePhaseOfFlight) {
@@ -172,6 +183,11 @@ TEST_F(CduKeys, MessagesOfBothSidesGoTogether) {
     EXPECT_EQ(vnav.drag_msg_changed_at, 1234);
     ClearCduMessage(kFirstOfficer);
     EXPECT_EQ(cdu[0].CduMessageCount, 1);
+    // an advisory is known by the title that it is shown with
+    for (int i = 0; i < 2; ++i) PostCduMessage("", kAdvisory, 57, kBothSides);
+    EXPECT_EQ(cdu[0].CduMessageCount, 2);
+    EXPECT_EQ(cdu[1].CduMessageCount, 1);
+    RemoveCduMessageByTitle("WIND DATA UPLINK READY");
     for (const int id : {3, 27, 49, 58, -1}) PostCduMessage("X", kEntryError, id, kCaptain);
     EXPECT_EQ(cdu[0].CduMessageCount, 1);
 }
