@@ -150,19 +150,17 @@ void RemoveAt(CduState& unit, int place) {
 }  // namespace
 
 void PostCduMessage(std::string_view title, int kind, int help_id, int side) {
-    if (kind == kAdvisory && FindByTitle(CduOf(kCaptain), title) > 0) return;
+    const auto* fixed = std::ranges::find(kFixedMessages, title, &FixedMessage::title);
+    const auto* help = std::ranges::find(kHelpTexts, help_id, &HelpText::id);
+    const bool of_fixed_list = help_id == kHelpFixedList;
+    if (of_fixed_list ? fixed == std::end(kFixedMessages) : help == std::end(kHelpTexts)) return;
+    const std::string_view shown_title = of_fixed_list || help->title.empty() ? title : help->title;
+    if (kind == kAdvisory && FindByTitle(CduOf(kCaptain), shown_title) > 0) return;
     for (const int addressed : {kCaptain, kFirstOfficer}) {
         if ((side & addressed) == 0) continue;
-        if (help_id == kHelpFixedList) {
-            const auto* row = std::ranges::find(kFixedMessages, title, &FixedMessage::title);
-            if (row != std::end(kFixedMessages))
-                Push(addressed, {std::string(title), std::string(row->body), kind, side});
-        } else {
-            const auto* row = std::ranges::find(kHelpTexts, help_id, &HelpText::id);
-            if (row != std::end(kHelpTexts))
-                Push(addressed, {std::string(row->title.empty() ? title : row->title),
-                                 BodyOf(*row, title, addressed), kind, side});
-        }
+        Push(addressed,
+             {std::string(shown_title),
+              of_fixed_list ? std::string(fixed->body) : BodyOf(*help, title, addressed), kind, side});
     }
 }
 

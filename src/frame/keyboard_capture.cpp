@@ -73,7 +73,6 @@ void CloseDevice() {
 }
 
 // A device that can't be had is given up until the window or the capture changes.
-
 void OpenDevice() {
     const int failed_step = Host().open_keyboard();
     if (failed_step > 0 && failed_step < static_cast<int>(std::size(kOpenFailures))) {
