@@ -17,6 +17,15 @@ constexpr int kFirstLabelY = 35, kFirstDataY = 48, kRowStep = 28;
 constexpr int kBoxWidth = 6;
 constexpr Rgb kBorder{87, 75, 78};
 
+constexpr std::size_t kFaceColumns = 31;
+
+// Names come from files: what would run out of the face is cut.
+std::string_view InFace(double x, std::string_view text, float size) {
+    constexpr double kFaceEnd = 262, kNarrowestAdvance = 0.6;
+    return text.substr(0,
+                       static_cast<std::size_t>(std::max(0.0, (kFaceEnd - x) / (size * kNarrowestAdvance))));
+}
+
 double RightStart(std::string_view text, double advance) {
     return kRightX - static_cast<double>(text.size()) * advance;
 }
@@ -51,7 +60,7 @@ void CopyDown(PageCall& call, std::string_view text) {
 void TurnPages(PageCall& call, int& index, int count) {
     if (call.unit.PrevPagePending == 1) index = index <= 1 ? count : index - 1;
     if (call.unit.NextPagePending == 1) index = index >= count ? 1 : index + 1;
-    if (index < 1 || index > count) index = 1;
+    index = std::clamp(index, 1, count);
     call.unit.PrevPagePending = call.unit.NextPagePending = 0;
 }
 
@@ -72,11 +81,12 @@ void MarkSelectable(PageCall& call, int line) {
 }
 
 void PageText(PageCall& call, double x, double y, std::string_view text, Rgb colour, float size) {
-    if (!text.empty()) Text(call.graphics, x, y, size, colour, text);
+    if (!text.empty()) Text(call.graphics, x, y, size, colour, InFace(x, text, size));
 }
 
 void ColumnText(PageCall& call, double x, double y, std::string_view text, Rgb colour) {
-    if (!text.empty()) TextIn(call.graphics, "Courier New", x, y, kDataSize, colour, text);
+    if (!text.empty())
+        TextIn(call.graphics, "Courier New", x, y, kDataSize, colour, InFace(x, text, kDataSize));
 }
 
 float FittingSize(std::string_view text, double width, double height) {
@@ -99,6 +109,7 @@ void FittedText(PageCall& call, double x, double y, double right, std::string_vi
 }
 
 void HighlightedText(PageCall& call, double x, double y, std::string_view text) {
+    text = InFace(x, text, kDataSize);
     const int width = static_cast<int>(static_cast<double>(text.size()) * kDataAdvance) + 3;
     FilledBox(call.graphics, static_cast<int>(x), static_cast<int>(y), width, 12, kWhite);
     PageText(call, x, y, text, kBlack);
@@ -138,6 +149,7 @@ void RightLabel(PageCall& call, int row, std::string_view text, Rgb colour) {
 }
 
 void RightData(PageCall& call, int row, std::string_view text, Rgb colour, float size) {
+    text = text.substr(0, kFaceColumns);
     PageText(call, RightStart(text, kDataAdvance), DataY(row), text, colour, size);
 }
 

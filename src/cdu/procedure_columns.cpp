@@ -52,7 +52,7 @@ void DrawProcedureColumns(PageCall& call, const ProcedureColumn& left, const Pro
         }
         if (const ProcedureItem* item = ItemOn(right, page, row)) {
             RightLabel(call, row, item->label);
-            const double x = 251 - 7.0 * static_cast<double>(item->text.size());
+            const double x = 251 - 7.0 * static_cast<double>(std::min<std::size_t>(item->text.size(), 13));
             ColumnText(call, x, DataY(row), item->text);
             if (item->selected) PageText(call, kRightMarkX, DataY(row), Mark(), kWhite, kLabelSize);
             if (item->selectable) MarkSelectable(call, kR1 + row - 1);

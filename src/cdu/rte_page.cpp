@@ -105,7 +105,7 @@ void OnEndsLine(PageCall& call) {
         case kR2:
             return OnFlightNumber(call);
         case kL3:
-            CduOf(call.side).flight_plans_index = 1;
+            call.unit.flight_plans_index = 1;
             return GoToPage(call.side, kPageFlightPlans);
         case kR3:
             return OnCompanyRoute(call);

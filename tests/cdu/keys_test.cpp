@@ -167,6 +167,32 @@ TEST_F(CduKeys, TheKeyboardCursorGoesRound) {
     EXPECT_EQ(cdu[0].ItemCursor, 17);
 }
 
+TEST_F(CduKeys, NoNameRunsOutOfItsFace) {
+    const std::string name(200, 'X');
+    plan.procedures.dep_sid = plan.procedures.arr_star = plan.procedures.arr_appr = name;
+    plan.ends_mod.origin = plan.ends_mod.dest = name;
+    for (int i = 1; i <= 3; ++i) {
+        plan.FlightPlanMod[i].ident = plan.FlightPlanMod[i].via = plan.Route[i].to = plan.Route[i].via = name;
+        plan.FlightPlanMod[i].via_type = "SID";
+        plan.FlightPlanMod[i].mod_flag = 1;
+    }
+    plan.mod_cnt = plan.route_cnt = 3;
+    for (const int state : {1, 4})
+        for (const int page : {6, 10, 11, 22, 24, 55, 58}) {
+            plan.fms_fpln_active = state;
+            cdu[0].fms_page = page;
+            cdu[0].rte_index = state / 2;
+            DrawList picture;
+            Graphics graphics = GdipCreateGraphics(picture, 564, 424);
+            CallPage(graphics, kCaptain);
+            for (const Primitive& primitive : picture.primitives)
+                if (const auto* run = std::get_if<TextRun>(&primitive)) {
+                    EXPECT_GE(run->x, 30) << page;
+                    EXPECT_LE(run->x + static_cast<float>(run->text.count) * run->size * 0.6F, 275) << page;
+                }
+        }
+}
+
 TEST_F(CduKeys, MessagesOfBothSidesGoTogether) {
     PostCduMessage("INVALID ENTRY", kEntryError, 8, kCaptain);
     PostCduMessage("DRAG REQUIRED", kAdvisory, 25, kBothSides);
