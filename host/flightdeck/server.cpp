@@ -213,7 +213,13 @@ class Browser : public std::enable_shared_from_this<Browser> {
         if (!message.is_object() || !message.contains("type") || !message["type"].is_string())
             return "not a message: an object with a type";
         const std::string type = message["type"];
-        if (type == "screens") return TakeNames(message, screens_wanted_, kScreens.size(), true);
+        if (type == "screens") {
+            const std::string reason = TakeNames(message, screens_wanted_, kScreens.size(), true);
+            // A browser forgets a screen that it doesn't want, and begins anew when it wants it again.
+            for (std::size_t i = 0; i < kScreens.size(); ++i)
+                if (!screens_wanted_.contains(std::string(kScreens[i]))) streams_[i] = {};
+            return reason;
+        }
         if (type == "watch") {
             std::string reason = TakeNames(message, watched_, kMaxWatched, false);
             if (!reason.empty()) return reason;
@@ -358,10 +364,7 @@ class Browser : public std::enable_shared_from_this<Browser> {
     std::string NextPictures() {
         std::string all;
         for (std::size_t i = 0; i < kScreens.size(); ++i) {
-            if (!screens_wanted_.contains(std::string(kScreens[i]))) {
-                streams_[i] = {};
-                continue;
-            }
+            if (!screens_wanted_.contains(std::string(kScreens[i]))) continue;
             const LastPicture& picture = network_.PictureOf(i);
             if (picture.number == 0 || picture.number == streams_[i].number) continue;
             const std::string message = NextPictureMessage(streams_[i], picture.bytes, picture.number);
