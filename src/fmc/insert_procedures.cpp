@@ -11,10 +11,8 @@
 #include "fmc/route.h"
 #include "fmc/route_rows.h"
 #include "navdata/geodesy.h"
-#include "navdata/ident_index.h"
 #include "platform/text.h"
 #include "state/airports.h"
-#include "state/nav_tables.h"
 #include "state/plan.h"
 #include "state/procedure_lists.h"
 

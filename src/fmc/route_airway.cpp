@@ -8,9 +8,7 @@
 #include "fmc/route_rows.h"
 #include "navdata/airways.h"
 #include "navdata/geodesy.h"
-#include "navdata/ident_index.h"
 #include "state/nav.h"
-#include "state/nav_tables.h"
 
 namespace {
 
