@@ -130,7 +130,7 @@ void DrawCdu(Graphics& graphics, int half, int display_unit) {
     const TransformBlock block(graphics);
     if (half == 2) GdipTranslateWorldTransform(graphics, kRightHalf, 0);
     DrawFace(graphics);
-    CallPage(graphics, side);
+    CallPage(graphics, side, 0);  // keys are for the host's thread
     for (int row = 0; row < 6; ++row) {
         DrawLineKey(graphics, unit, kL1 + row);
         DrawLineKey(graphics, unit, kR1 + row);

@@ -1,5 +1,7 @@
 #include "cdu/cdu_service.h"
 
+#include <utility>
+
 #include "cdu/cursor.h"
 #include "cdu/items.h"
 #include "cdu/page.h"
@@ -52,10 +54,9 @@ bool HasSomethingPending(const CduState& unit) {
 
 }  // namespace
 
-void CallPage(Graphics& graphics, int side) {
+void CallPage(Graphics& graphics, int side, int line) {
     CduState& unit = CduOf(side);
-    PageCall call{graphics, side, unit.PendingLine, unit};
-    unit.PendingLine = 0;
+    PageCall call{graphics, side, line, unit};
     unit.line_selectable = {};
     if (const CduPage* page = FindPage(unit.fms_page)) page->draw(call);
 }
@@ -74,5 +75,5 @@ void StepCdu(int side, bool shown) {
     if (!HasSomethingPending(unit)) return;
     DrawList unseen;
     Graphics graphics = GdipCreateGraphics(unseen, 564, 424);
-    CallPage(graphics, side);
+    CallPage(graphics, side, std::exchange(unit.PendingLine, 0));
 }

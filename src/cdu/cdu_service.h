@@ -7,5 +7,5 @@
 /// seen once, however often the picture is painted; otherwise a line key waits.
 void StepCdu(int side, bool shown);
 
-/// Calls the side's page with the pending line key, which it takes.
-void CallPage(Graphics& graphics, int side);
+/// Calls the side's page with a line key, 0 = none: then it only draws.
+void CallPage(Graphics& graphics, int side, int line);

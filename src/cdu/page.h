@@ -84,8 +84,8 @@ void PageText(PageCall& call, double x, double y, std::string_view text, Rgb col
               float size = kDataSize);
 /// In columns of seven units, whatever the font of the display units.
 void ColumnText(PageCall& call, double x, double y, std::string_view text, Rgb colour = kWhite);
-/// The size at which a text of one or more lines fills no more than `width`, and `height` where it is above 0:
-/// that of a label where that fits.
+/// The size at which a text of one or more lines fills no more than `width`, and `height` where it is above
+/// 0: that of a label where that fits.
 float FittingSize(std::string_view text, double width, double height = 0);
 /// One line, made to end before `right` by its size.
 void FittedText(PageCall& call, double x, double y, double right, std::string_view text);

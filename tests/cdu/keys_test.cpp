@@ -184,7 +184,7 @@ TEST_F(CduKeys, NoNameRunsOutOfItsFace) {
             cdu[0].rte_index = state / 2;
             DrawList picture;
             Graphics graphics = GdipCreateGraphics(picture, 564, 424);
-            CallPage(graphics, kCaptain);
+            CallPage(graphics, kCaptain, 0);
             for (const Primitive& primitive : picture.primitives)
                 if (const auto* run = std::get_if<TextRun>(&primitive)) {
                     EXPECT_GE(run->x, 30) << page;
