@@ -68,6 +68,12 @@ void RampUp() {
     electrical.apu_starting = 0;
 }
 
+// It also ends a start from the cooldown: the two ramps together would never get out of its band.
+void BeginStop() {
+    electrical.apu_stopping = 1;
+    electrical.apu_starting = 0;
+}
+
 // All gauges fall, the oil quantity too.
 void LowerGauges() {
     for (const Gauge& gauge : kGauges) {
@@ -86,7 +92,7 @@ void RestartFromCooldown() {
 void RampDown() {
     ElectricalState& e = electrical;
     if (e.apu_pwr_avail == 1 && cockpit.apu_switch == kOff && e.running_gens >= kEnoughGenerators)
-        e.apu_stopping = 1;
+        BeginStop();
     if (e.apu_stopping == 0) return;
     const bool cooling = e.apu_rpm > kCooldownTo && e.apu_rpm <= kCooldownFrom;
     e.apu_cooldown = cooling ? 1 : 0;
@@ -102,7 +108,7 @@ void RampDown() {
 void TakeFireHandle() {
     if (cockpit.TZ_OH_APU_FIRE_HNDL <= 0) return;
     SetSelector(kOff);
-    if (electrical.apu_pwr_avail == 1) electrical.apu_stopping = 1;
+    if (electrical.apu_pwr_avail == 1) BeginStop();
     electrical.apu_fault_timer = kFaultTicks;
 }
 
@@ -122,7 +128,7 @@ void FollowApuSelector(int before) {
     if (before == kOn && now == kStart) electrical.apu_start_delay = kStartDelayTicks;
     if (before == kOn && now == kOff) {
         electrical.apu_fault_timer = kFaultTicks;
-        if (electrical.apu_pwr_avail == 1) electrical.apu_stopping = 1;
+        if (electrical.apu_pwr_avail == 1) BeginStop();
     }
 }
 

@@ -149,6 +149,21 @@ TEST(Apu, RestartsFromItsCooldownOnly) {
     }
 }
 
+TEST(Apu, AStopEndsTheRestartFromTheCooldown) {
+    for (const bool by_handle : {false, true}) {
+        Overhead host;
+        SetVariables("apu_switch 1, apu_pwr_avail 1, apu_starting 1, apu_rpm 90");
+        if (by_handle)
+            SetVariables("TZ_OH_APU_FIRE_HNDL 1");
+        else
+            host.Turn(0);
+        // 60 ticks to 81, 540 of cooldown, 527 from 80 to 1
+        host.Ticks(60 + 540 + 527 + 10);
+        EXPECT_EQ(electrical.apu_rpm, 0) << by_handle;
+        EXPECT_EQ(electrical.apu_starting + electrical.apu_stopping, 0) << by_handle;
+    }
+}
+
 TEST(Apu, RunsByItselfWhenGeneratorsAreMissingInFlight) {
     struct Case {
         const char* set;
