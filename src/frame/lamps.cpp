@@ -5,7 +5,8 @@
 void ShowLamp(NamedVarRef lamp, bool lit) {
     if (host_link.lamps_shown.empty()) host_link.lamps_shown.assign(kNamedVariableCount, -1);
     signed char& shown = host_link.lamps_shown[static_cast<std::size_t>(lamp.row)];
-    if (shown == (lit ? 1 : 0)) return;
+    // A lamp that the model doesn't have yet is told when it comes.
+    if (shown == (lit ? 1 : 0) || !NamedVarExists(lamp)) return;
     shown = lit ? 1 : 0;
     WriteNamedVar(lamp, shown);
 }

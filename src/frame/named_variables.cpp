@@ -36,9 +36,14 @@ bool NamedVarExists(NamedVarRef variable) {
     return IdOf(variable) >= 0;
 }
 
-double ReadNamedVar(NamedVarRef variable) {
+std::optional<double> ReadNamedVarIfKnown(NamedVarRef variable) {
     const int id = IdOf(variable);
-    return id < 0 ? 0 : GetNamedVar(id);
+    if (id < 0) return std::nullopt;
+    return GetNamedVar(id);
+}
+
+double ReadNamedVar(NamedVarRef variable) {
+    return ReadNamedVarIfKnown(variable).value_or(0);
 }
 
 void WriteNamedVar(NamedVarRef variable, double value) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string_view>
 
 #include "frame/named_variable_catalogue.h"
@@ -31,4 +32,6 @@ void UnregisterNamedVars();
 bool NamedVarExists(NamedVarRef variable);
 
 double ReadNamedVar(NamedVarRef variable);
+/// The same, but nothing for a name that the host doesn't know.
+std::optional<double> ReadNamedVarIfKnown(NamedVarRef variable);
 void WriteNamedVar(NamedVarRef variable, double value);

@@ -4,6 +4,7 @@
 
 #include <set>
 
+#include "frame/lamps.h"
 #include "support/fake_host.h"
 
 namespace {
@@ -46,6 +47,18 @@ TEST(NamedVariables, AMissingNameReadsZeroUntilTheModelBringsIt) {
     host.calls.clear();
     ReadNamedVar(NamedVar("gearleverpos"));
     EXPECT_EQ(host.calls["find_named_var"], 0);  // its id is kept
+}
+
+TEST(NamedVariables, ALampIsToldOnceAndAtFirstWhenTheModelBringsIt) {
+    FakeHost host;
+    constexpr NamedVarRef kLamp = NamedVar("TZ_OH_Annun_LPAC_OFF");
+    ShowLamp(kLamp, true);
+    host.NamedVar("TZ_OH_Annun_LPAC_OFF") = 0;
+    ShowLamp(kLamp, true);
+    EXPECT_EQ(host.NamedVar("TZ_OH_Annun_LPAC_OFF"), 1);
+    host.calls.clear();
+    ShowLamp(kLamp, true);
+    EXPECT_EQ(host.calls["set_named_var"], 0);
 }
 
 }  // namespace

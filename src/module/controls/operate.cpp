@@ -1,6 +1,7 @@
 #include "module/controls/operate.h"
 
 #include <algorithm>
+#include <optional>
 
 #include "frame/cues.h"
 #include "module/controls/control_table.h"
@@ -105,8 +106,9 @@ void ClickControl(const Control& control, std::uint32_t mouse_flag) {
 }
 
 void PollControl(const Control& control) {
-    if (!NamedVarExists(control.variable)) return;  // 0 is then no position
-    const double value = ReadNamedVar(control.variable);
+    const std::optional<double> known = ReadNamedVarIfKnown(control.variable);
+    if (!known) return;
+    const double value = *known;
     if (control.kind == ControlClass::kMomentary) {
         if (value != 0) Press(control, WholeNumber(value));
         return;
