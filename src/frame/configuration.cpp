@@ -201,6 +201,7 @@ void ReadConfig() {
     }
     SeedSpeedRestrictions();
     cockpit.battery_button = cfg.Battery;
+    cockpit.TZ_OH_PFC_G_Switch = cfg.PfcSwitch == kPfcDisconnected ? 1 : 0;
 }
 
 bool WriteConfig() {
