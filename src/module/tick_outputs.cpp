@@ -129,13 +129,17 @@ void ReadModelValues() {
 
 void TickOutputs() {
     const int phase = time_base.tick_phase;
+    // In pause the phases stand still: what they select then comes once in a second's frames, not in each.
+    const bool due = time_base.tick18 != time_base.output_tick18 || time_base.frame_phase == 0;
+    time_base.output_tick18 = time_base.tick18;
     SystemsTick();
     PublishGuidance();
     ReadAutoflightModes();
     UpdateSpeedTrend();
-    if (time_base.tick3s_phase == 22) SystemsEvery3s();
-    if (time_base.tick2s_phase == 0 && cfg.VASdisplay == 1) sim.free_address_gb = Host().free_address_space();
-    StepSecond(phase);
+    if (due && time_base.tick3s_phase == 22) SystemsEvery3s();
+    if (due && time_base.tick2s_phase == 0 && cfg.VASdisplay == 1)
+        sim.free_address_gb = Host().free_address_space();
+    if (due) StepSecond(phase);
     TakeDisplaySelector();
     if (phase == 0 || phase == 9) UpdateExecLamps();
     if (time_base.frame_phase % 2 == 0) ReadModelValues();

@@ -6,6 +6,7 @@ namespace {
 constexpr Variable kRows[] = {
     {"tick18", &time_base.tick18},
     {"last_tick18", &time_base.last_tick18},
+    {"output_tick18", &time_base.output_tick18},
     {"tick_phase", &time_base.tick_phase},
     {"tick2s_phase", &time_base.tick2s_phase},
     {"tick3s_phase", &time_base.tick3s_phase},

@@ -8,6 +8,7 @@
 struct TimeBase {
     double tick18 = 0;            // the host's 18 Hz counter; stands still in pause
     double last_tick18 = 0;       // its value at the previous tick; a tick exists when the two differ
+    double output_tick18 = 0;     // its value at the previous output step
     int tick_phase = 0;           // 0 to 17
     int tick2s_phase = 0;         // 0 to 35
     int tick3s_phase = 0;         // 1 to 54 once running
