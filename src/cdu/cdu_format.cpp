@@ -77,7 +77,10 @@ void DrawExecLamp(Graphics& graphics) {
 void DrawScratchPad(Graphics& graphics, const CduState& unit) {
     FilledBox(graphics, 43, 205, 202, 16, unit.PcKeyboardActive == 1 ? kKeyboardFill : kBlack);
     BoxOutline(graphics, 43, 205, 202, 16, kDark);
-    const std::string& text = unit.ScratchMessage.empty() ? unit.ScratchPad : unit.ScratchMessage;
+    std::string_view text = unit.ScratchMessage.empty() ? unit.ScratchPad : unit.ScratchMessage;
+    // Blanks and the PC keyboard go on past the keypad's 24 characters; the end is what is being typed.
+    constexpr std::size_t kColumns = 27;
+    if (text.size() > kColumns) text.remove_prefix(text.size() - kColumns);
     if (!text.empty()) Text(graphics, 45, 208, kDataSize, kWhite, text);
 }
 

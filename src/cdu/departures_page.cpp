@@ -37,6 +37,11 @@ ProcedureColumn RunwayColumn() {
     return column;
 }
 
+int PageCount(const ProcedureColumn& left, const ProcedureColumn& right) {
+    constexpr int kMostPages = 8;
+    return std::min(ProcedurePageCount(left, right), kMostPages);
+}
+
 void OnLine(PageCall& call, const ProcedureColumn& left, const ProcedureColumn& right, int page) {
     if (call.line == kL6 || call.line == kR6) return OnProcedureLastLine(call);
     if (IsDelete(call)) return RefuseDelete(call);
@@ -60,14 +65,14 @@ void OnLine(PageCall& call, const ProcedureColumn& left, const ProcedureColumn& 
 void DeparturesPage(PageCall& call) {
     int& page = call.unit.dep_index;
     ProcedureColumn left = SidColumn(), right = RunwayColumn();
-    TurnPages(call, page, ProcedurePageCount(left, right));
+    TurnPages(call, page, PageCount(left, right));
     if (call.line > 0) {
         OnLine(call, left, right, page);
         left = SidColumn();
         right = RunwayColumn();
-        page = std::min(page, ProcedurePageCount(left, right));
+        page = std::min(page, PageCount(left, right));
     }
     Title(call, 85, Format("%4s DEPARTURES", plan.ends_mod.origin.c_str()));
-    PageText(call, 225, 25, Format("%2d/%2d", page, ProcedurePageCount(left, right)), kWhite, kLabelSize);
+    PageText(call, 225, 25, Format("%2d/%2d", page, PageCount(left, right)), kWhite, kLabelSize);
     DrawProcedureColumns(call, left, right, page);
 }

@@ -370,13 +370,13 @@ void DrawLegs(PageCall& call, int first) {
         const int leg = first + line - 1;
         if (leg > ShownCount() + 1) return;
         MarkSelectable(call, kL1 + line - 1);
+        DrawLabel(call, line, leg);
         if (leg > ShownCount()) {
             EntryFrame(call, 32, static_cast<int>(DataY(line)), 48);
             LeftData(call, line, "------");
             return;
         }
         MarkSelectable(call, kR1 + line - 1);
-        DrawLabel(call, line, leg);
         DrawIdent(call, line, leg);
         DrawConstraint(call, line, leg);
     }

@@ -8,7 +8,6 @@
 
 namespace {
 
-constexpr int kMostPages = 8;
 constexpr double kLeftMarkX = 110, kRightMarkX = 155;
 
 const char* Mark() {
@@ -24,7 +23,7 @@ const ProcedureItem* ItemOn(const ProcedureColumn& column, int page, int row) {
 
 int ProcedurePageCount(const ProcedureColumn& left, const ProcedureColumn& right) {
     const int most = static_cast<int>(std::max(left.size(), right.size()));
-    return std::clamp((most + kProcedureRows - 1) / kProcedureRows, 1, kMostPages);
+    return std::max(1, (most + kProcedureRows - 1) / kProcedureRows);
 }
 
 int ItemAtRow(const ProcedureColumn& column, int page, int row) {

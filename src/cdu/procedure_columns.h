@@ -18,7 +18,7 @@ using ProcedureColumn = std::vector<ProcedureItem>;
 
 constexpr int kProcedureRows = 5;
 
-/// The pages that both columns fill together, 1 to 8.
+/// The pages that both columns fill together, at least one.
 int ProcedurePageCount(const ProcedureColumn& left, const ProcedureColumn& right);
 
 /// The place in a column, from 1, that a row of a page shows; 0 outside the column or on an item that can't

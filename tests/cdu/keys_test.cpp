@@ -4,6 +4,7 @@
 #include "cdu/init_ref.h"
 #include "cdu/items.h"
 #include "cdu/page.h"
+#include "cdu/procedure_columns.h"
 #include "cdu/remote_keys.h"
 #include "frame/crew_messages.h"
 #include "state/cfg.h"
@@ -165,6 +166,21 @@ TEST_F(CduKeys, TheKeyboardCursorGoesRound) {
     Ticks(1);
     EXPECT_EQ(cdu[0].fms_page, kPagePerfInit);
     EXPECT_EQ(cdu[0].ItemCursor, 17);
+}
+
+// More approaches and runways than the eight pages of a departure list: the last must still be in reach.
+TEST_F(CduKeys, ProcedureColumnsHaveAPageForEveryRow) {
+    struct Row {
+        std::size_t left, right;
+        int pages;
+    };
+    constexpr Row kRows[] = {{0, 0, 1}, {5, 0, 1}, {5, 6, 2}, {56, 3, 12}};
+    for (const Row& row : kRows) {
+        const ProcedureColumn left(row.left), right(row.right);
+        EXPECT_EQ(ProcedurePageCount(left, right), row.pages);
+    }
+    EXPECT_EQ(ItemAtRow(ProcedureColumn(56), 12, 1), 56);
+    EXPECT_EQ(ItemAtRow(ProcedureColumn(56), 12, 2), 0);
 }
 
 TEST_F(CduKeys, NoNameRunsOutOfItsFace) {
