@@ -38,15 +38,16 @@ void ShowControls() {
     PublishModelSettings();
 }
 
-// The aircraft starts with its systems running.
+// The aircraft starts with its systems running, the host's battery too.
 void StartSystemsRunning() {
-    if (cockpit.battery_button == 0) {
+    const bool was_out = cockpit.battery_button == 0;
+    if (was_out) {
         cockpit.battery_button = 1;
         WriteNamedVar(NamedVar("TZ_OH_ELE_BAT_Button"), 1);
-        if (ReadToken(kTokenMasterBattery) == 0 && electrical.batt_volts > 0)
-            SendKeyEvent(kKeyMasterBatteryToggle, 0);
-        electrical.batt_volts = 28.0;
     }
+    if (ReadToken(kTokenMasterBattery) == 0 && electrical.batt_volts > 0)
+        SendKeyEvent(kKeyMasterBatteryToggle, 0);
+    if (was_out) electrical.batt_volts = 28.0;
     displays.du_lwr_startup_cnt = 60;
     displays.du_cib_startup_cnt = 90;
     displays.du_pfd_ah_startup_cnt = 10;

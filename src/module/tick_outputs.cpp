@@ -95,7 +95,10 @@ void UpdateExecLamps() {
 
 // The captain's selector is acted on where it is seen to have moved.
 void TakeDisplaySelector() {
-    const int position = std::clamp(WholeNumber(ReadNamedVar(NamedVar("TZ_MAIN_PFD_MFD_L_Switch"))), -1, 1);
+    constexpr NamedVarRef kSelector = NamedVar("TZ_MAIN_PFD_MFD_L_Switch");
+    const double shown = ReadNamedVar(kSelector);
+    const int position = std::clamp(WholeNumber(shown), -1, 1);
+    if (shown != position) WriteNamedVar(kSelector, position);
     if (position == displays.du_sel_pos) return;
     cockpit.TZ_MAIN_PFD_MFD_L_Switch = position;
     MoveDisplaySelector(position);
