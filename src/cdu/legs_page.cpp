@@ -91,6 +91,7 @@ void DeleteLeg(PageCall& call, int leg) {
     if (ShownCount() < 2) return call.unit.ScratchMessage.clear();
     if (leg >= ShownCount())
         return call.line == kL3 ? Refuse(call, "INVALID ENTRY", kHelpNotAllowed) : RefuseDelete(call);
+    if (IsDisco(ShownLeg(leg))) return RefuseDelete(call);  // a gap is closed, not deleted
     plan.FlightPlanMod[leg].alt = kNone;
     DeleteLegWithDiscontinuity(leg, false, call.side);
     OpenModification();
@@ -105,9 +106,11 @@ void PickLeg(PageCall& call, int leg) {
     if (route_pages.LegsView == kHoldView) route_pages.HoldSelectIndex = leg;
 }
 
-// No more holds than the list takes, and none at a gap or behind the destination.
+// No more holds than the list takes, one at a fix, and none at a gap or behind the destination.
 bool CanHoldAt(int leg) {
-    return plan.hold_cnt < kMostHolds && leg < plan.mod_cnt && IsPlace(plan.FlightPlanMod[leg]);
+    const GrowingList<FlightPlanLeg>& legs = plan.FlightPlanMod;
+    const bool has_place = leg < plan.mod_cnt && IsPlace(legs[leg]);
+    return plan.hold_cnt < kMostHolds && has_place && legs[leg].via != "HOLD" && legs[leg + 1].via != "HOLD";
 }
 
 // A hold has a leg of its own behind the fix at which it is flown.
