@@ -80,9 +80,13 @@ void RunUpdateCycle(bool virtual_cockpit) {
     if (virtual_cockpit && main_panel_visible) return;
     if (module_life.outputs_running == 1) {
         time_base.tick_phase = std::clamp(time_base.tick_phase, 0, 17);  // tables are indexed by it
-        time_base.frame_phase = time_base.frame_phase >= 17 ? 0 : time_base.frame_phase + 1;
-        PollControls();
+        int& frame = time_base.frame_phase;
+        frame = frame < 0 || frame >= 17 ? 0 : frame + 1;
+        const bool ticked = time_base.tick18 != time_base.output_tick18;
+        time_base.output_tick18 = time_base.tick18;
+        PollControls(time_base.tick_phase);
+        if (!ticked) PollControls(frame);  // in pause every control is seen too
         for (const int side : {kCaptain, kFirstOfficer}) StepCdu(side, IsCduShown(side));
-        TickOutputs();
+        TickOutputs(ticked);
     }
 }

@@ -130,11 +130,10 @@ void ReadModelValues() {
 
 }  // namespace
 
-void TickOutputs() {
+void TickOutputs(bool ticked) {
     const int phase = time_base.tick_phase;
     // In pause the phases stand still: what they select then comes once in a second's frames, not in each.
-    const bool due = time_base.tick18 != time_base.output_tick18 || time_base.frame_phase == 0;
-    time_base.output_tick18 = time_base.tick18;
+    const bool due = ticked || time_base.frame_phase == 0;
     SystemsTick();
     PublishGuidance();
     ReadAutoflightModes();

@@ -13,7 +13,6 @@
 #include "state/cockpit.h"
 #include "state/displays.h"
 #include "state/sound.h"
-#include "state/time_base.h"
 #include "state/variable_directory.h"
 #include "support/fake_host.h"
 
@@ -28,10 +27,7 @@ void SetValue(std::string_view name, int value) {
 }
 
 void PollAllPhases() {
-    for (int phase = 0; phase < 18; ++phase) {
-        time_base.tick_phase = phase;
-        PollControls();
-    }
+    for (int phase = 0; phase < 18; ++phase) PollControls(phase);
 }
 
 constexpr NamedVarRef RowOf(std::string_view name) {
@@ -148,8 +144,8 @@ TEST(Controls, RotariesTurnBeyondTheirEnds) {
         FakeHost host;
         cockpit.TZ_MCP_L_SEL_RB_Knob = row.from;
         host.NamedVar("TZ_MCP_L_SEL_RB_Knob") = row.to;
-        PollControls();
-        PollControls();  // the same position is no further turn
+        PollControls(0);
+        PollControls(0);  // the same position is no further turn
         EXPECT_EQ(ValueOf("minimums_value"), row.minimums) << row.from << " to " << row.to;
         EXPECT_EQ(cockpit.TZ_MCP_L_SEL_RB_Knob, row.to);
     }
@@ -207,8 +203,7 @@ TEST(Controls, EachSetIsPolledInItsPhases) {
         for (int phase = 0; phase < 18; ++phase) {
             FakeHost host;
             host.NamedVar(variable) = 9;
-            time_base.tick_phase = phase;
-            PollControls();
+            PollControls(phase);
             if (host.NamedVar(variable) != 9) seen.insert(phase);
         }
         return seen;
@@ -267,8 +262,7 @@ TEST(Controls, FollowersActOnTheHost) {
         host.tokens.insert(row.tokens.begin(), row.tokens.end());
         host.NamedVar(row.variable) = row.model;
         for (const int phase : {2, 5}) {
-            time_base.tick_phase = phase;
-            PollControls();
+            PollControls(phase);
         }
         ASSERT_EQ(host.events.size(), row.event == 0 ? 0u : 1u) << row.variable;
         if (row.event != 0) {

@@ -267,15 +267,15 @@ TEST(Electrical, ExternalPowerComesOnlyToAParkedAircraft) {
         FakeHost host;
         host.NamedVar("ext_power_avail") = row.wanted;
         SetVariables(row.set);
-        PollControls();
+        PollControls(time_base.tick_phase);
         EXPECT_EQ(electrical.fwd_ext_pwr_avail, row.taken) << row.set;
         EXPECT_EQ(host.NamedVar("ext_power_avail"), row.taken) << row.set;
         EXPECT_EQ(sound.event_cue, row.cue) << row.set;
     }
     FakeHost host;
     host.NamedVar("ext_power_avail") = 1;
-    SetVariables("on_ground 1, tick_phase 7");
-    PollControls();
+    SetVariables("on_ground 1");
+    PollControls(7);
     EXPECT_EQ(electrical.fwd_ext_pwr_avail, 0) << "not looked at in this phase";
 }
 

@@ -6,7 +6,6 @@
 #include "module/controls/panels.h"
 #include "state/cockpit.h"
 #include "state/module_life.h"
-#include "state/time_base.h"
 
 namespace {
 
@@ -91,8 +90,8 @@ void WriteControlVariables() {
     for (const PanelLamp& lamp : kLamps) WriteNamedVar(lamp.variable, *lamp.lit);
 }
 
-void PollControls() {
-    const unsigned now = 1u << time_base.tick_phase;
+void PollControls(int phase) {
+    const unsigned now = 1u << phase;
     for (const PollSet& set : kSets)
         if ((set.phases & now) != 0)
             for (const Control& control : set.controls) PollControl(control);

@@ -30,5 +30,5 @@ void ShowShadow(const int* shadow);
 /// model knows better is left out.
 void WriteControlVariables();
 
-/// Looks for clicks in the virtual cockpit: the sets that are due at this tick_phase.
-void PollControls();
+/// Looks for clicks in the virtual cockpit: the sets that are due at a phase, 0 to 17.
+void PollControls(int phase);
