@@ -39,6 +39,13 @@ constexpr std::array<ModeCode, kCount> MakeModes() {
 
 constexpr std::array<ModeCode, kCount> kModes = MakeModes();
 
+// Asked for each half of each unit in every frame.
+constexpr auto kByCode = [] {
+    std::array<std::optional<ModeCode>, 96> by_code{};
+    for (const ModeCode& mode : kModes) by_code[static_cast<std::size_t>(mode.code)] = mode;
+    return by_code;
+}();
+
 }  // namespace
 
 std::span<const ModeCode> ModeCodes() {
@@ -46,9 +53,8 @@ std::span<const ModeCode> ModeCodes() {
 }
 
 std::optional<ModeCode> ContentsOf(int code) {
-    for (const ModeCode& mode : kModes)
-        if (mode.code == code) return mode;
-    return {};
+    const auto place = static_cast<std::size_t>(code);
+    return place < kByCode.size() ? kByCode[place] : std::nullopt;
 }
 
 std::optional<int> CodeOf(Content left, Content right) {
