@@ -36,14 +36,17 @@ bool NamedVarExists(NamedVarRef variable) {
     return IdOf(variable) >= 0;
 }
 
-std::optional<double> ReadNamedVarIfKnown(NamedVarRef variable) {
+bool ReadNamedVar(NamedVarRef variable, double& value) {
     const int id = IdOf(variable);
-    if (id < 0) return std::nullopt;
-    return GetNamedVar(id);
+    if (id < 0) return false;
+    value = GetNamedVar(id);
+    return true;
 }
 
 double ReadNamedVar(NamedVarRef variable) {
-    return ReadNamedVarIfKnown(variable).value_or(0);
+    double value = 0;
+    ReadNamedVar(variable, value);
+    return value;
 }
 
 void WriteNamedVar(NamedVarRef variable, double value) {

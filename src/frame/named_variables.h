@@ -1,6 +1,5 @@
 #pragma once
 
-#include <optional>
 #include <string_view>
 
 #include "frame/named_variable_catalogue.h"
@@ -32,6 +31,6 @@ void UnregisterNamedVars();
 bool NamedVarExists(NamedVarRef variable);
 
 double ReadNamedVar(NamedVarRef variable);
-/// The same, but nothing for a name that the host doesn't know.
-std::optional<double> ReadNamedVarIfKnown(NamedVarRef variable);
+/// The same, but false and the old value for a name that the host doesn't know.
+bool ReadNamedVar(NamedVarRef variable, double& value);
 void WriteNamedVar(NamedVarRef variable, double value);

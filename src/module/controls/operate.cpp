@@ -1,7 +1,6 @@
 #include "module/controls/operate.h"
 
 #include <algorithm>
-#include <optional>
 
 #include "frame/cues.h"
 #include "module/controls/control_table.h"
@@ -106,9 +105,8 @@ void ClickControl(const Control& control, std::uint32_t mouse_flag) {
 }
 
 void PollControl(const Control& control) {
-    const std::optional<double> known = ReadNamedVarIfKnown(control.variable);
-    if (!known) return;
-    const double value = *known;
+    double value = 0;
+    if (!ReadNamedVar(control.variable, value)) return;  // 0 is then no position
     if (control.kind == ControlClass::kMomentary) {
         if (value != 0) Press(control, WholeNumber(value));
         return;
