@@ -3,6 +3,7 @@
 #include <string>
 
 #include "fmc/holds.h"
+#include "fmc/insert_procedures.h"
 #include "fmc/leg_list.h"
 #include "fmc/route.h"
 #include "fmc/route_rows.h"
@@ -42,10 +43,6 @@ void MoveToThreshold(FlightPlanLeg& leg, const RunwayData& runway) {
 
 void ClearLegs(GrowingList<FlightPlanLeg>& legs, int count) {
     for (int i = 0; i <= count; ++i) legs[i] = {};
-}
-
-bool IsOfArrival(const FlightPlanLeg& leg) {
-    return leg.via_type == "STAR" || leg.via_type == "APPR" || leg.via == "MISSED APPR";
 }
 
 }  // namespace
@@ -95,12 +92,8 @@ int EnterOrigin(std::string_view ident) {
 int EnterDestination(std::string_view ident) {
     if (LoadDestinationAirport(ident) == 0) return 0;
     EnsureEnds();
-    if (plan.fms_fpln_active == kRouteActive) {
-        AdvanceRouteState();
-        for (int i = plan.mod_cnt - 1; i >= 1; --i)
-            if (IsOfArrival(plan.FlightPlanMod[i])) RemoveModLegs(i, 1);
-        MergeNeighbourDiscos();
-    }
+    if (plan.fms_fpln_active != kRouteModified) RemoveArrivalAndApproach();
+    if (plan.fms_fpln_active == kRouteActive) AdvanceRouteState();
     RemoveHold(plan.mod_cnt);
     FlightPlanLeg& last = plan.FlightPlanMod[plan.mod_cnt];
     last = AirportLeg(airports.dest_airport);

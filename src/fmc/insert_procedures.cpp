@@ -11,6 +11,7 @@
 #include "fmc/route.h"
 #include "fmc/route_rows.h"
 #include "navdata/geodesy.h"
+#include "navdata/leg_codes.h"
 #include "platform/text.h"
 #include "state/airports.h"
 #include "state/plan.h"
@@ -19,7 +20,6 @@
 namespace {
 
 constexpr double kSamePlace = 1;  // nm
-constexpr std::size_t kWindowLength = 11;
 
 enum class Kind { kSid, kStar, kApproach };
 
@@ -34,7 +34,7 @@ bool IsCoded(const ProcedureLeg& leg) {
 // --- a leg of a procedure as a leg of the route
 
 bool TakeWindow(std::string_view token, Kind kind, FlightPlanLeg& leg) {
-    if (token.size() != kWindowLength || token.back() != 'B') return false;
+    if (!IsAltitudeWindow(token)) return false;
     leg.block_above = LeadingInt(token.substr(0, 5));
     leg.block_below = LeadingInt(token.substr(5, 5));
     leg.alt_restr = 0;
@@ -140,11 +140,17 @@ bool IsOfApproach(const FlightPlanLeg& leg) {
     return leg.appr_wpt_type.starts_with("IAF") || leg.appr_wpt_type == "FAF" || leg.via_type == "APPR";
 }
 
-// Legs that two procedures share stay, as the other's.
+// Legs that two procedures share stay, as the other's. A break within the procedure goes with it.
 void RemoveProcedure(std::string_view via_type, std::string_view other) {
+    bool within = false;
     for (int i = plan.mod_cnt - 1; i >= 1; --i) {
         FlightPlanLeg& leg = plan.FlightPlanMod[i];
         if (leg.via_type == via_type) {
+            RemoveModLegs(i, 1);
+            within = i > 1 &&
+                     (plan.FlightPlanMod[i - 1].via_type == via_type ||
+                      (IsDisco(plan.FlightPlanMod[i - 1]) && plan.FlightPlanMod[i - 2].via_type == via_type));
+        } else if (within && IsDisco(leg)) {
             RemoveModLegs(i, 1);
         } else if (leg.via_type == "SIDSTAR") {
             leg.via_type = other;
@@ -154,27 +160,75 @@ void RemoveProcedure(std::string_view via_type, std::string_view other) {
     MergeNeighbourDiscos();
 }
 
-// The last leg of the route before approach and destination.
-int LastRouteLeg() {
-    int leg = plan.mod_cnt;
-    while (leg > 0 && (IsOfApproach(plan.FlightPlanMod[leg]) || plan.FlightPlanMod[leg].type == "APT")) --leg;
-    if (leg > 0 && IsDisco(plan.FlightPlanMod[leg])) --leg;
-    return leg;
+bool HasLegsOf(std::string_view via_type) {
+    for (int i = 1; i <= plan.mod_cnt; ++i)
+        if (plan.FlightPlanMod[i].via_type == via_type) return true;
+    return false;
 }
 
-// The fix that an approach had taken over from the route stands there again.
-void RestoreReusedLeg(int route_end) {
-    ProcedureLists& lists = procedure_lists;
-    if (std::exchange(lists.reused, 0) == 0 || route_end >= plan.mod_cnt) return;
-    FlightPlanLeg& leg = plan.FlightPlanMod[route_end + 1];
-    if (leg.ident == lists.reused_leg.ident && leg.via_type == "APPR") leg = lists.reused_leg;
+int FirstApproachLeg() {
+    for (int i = 1; i <= plan.mod_cnt; ++i)
+        if (IsOfApproach(plan.FlightPlanMod[i])) return i;
+    return 0;
 }
 
+std::string ApproachVia() {
+    return plan.procedures.arr_appr + RunwayText(plan.procedures.arr_appr_rwy);
+}
+
+// The fix that an approach has taken over from the route stands there again, with a break behind it.
+void UnshareApproach() {
+    const FlightPlanLeg shared = std::exchange(plan.procedures.shared_leg, {});
+    const int first = FirstApproachLeg();
+    if (shared.ident.empty() || plan.FlightPlanMod[first].ident != shared.ident) return;
+    OpenModLeg(first) = shared;
+    OpenDisco(first + 1);
+}
+
+// Where the approach begins with the fix before it, nothing stands between them.
+void ShareWithApproach(int last) {
+    GrowingList<FlightPlanLeg>& legs = plan.FlightPlanMod;
+    const int first = last + 2;
+    if (last < 1 || first > plan.mod_cnt || !IsDisco(legs[last + 1])) return;
+    if (!IsOfApproach(legs[first]) || !IsSameFix(legs[last], legs[first])) return;
+    plan.procedures.shared_leg = legs[last];
+    if (legs[first].via == "DIRECT") legs[first].via = ApproachVia();
+    RemoveModLegs(last, 2);
+}
+
+// The break in front of them goes too.
+void RemoveApproachLegs() {
+    UnshareApproach();
+    const int first = FirstApproachLeg();
+    for (int i = plan.mod_cnt; i >= 1; --i)
+        if (IsOfApproach(plan.FlightPlanMod[i])) RemoveModLegs(i, 1);
+    if (IsDisco(plan.FlightPlanMod[first - 1])) RemoveModLegs(first - 1, 1);
+    MergeNeighbourDiscos();
+}
+
+// The destination goes too. Gives the last leg of the route that is left.
 int RemoveApproach() {
-    RestoreReusedLeg(LastRouteLeg());
-    const int end = LastRouteLeg();
+    RemoveApproachLegs();
+    int end = plan.mod_cnt;
+    while (end > 0 && (IsDisco(plan.FlightPlanMod[end]) || plan.FlightPlanMod[end].type == "APT")) --end;
     RemoveModLegs(end + 1, plan.mod_cnt - end);
     return end;
+}
+
+// --- the leg that the aircraft flies to
+
+FlightPlanLeg FlownLeg() {
+    const int active = PendingActiveLeg();
+    if (plan.fms_fpln_active < kRouteActive || active < 1 || active > plan.mod_cnt) return {};
+    return plan.FlightPlanMod[active];
+}
+
+// It stays the active one where an insertion has written it anew. False when it is gone.
+bool StayOn(const FlightPlanLeg& flown) {
+    if (!IsPlace(flown)) return false;
+    const int leg = FindModLeg(flown, 1);
+    if (leg > 0) SetPendingActiveLeg(leg);
+    return leg > 0;
 }
 
 void RefreshActiveLeg() {
@@ -203,7 +257,7 @@ void Finish() {
 
 double RecordAltitude(int leg) {
     if (leg < 1 || leg > procedure_lists.approach_leg_cnt) return 0;
-    return LeadingInt(procedure_lists.ApproachLegs[leg].alt_token);
+    return AltitudeOfToken(procedure_lists.ApproachLegs[leg].alt_token);
 }
 
 double ApproachSpeed(std::string_view role) {
@@ -263,8 +317,7 @@ void WriteApproachLegs(int end) {
     const bool reuse = end > 0 && plan.FlightPlanMod[end].ident == first && !IsCoded(lists.ApproachLegs[1]);
     int position = end + 1;
     if (reuse) {
-        lists.reused_leg = plan.FlightPlanMod[end];
-        lists.reused = 1;
+        plan.procedures.shared_leg = plan.FlightPlanMod[end];
         RemoveHold(end);
         position = end;
     } else if (end > 0) {
@@ -290,6 +343,9 @@ void WriteApproachLegs(int end) {
 
 void InsertDeparture() {
     EnsureEnds();
+    const FlightPlanLeg flown = FlownLeg();
+    const bool under_way =
+        PendingActiveLeg() > 1 || (sim.on_ground == 0 && flown.via_type.starts_with("SID"));
     RemoveProcedure("SID", "STAR");
     PutOrigin();
     const ProcedureLists& lists = procedure_lists;
@@ -311,21 +367,21 @@ void InsertDeparture() {
         RemoveModLegs(position, 1);
         if (of_star) plan.FlightPlanMod[last].via_type = "SIDSTAR";
     }
+    if (under_way) StayOn(flown);
     Finish();
 }
 
 void InsertArrival() {
     EnsureEnds();
+    const FlightPlanLeg flown = FlownLeg();
+    UnshareApproach();
+    const bool had_arrival = HasLegsOf("STAR");
     RemoveProcedure("STAR", "SID");
     EnsureDestination();
-    int point = plan.mod_cnt;
-    while (point > 0) {
-        const FlightPlanLeg& leg = plan.FlightPlanMod[point];
-        const bool passed_over =
-            leg.via_type == "STAR" || IsOfApproach(leg) || leg.type == "APT" || IsDisco(leg);
-        if (!passed_over) break;
+    const int approach = FirstApproachLeg();
+    int point = approach > 0 ? approach - 1 : plan.mod_cnt;
+    while (point > 0 && (plan.FlightPlanMod[point].type == "APT" || IsDisco(plan.FlightPlanMod[point])))
         --point;
-    }
     const ProcedureLists& lists = procedure_lists;
     int position = point + 1;
     for (int i = 1; i <= lists.arrival_leg_cnt; ++i) {
@@ -342,35 +398,32 @@ void InsertArrival() {
         }
         OpenModLeg(position++) = std::move(leg);
     }
-    // Where the approach begins with the arrival's last fix, nothing stands between them.
-    const GrowingList<FlightPlanLeg>& legs = plan.FlightPlanMod;
-    if (position + 1 < plan.mod_cnt && IsDisco(legs[position]) &&
-        IsSameFix(legs[position - 1], legs[position + 1])) {
-        procedure_lists.reused_leg = legs[position - 1];
-        procedure_lists.reused = 1;
-        RemoveModLegs(position - 1, 2);
-    }
+    ShareWithApproach(position - 1);
+    if (flown.type != "APT" || had_arrival) StayOn(flown);
     Finish();
 }
 
-namespace {
-
-// The aircraft was on its way to the destination itself: it goes directly to what now comes first.
-void GoDirectlyToApproach() {
-    int to = PendingActiveLeg();
-    while (to < plan.mod_cnt && !IsPlace(plan.FlightPlanMod[to])) ++to;
-    GoDirectTo(to);
-}
-
-}  // namespace
-
 void InsertApproach() {
     EnsureEnds();
-    const bool to_destination = plan.fms_fpln_active >= kRouteActive && PendingActiveLeg() == plan.mod_cnt;
+    const FlightPlanLeg flown = FlownLeg();
+    const bool past_route = !flown.ident.empty() && (flown.type == "APT" || IsOfApproach(flown));
     const int end = RemoveApproach();
     if (procedure_lists.approach_leg_cnt > 0) WriteApproachLegs(end);
     FlightPlanLeg& dest = OpenModLeg(plan.mod_cnt + 1);
     dest = DestinationOnRunway();
-    if (to_destination && procedure_lists.approach_leg_cnt > 0) GoDirectlyToApproach();
+    const bool to_destination = flown.type == "APT";
+    if ((to_destination || !StayOn(flown)) && past_route) {
+        int to = end + 1;
+        while (to < plan.mod_cnt && !IsPlace(plan.FlightPlanMod[to])) ++to;
+        if (to_destination && procedure_lists.approach_leg_cnt > 0)
+            GoDirectTo(to);
+        else
+            SetPendingActiveLeg(to);
+    }
     Finish();
+}
+
+void RemoveArrivalAndApproach() {
+    RemoveApproachLegs();
+    RemoveProcedure("STAR", "SID");
 }

@@ -12,3 +12,6 @@ void InsertArrival();
 /// ApproachLegs at the end, with the missed approach where it is wanted, then the destination. A fix that the
 /// route ends with becomes the approach's first; otherwise a "DISCO" stands between.
 void InsertApproach();
+
+/// Takes both out of FlightPlanMod, for a change of the destination, and leaves the selections alone.
+void RemoveArrivalAndApproach();

@@ -42,26 +42,32 @@ void Collect(const GrowingList<ProcedureRecord>& records, int count, std::string
     }
 }
 
-// The first coded leg was computed for the first runway of the procedure's list.
-void RecomputeForRunway(ProcedureLeg& leg, const std::string& runway) {
-    LegCode code;
-    if (leg.code.find('/') == std::string::npos || !ParseLegCode(leg.code, code)) return;
+// The coded legs that a departure begins with were computed for the first runway of its list.
+void RecomputeForRunway(GrowingList<ProcedureLeg>& legs, int count, const std::string& runway) {
     const AirportData& airport = airports.origin_airport;
     LegCodeInput input{.start = {},
                        .entry_course = 0,
-                       .reference = {leg.file_lat, leg.file_lon},
-                       .altitude = leg.code_alt,
+                       .reference = {},
                        .elevation = static_cast<double>(airport.elevation_ft),
                        .variation = MagVarAt(airport.lat, airport.lon),
                        .climb_speed = perf.climb_ias > 0 ? perf.climb_ias : 250};
     if (!StartOfClimb(airport, runway, input.variation, input.start.lat, input.start.lon, input.entry_course))
         return;
-    LatLon end;
-    if (ComputeDepartureLeg(code, input, end) != 0) return;
-    leg.start_lat = input.start.lat;
-    leg.start_lon = input.start.lon;
-    leg.lat = end.lat;
-    leg.lon = end.lon;
+    for (int i = 1; i <= count; ++i) {
+        ProcedureLeg& leg = legs[i];
+        LegCode code;
+        if (!ParseLegCode(leg.code, code)) return;
+        input.reference = {leg.file_lat, leg.file_lon};
+        input.altitude = leg.code_alt;
+        LatLon end;
+        if (ComputeDepartureLeg(code, input, end) != 0) return;
+        leg.start_lat = input.start.lat;
+        leg.start_lon = input.start.lon;
+        leg.lat = end.lat;
+        leg.lon = end.lon;
+        input.start = end;
+        input.entry_course = code.course;
+    }
 }
 
 bool IsApproachRole(std::string_view segment) {
@@ -71,7 +77,8 @@ bool IsApproachRole(std::string_view segment) {
 bool IsSelectedApproach(const ProcedureRecord& record) {
     const ProcedureSelections& chosen = plan.procedures;
     const bool of_runway =
-        record.runways.empty() || record.runways.find(chosen.arr_appr_rwy) != std::string::npos;
+        record.runways.empty() ||
+        (!chosen.arr_appr_rwy.empty() && record.runways.find(chosen.arr_appr_rwy) != std::string::npos);
     return record.kind == chosen.arr_appr && of_runway;
 }
 
@@ -100,7 +107,7 @@ void BuildDepartureLegs() {
     };
     add(false);
     add(true);
-    if (runway_known && lists.departure_leg_cnt > 0) RecomputeForRunway(lists.DepartureLegs[1], runway);
+    if (runway_known) RecomputeForRunway(lists.DepartureLegs, lists.departure_leg_cnt, runway);
 }
 
 void BuildArrivalLegs() {

@@ -16,6 +16,7 @@ constexpr double kFeetPerNm = 6076.12;
 constexpr double kTurnBeyondCrossing = 0.019444;  // nm a degree
 constexpr int kMaxInterceptError = 7;             // degrees
 constexpr double kFarthestCrossing = 500;         // nm
+constexpr std::size_t kBoundDigits = 5;           // of an altitude window
 constexpr int kTouching = 2;                      // degrees between lines that count as one
 
 double Folded(double degrees) {
@@ -189,12 +190,22 @@ std::string LegCodeIdent(const LegCode& code, std::string_view alt_token) {
         case LegCode::kVectors:
             return "VECTORS";
         case LegCode::kAltitude:
-            return Format("(%s)", std::string(alt_token.substr(0, alt_token.find_first_of("+-"))).c_str());
+            alt_token = IsAltitudeWindow(alt_token) ? alt_token.substr(0, kBoundDigits)
+                                                    : alt_token.substr(0, alt_token.find_first_of("+-"));
+            return Format("(%s)", std::string(alt_token).c_str());
         default:
             break;
     }
     const char* kind = code.letter == 'T' ? "TR" : code.letter == 'C' ? "CR" : "HD";
     return Format("%s%03d", kind, code.course);
+}
+
+bool IsAltitudeWindow(std::string_view alt_token) {
+    return alt_token.size() == 2 * kBoundDigits + 1 && alt_token.back() == 'B';
+}
+
+double AltitudeOfToken(std::string_view alt_token) {
+    return LeadingInt(IsAltitudeWindow(alt_token) ? alt_token.substr(0, kBoundDigits) : alt_token);
 }
 
 int ComputeDepartureLeg(const LegCode& code, LegCodeInput& input, LatLon& end) {

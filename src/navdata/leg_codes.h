@@ -22,6 +22,11 @@ bool ParseLegCode(std::string_view text, LegCode& code);
 /// The name under which a coded leg is shown: "(INTC)", "VECTORS", "(1200)" or "HD190".
 std::string LegCodeIdent(const LegCode& code, std::string_view alt_token);
 
+/// "1600023000B": two bounds of five digits.
+bool IsAltitudeWindow(std::string_view alt_token);
+/// The altitude of a token, ft; of a window its lower bound. 0 = none.
+double AltitudeOfToken(std::string_view alt_token);
+
 /// What a coded leg is computed from.
 struct LegCodeInput {
     LatLon start;              // where the leg begins

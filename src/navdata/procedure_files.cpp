@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <utility>
 
 #include "navdata/geodesy.h"
 #include "navdata/leg_codes.h"
@@ -61,6 +62,28 @@ std::string_view FirstOfList(std::string_view list) {
     return list.substr(0, list.find(','));
 }
 
+bool IsForAll(std::string_view list) {
+    return list.empty() || list.starts_with('-');
+}
+
+bool ListNames(std::string_view list, std::string_view name) {
+    while (!list.empty()) {
+        const std::string_view part = FirstOfList(list);
+        if (part == name) return true;
+        list.remove_prefix(std::min(list.size(), part.size() + 1));
+    }
+    return false;
+}
+
+bool ListsShareAName(std::string_view list, std::string_view other) {
+    while (!list.empty()) {
+        const std::string_view part = FirstOfList(list);
+        if (ListNames(other, part)) return true;
+        list.remove_prefix(std::min(list.size(), part.size() + 1));
+    }
+    return false;
+}
+
 // What stands behind the heading "[ICAO]"; empty when there is none.
 std::string_view FindSection(std::string_view text, std::string_view airport) {
     for (std::size_t at = text.find('['); at != std::string_view::npos; at = text.find('[', at + 1)) {
@@ -95,6 +118,12 @@ void ReadSection(const char* file_name, std::string_view airport, Take take, Clo
     close();
 }
 
+// Where a leg begins, and on which course (degrees magnetic) the aircraft comes there.
+struct Approach {
+    LatLon at = {};
+    double course = 0;
+};
+
 // What loading knows while it reads one airport's procedures.
 struct Reading {
     AirportData& airport;
@@ -102,13 +131,26 @@ struct Reading {
     int& count;
     int variation;   // degrees, at the airport; holds for all legs of this load
     int record = 0;  // the one that the last line belonged to
+    Approach start = {{airport.lat, airport.lon}, 0};  // of the last procedure whose runway is known
 };
+
+void StartAtRunway(const Reading& reading, std::string_view runway, Approach& start) {
+    StartOfClimb(reading.airport, runway, reading.variation, start.at.lat, start.at.lon, start.course);
+}
+
+bool IsRunway(const Reading& reading, std::string_view name) {
+    const AirportData& airport = reading.airport;
+    for (int i = 1; i <= airport.runway_cnt; ++i)
+        if (std::as_const(airport.runways)[i].ident == name) return true;
+    return false;
+}
 
 int VariationAt(const AirportData& airport) {
     return MagVarAt(airport.lat, airport.lon);
 }
 
 int FindRecord(const Reading& reading, std::string_view name) {
+    if (reading.record > 0 && reading.list[reading.record].name == name) return reading.record;
     for (int i = 1; i <= reading.count; ++i)
         if (reading.list[i].name == name) return i;
     return 0;
@@ -128,37 +170,42 @@ void CloseRecord(Reading& reading) {
     if (reading.record == 0) return;
     ProcedureRecord& record = reading.list[reading.record];
     ProcedureLeg& last = record.legs[record.leg_cnt];
-    if (record.leg_cnt < 2 || !last.ident.empty()) return;
+    if (record.leg_cnt == 0 || !last.ident.empty()) return;
     last.ident = record.legs[record.leg_cnt - 1].ident;
     last.marker = "*";
+    if (last.ident.empty()) --record.leg_cnt;
 }
 
-// Where the next leg of a record begins, and on which course (degrees magnetic) the aircraft comes there.
-struct Approach {
-    LatLon at = {};
-    double course = 0;
-};
+// Legs for different runways, or of different transitions, are never flown one behind the other.
+bool AreAlternatives(const Reading& reading, const ProcedureLeg& a, const ProcedureLeg& b) {
+    if (IsForAll(a.segment) || IsForAll(b.segment) || ListsShareAName(a.segment, b.segment)) return false;
+    return IsRunway(reading, FirstOfList(a.segment)) == IsRunway(reading, FirstOfList(b.segment));
+}
 
-Approach EndOfLegs(const Reading& reading, const ProcedureRecord& record) {
+// Where the next leg of a record begins.
+Approach EndOfLegs(const Reading& reading, const ProcedureRecord& record, const ProcedureLeg& next) {
+    const auto leg_before = [&](int leg) {
+        while (leg > 0 && AreAlternatives(reading, record.legs[leg], next)) --leg;
+        return leg;
+    };
+    const int last_place = leg_before(record.leg_cnt);
     Approach end;
-    if (record.leg_cnt == 0) {
-        const std::string_view runway = FirstOfList(record.runways);
-        if (!StartOfClimb(reading.airport, runway, reading.variation, end.at.lat, end.at.lon, end.course))
-            end.at = {reading.airport.lat, reading.airport.lon};
+    if (last_place == 0) {
+        end = reading.start;
+        if (!ListNames(next.segment, FirstOfList(record.runways)))
+            StartAtRunway(reading, FirstOfList(next.segment), end);
         return end;
     }
-    const ProcedureLeg& last = record.legs[record.leg_cnt];
+    const ProcedureLeg& last = record.legs[last_place];
     end.at = {last.lat, last.lon};
     if (!last.code.empty()) {
         end.course = last.code_course;
-    } else {
-        const Approach before =
-            record.leg_cnt > 1
-                ? Approach{{record.legs[record.leg_cnt - 1].lat, record.legs[record.leg_cnt - 1].lon}}
-                : Approach{{last.start_lat, last.start_lon}};
-        end.course =
-            GreatCircle(before.at.lat, before.at.lon, last.lat, last.lon).bearing - reading.variation;
+        return end;
     }
+    const int before = last_place > 1 ? leg_before(last_place - 1) : 0;
+    const LatLon from = before > 0 ? LatLon{record.legs[before].lat, record.legs[before].lon}
+                                   : LatLon{last.start_lat, last.start_lon};
+    end.course = GreatCircle(from.lat, from.lon, last.lat, last.lon).bearing - reading.variation;
     return end;
 }
 
@@ -167,7 +214,8 @@ using ComputeFunction = int (*)(const LegCode&, LegCodeInput&, LatLon&);
 // Gives a leg its end. False for a coded leg that can't be built.
 bool PlaceLeg(const Reading& reading, const ProcedureRecord& record, ProcedureLeg& leg,
               ComputeFunction compute) {
-    const Approach from = EndOfLegs(reading, record);
+    if (std::fabs(leg.file_lat) > 90 || std::fabs(leg.file_lon) > 180) return false;
+    const Approach from = EndOfLegs(reading, record, leg);
     leg.start_lat = from.at.lat;
     leg.start_lon = from.at.lon;
     LegCode code;
@@ -178,7 +226,7 @@ bool PlaceLeg(const Reading& reading, const ProcedureRecord& record, ProcedureLe
         return true;
     }
     leg.code_course = code.course;
-    leg.code_alt = LeadingDouble(leg.alt_token);
+    leg.code_alt = AltitudeOfToken(leg.alt_token);
     leg.ident = LegCodeIdent(code, leg.alt_token);
     if (code.until == LegCode::kVectors) leg.text = "VECTOR";
     if (code.turn != 0) leg.turn = code.turn;
@@ -200,6 +248,7 @@ bool PlaceLeg(const Reading& reading, const ProcedureRecord& record, ProcedureLe
 
 void AddLeg(Reading& reading, ProcedureLeg leg, ComputeFunction compute) {
     ProcedureRecord& record = reading.list[reading.record];
+    if (record.legs[record.leg_cnt].ident.empty() && record.leg_cnt > 0) --record.leg_cnt;
     if (PlaceLeg(reading, record, leg, compute)) record.legs[++record.leg_cnt] = std::move(leg);
 }
 
@@ -217,6 +266,7 @@ bool TakeHeading(Reading& reading, const Fields& fields) {
     ProcedureRecord& record = OpenRecord(reading, fields[1]);
     record.kind = fields[2];
     record.runways = fields[3];
+    StartAtRunway(reading, FirstOfList(record.runways), reading.start);
     return true;
 }
 
@@ -229,9 +279,18 @@ void ChooseRecord(Reading& reading, std::string_view name) {
         OpenRecord(reading, name);
 }
 
-void SetPrevTurn(Reading& reading, int turn) {
+// "/LT" or "/RT" in front of the ident or behind it is the turn of the leg, at a runway fix that of the leg
+// before it. The field is taken out.
+void TakeTurn(Reading& reading, Fields& fields, std::size_t ident, ProcedureLeg& leg) {
+    const std::size_t place = IsTurnField(fields[ident]) ? ident : ident + 1;
+    if (!IsTurnField(fields[place])) return;
+    const int turn = TurnOf(fields[place]);
+    TakeOut(fields, place);
     ProcedureRecord& record = reading.list[reading.record];
-    if (record.leg_cnt > 0) record.legs[record.leg_cnt].turn = turn;
+    if (!IsRunwayFix(fields[ident]))
+        leg.turn = turn;
+    else if (record.leg_cnt > 0)
+        record.legs[record.leg_cnt].turn = turn;
 }
 
 void TakeSidLine(Reading& reading, Fields fields) {
@@ -239,14 +298,8 @@ void TakeSidLine(Reading& reading, Fields fields) {
     if (fields[1].empty() || fields[1] == "---") return;
     ChooseRecord(reading, fields[0]);
     ProcedureLeg leg;
+    TakeTurn(reading, fields, 1, leg);
     SetIdent(leg, fields[1]);
-    if (IsTurnField(fields[2])) {
-        if (IsRunwayFix(fields[1]))
-            SetPrevTurn(reading, TurnOf(fields[2]));
-        else
-            leg.turn = TurnOf(fields[2]);
-        TakeOut(fields, 2);
-    }
     leg.alt_token = fields[2];
     leg.applies_to = leg.segment = fields[3];
     leg.file_lat = ToNumber(fields[4]);
@@ -262,13 +315,7 @@ void TakeStarLine(Reading& reading, Fields fields) {
     if (fields[2].empty() || fields[2] == "---") return;
     ChooseRecord(reading, fields[0]);
     ProcedureLeg leg;
-    if (IsTurnField(fields[2])) {
-        if (IsRunwayFix(fields[3]))
-            SetPrevTurn(reading, TurnOf(fields[2]));
-        else
-            leg.turn = TurnOf(fields[2]);
-        TakeOut(fields, 2);
-    }
+    TakeTurn(reading, fields, 2, leg);
     SetIdent(leg, fields[2]);
     leg.applies_to = leg.segment = fields[1];
     leg.alt_token = fields[3];
@@ -282,15 +329,15 @@ bool IsRole(std::string_view text) {
     return text.starts_with("IAF") || text == "FAF" || text == "MAF" || text == "MAP";
 }
 
-bool IsNoRunway(std::string_view runway) {
-    return runway == "--" || runway == "-" || runway == "---";
+bool IsNone(std::string_view field) {
+    return field == "--" || field == "-" || field == "---";
 }
 
 // Out on a course turned away from the code's, and across to where its heading begins.
 void AddProcedureTurn(Reading& reading, const ProcedureLeg& filed, const LegCode& code) {
     const bool right = code.turn == 2;
     ProcedureRecord& record = reading.list[reading.record];
-    const Approach from = EndOfLegs(reading, record);
+    const Approach from = EndOfLegs(reading, record, filed);
     const bool has_fix = filed.file_lat != 0;
     LatLon at = has_fix ? LatLon{filed.file_lat, filed.file_lon} : from.at;
     int course = (code.course + (right ? -180 : 180) + 360) % 360;
@@ -319,22 +366,21 @@ struct ApproachReading {
 
 void TakeApproachLine(ApproachReading& state, Fields fields) {
     Reading& reading = state.reading;
-    ProcedureLeg leg;
-    if (IsTurnField(fields[2])) {
-        leg.turn = TurnOf(fields[2]);
-        TakeOut(fields, 2);
-    }
-    if (fields[2].empty() || fields[2] == "---") return;
-    // Without an altitude all that follows stands one place further left.
-    if (!IsNumber(fields[6]) && IsNumber(fields[5]) && IsNumber(fields[4])) OpenGap(fields, 4);
-    const std::string runway(IsNoRunway(fields[0]) ? std::string_view() : fields[0]);
-    const std::string name = std::string(fields[1]) + runway;
+    if (fields[2].empty()) return;
+    const std::string runway(IsNone(fields[0]) ? std::string_view() : fields[0]);
     const int before = reading.record;
-    ChooseRecord(reading, name);
+    ChooseRecord(reading, std::string(fields[1]) + runway);
     ProcedureRecord& record = reading.list[reading.record];
     record.kind = fields[1];
     record.runways = runway;
-    if (reading.record != before) state.transition.clear();
+    if (reading.record != before) {
+        state.transition.clear();
+        StartAtRunway(reading, runway, reading.start);
+    }
+    ProcedureLeg leg;
+    TakeTurn(reading, fields, 2, leg);
+    // Without an altitude all that follows stands one place further left.
+    if (!IsNumber(fields[6]) && IsNumber(fields[5]) && IsNumber(fields[4])) OpenGap(fields, 4);
 
     const std::string_view role = fields[3], second = fields[7];
     const bool second_given = !second.empty() && !second.starts_with('-');
@@ -349,7 +395,7 @@ void TakeApproachLine(ApproachReading& state, Fields fields) {
         state.transition = role;
     }
     leg.segment = state.transition;
-    SetIdent(leg, fields[2]);
+    if (!IsNone(fields[2])) SetIdent(leg, fields[2]);
     leg.alt_token = fields[4];
     leg.file_lat = ToNumber(fields[5]);
     leg.file_lon = ToNumber(fields[6]);

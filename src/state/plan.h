@@ -110,8 +110,9 @@ struct ProcedureSelections {
     std::string dep_sid = kNotSelected, dep_trans = kNotSelected;
     std::string arr_star = kNotSelected, arr_trans = kNotSelected;
     std::string arr_appr = kNotSelected, arr_appr_rwy = kNotSelected, arr_appr_trans = kNotSelected;
-    std::string appr_type = "-";  // first three letters of the approach
-    int fms_dest_rwy_pos = 0;     // place of the runway in the destination's list, 0 = none
+    std::string appr_type = "-";    // first three letters of the approach
+    int fms_dest_rwy_pos = 0;       // place of the runway in the destination's list, 0 = none
+    FlightPlanLeg shared_leg = {};  // the approach's first leg stands in its place; no ident = none
 };
 
 /// The route. FlightPlan is what is flown, FlightPlanMod is what the pages edit; only fmc/ changes either.

@@ -4,11 +4,10 @@
 #include <string>
 
 #include "state/growing_list.h"
-#include "state/plan.h"
 #include "state/procedures.h"
 #include "state/variable.h"
 
-/// The selected procedures, filtered to the legs that go into the route. Filled by fmc/select_legs.
+/// The selected procedures, filtered to the legs that go into the route. Filled by fmc/procedure_legs.
 struct ProcedureLists {
     GrowingList<ProcedureLeg> DepartureLegs, ArrivalLegs, ApproachLegs;  // from 1
     int departure_leg_cnt = 0, arrival_leg_cnt = 0, approach_leg_cnt = 0;
@@ -16,9 +15,6 @@ struct ProcedureLists {
     GrowingList<std::string> approach_transitions;  // from 1, at most 50
     int approach_transition_cnt = 0;
     int missed_approach_wanted = 1;
-    // The leg of the route that an approach has taken the place of, for the day on which the approach goes.
-    FlightPlanLeg reused_leg;
-    int reused = 0;
 };
 
 extern ProcedureLists procedure_lists;

@@ -126,6 +126,51 @@ TEST_F(ProcedureFiles, ApproachesWithAProcedureTurn) {
     EXPECT_NEAR(across.bearing - out.bearing, 90, 0.1);
 }
 
+// Each group of runways starts at its own, each transition at what all fly; a turn may stand behind the
+// ident.
+TEST_F(ProcedureFiles, AlternativesInOneRecord) {
+    Put("sids.txt",
+        "[ORIG]\nT BOTH1 RNAV 16,34\n"
+        "BOTH1 /T160/UA 2500 16 0 0\nBOTH1 /H160/UD9.0 3000 16 39.0 10.0\n"
+        "BOTH1 /T340/UA 2500 34 0 0\nBOTH1 /H340/UD9.0 0300005000B 34 39.0 10.0\n"
+        "BOTH1 /H340/UA 0300005000B 34 0 0\n"
+        "T ELSE1 RNAV 99\nELSE1 /T160/UA 2500 --- 0 0\n"
+        "FAR1 AAFIX 0 --- 91.0 10.0\nFAR1 AAFIX 0 --- 40.5 -181\n");
+    LoadSids(airport);
+    ASSERT_EQ(airport.sid_cnt, 3);
+    const ProcedureRecord& both = airport.sids[1];
+    ASSERT_EQ(both.leg_cnt, 5);
+    for (int leg : {2, 4}) {  // straight out: 9 nm from the field, on either side
+        const DistBearing from_field = GreatCircle(39.0, 10.0, both.legs[leg].lat, both.legs[leg].lon);
+        EXPECT_NEAR(from_field.dist, 9.0, 0.1) << leg;
+        EXPECT_EQ(both.legs[leg].lat > 39.0, leg == 4);
+    }
+    EXPECT_EQ(both.legs[5].ident, "(03000)");  // the lower bound counts
+    EXPECT_DOUBLE_EQ(both.legs[5].code_alt, 3000);
+    // a runway that isn't there starts where the procedure before it did
+    EXPECT_DOUBLE_EQ(airport.sids[2].legs[1].start_lat, both.legs[1].start_lat);
+    EXPECT_EQ(airport.sids[3].leg_cnt, 0) << "off the globe";
+
+    Put("stars.txt", "[ORIG]\nEND1 --- CCC 0 42.0 10.0\nEND1 16 RW16 /LT 500 39.02 9.99 FO\n");
+    LoadStars(airport);
+    ASSERT_EQ(Legs(airport.stars[1]), "CCC RW16");
+    EXPECT_EQ(airport.stars[1].legs[1].turn, 1);
+    EXPECT_EQ(airport.stars[1].legs[2].alt_token, "500");
+    EXPECT_EQ(airport.stars[1].legs[2].flyover, 1);
+
+    // The fix without a name that ends a missed approach is the one before it: a hold.
+    Put("apps.txt",
+        "[ORIG]\n16 ILS FINAL FAF 2300 39.2 9.95 - 0 0\n16 ILS RW16 /RT MAP 480 39.02 9.99 - 0 0 FO\n"
+        "16 ILS --- MAF 3000 39.1 9.9 - 0 0\n16 ILS SHORT MAF 3000 39.1 9.9 - 0 0\n"
+        "16 ILS --- MAF 3000 39.1 9.9 - 0 0\n34 VOR --- MAF 3000 39.1 9.9 - 0 0\n");
+    LoadApproaches(airport);
+    ASSERT_EQ(Legs(airport.approaches[1]), "FINAL RW16 SHORT SHORT");
+    EXPECT_EQ(airport.approaches[1].legs[1].turn, 2);
+    EXPECT_EQ(airport.approaches[1].legs[2].alt_token, "480");
+    EXPECT_EQ(airport.approaches[1].legs[4].marker, "*");
+    EXPECT_EQ(airport.approaches[2].leg_cnt, 0);
+}
+
 TEST_F(ProcedureFiles, WhateverTheFilesHold) {
     std::string hostile = "[ORIG]\n\n \t\nT\nT X\nX\n" + std::string(3000, 'Q') + "\n\x01\xff /RT/\n";
     for (int i = 0; i < 10000; ++i) hostile += "LONG1 AAFIX 0 --- 40.5 10.0\n";
