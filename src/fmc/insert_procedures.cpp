@@ -16,6 +16,7 @@
 #include "state/airports.h"
 #include "state/plan.h"
 #include "state/procedure_lists.h"
+#include "state/sim.h"
 
 namespace {
 
