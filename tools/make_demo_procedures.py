@@ -112,8 +112,9 @@ class Maker:
                 turn = "/RT" if (inbound - across) % 360 < 180 else "/LT"
                 if 15 < (inbound - across) % 360 < 345:
                     self.sids.append("%s /H%03d/IC%03d 4000 %s %s" % (procedure, across, inbound, for_all, self.at(name)))
-            else:  # a heading until a distance from the field, then vectors
-                self.sids.append("%s /H%03d/UD8.0 3000 %s %.6f %.6f" % (procedure, track, for_all, *centre))
+            else:  # a heading or course until a distance from the field, then vectors
+                letter = "H" if group is groups[0] else "C"
+                self.sids.append("%s /%s%03d/UD8.0 3000 %s %.6f %.6f" % (procedure, letter, track, for_all, *centre))
                 turned = (track + 90) % 360 or 360
                 self.sids.append("%s /RT/H%03d/UA 9000 %s 0 0" % (procedure, turned, for_all))
         middle = self.fix(project(centre, great_circle(centre, end)[1], great_circle(centre, end)[0] * 0.7))

@@ -25,9 +25,13 @@ bool IsTrueReference() {
     return NamedValue("TZ_OH_HDG_REF_Button") == 1;
 }
 
+bool HasRoute() {
+    return NamedValue("lnav_hdg") != kNoHeading;
+}
+
 // Before guidance has spoken at all, its variables read 0, a side of the track too.
 bool HasLnavHeading() {
-    return NamedValue("lnav_hdg") != kNoHeading && NamedValue("xtk_err_dir") != 0;
+    return HasRoute() && NamedValue("xtk_err_dir") != 0;
 }
 
 // A bank that turns the track by an error within a few seconds, the same at every speed.
@@ -141,7 +145,8 @@ void UpdateLateralMode(AutoflightLogic& logic, const FlightValues& now) {
         logic.held_direction = now.magnetic_heading;
     }
     CaptureArmedMode(logic, now);
-    if (!HasLnavHeading()) DropLnav(logic, now);
+    // Exactly on the track there is no side of it, which is no reason to let go.
+    if (!HasRoute()) DropLnav(logic, now);
     if (logic.lateral == kLocalizer && now.on_ground) logic.lateral = kRollout;
     // The panel may turn its window from heading to track.
     if (logic.lateral == kHeadingSelect || logic.lateral == kTrackSelect)
