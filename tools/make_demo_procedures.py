@@ -110,7 +110,7 @@ class Maker:
                 joins = project(climbed, across + var, 9)
                 inbound = round(great_circle(joins, end)[1] - var) % 360
                 turn = "/RT" if (inbound - across) % 360 < 180 else "/LT"
-                if 15 < (inbound - across) % 360 < 345:
+                if 15 < abs((inbound - across + 180) % 360 - 180) < 120:  # a course that turns back is met too far out
                     self.sids.append("%s /H%03d/IC%03d 4000 %s %s" % (procedure, across, inbound, for_all, self.at(name)))
             else:  # a heading or course until a distance from the field, then vectors
                 letter = "H" if group is groups[0] else "C"
@@ -180,9 +180,12 @@ class Maker:
         threshold, course, _ = runways["10R"]
         inbound = round(course)
         final = self.fix(project(threshold, course + var + 180, 6))
+        outer = "DMPTA"  # where the turn begins, out on the same line
+        self.places[outer] = project(self.places[final], course + var + 180, 7)
         self.apps += [
             "10R VOR %s IAF 3000 %s - 190 0" % (final, self.at(final)),
-            "10R VOR /RT/H%03d/IC%03d --- 2500 %s - 180 0" % ((inbound + 30) % 360, inbound, self.at(final)),
+            "10R VOR %s --- 2500 %s - 180 0" % (outer, self.at(outer)),
+            "10R VOR /RT/H%03d/IC%03d --- 2500 %s - 180 0" % ((inbound + 30) % 360, inbound, self.at(outer)),
             "10R VOR %s FAF 1800 %s - 170 0" % (final, self.at(final)),
             "10R VOR RW10R MAP %d %.6f %.6f - 140 0 FO" % (elevation + 60, *threshold),
             "10R VOR /LT/T%03d/UA MAF 3000 0 0 - 0 0" % ((inbound - 20) % 360),
