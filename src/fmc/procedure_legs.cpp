@@ -1,7 +1,5 @@
 #include "fmc/procedure_legs.h"
 
-#include <algorithm>
-
 #include "navdata/leg_codes.h"
 #include "navdata/magnetic_model.h"
 #include "navdata/procedure_files.h"
@@ -15,15 +13,6 @@ namespace {
 constexpr int kMostDepartureLegs = 80;
 constexpr int kMostTransitions = 50;
 constexpr std::string_view kForAll = "---";
-
-bool Names(std::string_view list, std::string_view name) {
-    while (!list.empty()) {
-        const std::string_view item = list.substr(0, list.find(','));
-        if (item == name) return true;
-        list.remove_prefix(std::min(list.size(), item.size() + 1));
-    }
-    return false;
-}
 
 std::string_view TransitionOf(const ProcedureRecord& record) {
     const std::size_t point = record.name.find('.');
@@ -101,8 +90,8 @@ void BuildDepartureLegs() {
                 lists.departure_leg_cnt, [&](const ProcedureRecord& record, const ProcedureLeg& leg) {
                     const std::string_view own = TransitionOf(record);
                     if (transition != !own.empty() || (transition && own != chosen.dep_trans)) return false;
-                    return transition || leg.applies_to == kForAll || Names(leg.applies_to, runway) ||
-                           Names(leg.applies_to, chosen.dep_trans);
+                    return transition || leg.applies_to == kForAll || ListNames(leg.applies_to, runway) ||
+                           ListNames(leg.applies_to, chosen.dep_trans);
                 });
     };
     add(false);
@@ -117,7 +106,7 @@ void BuildArrivalLegs() {
     lists.arrival_leg_cnt = 0;
     if (chosen.arr_star == kNotSelected) return;
     const auto is_of_transition = [&](const ProcedureRecord& record, const ProcedureLeg& leg) {
-        return TransitionOf(record) == chosen.arr_trans || Names(leg.applies_to, chosen.arr_trans);
+        return TransitionOf(record) == chosen.arr_trans || ListNames(leg.applies_to, chosen.arr_trans);
     };
     constexpr int kNoLimit = 100000;
     Collect(dest.stars, dest.star_cnt, chosen.arr_star, kNoLimit, lists.ArrivalLegs, lists.arrival_leg_cnt,
@@ -125,7 +114,7 @@ void BuildArrivalLegs() {
     Collect(dest.stars, dest.star_cnt, chosen.arr_star, kNoLimit, lists.ArrivalLegs, lists.arrival_leg_cnt,
             [&](const ProcedureRecord& record, const ProcedureLeg& leg) {
                 if (is_of_transition(record, leg) || !TransitionOf(record).empty()) return false;
-                return leg.applies_to == kForAll || Names(leg.applies_to, chosen.arr_appr_rwy);
+                return leg.applies_to == kForAll || ListNames(leg.applies_to, chosen.arr_appr_rwy);
             });
 }
 

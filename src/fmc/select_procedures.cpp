@@ -6,6 +6,7 @@
 #include "fmc/insert_procedures.h"
 #include "fmc/procedure_legs.h"
 #include "fmc/route.h"
+#include "navdata/procedure_files.h"
 #include "state/airports.h"
 #include "state/plan.h"
 #include "state/procedure_lists.h"
@@ -31,14 +32,9 @@ bool IsRunwayName(const AirportData& airport, std::string_view name) {
     return false;
 }
 
-// Each part of a text with "," between.
 template <class Visit>
-void ForEachPart(std::string_view list, Visit visit) {
-    while (!list.empty()) {
-        const std::string_view part = list.substr(0, list.find(','));
-        visit(part);
-        list.remove_prefix(std::min(list.size(), part.size() + 1));
-    }
+void ForEachListed(std::string_view list, Visit visit) {
+    for (std::string_view name = NextListed(list); !name.empty(); name = NextListed(list)) visit(name);
 }
 
 bool IsName(std::string_view text) {
@@ -56,7 +52,7 @@ Names Transitions(const AirportData& airport, const GrowingList<ProcedureRecord>
         const std::size_t point = record.name.find('.');
         if (point != std::string::npos) AddOnce(names, std::string_view(record.name).substr(point + 1));
         for (int leg = 1; leg <= record.leg_cnt; ++leg)
-            ForEachPart(record.legs[leg].applies_to, [&](std::string_view part) {
+            ForEachListed(record.legs[leg].applies_to, [&](std::string_view part) {
                 if (IsName(part) && !IsRunwayName(airport, part)) AddOnce(names, part);
             });
     }
@@ -74,8 +70,8 @@ Names RunwaysOf(const AirportData& airport, const GrowingList<ProcedureRecord>& 
         const auto add = [&](std::string_view part) {
             if (IsRunwayName(airport, part)) AddOnce(names, part);
         };
-        ForEachPart(record.runways, add);
-        for (int leg = 1; leg <= record.leg_cnt; ++leg) ForEachPart(record.legs[leg].applies_to, add);
+        ForEachListed(record.runways, add);
+        for (int leg = 1; leg <= record.leg_cnt; ++leg) ForEachListed(record.legs[leg].applies_to, add);
     }
     return names;
 }

@@ -66,21 +66,9 @@ bool IsForAll(std::string_view list) {
     return list.empty() || list.starts_with('-');
 }
 
-bool ListNames(std::string_view list, std::string_view name) {
-    while (!list.empty()) {
-        const std::string_view part = FirstOfList(list);
-        if (part == name) return true;
-        list.remove_prefix(std::min(list.size(), part.size() + 1));
-    }
-    return false;
-}
-
 bool ListsShareAName(std::string_view list, std::string_view other) {
-    while (!list.empty()) {
-        const std::string_view part = FirstOfList(list);
-        if (ListNames(other, part)) return true;
-        list.remove_prefix(std::min(list.size(), part.size() + 1));
-    }
+    for (std::string_view name = NextListed(list); !name.empty(); name = NextListed(list))
+        if (ListNames(other, name)) return true;
     return false;
 }
 
@@ -423,6 +411,16 @@ void CountProcedures(AirportData& airport) {
 }
 
 }  // namespace
+
+std::string_view NextListed(std::string_view& list) {
+    return NextPart(list, [](char c) { return c == ','; });
+}
+
+bool ListNames(std::string_view list, std::string_view name) {
+    for (std::string_view item = NextListed(list); !item.empty(); item = NextListed(list))
+        if (item == name) return true;
+    return false;
+}
 
 bool StartOfClimb(const AirportData& airport, std::string_view runway, int variation, double& lat,
                   double& lon, double& course) {

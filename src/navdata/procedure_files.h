@@ -12,6 +12,10 @@ void LoadStars(AirportData& airport);
 /// Also the list of approach kinds.
 void LoadApproaches(AirportData& airport);
 
+/// The next name of a list with "," between ("16L,16R"), cut off its front; empty at the end.
+std::string_view NextListed(std::string_view& list);
+bool ListNames(std::string_view list, std::string_view name);
+
 /// Where a departure's first coded leg starts: past the runway's threshold, in its direction. False when the
 /// airport has no runway of that name.
 bool StartOfClimb(const AirportData& airport, std::string_view runway, int variation, double& lat,
