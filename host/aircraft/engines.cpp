@@ -9,7 +9,7 @@ namespace {
 // Below idle the core gathers speed by its flame, or turns by its starter or what is left of the fan's.
 void StepCore(Engine& engine, double dt) {
     constexpr double kCrankedN2 = 28, kRunUp = 4;  // percent, percent a second
-    constexpr double kLag = 4;                       // s
+    constexpr double kLag = 4;                     // s
     if (engine.running) {
         if (engine.n2 < kIdleN2) engine.n2 = std::min(engine.n2 + kRunUp * dt, kIdleN2);
         return;

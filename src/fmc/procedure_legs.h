@@ -4,8 +4,8 @@
 // name, out of the lists of the airports at both ends. A name that no longer stands there gives an empty
 // list.
 
-/// DepartureLegs, at most 80: the SID's legs for the departure runway, then those of the chosen transition. The
-/// coded legs that it begins with are computed anew from the chosen runway.
+/// DepartureLegs, at most 80: the SID's legs for the departure runway, then those of the chosen transition.
+/// The coded legs that it begins with are computed anew from the chosen runway.
 void BuildDepartureLegs();
 
 /// ArrivalLegs: those of the chosen transition, then those of the STAR that hold for the runway.

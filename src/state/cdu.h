@@ -44,12 +44,12 @@ struct CduState {
 
 /// What both CDUs share of the route pages.
 struct RoutePages {
-    int LegsView = 0;            // 0 normal, 1 direct-to selection, 2 hold selection
-    int HoldSelectIndex = 0;     // leg picked in view 2, 0 = none
-    int DirectSelectIndex = 0;   // leg picked in view 1, 0 = none
-    int PendingSelectRow = 0;    // where a pick on SELECT DESIRED WPT goes in; 0 = the hold or direct-to path
-    int hold_candidate = 0;      // the pick on SELECT DESIRED WPT that waits for "HOLD AT"
-    int wind_leg = 0;            // leg of the wind page
+    int LegsView = 0;           // 0 normal, 1 direct-to selection, 2 hold selection
+    int HoldSelectIndex = 0;    // leg picked in view 2, 0 = none
+    int DirectSelectIndex = 0;  // leg picked in view 1, 0 = none
+    int PendingSelectRow = 0;   // where a pick on SELECT DESIRED WPT goes in; 0 = the hold or direct-to path
+    int hold_candidate = 0;     // the pick on SELECT DESIRED WPT that waits for "HOLD AT"
+    int wind_leg = 0;           // leg of the wind page
 };
 
 extern std::array<CduState, 2> cdu;
