@@ -63,6 +63,7 @@ void GDIMTGauge::Callback(GaugeElement* element_tree, int service_id) {
             if (first_element_ != nullptr && frame_pending_ == 0) {
                 element_ = element_tree;
                 frame_pending_ = 1;
+                wake_.notify_one();  // without the lock, since the host never waits: one lost costs a period
             }
             break;
         case kServicePreKill:
@@ -99,9 +100,11 @@ void GDIMTGauge::StopWorker() {
 
 void GDIMTGauge::Work() {
     while (stop_ == 0) {
-        PaintPendingFrame();
+        const std::chrono::milliseconds period(period_ms_);
+        const bool painted = PaintPendingFrame();
         std::unique_lock guard(sleep_lock_);
-        wake_.wait_for(guard, std::chrono::milliseconds(period_ms_), [this] { return stop_ != 0; });
+        if (painted) wake_.wait_for(guard, period, [this] { return stop_ != 0; });
+        wake_.wait_for(guard, period, [this] { return stop_ != 0 || frame_pending_ != 0; });
     }
 }
 

@@ -75,7 +75,7 @@ class GDIMTGauge {
     GaugeElement* first_element_ = nullptr;  // the one that proved to hold a device context
     std::vector<GaugeElement*> elements_;
 
-    std::mutex sleep_lock_;  // the worker sleeps on it, so that stopping doesn't wait for a period
+    std::mutex sleep_lock_;  // the worker sleeps on it, so that neither a request nor its end waits
     std::condition_variable wake_;
     int period_ms_ = 55;
 

@@ -18,14 +18,16 @@ constexpr unsigned At(std::initializer_list<int> phases) {
 }
 constexpr unsigned kAlways = (1u << kPhases) - 1;
 
-// About a quarter of the controls in one frame: each is seen within a fifth of a second.
+// About a quarter of the controls in one frame: each is seen within a fifth of a second. Who types looks at
+// the scratchpad, so that the keypads are looked at in each frame.
 const PollSet kSets[] = {
     {"always", kAlways, AlwaysPolledControls()},
     {"overhead_forward", At({0, 4, 8, 12}), ForwardOverheadControls()},
     {"overhead_middle", At({1, 5, 9, 13}), MiddleOverheadControls()},
     {"overhead_engine", At({2, 6, 10, 14}), EngineOverheadControls()},
     {"air_and_tablets", At({3, 7, 11, 15}), AirAndTabletControls()},
-    {"keypads", At({4, 8, 12, 16}), KeypadControls()},
+    {"keypads", kAlways, KeypadControls()},
+    {"pedestal", At({4, 8, 12, 16}), PedestalControls()},
     {"displays", At({5, 9, 13, 17}), DisplayControls()},
     {"glareshield", At({0, 6, 10, 14}), GlareshieldControls()},
     {"other", At({1, 5, 9, 13}), OtherControls()},

@@ -44,20 +44,26 @@ consteval auto Keypad() {
     return JoinTables(Characters<kSide>(std::make_index_sequence<kCharacters.size()>()), kOthers);
 }
 
-// The keypads stand on the aft pedestal; its switches are polled with them.
-constexpr auto kPedestal = std::to_array<Control>({
+constexpr auto kItemPresses = std::to_array<Control>({
     Momentary(NamedVar("TZ_CAPT_CDU_KEYPRESS"), [](int item) { OnCduKeyPress(kCaptain, item); }),
     Momentary(NamedVar("TZ_FO_CDU_KEYPRESS"), [](int item) { OnCduKeyPress(kFirstOfficer, item); }),
+});
+
+constexpr auto kPedestal = std::to_array<Control>({
     Switch(NamedVar("TZ_AFT_Transponder_Knob"), &cockpit.TZ_AFT_Transponder_Knob, 0, 4),
     Switch(NamedVar("TZ_AFT_FD_DOOR_Switch"), &cockpit.TZ_AFT_FD_DOOR_Switch, 0, 2),
     Latching(NamedVar("TZ_AFT_OBS_Audio_Switch"), &cockpit.TZ_AFT_OBS_Audio_Switch),
 });
 
-constexpr auto kControls = JoinTables(Keypad<kCaptain>(), Keypad<kFirstOfficer>(), kPedestal);
-static_assert(kControls.size() == 95);
+constexpr auto kKeypads = JoinTables(Keypad<kCaptain>(), Keypad<kFirstOfficer>(), kItemPresses);
+static_assert(kKeypads.size() + kPedestal.size() == 95);
 
 }  // namespace
 
 std::span<const Control> KeypadControls() {
-    return kControls;
+    return kKeypads;
+}
+
+std::span<const Control> PedestalControls() {
+    return kPedestal;
 }

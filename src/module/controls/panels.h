@@ -12,6 +12,7 @@ std::span<const Control> MiddleOverheadControls();
 std::span<const Control> EngineOverheadControls();
 std::span<const Control> AirAndTabletControls();
 std::span<const Control> KeypadControls();
+std::span<const Control> PedestalControls();
 std::span<const Control> DisplayControls();
 std::span<const Control> GlareshieldControls();
 std::span<const Control> OtherControls();
