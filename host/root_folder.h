@@ -27,6 +27,7 @@ bool AppendConfigLines(const std::filesystem::path& velarion, const std::vector<
 struct AirframeTitle {
     std::string title;
     std::string atc_id;
+    bool hires_panel = false;  // its panel's screens have twice the pixels
 };
 
 /// The aircraft of every Aircraft.cfg under the root, in the order of their folders.

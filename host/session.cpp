@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <fstream>
 #include <span>
+#include <string_view>
 
 #include "host/module_library.h"
 #include "host/root_folder.h"
@@ -22,6 +23,24 @@ constexpr int kMainPanelWindow = 0;
 
 constexpr int kPaintedVersion = 1000;
 
+struct PixelSize {
+    std::string_view gauge;
+    int width, height;  // twice as much on a panel of high resolution
+};
+constexpr PixelSize kPixelSizes[] = {{"DU_LOWER_VC", 500, 331}, {"CAPT_EFB", 245, 435}};
+
+void GivePixels(PanelSurface& surface, std::string_view gauge, bool hires) {
+    for (const PixelSize& row : kPixelSizes) {
+        if (row.gauge != gauge) continue;
+        GaugeElement& element = surface.element;
+        element.width = hires ? 2 * row.width : row.width;
+        element.height = hires ? 2 * row.height : row.height;
+        surface.pixels.resize(static_cast<std::size_t>(element.width * element.height));
+        element.pixels = reinterpret_cast<uint8_t*>(surface.pixels.data());
+        element.byte_size = element.width * element.height * 4;
+    }
+}
+
 // A gauge stands in the virtual cockpit unless its name says that it is of the two-dimensional panel or one
 // of its pop-up windows; SERVER stands in both.
 void PlaceGauges(Session& session) {
@@ -34,10 +53,12 @@ void PlaceGauges(Session& session) {
         const bool in_2d_panel = name.ends_with("_2D") || name.ends_with("_PW");
         PanelGauge placed{{&gauge, name == "SERVER" ? "VC" : "", nullptr}, in_2d_panel};
         if (gauge.version == kPaintedVersion) {
-            // The surface is the module's own list of primitives: that there is one is all that it asks.
-            auto surface = std::make_unique<GaugeElement>();
-            surface->device_context = surface.get();
-            placed.instance.elements = surface.get();
+            // The surface is the module's own list of primitives: that there is one is all that it asks,
+            // but for what a peer shows.
+            auto surface = std::make_unique<PanelSurface>();
+            surface->element.device_context = surface.get();
+            if (session.settings.pixel_surfaces) GivePixels(*surface, name, session.hires_panel);
+            placed.instance.elements = &surface->element;
             session.surfaces.push_back(std::move(surface));
         }
         session.gauges.push_back(placed);
@@ -107,6 +128,7 @@ bool PrepareSession(Session& session, std::string& error) {
     if (found != titles.end()) {
         SetCalcText("(A:TITLE,string)", found->title);
         SetCalcText("(A:ATC ID,string)", found->atc_id);
+        session.hires_panel = found->hires_panel;
     }
     return true;
 }

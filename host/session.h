@@ -26,6 +26,13 @@ struct SessionSettings {
     Placement placement = {};     // with `placed`, else the demonstration's stand
     bool fdm = false;             // the aircraft moves by itself and AutoflightLogic runs
     bool terrain_chosen = false;  // else it is a surface through the airports
+    bool pixel_surfaces = false;  // the screens that a remote peer may show have pixels to be painted on
+};
+
+/// A surface of a panel: the element that the module knows, and its pixels where it has any.
+struct PanelSurface {
+    GaugeElement element = {};
+    std::vector<std::uint32_t> pixels;
 };
 
 struct PanelGauge {
@@ -39,8 +46,9 @@ struct Session {
     void* library = nullptr;
     const ModuleLinkage* linkage = nullptr;
     std::vector<PanelGauge> gauges;
-    std::vector<std::unique_ptr<GaugeElement>> surfaces;
+    std::vector<std::unique_ptr<PanelSurface>> surfaces;
     bool private_root = false;
+    bool hires_panel = false;
     Recorder* recorder = nullptr;  // takes down what pilots and host do; null = nobody asks
 };
 

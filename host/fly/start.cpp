@@ -44,6 +44,7 @@ bool StartFlight(Session& session, const FlyOptions& options, std::string& error
     // A recording is painted as its playback will be, call by call: pages take input as they are drawn.
     world.paints_in_line = options.headless || session.recorder != nullptr;
     world.sim_rate = options.headless ? 1 : options.rate;
+    world.serves_peers = session.settings.pixel_surfaces = !options.headless;
     session.settings.demo_root = options.demo_root;
     session.settings.root = options.root;
     session.settings.navdata = options.navdata;

@@ -2,6 +2,7 @@
 #include <chrono>
 #include <filesystem>
 
+#include "host/remote_peer.h"
 #include "host/root_folder.h"
 #include "host/scenario/commands.h"
 #include "host/scenario/inspection.h"
@@ -117,6 +118,19 @@ void Runways(Scenario&, const std::vector<Word>& words) {
     if (words.size() > 2) world.active_runways.push_back(airport);
 }
 
+// What a program that shows the CDUs and the tablet in windows of its own would send.
+void Remote(Scenario&, const std::vector<Word>& words) {
+    const int device = IntWord(words[1], "a device, 0 to 2");
+    RemotePeer peer;
+    if (!peer.Open()) throw CommandError{"the module serves no remote peer (RemoteCdu, four seconds)"};
+    if (words[2].text == "key" && words.size() == 4)
+        peer.Send(device, 0, IntWord(words[3], "a key code"));
+    else if (words[2].text == "touch" && words.size() == 5)
+        peer.Send(device, 2, 0, IntWord(words[3], "a pixel"), IntWord(words[4], "a pixel"));
+    else
+        throw CommandError{"`remote DEVICE key CODE` or `remote DEVICE touch X Y`"};
+}
+
 void Warp(Scenario&, const std::vector<Word>& words) {
     const double rate = NumberWord(words[1], "a rate");
     if (rate <= 0) throw CommandError{"\"" + words[1].text + "\" is no rate; above 0"};
@@ -150,6 +164,7 @@ std::vector<Command> HostSideCommands() {
         {"runways", "ICAO RWY...", "runways KSEA 16L 16R", Command::kAnytime, 1, 5, Runways},
         {"traffic", "ID LAT LON ALT_FT VS_FPM HDG | clear", "", Command::kAnytime, 1, 6, NotYet},
         {"url", "ADDRESS FILE", "", Command::kAnytime, 2, 2, NotYet},
+        {"remote", "DEVICE key CODE | touch X Y", "remote 0 key 20", Command::kAfter, 3, 4, Remote},
         {"warp", "X", "warp 4", Command::kAnytime, 1, 1, Warp},
     };
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "host/remote_peer.h"
 #include "host/world/ipc_block.h"
 #include "host/world/key_event_effects.h"
 #include "host/world/terrain.h"
@@ -330,6 +331,7 @@ constexpr HostOperations kOperations = {
     .open_sound_device = OpenSoundDevice,
     .close_sound_device = CloseSoundDevice,
     .paints_in_line = [] { return world.paints_in_line ? 1 : 0; },
+    .shared_name_space = [](char* text, int size) { return CopyText(SharedNames(), text, size); },
 };
 
 }  // namespace

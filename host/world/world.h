@@ -95,6 +95,7 @@ struct World {
     int machine_date = 20261201;
     bool swallow_keys = false;
     bool paints_in_line = true;  // no workers: scenarios paint in their own time
+    bool serves_peers = false;   // other programs on the machine find what the module shares
 
     // clock
     double seconds = 0;  // since the start of the run, unpaused

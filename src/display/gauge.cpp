@@ -4,6 +4,8 @@
 #include <chrono>
 
 #include "display/frame.h"
+#include "display/remote_bridge.h"
+#include "paint/rasterise.h"
 #include "platform/host.h"
 #include "platform/state_lock.h"
 #include "state/cfg.h"
@@ -37,6 +39,16 @@ struct LivingGauges {
     std::vector<GDIMTGauge*> gauges;
 };
 LivingGauges living;
+
+// A surface of four bytes a pixel without gaps, as the rasteriser paints it.
+bool HasOurPixels(const GaugeElement& element) {
+    constexpr int kLargest = 8192;
+    if (element.pixels == nullptr || element.width < 1 || element.height < 1 || element.width > kLargest ||
+        element.height > kLargest)
+        return false;
+    const bool aligned = reinterpret_cast<std::uintptr_t>(element.pixels) % alignof(std::uint32_t) == 0;
+    return aligned && element.byte_size == element.width * element.height * 4;
+}
 
 }  // namespace
 
@@ -83,6 +95,7 @@ void GDIMTGauge::StartWorker(GaugeElement* element_tree) {
     }
     if (first_element_ == nullptr) return;
     StopWorker();
+    painted_pixels_ = nullptr;
     frame_pending_ = 0;  // what was asked for stood on the elements of before
     if (Host().paints_in_line() == 0) thread_ = std::thread([this] { Work(); });
 }
@@ -118,12 +131,29 @@ bool GDIMTGauge::PaintPendingFrame() {
     return true;
 }
 
-void GDIMTGauge::PaintFrame(const GaugeElement&) {
+void GDIMTGauge::PaintFrame(GaugeElement& element) {
+    bool goes_to_peer = false;
     {
         const StateLock lock;
         period_ms_ = static_cast<int>(1000 / std::clamp<double>(cfg.GaugeRefreshRate, 1, 1000));
         if (!ComposeFrame(row_, composing_)) return;
+        goes_to_peer = HasOurPixels(element) && TakeRemoteImage(row_.gauge_id, element);
     }
+    KeepPicture();
+    if (!goes_to_peer) return;
+    PaintPixels(element);
+    SendRemoteImage(row_.gauge_id, element);
+}
+
+// Only this thread changes the picture, so that it may read it without the lock.
+void GDIMTGauge::PaintPixels(GaugeElement& element) {
+    if (painted_pixels_ == element.pixels && painted_number_ == picture_number_) return;
+    RasteriseOnto(picture_, element.width, element.height, reinterpret_cast<std::uint32_t*>(element.pixels));
+    painted_pixels_ = element.pixels;
+    painted_number_ = picture_number_;
+}
+
+void GDIMTGauge::KeepPicture() {
     const std::lock_guard guard(picture_lock_);
     if (composing_ == picture_) return;
     std::swap(composing_, picture_);

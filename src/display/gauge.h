@@ -65,7 +65,9 @@ class GDIMTGauge {
     void StartWorker(GaugeElement* element_tree);
     void StopWorker();
     void Work();
-    void PaintFrame(const GaugeElement& element);
+    void PaintFrame(GaugeElement& element);
+    void KeepPicture();
+    void PaintPixels(GaugeElement& element);
 
     const PaintedGauge& row_;
     std::atomic<GaugeElement*> element_ = nullptr;  // to paint next, written before frame_pending_
@@ -83,6 +85,8 @@ class GDIMTGauge {
     std::mutex picture_lock_;
     DrawList picture_;
     std::uint64_t picture_number_ = 0;
+    const std::uint8_t* painted_pixels_ = nullptr;  // the surface that holds a picture, and which
+    std::uint64_t painted_number_ = 0;
 };
 
 /// The gauge object of a painted gauge's instance; null before connect-to-window.

@@ -1,5 +1,6 @@
 #include "module/delayed_start.h"
 
+#include "display/remote_bridge.h"
 #include "frame/configuration.h"
 #include "frame/crew_messages.h"
 #include "frame/key_events.h"
@@ -79,6 +80,7 @@ void DelayedStart() {
     ReadModelValues();
     if (!cfg.HiFiSnapshotDir.empty()) module_life.weather_folder = cfg.HiFiSnapshotDir;
     if (cfg.LoadFuelonAircraftLoad == 1 && ReadToken(kTokenOnGround) != 0) LoadStoredFuel();
+    if (cfg.RemoteCdu == 1) OpenRemoteBridge(identity.panel_hires == 1 && cfg.remotecduhires == 1);
     nav.nearest_refresh_due = 1;
     module_life.startup_done = 1;
 }

@@ -126,23 +126,18 @@ constexpr MouseRectangle kScreens[] = {
     {"screen", 0, 0, 564, 424, OnScreenPress<5>},
 };
 
-constexpr int kCanvasWidth = 340, kCanvasHeight = 448;
-
 template <int kSide>
 int32_t OnTabletTouch(GaugeInstance* instance, uint32_t) {
     const StateLock lock;
-    EfbSide& tablet = EfbOf(kSide);
-    tablet.EfbMouseX = instance->mouse_x;
-    tablet.EfbMouseY = instance->mouse_y;
-    tablet.touch_pending = 1;
+    OnEfbTouch(instance->mouse_x, instance->mouse_y, kSide);
     return 0;
 }
 
 template <int kSide, PassesName kIsKey>
 consteval auto Tablet() {
-    const auto& keys = kAreasWhere<kIsKey, kCanvasWidth>;
+    const auto& keys = kAreasWhere<kIsKey, kTabletWidth>;
     std::array<MouseRectangle, keys.size() + 1> areas{};
-    areas[0] = {"screen", 0, 0, kCanvasWidth, kCanvasHeight, OnTabletTouch<kSide>};
+    areas[0] = {"screen", 0, 0, kTabletWidth, kTabletHeight, OnTabletTouch<kSide>};
     std::copy(keys.begin(), keys.end(), areas.begin() + 1);
     return areas;
 }
@@ -171,6 +166,13 @@ class Elements {
 
 void ClickVariable(NamedVarRef variable, uint32_t flags) {
     if (const Control* control = FindControl(variable)) ClickControl(*control, flags);
+}
+
+void OnEfbTouch(int x, int y, int side) {
+    EfbSide& tablet = EfbOf(side);
+    tablet.EfbMouseX = x;
+    tablet.EfbMouseY = y;
+    tablet.touch_pending = 1;
 }
 
 std::span<const MouseRectangle> OverheadAreas() {

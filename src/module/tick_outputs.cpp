@@ -8,6 +8,7 @@
 #include "frame/named_variables.h"
 #include "guidance/autoflight.h"
 #include "module/model_settings.h"
+#include "module/remote_input.h"
 #include "navdata/geodesy.h"
 #include "platform/host.h"
 #include "sound/environment.h"
@@ -134,6 +135,8 @@ void TickOutputs(bool ticked) {
     const int phase = time_base.tick_phase;
     // In pause the phases stand still: what they select then comes once in a second's frames, not in each.
     const bool due = ticked || time_base.frame_phase == 0;
+    PollRemoteInput();
+    MarkRemoteImages(ticked ? phase : time_base.frame_phase);
     SystemsTick();
     PublishGuidance();
     ReadAutoflightModes();

@@ -5,6 +5,7 @@
 #include <ft2build.h>
 #include FT_FREETYPE_H
 
+#include <algorithm>
 #include <map>
 #include <mutex>
 #include <numbers>
@@ -185,8 +186,14 @@ struct Painter {
 PixelImage Rasterise(const DrawList& list, int width, int height) {
     if (width < 1 || height < 1 || width > 8192 || height > 8192) return {};
     PixelImage image{width, height, std::vector<std::uint32_t>(static_cast<std::size_t>(width * height))};
+    RasteriseOnto(list, width, height, image.pixels.data());
+    return image;
+}
+
+void RasteriseOnto(const DrawList& list, int width, int height, std::uint32_t* pixels) {
+    std::fill_n(pixels, static_cast<std::size_t>(width) * static_cast<std::size_t>(height), 0);
     cairo_surface_t* surface = cairo_image_surface_create_for_data(
-        reinterpret_cast<unsigned char*>(image.pixels.data()), CAIRO_FORMAT_ARGB32, width, height, width * 4);
+        reinterpret_cast<unsigned char*>(pixels), CAIRO_FORMAT_ARGB32, width, height, width * 4);
     cairo_t* cairo = cairo_create(surface);
     const double sx = list.width > 0 ? width / static_cast<double>(list.width) : 1;
     const double sy = list.height > 0 ? height / static_cast<double>(list.height) : 1;
@@ -197,7 +204,6 @@ PixelImage Rasterise(const DrawList& list, int width, int height) {
     cairo_destroy(cairo);
     cairo_surface_flush(surface);
     cairo_surface_destroy(surface);
-    return image;
 }
 
 std::string EncodePng(const PixelImage& image) {

@@ -16,5 +16,8 @@ struct PixelImage {
 /// an empty image. May be called from any thread.
 PixelImage Rasterise(const DrawList& list, int width, int height);
 
+/// The same onto a surface of width x height pixels without gaps, aligned as they are.
+void RasteriseOnto(const DrawList& list, int width, int height, std::uint32_t* pixels);
+
 /// The image as a PNG file's bytes; empty on failure.
 std::string EncodePng(const PixelImage& image);

@@ -73,6 +73,11 @@ constexpr HostOperations kDeafHost = {
     .open_sound_device = [] { return 0; },
     .close_sound_device = [] {},
     .paints_in_line = [] { return 1; },
+    .shared_name_space =
+        [](char* text, int size) {
+            if (size > 0) *text = '\0';
+            return 0;
+        },
 };
 
 const HostOperations* host_in_force = &kDeafHost;
@@ -116,6 +121,10 @@ std::string RootFolder() {
 
 std::string NavdataFolder() {
     return TakeText([](char* text, int size) { return Host().navdata_folder(text, size); });
+}
+
+std::string SharedNameSpace() {
+    return TakeText([](char* text, int size) { return Host().shared_name_space(text, size); });
 }
 
 std::string AppDataFolder() {

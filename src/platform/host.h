@@ -30,6 +30,8 @@ std::string RootFolder();
 /// Where the host keeps the navigation data; empty when that is their place under the root.
 std::string NavdataFolder();
 std::string AppDataFolder();
+/// What stands for "Global\" in the names of shared objects; empty = there are none.
+std::string SharedNameSpace();
 inline void SendKeyEvent(int event, int value) {
     Host().send_key_event(event, value);
 }

@@ -91,7 +91,11 @@ struct HostOperations {
     // pictures: 1 when the host has each picture painted in line by the inspection table, so that no worker
     // starts
     int (*paints_in_line)();
+
+    // machine: what stands for "Global\" in the names that programs share, "/" or "/" and a beginning of
+    // names; empty = nothing can be shared. Hosts with different ones don't meet.
+    int (*shared_name_space)(char* text, int size);
 };
 
-constexpr uint32_t kHostOperationsVersion = 1;
+constexpr uint32_t kHostOperationsVersion = 2;
 }

@@ -25,6 +25,7 @@
 #include "state/plan.h"
 #include "state/pos_init.h"
 #include "state/procedure_lists.h"
+#include "state/remote.h"
 #include "state/requests.h"
 #include "state/sim.h"
 #include "state/sound.h"
@@ -70,6 +71,7 @@ constexpr StateGroup kGroups[] = {
     {"nd", Reset<&nd>, &kNdVariables},
     {"instruments", Reset<&instruments>, &kInstrumentVariables},
     {"efb", Reset<&efb>, &kEfbVariables},
+    {"remote", Reset<&remote>, &kRemoteVariables},
     {"requests", Reset<&requests>, &kRequestVariables},
     {"electrical", Reset<&electrical>, &kElectricalVariables},
 };

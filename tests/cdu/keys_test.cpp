@@ -5,7 +5,6 @@
 #include "cdu/items.h"
 #include "cdu/page.h"
 #include "cdu/procedure_columns.h"
-#include "cdu/remote_keys.h"
 #include "frame/crew_messages.h"
 #include "state/cfg.h"
 #include "state/keyboard.h"
@@ -26,21 +25,6 @@ class CduKeys : public testing::Test {
     }
     FakeHost host;
 };
-
-TEST_F(CduKeys, ByRemoteCode) {
-    for (const int code : {20, 45, 7, 15, 17, 16, 48, 18, 46, 6, 19, 53, 0, -1})
-        OnRemoteKey(kFirstOfficer, code);
-    EXPECT_EQ(cdu[1].ScratchPad, "AZ190./- ");
-    EXPECT_EQ(cdu[0].ScratchPad, "");
-    OnRemoteKey(kFirstOfficer, 49);
-    OnRemoteKey(kFirstOfficer, 47);
-    EXPECT_EQ(cdu[1].ScratchPad, "AZ190./-");
-    EXPECT_EQ(cdu[1].ScratchMessage, "DELETE");
-    OnRemoteKey(kFirstOfficer, 50);
-    OnRemoteKey(kFirstOfficer, 51);
-    EXPECT_EQ(cdu[1].PrevPagePending, 1);
-    EXPECT_EQ(cdu[1].NextPagePending, 1);
-}
 
 TEST_F(CduKeys, ModeKeysOpenTheirPages) {
     struct Row {

@@ -86,6 +86,7 @@ TEST(WorkerThreads, PaintWhileTheHostFliesReinstallsAndTearsDown) {
         session.settings.placed = true;
         session.settings.placement = {47.44, -122.30, 9000, 180, 280};
         session.settings.fdm = true;
+        session.settings.pixel_surfaces = true;
         std::string error;
         ASSERT_TRUE(PrepareSession(session, error) && StartSession(session, error)) << error;
         ASSERT_TRUE(EnterRoute(session, "KSEA BTG J1 OED KSFO", error)) << error;

@@ -41,7 +41,7 @@ TEST(ScenarioHelp, EveryExampleRuns) {
     std::ostringstream out, errors;
     Scenario scenario{{}, out};
     scenario.session.settings.module_file = BinaryDir() + "/tz900.gau";
-    std::istringstream lines(before + "start\n" + after);
+    std::istringstream lines(before + "start\nrun 5\n" + after);  // past the delayed start
     const int status = RunScenario(scenario, lines, "help", errors);
     StopSession(scenario.session);
     EXPECT_EQ(status, 0) << errors.str() << out.str() << "\nof\n" << lines.str();

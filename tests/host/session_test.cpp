@@ -55,6 +55,10 @@ TEST(Session, AHundredLivesAreTheSame) {
     ASSERT_TRUE(MakePrivateRoot(SourceDir() + "/data/root", root, error)) << error;
     const std::string first = Live(root);
     EXPECT_NE(first.find("\nfms_fpln_active=3\n"), std::string::npos);
+    const auto open_files = [] {
+        return std::distance(std::filesystem::directory_iterator("/proc/self/fd"), {});
+    };
+    const auto files = open_files();
     std::size_t settled = 0;
     for (int life = 1; life < 100; ++life) {
         const std::string state = Live(root);
@@ -63,6 +67,7 @@ TEST(Session, AHundredLivesAreTheSame) {
     }
     // A leak of a kilobyte a life would stand out.
     EXPECT_LT(mallinfo2().uordblks, settled + 64 * 1024);
+    EXPECT_EQ(open_files(), files) << "shared memory of the lives before";
     world = {};
     std::filesystem::remove_all(root);
 }

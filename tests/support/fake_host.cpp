@@ -256,6 +256,10 @@ constexpr HostOperations kOperations = {
             if (!Fails("close_sound_device")) fake->sound_device_open = false;
         },
     .paints_in_line = [] { return fake->paints_in_line ? 1 : 0; },
+    .shared_name_space =
+        [](char* text, int size) {
+            return FillText(Fails("shared_name_space") ? "" : fake->shared_name_space, text, size);
+        },
 };
 
 }  // namespace

@@ -77,6 +77,7 @@ class FakeHost {
     std::set<std::string> loaded_libraries;
     bool sound_device_open = false;
     bool paints_in_line = true;
+    std::string shared_name_space;  // empty = no shared objects
 
     std::filesystem::path root, app_data, navdata;  // navdata empty = under the root
     /// Writes a file below the root (name with "/"), with its folders.
