@@ -78,14 +78,12 @@ void Exec(Scenario& scenario, const std::vector<Word>&) {
 void Age(Scenario& scenario, const std::vector<Word>& words) {
     const std::filesystem::path file = FindUnderRoot(scenario.session.settings.root, words[1].text);
     if (file.empty()) throw CommandError{"there is no " + words[1].text + " under the root"};
-    const auto age =
-        std::chrono::duration<double, std::ratio<3600>>(NumberWord(words[2], "a number of hours"));
+    const std::chrono::duration<double> age(3600 * NumberWord(words[2], "a number of hours"));
+    const auto now = std::chrono::sys_seconds(std::chrono::seconds(UtcSeconds()));
+    const auto written =
+        std::chrono::file_clock::from_sys(now - std::chrono::floor<std::chrono::seconds>(age));
     std::error_code failed;
-    std::filesystem::last_write_time(
-        file,
-        std::filesystem::file_time_type::clock::now() -
-            std::chrono::duration_cast<std::filesystem::file_time_type::duration>(age),
-        failed);
+    std::filesystem::last_write_time(file, written, failed);
     if (failed) throw CommandError{words[1].text + ": " + failed.message()};
 }
 

@@ -21,10 +21,16 @@ std::chrono::year_month_day DateOf(int yyyymmdd) {
 
 }  // namespace
 
+std::int64_t UtcSeconds() {
+    using namespace std::chrono;
+    const sys_seconds midnight = sys_days{DateOf(world.machine_date)};
+    return midnight.time_since_epoch().count() + static_cast<std::int64_t>(SecondsOfClock());
+}
+
 void FillClockTokens() {
     using namespace std::chrono;
     const double of_day = SecondsOfClock();
-    const sys_days today = sys_days{DateOf(world.machine_date)} + days{static_cast<int>(of_day / 86400)};
+    const sys_days today = floor<days>(sys_seconds(seconds(UtcSeconds())));
     const year_month_day date{today};
     const int second_of_day = static_cast<int>(std::fmod(of_day, 86400));
     const int day_of_year = static_cast<int>((today - sys_days{date.year() / January / 1}).count()) + 1;

@@ -146,5 +146,7 @@ void AdvanceClock();
 void SetClockHour(int hour);
 /// Writes the clock's tokens as they stand.
 void FillClockTokens();
+/// The simulator's clock as Unix time.
+std::int64_t UtcSeconds();
 
 }  // namespace host

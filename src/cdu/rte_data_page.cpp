@@ -7,6 +7,7 @@
 #include "cdu/shown_plan.h"
 #include "fmc/leg_list.h"
 #include "fmc/route.h"
+#include "fmc/winds.h"
 #include "frame/crew_messages.h"
 #include "platform/text.h"
 #include "state/cfg.h"
@@ -14,6 +15,7 @@
 #include "state/perf.h"
 #include "state/sim.h"
 #include "state/vnav.h"
+#include "state/winds.h"
 
 namespace {
 
@@ -71,16 +73,31 @@ void OpenWinds(PageCall& call, int leg) {
     GoToPage(call.side, kPageWind);
 }
 
-// No weather comes from anywhere: the crew is told so, with what a source would have to bring.
+constexpr int kUplinkSeconds = 6, kSentBelow = 3;
+
 void RequestWinds(PageCall& call) {
+    if (winds.wind_uplink_timer > 0) return;  // on its way already
     OpenModification();
-    Refuse(call, "INVALID WIND DATA UPLINK", kHelpWeatherMissing);
+    if (!RequestRouteWinds()) return Refuse(call, "INVALID WIND DATA UPLINK", kHelpWeatherMissing);
+    winds.wind_uplink_timer = kUplinkSeconds;
+    winds.wind_uplink_side = call.side;
+}
+
+void LoadWinds(PageCall& call) {
+    winds.wind_uplink_pending = 0;
+    ApplyRouteWinds(call.side);
+}
+
+const char* UplinkPrompt() {
+    if (winds.wind_uplink_pending == 1) return "LOAD>";
+    if (winds.wind_uplink_timer >= kSentBelow) return "REQUESTING";
+    return winds.wind_uplink_timer > 0 ? "SENT" : "REQUEST>";
 }
 
 void OnLastLine(PageCall& call) {
     if (call.line == kR6) {
-        if (plan.fms_fpln_active >= kRouteActivated) RequestWinds(call);
-        return;
+        if (plan.fms_fpln_active < kRouteActivated) return;
+        return winds.wind_uplink_pending == 1 ? LoadWinds(call) : RequestWinds(call);
     }
     if (plan.fms_fpln_active == kRouteModified) {
         EraseModification();
@@ -129,7 +146,7 @@ void RteDataPage(PageCall& call) {
     }
     DashLine(call);
     LeftData(call, 6, plan.fms_fpln_active == kRouteModified ? "<ERASE" : "<LEGS");
-    RightData(call, 6, plan.fms_fpln_active < kRouteActivated ? "POS REF>" : "REQUEST>");
+    RightData(call, 6, plan.fms_fpln_active < kRouteActivated ? "POS REF>" : UplinkPrompt());
     MarkSelectable(call, kL6);
     if (plan.fms_fpln_active >= kRouteActivated) MarkSelectable(call, kR6);
 }

@@ -120,7 +120,7 @@ void OnTemperature(PageCall& call) {
     const std::string_view altitude_text =
         IsFlightLevel(parts->first) ? parts->first.substr(2) : parts->first;
     double altitude = IsNumber(altitude_text) ? LeadingInt(altitude_text) : 0;
-    if (altitude < 1000) altitude *= 100;
+    if (altitude < 1000 && !altitude_text.starts_with('0')) altitude *= 100;  // "0800" is feet
     const double temperature = LeadingDouble(parts->second);
     if (altitude <= 0 || altitude > kMaxAltitude || temperature < kMinTemperature ||
         temperature >= kTemperatureLimit)

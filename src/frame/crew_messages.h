@@ -30,6 +30,8 @@ constexpr int kHelpWeatherMissing = 50;
 constexpr int kHelpWindEntry = 53;
 constexpr int kHelpFourWinds = 54;
 constexpr int kHelpAltOat = 55;
+constexpr int kHelpWindsLoaded = 56;
+constexpr int kHelpWindsReady = 57;
 
 /// Tells the crew something on the CDU: pushes a message on the list of each addressed side (kCaptain,
 /// kFirstOfficer, kBothSides). Nothing is posted for a help id without a row, for help 0 with a title that

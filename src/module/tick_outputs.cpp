@@ -4,6 +4,7 @@
 #include <numeric>
 
 #include "display/routing.h"
+#include "fmc/winds.h"
 #include "frame/active_runways.h"
 #include "frame/named_variables.h"
 #include "guidance/autoflight.h"
@@ -80,6 +81,7 @@ void SystemsEvery3s() {
 void StepSecond(int phase) {
     if (phase == 0) {
         StepEnvironmentTimers();
+        StepWindUplink();
         SystemsSecond(1);
         if (electrical.power_level > kBatteryAlone) RepairInboardModes(cockpit.TZ_MAIN_PFD_MFD_L_Switch);
     }

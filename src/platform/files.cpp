@@ -154,6 +154,13 @@ bool FolderExists(std::string_view name, FileRoot root) {
     return path && fs::is_directory(*path, error);
 }
 
+std::optional<std::int64_t> LastWriteTime(std::string_view name, FileRoot root) {
+    const auto path = ResolvePath(name, root);
+    struct stat status;
+    if (!path || stat(path->c_str(), &status) != 0) return {};
+    return status.st_mtime;
+}
+
 std::optional<std::string_view> NextLine(std::string_view& rest) {
     if (rest.empty()) return {};
     const std::size_t end = rest.find('\n');

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -43,6 +44,9 @@ struct FolderEntry {
 std::vector<FolderEntry> ListFolder(std::string_view name, FileRoot root = FileRoot::kSimulator);
 
 bool FolderExists(std::string_view name, FileRoot root = FileRoot::kSimulator);
+
+/// When a file was last written, in seconds of Unix time; nothing when it is missing.
+std::optional<std::int64_t> LastWriteTime(std::string_view name, FileRoot root = FileRoot::kSimulator);
 
 /// Cuts the next line off the front of `rest`, without its line end (LF or CRLF). Nothing at the end.
 std::optional<std::string_view> NextLine(std::string_view& rest);

@@ -1,13 +1,6 @@
 #include "state/plan.h"
 
 template <>
-struct Describe<WindLevel> {
-    static constexpr Field fields[] = {FieldRow<&WindLevel::alt>("alt"), FieldRow<&WindLevel::dir>("dir"),
-                                       FieldRow<&WindLevel::spd>("spd")};
-    static constexpr ValueType type{.kind = ValueKind::kRecord, .fields = fields};
-};
-
-template <>
 struct Describe<FlightPlanLeg> {
     using L = FlightPlanLeg;
     static constexpr Field fields[] = {

@@ -7,15 +7,10 @@
 
 #include "state/growing_list.h"
 #include "state/variable.h"
+#include "state/wind_level.h"
 
 constexpr double kNone = -999;  // "none" in a double of a leg
 constexpr int kNoPlan = 999;    // stpos without a flight plan
-
-struct WindLevel {
-    int alt = 0;     // ft, 0 = empty
-    double dir = 0;  // degrees true, where it comes from
-    double spd = 0;  // kt
-};
 
 /// One waypoint of the flight plan; the same fields are a row of a route file. Degrees north and east
 /// positive, feet, knots; an empty text is "none".

@@ -32,6 +32,7 @@
 #include "state/time_base.h"
 #include "state/vnav.h"
 #include "state/weights.h"
+#include "state/winds.h"
 
 namespace {
 
@@ -59,6 +60,7 @@ constexpr StateGroup kGroups[] = {
     {"airports", Reset<&airports>, &kAirportVariables},
     {"plan", Reset<&plan>, &kPlanVariables},
     {"procedure_lists", Reset<&procedure_lists>, &kProcedureListVariables},
+    {"winds", Reset<&winds>, &kWindsVariables},
     {"perf", Reset<&perf>, &kPerfVariables},
     {"flight_log", Reset<&flight_log>, &kFlightLogVariables},
     {"vnav", Reset<&vnav>, &kVnavVariables},

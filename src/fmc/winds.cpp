@@ -1,0 +1,254 @@
+#include "fmc/winds.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstdlib>
+#include <limits>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "fmc/leg_list.h"
+#include "fmc/route.h"
+#include "frame/crew_messages.h"
+#include "navdata/geodesy.h"
+#include "navdata/text_fields.h"
+#include "platform/files.h"
+#include "platform/host.h"
+#include "platform/text.h"
+#include "state/module_life.h"
+#include "state/perf.h"
+#include "state/sim.h"
+#include "state/winds.h"
+
+namespace {
+
+constexpr std::size_t kLineBound = 800;
+constexpr std::size_t kSnapshotBound = 4000;  // a line holds a whole METAR and TAF
+
+const WindLevel* NearestLevel(std::span<const WindLevel> levels, double altitude) {
+    const WindLevel* nearest = nullptr;
+    for (const WindLevel& level : levels) {
+        if (level.alt <= 0) continue;
+        if (nearest == nullptr || std::abs(level.alt - altitude) < std::abs(nearest->alt - altitude))
+            nearest = &level;
+    }
+    return nearest;
+}
+
+double AlongTrack(std::span<const WindLevel> levels, double altitude, double bearing) {
+    const WindLevel* level = NearestLevel(levels, altitude);
+    return level == nullptr ? 0 : -std::cos((level->dir - bearing) * kRadPerDeg) * level->spd;
+}
+
+// Along the leg, from the aircraft when it is the one that is flown.
+double LegBearing(int prev_leg, int leg) {
+    const FlightPlanLeg& to = plan.FlightPlan[leg];
+    if (leg == plan.stpos) return GreatCircle(sim.plane_lat, sim.plane_lon, to.lat, to.lon).bearing;
+    const FlightPlanLeg& from = plan.FlightPlan[prev_leg];
+    return GreatCircle(from.lat, from.lon, to.lat, to.lon).bearing;
+}
+
+// The weather program's folder lies in the user's data or under the simulator, and may be given from either's
+// own folder on.
+struct WeatherFile {
+    std::string name;
+    FileRoot root;
+};
+
+WeatherFile FindWeatherFile(const char* name) {
+    std::string_view folder = module_life.weather_folder;
+    FileRoot root = FileRoot::kSimulator;
+    const struct {
+        FileRoot root;
+        std::string folder;
+    } kRoots[] = {{FileRoot::kSimulator, RootFolder()}, {FileRoot::kAppData, AppDataFolder()}};
+    for (const auto& row : kRoots) {
+        if (row.folder.empty() || !folder.starts_with(row.folder)) continue;
+        folder.remove_prefix(row.folder.size());
+        root = row.root;
+        break;
+    }
+    return {std::string(folder) + "\\" + name, root};
+}
+
+std::optional<FileBytes> ReadWeatherFile(const char* name) {
+    const WeatherFile file = FindWeatherFile(name);
+    return ReadFile(file.name, file.root);
+}
+
+constexpr char kStationList[] = "wx_station_list.txt";
+constexpr char kSnapshot[] = "current_wx_snapshot.txt";
+
+struct Station {
+    std::string_view ident, lat_text, lon_text;
+    double lat, lon;
+};
+
+std::vector<Station> ReadStations(std::string& text) {
+    std::replace(text.begin(), text.end(), ',', ' ');
+    std::vector<Station> stations;
+    std::string_view rest = text;
+    while (auto line = NextBoundedLine(rest, kLineBound)) {
+        Station station{NextField(*line), NextField(*line), NextField(*line), 0, 0};
+        if (station.lon_text.empty()) continue;
+        station.lat = ToNumber(station.lat_text);
+        station.lon = ToNumber(station.lon_text);
+        stations.push_back(station);
+    }
+    return stations;
+}
+
+const Station* NearestStation(std::span<const Station> stations, double lat, double lon) {
+    const Station* nearest = nullptr;
+    double best = std::numeric_limits<double>::max();
+    for (const Station& station : stations) {
+        const double dist = GreatCircle(lat, lon, station.lat, station.lon).dist;
+        if (dist < best) {
+            best = dist;
+            nearest = &station;
+        }
+    }
+    return nearest;
+}
+
+// The part of a text up to a divider, which goes with it.
+std::string_view CutAt(std::string_view& text, std::string_view divider) {
+    const std::size_t end = text.find(divider);
+    const std::string_view part = text.substr(0, end);
+    text.remove_prefix(end == std::string_view::npos ? text.size() : end + divider.size());
+    return part;
+}
+
+// Ident, METAR, TAF, then the winds: nine groups between slashes.
+void FillLevels(WxStation& station, std::string_view snapshot) {
+    while (auto line = NextBoundedLine(snapshot, kSnapshotBound)) {
+        if (station.ident.size() < 4 || !line->starts_with(std::string_view(station.ident).substr(0, 4)))
+            continue;
+        for (int field = 0; field < 3; ++field) CutAt(*line, "::");
+        std::string_view groups = CutAt(*line, "::");
+        for (std::string& level : station.levels) level = Trimmed(CutAt(groups, "/"));
+        return;
+    }
+}
+
+WxStation MakeWxStation(const Station& from, int leg, std::string_view snapshot) {
+    WxStation station{std::string(from.ident), Format("%.6f", from.lat), Format("%.6f", from.lon), leg, {}};
+    FillLevels(station, snapshot);
+    return station;
+}
+
+// "270,45": direction in three characters, the speed behind the comma. Nothing when the group tells no wind.
+std::optional<WindLevel> ReadGroup(std::string_view group) {
+    const std::size_t comma = group.find(',');
+    if (comma == std::string_view::npos) return {};
+    const WindLevel wind{0, ToNumber(group.substr(0, 3)), ToNumber(group.substr(comma + 1))};
+    if (wind.dir < 0 || wind.dir > 360 || wind.spd <= 0 || wind.spd >= 360) return {};
+    return wind;
+}
+
+void FillLevel(WindLevel& level, const WxStation& station) {
+    std::size_t nearest = 0;
+    for (std::size_t i = 1; i < std::size(kWxLevels); ++i)
+        if (std::abs(kWxLevels[i] - level.alt) < std::abs(kWxLevels[nearest] - level.alt)) nearest = i;
+    const auto wind = ReadGroup(station.levels[nearest]);
+    if (!wind) return;
+    level.dir = wind->dir;
+    level.spd = wind->spd;
+}
+
+bool IsEmpty(std::span<const WindLevel> levels) {
+    return NearestLevel(levels, 0) == nullptr;
+}
+
+// Hours since the snapshot was written, by the simulator's clock: 0 to 100000.
+int SnapshotAgeHours() {
+    constexpr double kSecondsToUnixTime = 719162.0 * 86400;  // from the first day of year 1
+    constexpr double kMostHours = 100000;
+    const WeatherFile file = FindWeatherFile(kSnapshot);
+    const auto written = LastWriteTime(file.name, file.root);
+    if (!written) return 0;
+    const double seconds = sim.abs_time - kSecondsToUnixTime - static_cast<double>(*written);
+    return static_cast<int>(std::clamp(std::floor(seconds / 3600), 0.0, kMostHours));
+}
+
+}  // namespace
+
+double LegWind(int prev_leg, int leg) {
+    const FlightPlanLeg& from = plan.FlightPlan[prev_leg];
+    const double altitude = leg == plan.stpos ? sim.ind_alt_ft : from.alt;
+    return AlongTrack(from.wind, altitude, LegBearing(prev_leg, leg));
+}
+
+double DescentWind(int leg) {
+    const int prev_leg = std::max(0, PlaceBefore(plan.FlightPlan, leg));
+    if (IsEmpty(winds.DescentForecast)) return LegWind(prev_leg, leg);
+    return AlongTrack(winds.DescentForecast, plan.FlightPlan[leg].alt, LegBearing(prev_leg, leg));
+}
+
+bool RequestRouteWinds() {
+    const auto list = ReadWeatherFile(kStationList), snapshot = ReadWeatherFile(kSnapshot);
+    if (!list || !snapshot) return false;
+    if (plan.mod_cnt < 2) return true;
+    std::string text(list->Text());
+    const std::vector<Station> stations = ReadStations(text);
+    winds.WxStations = {};
+    winds.wx_station_cnt = 0;
+    for (int leg = 1; leg <= plan.mod_cnt; ++leg) {
+        const FlightPlanLeg& at = plan.FlightPlanMod[leg];
+        if (!IsPlace(at)) continue;
+        if (const Station* station = NearestStation(stations, at.lat, at.lon))
+            winds.WxStations[++winds.wx_station_cnt] = MakeWxStation(*station, leg, snapshot->Text());
+    }
+    return true;
+}
+
+void ApplyRouteWinds(int side) {
+    OpenModification();
+    std::array<WindLevel, 4> altitudes = {};  // of the last leg that had some
+    altitudes[0].alt = static_cast<int>(perf.cruise_alt);
+    for (int i = 1; i <= winds.wx_station_cnt; ++i) {
+        const WxStation& station = winds.WxStations[i];
+        if (station.leg < 1 || station.leg > plan.mod_cnt) continue;
+        FlightPlanLeg& leg = plan.FlightPlanMod[station.leg];
+        if (!IsPlace(leg)) continue;
+        const bool is_new = IsEmpty(leg.wind);
+        std::array<WindLevel, 4> levels = is_new ? altitudes : leg.wind;
+        for (WindLevel& level : levels)
+            if (level.alt > 0) FillLevel(level, station);
+        const bool told =
+            std::any_of(levels.begin(), levels.end(), [](const WindLevel& w) { return w.spd > 0; });
+        if (is_new && !told) continue;
+        leg.wind = levels;
+        for (std::size_t n = 0; n < levels.size(); ++n) altitudes[n] = {levels[n].alt, 0, 0};
+    }
+    constexpr int kOld = 7, kTooOld = 13;
+    const int hours = SnapshotAgeHours();
+    if (hours >= kOld)
+        PostCduMessage(Format("WIND DATA IS %d HOURS OLD", hours),
+                       hours >= kTooOld ? kRedAdvisory : kAmberAdvisory, kHelpWindsLoaded, side);
+}
+
+bool RequestDescentWinds() {
+    const auto list = ReadWeatherFile(kStationList), snapshot = ReadWeatherFile(kSnapshot);
+    if (!list || !snapshot) return false;
+    if (plan.fp_cnt < 2) return true;
+    std::string text(list->Text());
+    const std::vector<Station> stations = ReadStations(text);
+    const FlightPlanLeg& destination = plan.FlightPlan[plan.fp_cnt];
+    const Station* nearest = NearestStation(stations, destination.lat, destination.lon);
+    if (nearest == nullptr) return true;
+    const WxStation station = MakeWxStation(*nearest, plan.fp_cnt, snapshot->Text());
+    if (IsEmpty(winds.DescentForecast)) winds.DescentForecast[0].alt = static_cast<int>(perf.cruise_alt);
+    for (WindLevel& level : winds.DescentForecast)
+        if (level.alt > 0) FillLevel(level, station);
+    return true;
+}
+
+void StepWindUplink() {
+    if (winds.wind_uplink_timer == 0 || --winds.wind_uplink_timer > 0) return;
+    winds.wind_uplink_pending = 1;
+    PostCduMessage("", kAdvisory, kHelpWindsReady, winds.wind_uplink_side);
+}
