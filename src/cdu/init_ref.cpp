@@ -1,6 +1,7 @@
 #include "cdu/init_ref.h"
 
 #include "cdu/page.h"
+#include "fmc/approach_speeds.h"
 #include "state/cfg.h"
 #include "state/perf.h"
 #include "state/plan.h"
@@ -22,5 +23,6 @@ int PageBelowAcceleration() {
 void SelectInitRefPage(int side) {
     const bool low = cfg.AccelHt >= sim.radio_alt_ft;
     const bool approaching = vnav.tod != 0 || vnav.toc != 0;
+    if (!low && approaching && cfg.CduAutoCalcVspeeds == 1) FillApproachSpeeds(LandingWeight::kLimited);
     GoToPage(side, low ? PageBelowAcceleration() : approaching ? kPageApproachRef : kPageThrustLim);
 }

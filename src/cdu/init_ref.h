@@ -1,4 +1,5 @@
 #pragma once
 
-/// The INIT REF key: the page that the phase of flight asks for.
+/// The INIT REF key: the page that the phase of flight asks for. APPROACH REF finds its three reference
+/// speeds computed, where the configuration wants that.
 void SelectInitRefPage(int side);

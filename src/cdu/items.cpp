@@ -6,6 +6,7 @@
 #include "cdu/page_table.h"
 #include "fmc/route_rows.h"
 #include "frame/cues.h"
+#include "navdata/nearest.h"
 #include "state/keyboard.h"
 #include "state/plan.h"
 
@@ -87,6 +88,7 @@ void PressSoftKey(int side, int item, bool by_enter) {
             unit.fms_page = kPageDepArrIndex;
             break;
         case kItemAltn:
+            if (!by_enter) BuildAltnList();
             unit.altn_index = 1;
             unit.fms_page = kPageAltn;
             break;

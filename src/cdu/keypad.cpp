@@ -3,12 +3,43 @@
 #include "fmc/execute_route.h"
 #include "fmc/route.h"
 #include "state/cdu.h"
+#include "state/cfg.h"
+#include "state/perf.h"
 #include "state/plan.h"
+#include "state/side.h"
 
 namespace {
 
 void Append(std::string& scratchpad, char character) {
     if (scratchpad.size() < kScratchPadLimit) scratchpad.push_back(character);
+}
+
+void TakeEntered(int& entered, int& shown) {
+    if (entered > 0) shown = entered;
+    entered = 0;
+}
+
+void FillFlaps(int& flaps, int setting) {
+    if (flaps == 0) flaps = setting;
+}
+
+// A new route's takeoff: the captain's key takes what the crew has prepared, the first officer's what the
+// configuration has.
+void CommitTakeoffValues(int side) {
+    if (side == kCaptain) {
+        TakeEntered(perf.V1Entered, perf.v1);
+        TakeEntered(perf.VREntered, perf.vr);
+        TakeEntered(perf.V2Entered, perf.v2);
+        FillFlaps(perf.to_flaps, cfg.ToFlaps);
+        FillFlaps(perf.ldg_flaps, cfg.LdgFlaps);
+        return;
+    }
+    perf.V1Entered = perf.v1 = cfg.V1;
+    perf.VREntered = perf.vr = cfg.VR;
+    perf.V2Entered = perf.v2 = cfg.V2;
+    perf.to_flaps = cfg.ToFlaps;
+    perf.ldg_flaps = cfg.LdgFlaps;
+    perf.vref = cfg.VREF;
 }
 
 }  // namespace
@@ -55,8 +86,9 @@ void OnClear(int side) {
         unit.ScratchPad.pop_back();
 }
 
-void OnExec(int) {
+void OnExec(int side) {
     if (plan.fms_fpln_active != kRouteActivated && plan.fms_fpln_active != kRouteModified) return;
+    if (plan.fms_fpln_active == kRouteActivated) CommitTakeoffValues(side);
     ExecuteRoute();
     LeaveLegsView();
 }

@@ -17,7 +17,8 @@ void OnSlash(int side);
 void OnPlusMinus(int side);
 /// CLR: the scratch message goes, else the last character.
 void OnClear(int side);
-/// EXEC: puts what waits into force; nothing but the click when nothing waits.
+/// EXEC: puts what waits into force, with a new route the takeoff speeds and flaps too; nothing but the click
+/// when nothing waits.
 void OnExec(int side);
 /// PREV PAGE and NEXT PAGE wait for a page that has a family.
 void OnPreviousPage(int side);

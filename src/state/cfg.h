@@ -127,6 +127,7 @@ struct ConfigState {
     int EadiMode = 0;                         // EADI style
     int FlightDirectorType = 0;               // flight director type
     int simver = 0;                           // host generation, 10 or 11; 0 = not yet known
+    int V1 = 0, VR = 0, V2 = 0;               // takeoff speeds of the first officer's EXEC
     double VREF = 0;                          // default Vref
     int ToFlaps = 5;                          // default takeoff flaps
     int LdgFlaps = 30;                        // default landing flaps

@@ -55,8 +55,11 @@ struct PerfState {
     double final_point_lat = 0, final_point_lon = 0;            // 5 nm before the destination runway
     int final_point_set = 0;
     // takeoff and landing
-    int v1 = 0, vr = 0, v2 = 0;  // kt, 0 = none
-    double vref = 0;             // kt, 0 = none
+    int v1 = 0, vr = 0, v2 = 0;                       // kt, 0 = none; as TAKEOFF REF shows them
+    int V1Entered = 0, VREntered = 0, V2Entered = 0;  // kt, by the crew; 0 = computed
+    double vref = 0;                                  // kt, the selected approach speed, 0 = none
+    double Vref20 = 0, Vref25 = 0, Vref30 = 0;        // kt, by landing flaps; 0 = not yet computed
+    double ApproachWeightEntry = 0;                   // lb, 0 = the present gross weight
     int to_flaps = 0, ldg_flaps = 0;
     std::string takeoff_flap_list = ",5,15,20,";  // settings that the variant has
     int fplog_mode = -1;                          // flight phase of the flight log

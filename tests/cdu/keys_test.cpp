@@ -3,11 +3,13 @@
 #include "cdu/cdu_service.h"
 #include "cdu/init_ref.h"
 #include "cdu/items.h"
+#include "cdu/keypad.h"
 #include "cdu/page.h"
 #include "cdu/procedure_columns.h"
 #include "frame/crew_messages.h"
 #include "state/cfg.h"
 #include "state/keyboard.h"
+#include "state/nearest.h"
 #include "state/perf.h"
 #include "state/plan.h"
 #include "state/pos_init.h"
@@ -87,6 +89,97 @@ TEST_F(CduKeys, InitRefGoesByThePhaseOfFlight) {
     vnav.toc = 0;
     vnav.tod = 1;
     EXPECT_EQ(page(), 12);
+}
+
+TEST_F(CduKeys, InitRefComputesTheApproachSpeedsThatAreMissing) {
+    struct Row {
+        double weight, entry;           // lb
+        double vref20, vref25, vref30;  // kt
+    };
+    constexpr Row kRows[] = {
+        {280000, 0, 131, 126, 124}, {280000, 380000, 151, 146, 143},
+        {284999, 0, 131, 126, 124}, {285001, 0, 134, 129, 126},
+        {100000, 0, 129, 124, 119}, {420000, 0, 159, 154, 143},  // a landing of 380000 lb at most
+        {900000, 0, 176, 171, 143},
+    };
+    cfg.AccelHt = 1500;
+    sim.radio_alt_ft = 30000;
+    vnav.toc = 1;
+    for (const Row& row : kRows) {
+        perf.Vref20 = perf.Vref25 = perf.Vref30 = 0;
+        perf.gross_weight = row.weight;
+        perf.ApproachWeightEntry = row.entry;
+        SelectInitRefPage(kCaptain);
+        EXPECT_EQ(perf.Vref20, row.vref20) << row.weight;
+        EXPECT_EQ(perf.Vref25, row.vref25) << row.weight;
+        EXPECT_EQ(perf.Vref30, row.vref30) << row.weight;
+    }
+    perf.Vref20 = 0;
+    perf.Vref25 = 133;  // the crew's own
+    perf.gross_weight = 280000;
+    SelectInitRefPage(kCaptain);
+    EXPECT_EQ(perf.Vref20, 131);
+    EXPECT_EQ(perf.Vref25, 133);
+    perf.Vref20 = 0;
+    cfg.CduAutoCalcVspeeds = 0;
+    SelectInitRefPage(kCaptain);
+    EXPECT_EQ(perf.Vref20, 0);
+    cfg.CduAutoCalcVspeeds = 1;
+    vnav.toc = 0;
+    SelectInitRefPage(kCaptain);
+    EXPECT_EQ(perf.Vref20, 0) << "THRUST LIM asks for none";
+}
+
+TEST_F(CduKeys, ExecOfANewRouteCommitsTheTakeoff) {
+    struct Takeoff {
+        int v1, vr, v2, v1_entered, vr_entered, v2_entered, to_flaps, ldg_flaps;
+        double vref;
+        bool operator==(const Takeoff&) const = default;
+    };
+    struct Row {
+        int state, side;
+        Takeoff before, after;
+    };
+    // what the configuration has: 131 135 142, flaps 15 and 25, 139
+    constexpr Row kRows[] = {
+        {2, kCaptain, {120, 0, 0, 140, 0, 150, 0, 0, 0}, {140, 0, 150, 0, 0, 0, 15, 25, 0}},
+        {2, kCaptain, {1, 2, 3, 0, 0, 0, 5, 30, 147}, {1, 2, 3, 0, 0, 0, 5, 30, 147}},
+        {2, kFirstOfficer, {120, 0, 0, 140, 0, 150, 5, 0, 147}, {131, 135, 142, 131, 135, 142, 15, 25, 139}},
+        {4, kCaptain, {120, 0, 0, 140, 0, 0, 0, 0, 0}, {120, 0, 0, 140, 0, 0, 0, 0, 0}},
+        {4, kFirstOfficer, {120, 0, 0, 140, 0, 0, 0, 0, 0}, {120, 0, 0, 140, 0, 0, 0, 0, 0}},
+        {1, kCaptain, {120, 0, 0, 140, 0, 0, 0, 0, 0}, {120, 0, 0, 140, 0, 0, 0, 0, 0}},
+        {3, kFirstOfficer, {120, 0, 0, 140, 0, 0, 0, 0, 0}, {120, 0, 0, 140, 0, 0, 0, 0, 0}},
+    };
+    cfg.V1 = 131;
+    cfg.VR = 135;
+    cfg.V2 = 142;
+    cfg.ToFlaps = 15;
+    cfg.LdgFlaps = 25;
+    cfg.VREF = 139;
+    using Press = void (*)(int side);
+    for (const Press press : {Press(OnExec), Press([](int side) { OnCduKeyPress(side, kItemExec); }),
+                              Press([](int side) { EnterSoftKey(side, kItemExec); })})
+        for (const Row& row : kRows) {
+            const Takeoff& b = row.before;
+            perf.v1 = b.v1, perf.vr = b.vr, perf.v2 = b.v2;
+            perf.V1Entered = b.v1_entered, perf.VREntered = b.vr_entered, perf.V2Entered = b.v2_entered;
+            perf.to_flaps = b.to_flaps, perf.ldg_flaps = b.ldg_flaps, perf.vref = b.vref;
+            plan.fms_fpln_active = row.state;
+            press(row.side);
+            const Takeoff after = {perf.v1,        perf.vr,        perf.v2,
+                                   perf.V1Entered, perf.VREntered, perf.V2Entered,
+                                   perf.to_flaps,  perf.ldg_flaps, perf.vref};
+            EXPECT_TRUE(after == row.after) << "row " << &row - kRows;
+        }
+}
+
+TEST_F(CduKeys, AltnComputesTheAlternatesAnew) {
+    nearest.airports.far.rows[1] = {"KAAA", "", 1, 1, 9000, ""};
+    nearest.airports.far.cnt = 1;
+    EnterSoftKey(kCaptain, kItemAltn);
+    EXPECT_EQ(nearest.AltnRows[1].ident, "") << "by the keyboard only the page";
+    OnCduKeyPress(kCaptain, kItemAltn);
+    EXPECT_EQ(nearest.AltnRows[1].ident, "KAAA");
 }
 
 TEST_F(CduKeys, ClicksHitWhatTheyShow) {

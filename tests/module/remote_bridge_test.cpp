@@ -19,8 +19,11 @@
 #include "host/world/world.h"
 #include "module/remote_input.h"
 #include "state/cdu.h"
+#include "state/cfg.h"
 #include "state/displays.h"
 #include "state/efb.h"
+#include "state/perf.h"
+#include "state/plan.h"
 #include "state/remote.h"
 #include "state/sound.h"
 #include "support/fake_host.h"
@@ -54,6 +57,10 @@ TEST_F(RemoteInput, CduCodes) {
     EXPECT_EQ(cdu[1].PrevPagePending, 1);
     EXPECT_EQ(cdu[1].NextPagePending, 1);
     EXPECT_EQ(cdu[0].PrevPagePending, 0);
+    plan.fms_fpln_active = 2;
+    cfg.V1 = 131;
+    Key(1, 52);  // EXEC, the first officer's
+    EXPECT_EQ(perf.v1, 131);
     EXPECT_EQ(remote.cdu.due, 1);
     EXPECT_EQ(remote.efb.due, 0);
 }
