@@ -157,8 +157,11 @@ int EvalCalcText(const char* expression, char* text, int size) {
                     text, size);
 }
 
-void* BindSharedPointer(const char*) {
-    return nullptr;
+// A GPS without a flight plan.
+alignas(void*) std::array<std::uint8_t, GpsRouteLayout::kBlockSize> gps_route = {GpsRouteLayout::kBlockSize};
+
+void* BindSharedPointer(const char* name) {
+    return std::string_view(name) == kGpsRouteName ? gps_route.data() : nullptr;
 }
 
 int FindNamedVar(const char* name) {

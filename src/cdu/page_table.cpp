@@ -6,6 +6,7 @@
 #include "cdu/arrivals_page.h"
 #include "cdu/dep_arr_index_page.h"
 #include "cdu/departures_page.h"
+#include "cdu/flight_plans_page.h"
 #include "cdu/legs_page.h"
 #include "cdu/rte_data_page.h"
 #include "cdu/rte_page.h"
@@ -15,6 +16,7 @@
 namespace {
 
 constexpr CduPage kPages[] = {
+    {kPageFlightPlans, FlightPlansPage, true},
     {kPageLegs, LegsPage, true},
     {kPageSelectWpt, SelectWptPage, true},
     {kPageDepartures, DeparturesPage, true},

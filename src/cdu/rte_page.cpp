@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "cdu/flight_plans_page.h"
 #include "cdu/page.h"
 #include "cdu/shown_plan.h"
 #include "fmc/edit_legs.h"
@@ -9,6 +10,7 @@
 #include "fmc/insert_fix.h"
 #include "fmc/route.h"
 #include "fmc/route_airway.h"
+#include "fmc/route_files.h"
 #include "fmc/route_rows.h"
 #include "fmc/select_procedures.h"
 #include "frame/crew_messages.h"
@@ -16,6 +18,7 @@
 #include "platform/text.h"
 #include "state/airports.h"
 #include "state/nav.h"
+#include "state/route_files.h"
 
 namespace {
 
@@ -88,10 +91,16 @@ void OnFlightNumber(PageCall& call) {
     ClearEntry(call);
 }
 
-// No company route is stored, so that none begins with the text.
+// A new route is entered and waits for ACTIVATE, whatever loading has made of the state.
 void OnCompanyRoute(PageCall& call) {
     if (IsDelete(call)) return RefuseDelete(call);
-    if (!Entry(call).empty()) Refuse(call, "NOT IN DATABASE", kHelpCompanyRoute);
+    if (Entry(call).empty()) return;
+    ListRouteFiles();
+    const int file = FindRouteFile(Entry(call));
+    if (file == 0 || LoadCompanyRoute(route_files.RouteFiles[file]) == 0)
+        return Refuse(call, "NOT IN DATABASE", kHelpCompanyRoute);
+    plan.fms_fpln_active = plan.fms_fpln_active < kRouteActive ? kRouteEntered : kRouteModified;
+    ClearEntry(call);
 }
 
 void OnEndsLine(PageCall& call) {
@@ -105,8 +114,7 @@ void OnEndsLine(PageCall& call) {
         case kR2:
             return OnFlightNumber(call);
         case kL3:
-            call.unit.flight_plans_index = 1;
-            return GoToPage(call.side, kPageFlightPlans);
+            return OpenFlightPlans(call);
         case kR3:
             return OnCompanyRoute(call);
         case kR5:
@@ -141,6 +149,10 @@ void DrawEnds(PageCall& call) {
     LeftData(call, 3, "<REQUEST");
     RightLabel(call, 3, "CO ROUTE");
     EntryFrame(call, 151, static_cast<int>(DataY(3)), 100);
+    constexpr std::size_t kCompanyRouteColumns = 14;
+    const std::string& company_route =
+        plan.fms_fpln_active == kRouteModified ? plan.ends_mod.company_route : plan.ends.company_route;
+    RightData(call, 3, company_route.substr(0, kCompanyRouteColumns));
     LeftLabel(call, 5, "ROUTE");
     LeftData(call, 5, "<PRINT");
     RightData(call, 5, "ALTN>");

@@ -5,6 +5,7 @@
 #include <iterator>
 #include <utility>
 
+#include "fmc/default_speeds.h"
 #include "fmc/edit_legs.h"
 #include "fmc/endpoints.h"
 #include "fmc/holds.h"
@@ -184,11 +185,7 @@ void PlaceEndsOnRunways() {
 
 void FillDefaultSpeeds() {
     if (perf.climb_ias > 0 || perf.cruise_ias > 0 || perf.descent_ias > 0) return;
-    // Without settings of their own cruise and descent begin with the climb's.
-    perf.climb_ias = perf.cruise_ias = perf.descent_ias = cfg.ClimbIas;
-    perf.climb_mach = 0.74;
-    perf.cruise_mach = 0.78;
-    perf.descent_mach = 0.74;
+    SetDefaultSpeeds();
 }
 
 void SettleDestination() {
@@ -210,7 +207,7 @@ void SettleOrigin() {
     if (plan.fms_fpln_active < kRouteActive && sim.on_ground == 1) perf.fplog_mode = -1;
     FillDefaultSpeeds();
     if (changed) {
-        plan.ends = {.origin = first.ident, .dest = plan.ends.dest};
+        plan.ends = {.origin = first.ident, .dest = plan.ends.dest, .company_route = plan.ends.company_route};
         plan.procedures.dep_sid = plan.procedures.dep_trans = kNotSelected;
         plan.procedures_kept = plan.procedures;
         RemoveAllHolds();

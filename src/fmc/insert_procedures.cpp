@@ -14,6 +14,7 @@
 #include "navdata/leg_codes.h"
 #include "platform/text.h"
 #include "state/airports.h"
+#include "state/cfg.h"
 #include "state/plan.h"
 #include "state/procedure_lists.h"
 #include "state/sim.h"
@@ -154,8 +155,12 @@ void RemoveProcedure(std::string_view via_type, std::string_view other) {
         } else if (within && IsDisco(leg)) {
             RemoveModLegs(i, 1);
         } else if (leg.via_type == "SIDSTAR") {
+            const FlightPlanLeg& neighbour = plan.FlightPlanMod[other == "SID" ? i - 1 : i + 1];
             leg.via_type = other;
-            leg.via = other == "SID" ? plan.procedures.dep_sid : plan.procedures.arr_star;
+            // A stored route brings procedures that nobody has selected.
+            leg.via = neighbour.via_type == other ? neighbour.via
+                      : other == "SID"            ? plan.procedures.dep_sid
+                                                  : plan.procedures.arr_star;
         }
     }
     MergeNeighbourDiscos();
@@ -326,7 +331,7 @@ void WriteApproachLegs(int end) {
     }
     bool missed = false;
     for (int record = 1; record <= lists.approach_leg_cnt; ++record) {
-        if (missed && lists.missed_approach_wanted == 0) break;
+        if (missed && cfg.IncludeMissedApproach == 0) break;
         const FlightPlanLeg before = plan.FlightPlanMod[position - 1];
         FlightPlanLeg leg = ApproachLeg(record, before, missed);
         const bool is_hold = missed && record == lists.approach_leg_cnt && RepeatsLegBefore(record);

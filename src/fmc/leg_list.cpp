@@ -52,6 +52,7 @@ int FindModLeg(const FlightPlanLeg& place, int first) {
 }
 
 FlightPlanLeg& OpenModLeg(int position) {
+    plan.mod_cnt = std::max(plan.mod_cnt, 0);
     position = std::clamp(position, 1, plan.mod_cnt + 1);
     GrowingList<FlightPlanLeg>& legs = plan.FlightPlanMod;
     static_cast<void>(legs[plan.mod_cnt + 2]);  // from here on nothing in the list moves by itself

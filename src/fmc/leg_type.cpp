@@ -6,7 +6,7 @@
 
 void LookUpLegType(FlightPlanLeg& leg) {
     constexpr double kSamePlace = 1;  // nm; the files of one cycle round their positions alike
-    leg.type = "INT";
+    if (leg.type.empty()) leg.type = "INT";
     VisitIdent(nav_tables.nav_index, leg.ident, [&leg](int number) {
         const NavaidRow& row = nav_tables.NavaidTable[number];
         if (row.ident != leg.ident || GreatCircle(row.lat, row.lon, leg.lat, leg.lon).dist >= kSamePlace)

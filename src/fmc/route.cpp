@@ -47,6 +47,8 @@ void ClearPendingEntries() {
 }
 
 void BringBackEnds() {
+    // A stored route that was loaded has its origin shown at once.
+    if (plan.FlightPlan[0].type == "APT") plan.ends.origin = plan.FlightPlan[0].ident;
     plan.ends_mod = plan.ends;
     plan.procedures = plan.procedures_kept;
     if (airports.origin_airport.ident != plan.ends.origin) LoadOriginAirport(plan.ends.origin);
@@ -118,6 +120,8 @@ void EraseModification() {
     if (plan.fms_fpln_active < kRouteActive) return;
     BringBackEnds();
     ClearPendingEntries();
+    plan.new_route = 0;
+    perf.planned_fuel = 0;
     if (lnav.hold_exit == 2 || lnav.hold_exit == 3) lnav.hold_exit = 0;
     RestoreExecutedHolds();
     plan.fms_fpln_active = kRouteActive;

@@ -2,6 +2,7 @@
 
 #include <string_view>
 
+#include "fmc/route_files.h"
 #include "frame/aircraft.h"
 #include "frame/configuration.h"
 #include "frame/key_hook.h"
@@ -19,6 +20,7 @@
 #include "state/identity.h"
 #include "state/module_life.h"
 #include "state/plan.h"
+#include "state/route_files.h"
 #include "state/sound.h"
 #include "state/state_groups.h"
 #include "state/time_base.h"
@@ -67,6 +69,7 @@ void PreInitialize() {
         CheckNavdataDates();
         module_life.navdata_read = 1;
     }
+    if (route_files.route_files_listed == 0) ListRouteFiles();
 }
 
 void ConnectToWindow() {

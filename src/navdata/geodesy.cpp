@@ -55,9 +55,14 @@ double ParseColonAngle(std::string_view text) {
     if (text.empty()) return 0;
     double parts[3] = {};
     int part = 0;
+    double place = 0;  // of the next digit behind a point, 0 before one
     for (const char c : text.substr(1)) {
         if (c == ':' && ++part == 3) break;
-        if (c >= '0' && c <= '9') parts[part] = parts[part] * 10 + (c - '0');
+        if (c == ':') place = 0;
+        if (c == '.') place = 0.1;
+        if (c < '0' || c > '9') continue;
+        parts[part] = place > 0 ? parts[part] + (c - '0') * place : parts[part] * 10 + (c - '0');
+        place /= 10;
     }
     const double angle = parts[0] + (parts[2] / 60 + parts[1]) / 60;
     return text[0] == 'S' || text[0] == 'W' ? -angle : angle;

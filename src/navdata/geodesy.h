@@ -45,5 +45,6 @@ std::string FormatLongitude(double negated_lon);
 /// A position as the CDU shows it, "N4726.1" and "W12218.5". No sign is taken from the letter.
 LatLon ParseLatLonCompact(std::string_view lat_text, std::string_view lon_text);
 
-/// Degrees, minutes and seconds behind the letter, ":" between; "S" and "W" are negative.
+/// Degrees, minutes and seconds behind the letter, ":" between, each with decimals or without; "S" and "W"
+/// are negative.
 LatLon ParseLatLonColons(std::string_view lat_text, std::string_view lon_text);

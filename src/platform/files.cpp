@@ -71,10 +71,33 @@ bool WriteAll(int file, std::string_view text) {
     return true;
 }
 
+// Devices of some hosts' file systems, whatever stands behind the point.
+bool IsDeviceName(std::string_view name) {
+    constexpr std::string_view kDevices[] = {"CON", "PRN", "AUX", "NUL", "CONIN$", "CONOUT$"};
+    std::string_view stem = name.substr(0, name.find('.'));
+    while (stem.ends_with(' ')) stem.remove_suffix(1);
+    for (const std::string_view device : kDevices)
+        if (SameName(stem, device)) return true;
+    const bool numbered = stem.size() == 4 && stem[3] >= '0' && stem[3] <= '9';
+    return numbered && (SameName(stem.substr(0, 3), "COM") || SameName(stem.substr(0, 3), "LPT"));
+}
+
 }  // namespace
 
+bool IsPlainFileName(std::string_view name) {
+    constexpr std::size_t kMostCharacters = 128;
+    if (name.empty() || name.size() > kMostCharacters || name.starts_with(' ')) return false;
+    if (name.ends_with('.') || name.ends_with(' ') || IsDeviceName(name)) return false;
+    return std::all_of(name.begin(), name.end(), [](char c) {
+        constexpr std::string_view kRefused = "\\/:*?\"<>|\x7f";
+        return static_cast<unsigned char>(c) >= ' ' && kRefused.find(c) == std::string_view::npos;
+    });
+}
+
 std::optional<std::string> ResolvePath(std::string_view name, FileRoot root) {
-    const std::string folder = root == FileRoot::kSimulator ? RootFolder() : AppDataFolder();
+    const std::string folder = root == FileRoot::kSimulator ? RootFolder()
+                               : root == FileRoot::kAppData ? AppDataFolder()
+                                                            : "/";
     const auto parts = SplitName(name);
     if (folder.empty() || !parts) return {};
     fs::path path = folder;

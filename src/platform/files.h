@@ -11,7 +11,12 @@
 // in any case, below one of the host's folders. A name that would leave its folder (a "..", a drive) is
 // refused.
 
-enum class FileRoot { kSimulator, kAppData };
+// kMachine is the file system itself, for folders that the configuration names in full.
+enum class FileRoot { kSimulator, kAppData, kMachine };
+
+/// A name that every host's file system takes for one file of a folder: no path, no drive, no device, nothing
+/// that some system drops or refuses; at most 128 characters. What the crew types must be one.
+bool IsPlainFileName(std::string_view name);
 
 /// The real path of an existing file or folder, or the path that a new one would get in an existing folder
 /// (the rest of the name as it stands). Nothing when the name leaves its folder or the host names none.

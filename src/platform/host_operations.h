@@ -29,7 +29,8 @@ struct HostOperations {
     double (*read_token)(int token);  // raw value of the moment; 0 for an unknown token
     double (*eval_calc_number)(const char* expression);
     int (*eval_calc_text)(const char* expression, char* text, int size);  // length; text is terminated
-    void* (*bind_shared_pointer)(const char* name);                       // null when there is none
+    // "tcas_targets", "tcas_target_cnt", kGpsRouteName; null when there is none. What it points to stays
+    void* (*bind_shared_pointer)(const char* name);
 
     // named variables, shared with the aircraft's model and other gauges
     int (*find_named_var)(const char* name);  // -1 when the name doesn't exist
@@ -98,4 +99,19 @@ struct HostOperations {
 };
 
 constexpr uint32_t kHostOperationsVersion = 2;
+
+/// The flight plan of the host's own GPS, as bind_shared_pointer gives it: byte offsets, nothing aligned.
+constexpr const char* kGpsRouteName = "FS2002 GPS DATA";
+struct GpsRouteLayout {
+    static constexpr int kBlockSize = 184;      // at least; its own size is the first 32-bit word
+    static constexpr int kWaypointCount = 172;  // int32
+    static constexpr int kWaypoints = 176;      // pointer to the records, null = no plan
+    // a record
+    static constexpr int kWaypointSize = 72;
+    static constexpr int kLatitude = 12;   // int32, 40007000 a circle
+    static constexpr int kLongitude = 16;  // int64, its high 48 bits, 2^64 a circle
+    static constexpr int kAltitude = 48;   // double, metres
+    static constexpr int kIdent = 56;      // kIdentUnits 16-bit characters, ended by 0 when shorter
+    static constexpr int kIdentUnits = 8;
+};
 }

@@ -144,6 +144,7 @@ constexpr Variable kRows[] = {
     {"origin_mod", &plan.ends_mod.origin},
     {"dest_mod", &plan.ends_mod.dest},
     {"dep_runway_mod", &plan.ends_mod.dep_runway},
+    {"company_route", &plan.ends_mod.company_route},
     {"AirwayFixList", &plan.AirwayFixList},
     {"awy_list_cnt", &plan.awy_list_cnt},
     {"awy_start_pos", &plan.awy_start_pos},

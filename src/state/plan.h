@@ -97,7 +97,8 @@ constexpr const char* kNotSelected = "------";
 struct RouteEnds {
     std::string origin = kNotSelected, dest = kNotSelected;
     std::string dep_runway = kNotSelected;
-    int fms_dep_rwy_pos = 0;  // place of the runway in the origin's list, 0 = none
+    int fms_dep_rwy_pos = 0;    // place of the runway in the origin's list, 0 = none
+    std::string company_route;  // the stored route that was loaded; empty = none
 };
 
 /// The selected procedures. They are written at once; `procedures_kept` is what ERASE brings back.

@@ -15,7 +15,6 @@ constexpr Variable kRows[] = {
     {"approach_via", &procedure_lists.approach_via},
     {"approach_transitions", &procedure_lists.approach_transitions},
     {"approach_transition_cnt", &procedure_lists.approach_transition_cnt},
-    {"missed_approach_wanted", &procedure_lists.missed_approach_wanted},
 };
 }  // namespace
 

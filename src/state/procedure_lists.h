@@ -14,7 +14,6 @@ struct ProcedureLists {
     std::string approach_via;                       // kind and runway of the approach, such as "ILS27R"
     GrowingList<std::string> approach_transitions;  // from 1, at most 50
     int approach_transition_cnt = 0;
-    int missed_approach_wanted = 1;
 };
 
 extern ProcedureLists procedure_lists;

@@ -27,6 +27,7 @@
 #include "state/procedure_lists.h"
 #include "state/remote.h"
 #include "state/requests.h"
+#include "state/route_files.h"
 #include "state/sim.h"
 #include "state/sound.h"
 #include "state/time_base.h"
@@ -61,6 +62,7 @@ constexpr StateGroup kGroups[] = {
     {"plan", Reset<&plan>, &kPlanVariables},
     {"procedure_lists", Reset<&procedure_lists>, &kProcedureListVariables},
     {"winds", Reset<&winds>, &kWindsVariables},
+    {"route_files", Reset<&route_files>, &kRouteFileVariables},
     {"perf", Reset<&perf>, &kPerfVariables},
     {"flight_log", Reset<&flight_log>, &kFlightLogVariables},
     {"vnav", Reset<&vnav>, &kVnavVariables},

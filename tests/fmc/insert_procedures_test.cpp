@@ -6,6 +6,7 @@
 #include "fmc/endpoints.h"
 #include "fmc/route_invariants.h"
 #include "fmc/select_procedures.h"
+#include "state/cfg.h"
 #include "state/plan.h"
 #include "state/procedure_lists.h"
 
@@ -56,7 +57,7 @@ TEST_F(InsertProcedures, MissedApproachAltitudesAndHold) {
     SelectApproach(1, 1);
     EXPECT_EQ(Idents(plan.FlightPlanMod, plan.mod_cnt), "ORIG DEST");
     EXPECT_EQ(plan.hold_cnt, 0);
-    procedure_lists.missed_approach_wanted = 0;
+    cfg.IncludeMissedApproach = 0;
     SelectApproach(1, 1);
     EXPECT_EQ(Idents(plan.FlightPlanMod, plan.mod_cnt), "ORIG DDFIX RW09 DEST");
     EXPECT_EQ(plan.hold_cnt, 0);

@@ -1,0 +1,12 @@
+#include "state/route_files.h"
+
+RouteFileState route_files;
+
+namespace {
+constexpr Variable kRows[] = {
+    {"RouteFiles", &route_files.RouteFiles},
+    {"route_file_cnt", &route_files.route_file_cnt},
+};
+}  // namespace
+
+const std::span<const Variable> kRouteFileVariables = kRows;

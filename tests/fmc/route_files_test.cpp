@@ -1,0 +1,397 @@
+#include "fmc/route_files.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <string>
+
+#include "fmc/demo_navdata.h"
+#include "fmc/execute_route.h"
+#include "fmc/holds.h"
+#include "fmc/leg_list.h"
+#include "fmc/plan_files.h"
+#include "fmc/route.h"
+#include "fmc/route_invariants.h"
+#include "fmc/route_text.h"
+#include "fmc/select_procedures.h"
+#include "navdata/nav_tables.h"
+#include "platform/files.h"
+#include "state/airports.h"
+#include "state/cfg.h"
+#include "state/perf.h"
+#include "state/plan.h"
+#include "state/route_files.h"
+#include "state/sim.h"
+#include "support/fake_host.h"
+#include "support/paths.h"
+#include "support/world_navdata.h"
+
+namespace {
+
+constexpr const char* kFolder = "Velarion/TZ900/flightplans/";
+
+class RouteFiles : public testing::Test {
+  protected:
+    RouteFiles() {
+        PutRouteNavdata(host);
+        plan.FlightPlan[0] = {};
+    }
+    void Put(const std::string& name, const std::string& text) const { host.PutFile(kFolder + name, text); }
+    int Load(const std::string& text) const {
+        Put("X.RTE", text);
+        const int loaded = LoadCompanyRoute("X.RTE");
+        ExpectInvariants(text.substr(0, 200));
+        return loaded;
+    }
+    static FlightPlanLeg& Leg(int index) { return plan.FlightPlanMod[index]; }
+    FakeHost host;
+};
+
+constexpr const char* kSimple =
+    "[FlightPlan]\nORIG 39 10 APT\nAAA 40 10 VOR\nDDFIX 43 10 INT\nDEST 45 10 APT\n";
+
+TEST_F(RouteFiles, TheListHasPlansInTheOrderOfTheFolder) {
+    for (const char* name : {"b.rte", "Alpha.PLN", "TEMP.RTE", "readme.txt", "rte", "x.rte.bak"})
+        Put(name, "");
+    Put("folder.rte/inside.rte", "");
+    ListRouteFiles();
+    ASSERT_EQ(route_files.route_file_cnt, 2);
+    EXPECT_EQ(route_files.RouteFiles[1], "Alpha.PLN");
+    EXPECT_EQ(route_files.RouteFiles[2], "b.rte");
+    EXPECT_EQ(FindRouteFile("AL"), 1);
+    EXPECT_EQ(FindRouteFile("B.RTE"), 2);
+    EXPECT_EQ(FindRouteFile("B.RTEX"), 0);
+    host.PutFile("Plans/c.rte", "");
+    cfg.FlightPlansFolder = "\\plans\\";
+    ListRouteFiles();
+    ASSERT_EQ(route_files.route_file_cnt, 1);
+    EXPECT_EQ(route_files.RouteFiles[1], "c.rte");
+    cfg.FlightPlansFolder = (host.root / "Plans").string();  // named in full
+    ListRouteFiles();
+    EXPECT_EQ(route_files.route_file_cnt, 1);
+    cfg.FlightPlansFolder = "\\..\\elsewhere";
+    ListRouteFiles();
+    EXPECT_EQ(route_files.route_file_cnt, 0);
+}
+
+TEST_F(RouteFiles, AShortRowGivesTheFieldsThatItHas) {
+    sim.on_ground = 1;
+    perf.fplog_mode = 4;
+    cfg.ClimbIas = 300;
+    ASSERT_EQ(
+        Load(std::string("CruiseAlt = 35000\r\nCostIndex=80\r\nFuel=9000\r\nTripFuel=1000\r\nResvFuel=500"
+                         "\r\nWhat=7\r\n;note\r\n\r\n[FlightPlan]\r\n;ORIG 1 1\r\n   \r\n") +
+             "ORIG 39 10 APT\r\nAAA 40 10\r\nUSERP 41.5 9 WPT\r\nDEST 45 10 APT\r\n"),
+        1);
+    EXPECT_EQ(Idents(plan.FlightPlanMod, plan.mod_cnt), "ORIG AAA USERP DEST");
+    EXPECT_EQ(perf.pending_cruise_alt, 35000);
+    EXPECT_EQ(perf.cost_index, 80);
+    EXPECT_EQ(perf.planned_fuel, 10500);
+    EXPECT_EQ(perf.resv_fuel, 500);
+    EXPECT_EQ(Leg(1).type, "VOR");  // of two namesakes the one that stands there
+    EXPECT_EQ(Leg(1).freq, "110.00");
+    EXPECT_EQ(Leg(1).alt, kNone);
+    EXPECT_EQ(Leg(1).alt_restr, 0);
+    EXPECT_EQ(Leg(1).ias_restr, kNone);
+    EXPECT_EQ(Leg(1).rad_int, -1);
+    EXPECT_EQ(Leg(2).type, "WPT");
+    EXPECT_EQ(Leg(0).alt, 430);  // the origin's elevation
+    EXPECT_EQ(Leg(0).alt_restr, 430);
+    EXPECT_EQ(plan.ends.origin, "ORIG");
+    EXPECT_EQ(plan.ends.dest, "DEST");
+    EXPECT_EQ(plan.ends.company_route, "X");
+    EXPECT_EQ(airports.dest_airport.ident, "DEST");
+    EXPECT_EQ(plan.fms_fpln_active, kRouteEntered);
+    EXPECT_EQ(plan.new_route, 1);
+    EXPECT_EQ(plan.pending_stpos, 1);
+    EXPECT_EQ(perf.climb_ias, 300);
+    EXPECT_EQ(perf.descent_mach, 0.74);
+    EXPECT_EQ(perf.fplog_mode, -1);
+    AdvanceRouteState();
+    ExecuteRoute();
+    EXPECT_EQ(plan.stpos, 1);
+    EXPECT_EQ(perf.cruise_alt, 35000);
+    ExpectInvariants("EXEC");
+}
+
+std::string FullRow(const std::string& ident, const std::string& via = "DIRECT --- ",
+                    const std::string& restrictions = "--- --- --- 0 0") {
+    return ident + " 41.5 10 INT --- " + via + " 5000 " + restrictions +
+           " -999 -999.000 -1 0 0 0 0 --- --- --- 0 000 0.0 0.0 0.0 0.0 0.0 0.0\n";
+}
+
+TEST_F(RouteFiles, FieldsOfARow) {
+    const std::string head = "[FlightPlan]\nORIG 39 10 APT\n", end = "DEST 45 10 APT\n";
+    Load(head + FullRow("BBFIX", "Q1 AWY", "0800016000 --- --- 0 3") + end);  // the older form of a window
+    EXPECT_EQ(Leg(1).block_above, 8000);
+    EXPECT_EQ(Leg(1).block_below, 16000);
+    EXPECT_EQ(Leg(1).alt_restr, 0);
+    EXPECT_EQ(Leg(1).restr_code, 1);
+    EXPECT_EQ(Leg(1).restr_type, 0);
+    EXPECT_EQ(Leg(1).via, "Q1");
+    EXPECT_EQ(Leg(1).alt, 5000);
+    EXPECT_EQ(Leg(1).rwy, "");
+    EXPECT_EQ(Leg(1).vector, "");
+    Load(head + FullRow("BBFIX", "--- ---", "7000 6000 8000 1 3") + end);
+    EXPECT_EQ(Leg(1).alt_restr, 7000);
+    EXPECT_EQ(Leg(1).block_below, 8000);
+    EXPECT_EQ(Leg(1).restr_type, 3);
+    EXPECT_EQ(Leg(1).via, "");
+    Load(head + FullRow("HOLD PPOS", "HOLD HOLD") + end);  // a blank in the ident
+    EXPECT_EQ(Leg(1).ident, "HOLD PPOS");
+    EXPECT_EQ(Leg(1).lat, 41.5);
+    EXPECT_EQ(Leg(1).via_type, "HOLD");
+    Load(head + FullRow("AVERYLONGIDENTOFTWENTYFIVE") + end);
+    EXPECT_EQ(Leg(1).ident, "AVERYLONGIDENTOFTWENTYFIVE");
+    EXPECT_EQ(Leg(1).lon, 10);
+}
+
+TEST_F(RouteFiles, MissedApproachOnlyWhereItIsWanted) {
+    const std::string text = "[FlightPlan]\nORIG 39 10 APT\n" + FullRow("BBFIX", "ILS09 APPR") +
+                             FullRow("LONER", "MISSED_APPR APPR") + FullRow("LONER", "HOLD APPR") +
+                             "DEST 45 10 APT\n";
+    Load(text);
+    EXPECT_EQ(Idents(plan.FlightPlanMod, plan.mod_cnt), "ORIG BBFIX LONER LONER DEST");
+    EXPECT_EQ(Leg(2).via, "MISSED APPR");
+    cfg.IncludeMissedApproach = 0;
+    Load(text);
+    EXPECT_EQ(Idents(plan.FlightPlanMod, plan.mod_cnt), "ORIG BBFIX DEST");
+}
+
+TEST_F(RouteFiles, AnActiveRouteIsModifiedAndComesBack) {
+    std::string error;
+    ASSERT_EQ(EnterRouteText("ORIG/16 AAA Q1 CCC DEST", error), 1) << error;
+    ASSERT_EQ(ExecuteEnteredRoute(error), 1) << error;
+    MarkHold(2, true, 1);
+    AdvanceRouteState();
+    ExecuteRoute();
+    ASSERT_EQ(plan.hold_cnt, 1);
+    perf.climb_ias = 250;
+    const std::string before = Idents(plan.FlightPlan, plan.fp_cnt);
+    ASSERT_EQ(Load("CostIndex=90\nFuel=50\n[FlightPlan]\nDEST 45 10 APT\nEEE 44 10\nALTN 45 12 APT\n"), 1);
+    EXPECT_EQ(plan.fms_fpln_active, kRouteModified);
+    EXPECT_EQ(plan.hold_cnt, 0);
+    EXPECT_EQ(plan.ends.origin, "DEST");
+    EXPECT_EQ(plan.ends.dest, "DEST");
+    EXPECT_EQ(plan.ends_mod.dest, "ALTN");
+    EXPECT_EQ(perf.climb_ias, 250);  // what is flown stays until EXEC
+    EraseModification();
+    ExpectInvariants("ERASE");
+    EXPECT_EQ(Idents(plan.FlightPlanMod, plan.mod_cnt), before);
+    EXPECT_EQ(plan.ends_mod.origin, "ORIG");
+    EXPECT_EQ(plan.ends_mod.dest, "DEST");
+    EXPECT_EQ(plan.ends_mod.dep_runway, "16");
+    EXPECT_EQ(plan.ends_mod.company_route, "");
+    EXPECT_EQ(airports.origin_airport.ident, "ORIG");
+    EXPECT_EQ(plan.hold_cnt, 1);
+    EXPECT_EQ(plan.new_route, 0);  // else the next EXEC would begin the route anew
+    EXPECT_EQ(perf.planned_fuel, 0);
+    EXPECT_EQ(perf.cost_index, -1);
+    Load("CostIndex=90\n[FlightPlan]\nDEST 45 10 APT\nEEE 44 10\nALTN 45 12 APT\n");
+    ExecuteRoute();
+    ExpectInvariants("EXEC");
+    EXPECT_EQ(Idents(plan.FlightPlan, plan.fp_cnt), "DEST EEE ALTN");
+    EXPECT_EQ(plan.ends.dest, "ALTN");
+    EXPECT_EQ(plan.ends.company_route, "X");
+    EXPECT_EQ(perf.cost_index, 90);
+    EXPECT_EQ(plan.stpos, 1);
+}
+
+TEST_F(RouteFiles, WhatCannotBeReadLeavesNoLegs) {
+    ASSERT_EQ(Load(kSimple), 1);
+    EXPECT_EQ(LoadCompanyRoute("GONE.PLN"), 0);
+    EXPECT_EQ(plan.mod_cnt, 3);  // nothing has been converted, so nothing is read
+    EXPECT_EQ(LoadCompanyRoute("GONE.RTE"), 0);
+    EXPECT_EQ(plan.mod_cnt, -1);
+    EXPECT_EQ(plan.route_cnt, 0);
+    EXPECT_EQ(Load("ORIG 39 10 APT\n"), 0);  // no rows without their heading
+    EXPECT_EQ(plan.mod_cnt, -1);
+    ASSERT_EQ(Load(kSimple), 1);
+    ExecuteRoute();
+    ASSERT_EQ(plan.fms_fpln_active, kRouteActive);
+    EXPECT_EQ(LoadCompanyRoute("GONE.RTE"), 0);
+    EXPECT_EQ(plan.fms_fpln_active, kRouteModified);
+    ExecuteRoute();  // nothing to fly
+    EXPECT_EQ(plan.fp_cnt, 3);
+    EraseModification();
+    EXPECT_EQ(plan.mod_cnt, 3);
+}
+
+TEST_F(RouteFiles, HostileFiles) {
+    const std::string head = "[FlightPlan]\n[flightplan]\nORIG 39 10 APT\n", end = "DEST 45 10 APT\n";
+    const std::string nul("BB\0FIX 41.5\0 10 INT\n", 20), long_token(10000, 'A');
+    std::string many = head;
+    for (int i = 0; i < 100000; ++i) many += "F" + std::to_string(i) + " 41 10 INT\n";
+    struct Row {
+        std::string text, idents;
+    };
+    const Row rows[] = {
+        {head + "DISCO\nDISCO\nTHEN 0 0 OAWY\nDISCO\nAAA 40 10\n" + end, "ORIG DISCO AAA DEST"},
+        {"[FlightPlan]\nDISCO\n" + end, "DEST"},
+        {head + nul + end, "ORIG BB DEST"},
+        {head + long_token + "\n" + end, "ORIG " + long_token.substr(0, 499) + " DEST"},
+        {head + "Foo=1\nCruiseAlt=1e400\nCostIndex=99999999999\nFuel=nan\nTripFuel=-5\n" + end, "ORIG DEST"},
+        {head +
+             "NUMS nan 1e400 INT --- A B -1e308 inf 1e9 1e9 -7 99 1e400 nan -inf 9 -3 -2147483648 -5 --- --- "
+             "RT 1e99 999 91 181 nan inf 1e5 1e5\n" +
+             end,
+         "ORIG NUMS DEST"},
+        {std::string("\xef\xbb\xbf[FlightPlan]\n") + end, ""},
+    };
+    for (const Row& row : rows) {
+        Load(row.text);
+        EXPECT_EQ(Idents(plan.FlightPlanMod, plan.mod_cnt), row.idents);
+        if (plan.mod_cnt < 1) continue;
+        plan.fms_fpln_active = kRouteActivated;
+        ExecuteRoute();
+        ExpectInvariants(row.idents.substr(0, 80));
+        plan.fms_fpln_active = kRouteNone;
+    }
+    EXPECT_EQ(perf.pending_cruise_alt, 0);
+    EXPECT_EQ(perf.cost_index, -1);
+    Load(many + end);
+    EXPECT_EQ(plan.mod_cnt, 100001);
+}
+
+TEST_F(RouteFiles, UnknownAirportsAreEndsWithoutRunways) {
+    Load("[FlightPlan]\nZZZA 39 10 APT\nAAA 40 10\nZZZB 45 10 APT\n");
+    EXPECT_EQ(plan.ends.origin, "ZZZA");
+    EXPECT_EQ(airports.origin_airport.ident, "ZZZA");
+    EXPECT_EQ(airports.dest_airport.runway_cnt, 0);
+    AdvanceRouteState();
+    ExecuteRoute();
+    EXPECT_EQ(plan.ends.origin, "ZZZA");
+    EXPECT_EQ(plan.ends.company_route, "X");
+}
+
+TEST_F(RouteFiles, TheWrittenFile) {
+    plan.fp_cnt = 1;
+    FlightPlanLeg& leg = plan.FlightPlan[0];
+    leg.ident = "KPDX";
+    leg.lat = 45.58871;
+    leg.lon = -122.59751;
+    leg.type = "APT";
+    leg.alt = 30;
+    plan.FlightPlan[1].ident = "HOLD PPOS";
+    plan.FlightPlan[1].via = "MISSED APPR";
+    plan.FlightPlan[1].via_type = "APPR";
+    plan.FlightPlan[1].type = "OTHER";
+    plan.FlightPlan[1].from_hdg = 5;
+    plan.FlightPlan[1].block_above = 1000;
+    perf.cruise_alt = 35000;
+    ASSERT_EQ(SaveCompanyRoute("pdx.rte"), 1);
+    const std::string text = FakeHost::FileText(host.root / kFolder / "pdx.rte");
+    EXPECT_TRUE(
+        text.starts_with("CruiseAlt=35000\nCostIndex=-1\n[FlightPlan]\n;-----------  Id         Lat"));
+    EXPECT_NE(
+        text.find(
+            "\n            KPDX    45.58871   -122.59751 APT    ---          ---   ---    30   ---    ---"
+            "    ---     0     0   -999  -999.000   -1      0       0    0       0      ---  ---        "
+            "---       0   000     0.00000      0.00000     0.00000      0.00000     0.00000      "
+            "0.00000 \n"),
+        std::string::npos)
+        << text;
+    EXPECT_NE(
+        text.find("   HOLD PPOS     0.00000      0.00000 WPT    ---  MISSED_APPR  APPR  -999   ---   1000"),
+        std::string::npos)
+        << text;
+    EXPECT_EQ(plan.FlightPlan[1].type, "WPT");
+}
+
+TEST_F(RouteFiles, NamesNeverLeaveTheFolder) {
+    plan.fp_cnt = 1;
+    for (const std::string& name :
+         {std::string("..\\x.rte"), std::string("../x.rte"), std::string("\\x.rte"),
+          std::string("/tmp/x.rte"), std::string("C:\\x.rte"), std::string("c:x.rte"), std::string(".."),
+          std::string("."), std::string(), std::string("NUL"), std::string("com1.rte"),
+          std::string("Aux .rte"), std::string("x."), std::string("x*.rte"), std::string("x\0.rte", 6),
+          std::string("x\n.rte"), std::string(200, 'X')}) {
+        EXPECT_EQ(SaveCompanyRoute(name), 0) << name;
+        EXPECT_EQ(LoadCompanyRoute(name), 0) << name;
+    }
+    EXPECT_TRUE(ListFolder("\\Velarion\\TZ900\\flightplans").empty());
+    EXPECT_EQ(SaveCompanyRoute("COM.RTE"), 1);
+    EXPECT_EQ(ListFolder("\\Velarion\\TZ900\\flightplans").size(), 1u);
+}
+
+// What a file keeps of a leg, to the file's own precision.
+void ExpectSameLeg(const FlightPlanLeg& a, const FlightPlanLeg& b) {
+    const auto limit = [](double value) { return std::max(value, 0.0); };
+    EXPECT_EQ(a.ident, b.ident);
+    EXPECT_NEAR(a.lat, b.lat, 0.00001) << a.ident;
+    EXPECT_NEAR(a.lon, b.lon, 0.00001) << a.ident;
+    EXPECT_EQ(a.type, b.type) << a.ident;
+    EXPECT_EQ(a.freq, b.freq) << a.ident;
+    EXPECT_EQ(a.via, b.via) << a.ident;
+    EXPECT_EQ(a.via.empty() ? "" : a.via_type, b.via_type) << a.ident;
+    EXPECT_NEAR(limit(a.alt_restr), b.alt_restr, 0.5) << a.ident;
+    EXPECT_EQ(limit(a.block_above), b.block_above) << a.ident;
+    EXPECT_EQ(limit(a.block_below), b.block_below) << a.ident;
+    EXPECT_EQ(a.restr_code, b.restr_code) << a.ident;
+    EXPECT_EQ(a.restr_type, b.restr_type) << a.ident;
+    EXPECT_EQ(a.ias_restr, b.ias_restr) << a.ident;
+    EXPECT_NEAR(a.mach_restr, b.mach_restr, 0.0005) << a.ident;
+    EXPECT_EQ(a.flyover, b.flyover) << a.ident;
+    EXPECT_EQ(a.dep_turn, b.dep_turn) << a.ident;
+    EXPECT_EQ(a.hold_pos, b.hold_pos) << a.ident;
+    EXPECT_EQ(a.rwy, b.rwy) << a.ident;
+    EXPECT_EQ(a.appr_wpt_type, b.appr_wpt_type) << a.ident;
+    EXPECT_EQ(a.vector, b.vector) << a.ident;
+    EXPECT_NEAR(a.until_alt, b.until_alt, 0.5) << a.ident;
+    EXPECT_NEAR(a.from_hdg, b.from_hdg, 0.5) << a.ident;
+    EXPECT_NEAR(a.anchor_lat, b.anchor_lat, 0.00001) << a.ident;
+    EXPECT_NEAR(a.vector_lon, b.vector_lon, 0.00001) << a.ident;
+}
+
+void SaveAndLoad(const std::string& route, int approach) {
+    std::string error;
+    ASSERT_EQ(EnterRouteText(route, error), 1) << error;
+    if (approach > 0) SelectApproach(1, approach);
+    perf.pending_cruise_alt = 35000;
+    ASSERT_EQ(ExecuteEnteredRoute(error), 1) << error;
+    ASSERT_EQ(SaveCompanyRoute("SAVED.RTE"), 1);
+    const auto saved = plan.FlightPlan;
+    const int count = plan.fp_cnt, holds = plan.hold_cnt;
+    const std::string rows = Rows();
+    for (const RouteStatus state : {kRouteActive, kRouteNone}) {
+        plan.fms_fpln_active = state;
+        ASSERT_EQ(LoadCompanyRoute("saved"), 0);  // names are whole
+        ASSERT_EQ(LoadCompanyRoute("saved.rte"), 1);
+        ASSERT_EQ(plan.mod_cnt, count);
+        for (int i = 1; i <= count; ++i) ExpectSameLeg(saved[i], plan.FlightPlanMod[i]);
+        EXPECT_EQ(plan.hold_cnt, holds);
+        EXPECT_EQ(Rows(), rows);
+        EXPECT_EQ(perf.pending_cruise_alt, 35000);
+        ExecuteRoute();
+        ExpectInvariants(route);
+        ASSERT_EQ(plan.fp_cnt, count);
+        for (int i = 1; i <= count; ++i) {
+            EXPECT_EQ(saved[i].ident, plan.FlightPlan[i].ident);
+            EXPECT_NEAR(saved[i].lat, plan.FlightPlan[i].lat, 0.01) << saved[i].ident;
+        }
+    }
+}
+
+TEST(RouteFilesRoundTrip, DemonstrationRoute) {
+    FakeHost host;
+    host.navdata = SourceDir() + "/data/root/Velarion/TZ900/Navdata";
+    LoadNavTables();
+    SaveAndLoad("KSEA/16L ALDER1 ALDER J1 AVE DCT FIM FIM2 KLAX/24R", 1);
+    EXPECT_EQ(plan.hold_cnt, 1);
+    // the stored procedures give way to newly selected ones
+    plan.fms_fpln_active = kRouteActive;
+    ASSERT_TRUE(SelectSidByName("EPH1"));
+    for (int i = 1; i <= plan.mod_cnt; ++i) EXPECT_NE(plan.FlightPlanMod[i].via, "ALDER1");
+    SelectApproach(1, 2);
+    ExpectInvariants("another approach");
+    EXPECT_EQ(plan.hold_cnt, 1);
+}
+
+TEST(RouteFilesRoundTrip, WorldRoute) {
+    FakeHost host;
+    if (!UseWorldNavdata(host)) GTEST_SKIP() << "no world navigation data";
+    LoadNavTables();
+    SaveAndLoad("EGLL DVR UL9 KONAN EDDF", 1);
+}
+
+}  // namespace
