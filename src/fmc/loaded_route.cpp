@@ -93,6 +93,7 @@ void BeginLoadedRoute() {
     perf.planned_fuel = 0;
     LeaveLegsView();
     route_pages.PendingSelectRow = 0;
+    if (IsActive()) SetPendingActiveLeg(1);  // the leg flown to isn't in the working copy any more
     RebuildRouteRows();
 }
 
