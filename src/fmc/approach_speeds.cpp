@@ -16,7 +16,6 @@ struct WeightSpeed {
 using SpeedTable = std::array<WeightSpeed, 28>;
 
 // This system's own tuning, in line with its flap speeds by weight.
-// about.
 constexpr SpeedTable kVref30 = {{
     {240000, 119}, {250000, 120}, {260000, 120}, {270000, 122}, {280000, 124}, {290000, 126}, {300000, 128},
     {310000, 130}, {320000, 132}, {330000, 134}, {340000, 136}, {350000, 138}, {360000, 140}, {370000, 142},

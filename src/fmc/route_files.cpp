@@ -62,64 +62,155 @@ Row SplitRow(std::string_view line) {
     return row;
 }
 
-std::string Text(std::string_view token) {
+std::string ReadText(std::string_view token) {
     return token == kEmpty ? std::string() : std::string(token);
 }
 
+std::string WriteText(std::string_view text) {
+    return std::string(text.empty() ? kEmpty : text);
+}
+
 // What doesn't lie within -limit to limit is no number of ours.
-double Number(std::string_view token, double limit = 1e6) {
+double ReadNumber(std::string_view token, double limit = 1e6) {
     const double value = LeadingDouble(token);
     return std::fabs(value) <= limit ? value : 0;
 }
 
-int Code(std::string_view token, int most) {
-    const int value = LeadingInt(token);
-    return value >= 0 && value <= most ? value : 0;
+std::string WriteNumber(double value, int decimals = 0) {
+    char text[400];
+    std::snprintf(text, sizeof text, "%.*f", decimals, value);
+    return text;
 }
+
+// --- the columns of a row, each with its reading and its writing
+
+struct Column {
+    std::size_t width;  // right-aligned
+    void (*read)(FlightPlanLeg& leg, std::string_view token);
+    std::string (*write)(const FlightPlanLeg& leg);
+};
+
+template <std::string FlightPlanLeg::*kField>
+constexpr Column TextColumn(std::size_t width) {
+    return {width, [](FlightPlanLeg& leg, std::string_view token) { leg.*kField = ReadText(token); },
+            [](const FlightPlanLeg& leg) { return WriteText(leg.*kField); }};
+}
+
+template <double FlightPlanLeg::*kField, int kDecimals, int kLimit = 1'000'000>
+constexpr Column NumberColumn(std::size_t width) {
+    return {width,
+            [](FlightPlanLeg& leg, std::string_view token) { leg.*kField = ReadNumber(token, kLimit); },
+            [](const FlightPlanLeg& leg) { return WriteNumber(leg.*kField, kDecimals); }};
+}
+
+// A constraint that is none is empty in the file, and reads back as 0.
+template <double FlightPlanLeg::*kField>
+constexpr Column LimitColumn(std::size_t width) {
+    return {width, [](FlightPlanLeg& leg, std::string_view token) { leg.*kField = ReadNumber(token); },
+            [](const FlightPlanLeg& leg) {
+                return leg.*kField > 0 ? WriteNumber(leg.*kField) : std::string(kEmpty);
+            }};
+}
+
+template <int FlightPlanLeg::*kField, int kMost>
+constexpr Column CodeColumn(std::size_t width) {
+    return {width,
+            [](FlightPlanLeg& leg, std::string_view token) {
+                const int value = LeadingInt(token);
+                leg.*kField = value >= 0 && value <= kMost ? value : 0;
+            },
+            [](const FlightPlanLeg& leg) { return Format("%d", leg.*kField); }};
+}
+
+using Leg = FlightPlanLeg;
+
+constexpr Column kVia = {
+    12,
+    [](Leg& leg, std::string_view token) {
+        leg.via = token == kMissedInFile ? std::string(kMissed) : ReadText(token);
+    },
+    [](const Leg& leg) { return leg.via == kMissed ? std::string(kMissedInFile) : WriteText(leg.via); }};
+constexpr Column kViaType = {
+    5, [](Leg& leg, std::string_view token) { leg.via_type = ReadText(token); },
+    [](const Leg& leg) { return leg.via.empty() ? std::string(kEmpty) : WriteText(leg.via_type); }};
+constexpr Column kAltitude = {5,
+                              [](Leg& leg, std::string_view token) {
+                                  if (!token.empty() && token != kEmpty) leg.alt = ReadNumber(token);
+                              },
+                              [](const Leg& leg) { return WriteNumber(leg.alt); }};
+constexpr Column kSpeed = {6,
+                           [](Leg& leg, std::string_view token) {
+                               if (const double speed = ReadNumber(token); speed >= 1) leg.ias_restr = speed;
+                           },
+                           [](const Leg& leg) { return WriteNumber(leg.ias_restr); }};
+constexpr Column kRadial = {4,
+                            [](Leg& leg, std::string_view token) {
+                                if (!token.empty()) leg.rad_int = std::clamp(ReadNumber(token), -1.0, 360.0);
+                            },
+                            [](const Leg& leg) { return WriteNumber(leg.rad_int); }};
+constexpr Column kStep = {
+    7, [](Leg& leg, std::string_view token) { leg.step_alt = std::max(ReadNumber(token), 0.0); },
+    [](const Leg& leg) { return WriteNumber(leg.step_alt); }};
+constexpr Column kHeading = {5,
+                             [](Leg& leg, std::string_view token) { leg.from_hdg = ReadNumber(token, 360); },
+                             [](const Leg& leg) { return Format("%03.0f", leg.from_hdg); }};
+
+constexpr Column kColumns[kFields] = {
+    TextColumn<&Leg::ident>(16),
+    NumberColumn<&Leg::lat, 5, 90>(11),
+    NumberColumn<&Leg::lon, 5, 180>(12),
+    TextColumn<&Leg::type>(3),
+    TextColumn<&Leg::freq>(6),
+    kVia,
+    kViaType,
+    kAltitude,
+    LimitColumn<&Leg::alt_restr>(5),
+    LimitColumn<&Leg::block_above>(6),
+    LimitColumn<&Leg::block_below>(6),
+    CodeColumn<&Leg::restr_code, 3>(5),
+    CodeColumn<&Leg::restr_type, 3>(5),
+    kSpeed,
+    NumberColumn<&Leg::mach_restr, 3>(9),
+    kRadial,
+    CodeColumn<&Leg::flyover, 1>(6),
+    CodeColumn<&Leg::dep_turn, 2>(7),
+    CodeColumn<&Leg::hold_pos, 8>(4),
+    kStep,
+    TextColumn<&Leg::rwy>(8),
+    TextColumn<&Leg::appr_wpt_type>(4),
+    TextColumn<&Leg::vector>(10),
+    NumberColumn<&Leg::until_alt, 0>(7),
+    kHeading,
+    NumberColumn<&Leg::anchor_lat, 5, 90>(11),
+    NumberColumn<&Leg::anchor_lon, 5, 180>(12),
+    NumberColumn<&Leg::vector_lat, 5, 90>(11),
+    NumberColumn<&Leg::vector_lon, 5, 180>(12),
+    NumberColumn<&Leg::vector_trk_lat, 5, 90>(11),
+    NumberColumn<&Leg::vector_trk_lon, 5, 180>(12),
+};
 
 FlightPlanLeg LegOf(const Row& row) {
     FlightPlanLeg leg;
-    leg.ident = Text(row[1]);
-    leg.lat = Number(row[2], 90);
-    leg.lon = Number(row[3], 180);
-    leg.type = Text(row[4]);
-    leg.freq = Text(row[5]);
-    leg.via = row[6] == kMissedInFile ? std::string(kMissed) : Text(row[6]);
-    leg.via_type = Text(row[7]);
-    if (!row[8].empty() && row[8] != kEmpty) leg.alt = Number(row[8]);
-    leg.alt_restr = Number(row[9]);
-    leg.block_above = Number(row[10]);
-    leg.block_below = Number(row[11]);
-    leg.restr_code = Code(row[12], 3);
-    leg.restr_type = Code(row[13], 3);
-    if (const double speed = Number(row[14]); speed >= 1) leg.ias_restr = speed;
-    leg.mach_restr = Number(row[15]);
-    if (!row[16].empty()) leg.rad_int = std::clamp(Number(row[16]), -1.0, 360.0);
-    leg.flyover = Code(row[17], 1);
-    leg.dep_turn = Code(row[18], 2);
-    leg.hold_pos = Code(row[19], 8);
-    leg.step_alt = std::max(Number(row[20]), 0.0);
-    leg.rwy = Text(row[21]);
-    leg.appr_wpt_type = Text(row[22]);
-    leg.vector = Text(row[23]);
-    leg.until_alt = Number(row[24]);
-    leg.from_hdg = Number(row[25], 360);
-    leg.anchor_lat = Number(row[26], 90);
-    leg.anchor_lon = Number(row[27], 180);
-    leg.vector_lat = Number(row[28], 90);
-    leg.vector_lon = Number(row[29], 180);
-    leg.vector_trk_lat = Number(row[30], 90);
-    leg.vector_trk_lon = Number(row[31], 180);
+    for (std::size_t i = 0; i < kFields; ++i) kColumns[i].read(leg, row[i + 1]);
     // older files: both limits of a window in one field
-    constexpr std::size_t kWindow = 10, kLimit = 5;
-    if (row[9].size() == kWindow) {
-        leg.block_above = Number(row[9].substr(0, kLimit));
-        leg.block_below = Number(row[9].substr(kLimit));
+    constexpr std::size_t kRestriction = 9, kWindow = 10, kLimit = 5;
+    if (row[kRestriction].size() == kWindow) {
+        leg.block_above = ReadNumber(row[kRestriction].substr(0, kLimit));
+        leg.block_below = ReadNumber(row[kRestriction].substr(kLimit));
         leg.alt_restr = 0;
         leg.restr_code = 1;
         leg.restr_type = 0;
     }
     return leg;
+}
+
+void AppendRow(std::string& text, const FlightPlanLeg& leg) {
+    for (const Column& column : kColumns) {
+        const std::string field = column.write(leg);
+        if (field.size() < column.width) text.append(column.width - field.size(), ' ');
+        text.append(field).append(" ");
+    }
+    text += '\n';
 }
 
 class RouteReader {
@@ -191,59 +282,6 @@ constexpr std::string_view kHeaders[] = {
     ";-----------                                                      Type        Restr Above "
     "/ Below  Code  Type   Restr   Restr   int flyover   Turn  pos     Alt          WptType    "
     "         Alt  Hdg       Lat          lon          Lat          Lon        Lat          Lon"};
-
-std::string Field(std::string_view text) {
-    return std::string(text.empty() ? kEmpty : text);
-}
-
-// A constraint that is none; it reads back as 0.
-std::string Limit(double value) {
-    return value > 0 ? Format("%.0f", value) : std::string(kEmpty);
-}
-
-void AppendRow(std::string& text, const FlightPlanLeg& leg) {
-    const auto add = [&text](std::size_t width, std::string_view field) {
-        if (field.size() < width) text.append(width - field.size(), ' ');
-        text.append(field).append(" ");
-    };
-    const auto number = [&add](std::size_t width, const char* format, double value) {
-        char field[400];
-        std::snprintf(field, sizeof field, format, value);
-        add(width, field);
-    };
-    add(16, Field(leg.ident));
-    number(11, "%.5f", leg.lat);
-    number(12, "%.5f", leg.lon);
-    add(3, Field(leg.type));
-    add(6, Field(leg.freq));
-    add(12, leg.via == kMissed ? std::string(kMissedInFile) : Field(leg.via));
-    add(5, leg.via.empty() ? std::string(kEmpty) : Field(leg.via_type));
-    number(5, "%.0f", leg.alt);
-    add(5, Limit(leg.alt_restr));
-    add(6, Limit(leg.block_above));
-    add(6, Limit(leg.block_below));
-    number(5, "%.0f", leg.restr_code);
-    number(5, "%.0f", leg.restr_type);
-    number(6, "%.0f", leg.ias_restr);
-    number(9, "%.3f", leg.mach_restr);
-    number(4, "%.0f", leg.rad_int);
-    number(6, "%.0f", leg.flyover);
-    number(7, "%.0f", leg.dep_turn);
-    number(4, "%.0f", leg.hold_pos);
-    number(7, "%.0f", leg.step_alt);
-    add(8, Field(leg.rwy));
-    add(4, Field(leg.appr_wpt_type));
-    add(10, Field(leg.vector));
-    number(7, "%.0f", leg.until_alt);
-    number(5, "%03.0f", leg.from_hdg);
-    number(11, "%.5f", leg.anchor_lat);
-    number(12, "%.5f", leg.anchor_lon);
-    number(11, "%.5f", leg.vector_lat);
-    number(12, "%.5f", leg.vector_lon);
-    number(11, "%.5f", leg.vector_trk_lat);
-    number(12, "%.5f", leg.vector_trk_lon);
-    text += '\n';
-}
 
 std::string RouteHead() {
     std::string text =

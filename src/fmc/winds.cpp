@@ -9,6 +9,9 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <unordered_map>
+#include <utility>
+#include <vector>
 
 #include "fmc/leg_list.h"
 #include "fmc/route.h"
@@ -16,7 +19,6 @@
 #include "navdata/geodesy.h"
 #include "navdata/text_fields.h"
 #include "platform/files.h"
-#include "platform/host.h"
 #include "platform/text.h"
 #include "state/module_life.h"
 #include "state/perf.h"
@@ -51,32 +53,8 @@ double LegBearing(int prev_leg, int leg) {
     return GreatCircle(from.lat, from.lon, to.lat, to.lon).bearing;
 }
 
-// The weather program's folder lies in the user's data or under the simulator, and may be given from either's
-// own folder on.
-struct WeatherFile {
-    std::string name;
-    FileRoot root;
-};
-
-WeatherFile FindWeatherFile(const char* name) {
-    std::string_view folder = module_life.weather_folder;
-    FileRoot root = FileRoot::kSimulator;
-    const struct {
-        FileRoot root;
-        std::string folder;
-    } kRoots[] = {{FileRoot::kSimulator, RootFolder()}, {FileRoot::kAppData, AppDataFolder()}};
-    for (const auto& row : kRoots) {
-        if (row.folder.empty() || !folder.starts_with(row.folder)) continue;
-        folder.remove_prefix(row.folder.size());
-        root = row.root;
-        break;
-    }
-    return {std::string(folder) + "\\" + name, root};
-}
-
-std::optional<FileBytes> ReadWeatherFile(const char* name) {
-    const WeatherFile file = FindWeatherFile(name);
-    return ReadFile(file.name, file.root);
+std::optional<FileBytes> ReadWeatherFile(const ConfiguredFolder& folder, std::string_view name) {
+    return ReadFile(folder.File(name), folder.root);
 }
 
 constexpr char kStationList[] = "wx_station_list.txt";
@@ -122,21 +100,41 @@ std::string_view CutAt(std::string_view& text, std::string_view divider) {
     return part;
 }
 
-// Ident, METAR, TAF, then the winds: nine groups between slashes.
-void FillLevels(WxStation& station, std::string_view snapshot) {
-    while (auto line = NextBoundedLine(snapshot, kSnapshotBound)) {
-        if (station.ident.size() < 4 || !line->starts_with(std::string_view(station.ident).substr(0, 4)))
-            continue;
-        for (int field = 0; field < 3; ++field) CutAt(*line, "::");
-        std::string_view groups = CutAt(*line, "::");
-        for (std::string& level : station.levels) level = Trimmed(CutAt(groups, "/"));
-        return;
-    }
+// What one request reads.
+struct WeatherFiles {
+    std::string list;
+    FileBytes snapshot;
+    std::vector<Station> stations;  // in `list`, once ReadStations has gone through it
+    std::unordered_map<std::string_view, std::string_view>
+        snapshots;  // first line of each ident's four letters
+};
+
+std::optional<WeatherFiles> ReadWeatherFiles() {
+    constexpr std::size_t kIdent = 4;
+    const ConfiguredFolder folder = FindConfiguredFolder(module_life.weather_folder);
+    const auto list = ReadWeatherFile(folder, kStationList);
+    auto snapshot = ReadWeatherFile(folder, kSnapshot);
+    if (!list || !snapshot) return {};
+    WeatherFiles files{std::string(list->Text()), std::move(*snapshot), {}, {}};
+    std::string_view rest = files.snapshot.Text();
+    while (auto line = NextBoundedLine(rest, kSnapshotBound))
+        if (line->size() > kIdent) files.snapshots.emplace(line->substr(0, kIdent), *line);
+    return files;
 }
 
-WxStation MakeWxStation(const Station& from, int leg, std::string_view snapshot) {
+// Ident, METAR, TAF, then the winds: nine groups between slashes.
+void FillLevels(WxStation& station, const WeatherFiles& files) {
+    const auto found = files.snapshots.find(station.ident);
+    if (found == files.snapshots.end()) return;
+    std::string_view line = found->second;
+    for (int field = 0; field < 3; ++field) CutAt(line, "::");
+    std::string_view groups = CutAt(line, "::");
+    for (std::string& level : station.levels) level = Trimmed(CutAt(groups, "/"));
+}
+
+WxStation MakeWxStation(const Station& from, int leg, const WeatherFiles& files) {
     WxStation station{std::string(from.ident), Format("%.6f", from.lat), Format("%.6f", from.lon), leg, {}};
-    FillLevels(station, snapshot);
+    FillLevels(station, files);
     return station;
 }
 
@@ -167,8 +165,8 @@ bool IsEmpty(std::span<const WindLevel> levels) {
 int SnapshotAgeHours() {
     constexpr double kSecondsToUnixTime = 719162.0 * 86400;  // from the first day of year 1
     constexpr double kMostHours = 100000;
-    const WeatherFile file = FindWeatherFile(kSnapshot);
-    const auto written = LastWriteTime(file.name, file.root);
+    const ConfiguredFolder folder = FindConfiguredFolder(module_life.weather_folder);
+    const auto written = LastWriteTime(folder.File(kSnapshot), folder.root);
     if (!written) return 0;
     const double seconds = sim.abs_time - kSecondsToUnixTime - static_cast<double>(*written);
     return static_cast<int>(std::clamp(std::floor(seconds / 3600), 0.0, kMostHours));
@@ -189,18 +187,17 @@ double DescentWind(int leg) {
 }
 
 bool RequestRouteWinds() {
-    const auto list = ReadWeatherFile(kStationList), snapshot = ReadWeatherFile(kSnapshot);
-    if (!list || !snapshot) return false;
+    auto files = ReadWeatherFiles();
+    if (!files) return false;
     if (plan.mod_cnt < 2) return true;
-    std::string text(list->Text());
-    const std::vector<Station> stations = ReadStations(text);
+    files->stations = ReadStations(files->list);
     winds.WxStations = {};
     winds.wx_station_cnt = 0;
     for (int leg = 1; leg <= plan.mod_cnt; ++leg) {
         const FlightPlanLeg& at = plan.FlightPlanMod[leg];
         if (!IsPlace(at)) continue;
-        if (const Station* station = NearestStation(stations, at.lat, at.lon))
-            winds.WxStations[++winds.wx_station_cnt] = MakeWxStation(*station, leg, snapshot->Text());
+        if (const Station* station = NearestStation(files->stations, at.lat, at.lon))
+            winds.WxStations[++winds.wx_station_cnt] = MakeWxStation(*station, leg, *files);
     }
     return true;
 }
@@ -232,15 +229,14 @@ void ApplyRouteWinds(int side) {
 }
 
 bool RequestDescentWinds() {
-    const auto list = ReadWeatherFile(kStationList), snapshot = ReadWeatherFile(kSnapshot);
-    if (!list || !snapshot) return false;
+    auto files = ReadWeatherFiles();
+    if (!files) return false;
     if (plan.fp_cnt < 2) return true;
-    std::string text(list->Text());
-    const std::vector<Station> stations = ReadStations(text);
+    files->stations = ReadStations(files->list);
     const FlightPlanLeg& destination = plan.FlightPlan[plan.fp_cnt];
-    const Station* nearest = NearestStation(stations, destination.lat, destination.lon);
+    const Station* nearest = NearestStation(files->stations, destination.lat, destination.lon);
     if (nearest == nullptr) return true;
-    const WxStation station = MakeWxStation(*nearest, plan.fp_cnt, snapshot->Text());
+    const WxStation station = MakeWxStation(*nearest, plan.fp_cnt, *files);
     if (IsEmpty(winds.DescentForecast)) winds.DescentForecast[0].alt = static_cast<int>(perf.cruise_alt);
     for (WindLevel& level : winds.DescentForecast)
         if (level.alt > 0) FillLevel(level, station);

@@ -177,6 +177,11 @@ bool FolderExists(std::string_view name, FileRoot root) {
     return path && fs::is_directory(*path, error);
 }
 
+ConfiguredFolder FindConfiguredFolder(std::string_view name) {
+    const bool of_machine = !FolderExists(name) && FolderExists(name, FileRoot::kMachine);
+    return {std::string(name), of_machine ? FileRoot::kMachine : FileRoot::kSimulator};
+}
+
 std::optional<std::int64_t> LastWriteTime(std::string_view name, FileRoot root) {
     const auto path = ResolvePath(name, root);
     struct stat status;

@@ -50,6 +50,15 @@ std::vector<FolderEntry> ListFolder(std::string_view name, FileRoot root = FileR
 
 bool FolderExists(std::string_view name, FileRoot root = FileRoot::kSimulator);
 
+/// A folder that the configuration names: below the simulator's, else of the machine.
+struct ConfiguredFolder {
+    std::string name;
+    FileRoot root;
+    /// The name of a file in it.
+    std::string File(std::string_view file) const { return (name + '\\').append(file); }
+};
+ConfiguredFolder FindConfiguredFolder(std::string_view name);
+
 /// When a file was last written, in seconds of Unix time; nothing when it is missing.
 std::optional<std::int64_t> LastWriteTime(std::string_view name, FileRoot root = FileRoot::kSimulator);
 

@@ -302,8 +302,8 @@ TEST_F(RouteFiles, NamesNeverLeaveTheFolder) {
     plan.fp_cnt = 1;
     for (const std::string& name :
          {std::string("..\\x.rte"), std::string("../x.rte"), std::string("\\x.rte"),
-          std::string("/tmp/x.rte"), std::string("C:\\x.rte"), std::string("c:x.rte"), std::string(".."),
-          std::string("."), std::string(), std::string("NUL"), std::string("com1.rte"),
+          std::string("/elsewhere/x.rte"), std::string("C:\\x.rte"), std::string("c:x.rte"),
+          std::string(".."), std::string("."), std::string(), std::string("NUL"), std::string("com1.rte"),
           std::string("Aux .rte"), std::string("x."), std::string("x*.rte"), std::string("x\0.rte", 6),
           std::string("x\n.rte"), std::string(200, 'X')}) {
         EXPECT_EQ(SaveCompanyRoute(name), 0) << name;
