@@ -43,6 +43,9 @@ struct DeckSettings {
     std::string root;  // where the pictures' image files lie
     std::vector<std::pair<std::string, std::string>> fonts =
         {};  // family and file, by the picture form's numbers
+    /// The bytes of an image that is no file, by the name that pictures give it; called on the network
+    /// thread.
+    std::function<bool(const std::string& name, std::string& bytes)> stream_image = {};
 };
 
 /// Where the deck gets pictures from; called on the network thread. False when there is none newer than

@@ -62,6 +62,7 @@ constexpr ContentType kContentTypes[] = {{".html", "text/html; charset=utf-8"},
                                          {".svg", "image/svg+xml"},
                                          {".png", "image/png"},
                                          {".jpg", "image/jpeg"},
+                                         {".jpeg", "image/jpeg"},
                                          {".bmp", "image/bmp"},
                                          {".ttf", "font/ttf"},
                                          {".otf", "font/otf"}};
@@ -484,10 +485,14 @@ class Connection : public std::enable_shared_from_this<Connection> {
         SendFile(request, fonts[index].second);
     }
 
-    // An image by the name that pictures give it: a file under the root, nothing else.
+    // An image by the name that pictures give it: what came to the module as a stream, or a file under the
+    // root, nothing else.
     void SendImage(const http::request<http::string_body>& request, std::string_view encoded) {
         const std::optional<std::string> name = DecodePercent(encoded);
         const std::filesystem::path root = network_.settings.root;
+        std::string stream;
+        if (name && network_.settings.stream_image && network_.settings.stream_image(*name, stream))
+            return Send(request, http::status::ok, TypeOf(*name), std::move(stream));
         std::error_code failed;
         std::filesystem::path file = name ? FindUnderRoot(root.string(), *name) : std::filesystem::path{};
         if (!file.empty()) file = std::filesystem::canonical(file, failed);

@@ -36,6 +36,13 @@ DeckSettings SettingsOf(const Session& session, const FlyOptions& options) {
     DeckSettings settings{options.address, options.port, options.token, options.page_folder,
                           session.settings.root};
     if (!IsLoopback(options.address) && settings.token.empty()) settings.token = MadeUpToken();
+    settings.stream_image = [&inspection = *session.linkage->inspection](const std::string& name,
+                                                                         std::string& bytes) {
+        const ByteSink sink = [](void* to, const uint8_t* data, size_t size, uint64_t) {
+            static_cast<std::string*>(to)->assign(reinterpret_cast<const char*>(data), size);
+        };
+        return inspection.stream_image(name.c_str(), sink, &bytes) != 0;
+    };
     settings.fonts = Ask(session.linkage->inspection->list_fonts).results;
     return settings;
 }

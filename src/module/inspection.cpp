@@ -138,6 +138,7 @@ constexpr InspectionTable kInspection = {
     .list_fonts = ListFonts,
     .list_controls = ListControls,
     .press_clear_message = PressClearMessage,
+    .stream_image = CopyStreamImage,
 };
 
 }  // namespace

@@ -52,6 +52,8 @@ struct InspectionTable {
     int (*list_controls)(ResultSink sink, void* context);
     /// CLR MSG of a side's CDU (1 or 2), the one key of it that no variable of the cockpit stands for.
     int (*press_clear_message)(int side);
+    /// The bytes of a picture file that came as a stream, by the name that pictures give it. Any thread.
+    int (*stream_image)(const char* name, ByteSink sink, void* context);
 };
 
 struct ModuleLinkage {
@@ -69,4 +71,4 @@ struct ModuleImports {
 };
 }
 
-constexpr uint32_t kLinkageVersion = 1;
+constexpr uint32_t kLinkageVersion = 2;

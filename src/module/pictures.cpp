@@ -6,6 +6,8 @@
 #include "display/gauge.h"
 #include "paint/encode.h"
 #include "paint/fonts.h"
+#include "paint/image_store.h"
+#include "paint/png.h"
 #include "paint/rasterise.h"
 
 namespace {
@@ -51,6 +53,13 @@ int CopyPicturePng(const char* gauge, double scale, ByteSink sink, void* context
         Give(sink, context, png, number);
         return 1;
     });
+}
+
+int CopyStreamImage(const char* name, ByteSink sink, void* context) {
+    const auto bytes = StreamImageBytes(name);
+    if (!bytes) return 0;
+    Give(sink, context, *bytes, 0);
+    return 1;
 }
 
 int ListFonts(ResultSink sink, void* context) {

@@ -9,6 +9,7 @@
 int PaintPending(GaugeInstance* instance);
 int CopyPicture(const char* gauge, uint64_t after, ByteSink sink, void* context);
 int CopyPicturePng(const char* gauge, double scale, ByteSink sink, void* context);
+int CopyStreamImage(const char* name, ByteSink sink, void* context);
 int ListFonts(ResultSink sink, void* context);
 
 /// The lines of `text` and `draws` for a gauge's last picture.

@@ -495,31 +495,9 @@ void GdipDrawString(Graphics& graphics, std::string_view text, const Font& font,
     }
 }
 
-Image GdipLoadImageFromFile(std::string_view file) {
-    // The head of a PNG file: 8 bytes of signature, length and name of the first chunk, width and height.
-    constexpr std::string_view kSignature = "\x89PNG\r\n\x1a\n";
-    constexpr std::size_t kWidthAt = 16, kHeightAt = 20, kHead = 24;
-    constexpr int kLargest = 16384;
-    Image image{.file = std::string(file)};
-    constexpr std::size_t kLargestFile = std::size_t{1} << 26;
-    const auto bytes = ReadFile(file, FileRoot::kSimulator, kLargestFile);
-    if (!bytes || bytes->size < kHead || !bytes->Text().starts_with(kSignature)) return image;
-    const auto word = [&](std::size_t at) {
-        std::uint32_t value = 0;
-        for (const char c : bytes->Text().substr(at, 4)) value = value << 8 | static_cast<unsigned char>(c);
-        return value;
-    };
-    if (word(kWidthAt) > kLargest || word(kHeightAt) > kLargest) return image;
-    image.width = static_cast<int>(word(kWidthAt));
-    image.height = static_cast<int>(word(kHeightAt));
-    return image;
-}
+namespace {
 
-void GdipDrawImageI(Graphics& graphics, const Image& image, int x, int y) {
-    GdipDrawImageRectI(graphics, image, x, y, image.width, image.height);
-}
-
-void GdipDrawImageRectI(Graphics& graphics, const Image& image, int x, int y, int width, int height) {
+void DrawImage(Graphics& graphics, const Image& image, double x, double y, double width, double height) {
     if (graphics.list == nullptr || image.width <= 0 || image.height <= 0 || width <= 0 || height <= 0)
         return;
     DrawList& list = *graphics.list;
@@ -532,4 +510,15 @@ void GdipDrawImageRectI(Graphics& graphics, const Image& image, int x, int y, in
     list.text += image.file;
     list.primitives.emplace_back(DrawnImage{Extend(first, list.text.size()), origin.x, origin.y, size.x,
                                             size.y, growth.axes.rotation});
+}
+
+}  // namespace
+
+void GdipDrawImageI(Graphics& graphics, const Image& image, int x, int y) {
+    DrawImage(graphics, image, x, y, image.width * kScreenDensity / image.density.x,
+              image.height * kScreenDensity / image.density.y);
+}
+
+void GdipDrawImageRectI(Graphics& graphics, const Image& image, int x, int y, int width, int height) {
+    DrawImage(graphics, image, x, y, width, height);
 }

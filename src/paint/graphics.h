@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "paint/draw_list.h"
+#include "paint/images.h"
 
 // The drawing operations under the names of the interface that they come from, recorded to a draw list.
 // Coordinates are logical. Pens, brushes, paths, fonts and formats are plain values: nothing has to be
@@ -90,11 +91,6 @@ struct LayoutRect {
 
 struct IntPoint {
     int x, y;
-};
-
-struct Image {
-    std::string file = {};
-    int width = 0, height = 0;  // pixels
 };
 
 // surface
@@ -185,8 +181,6 @@ inline void GdipSetStringFormatLineAlign(StringFormat& format, LineAlign align) 
 void GdipDrawString(Graphics& graphics, std::string_view text, const Font& font, const LayoutRect& rect,
                     const StringFormat* format, const Brush& brush);
 
-/// A picture file (PNG) under the root. One that can't be read has no size and isn't drawn.
-Image GdipLoadImageFromFile(std::string_view file);
-/// Drawn with its own size as units.
+/// Drawn with its physical size: as many units as the screen has dots there.
 void GdipDrawImageI(Graphics& graphics, const Image& image, int x, int y);
 void GdipDrawImageRectI(Graphics& graphics, const Image& image, int x, int y, int width, int height);

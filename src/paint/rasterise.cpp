@@ -11,7 +11,7 @@
 #include <numbers>
 
 #include "paint/fonts.h"
-#include "platform/files.h"
+#include "paint/image_store.h"
 
 namespace {
 
@@ -149,23 +149,25 @@ struct Painter {
         cairo_restore(cairo);
     }
     void operator()(const DrawnImage& image) const {
-        const auto file = ResolvePath(std::string_view(list.text).substr(image.file.first, image.file.count));
-        if (!file) return;
-        cairo_surface_t* picture = cairo_image_surface_create_from_png(file->c_str());
-        if (cairo_surface_status(picture) == CAIRO_STATUS_SUCCESS) {
-            cairo_save(cairo);
-            cairo_translate(cairo, image.x, image.y);
-            cairo_rotate(cairo, image.rotation * std::numbers::pi / 180);
-            cairo_rectangle(cairo, 0, 0, image.width, image.height);
-            // A picture's first pixel has its middle where the first pixel of the place has it.
-            const double grow_x = image.width / static_cast<double>(cairo_image_surface_get_width(picture));
-            const double grow_y = image.height / static_cast<double>(cairo_image_surface_get_height(picture));
-            cairo_translate(cairo, pixel_x - grow_x / 2, pixel_y - grow_y / 2);
-            cairo_scale(cairo, grow_x, grow_y);
-            cairo_set_source_surface(cairo, picture, 0, 0);
-            cairo_fill(cairo);
-            cairo_restore(cairo);
-        }
+        const auto pixels =
+            ImagePixelsOf(std::string_view(list.text).substr(image.file.first, image.file.count));
+        if (pixels == nullptr) return;
+        // Cairo only reads them.
+        auto* data = reinterpret_cast<unsigned char*>(const_cast<std::uint32_t*>(pixels->pixels.data()));
+        cairo_surface_t* picture = cairo_image_surface_create_for_data(
+            data, CAIRO_FORMAT_ARGB32, pixels->width, pixels->height, pixels->width * 4);
+        cairo_save(cairo);
+        cairo_translate(cairo, image.x, image.y);
+        cairo_rotate(cairo, image.rotation * std::numbers::pi / 180);
+        cairo_rectangle(cairo, 0, 0, image.width, image.height);
+        // A picture's first pixel has its middle where the first pixel of the place has it.
+        const double grow_x = image.width / static_cast<double>(pixels->width);
+        const double grow_y = image.height / static_cast<double>(pixels->height);
+        cairo_translate(cairo, pixel_x - grow_x / 2, pixel_y - grow_y / 2);
+        cairo_scale(cairo, grow_x, grow_y);
+        cairo_set_source_surface(cairo, picture, 0, 0);
+        cairo_fill(cairo);
+        cairo_restore(cairo);
         cairo_surface_destroy(picture);
     }
     void operator()(const ClipIn& clip) const {
@@ -204,20 +206,4 @@ void RasteriseOnto(const DrawList& list, int width, int height, std::uint32_t* p
     cairo_destroy(cairo);
     cairo_surface_flush(surface);
     cairo_surface_destroy(surface);
-}
-
-std::string EncodePng(const PixelImage& image) {
-    std::string bytes;
-    if (image.pixels.empty()) return bytes;
-    std::vector<std::uint32_t> pixels = image.pixels;
-    cairo_surface_t* surface =
-        cairo_image_surface_create_for_data(reinterpret_cast<unsigned char*>(pixels.data()),
-                                            CAIRO_FORMAT_ARGB32, image.width, image.height, image.width * 4);
-    const auto append = [](void* to, const unsigned char* data, unsigned length) {
-        static_cast<std::string*>(to)->append(reinterpret_cast<const char*>(data), length);
-        return CAIRO_STATUS_SUCCESS;
-    };
-    if (cairo_surface_write_to_png_stream(surface, append, &bytes) != CAIRO_STATUS_SUCCESS) bytes.clear();
-    cairo_surface_destroy(surface);
-    return bytes;
 }

@@ -5,6 +5,7 @@
 #include "gdiplus/cases.h"
 #include "paint/encode.h"
 #include "paint/painter.h"
+#include "paint/png.h"
 #include "paint/rasterise.h"
 #include "support/fake_host.h"
 

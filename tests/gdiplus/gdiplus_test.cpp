@@ -10,6 +10,7 @@
 
 #include "gdiplus/cases.h"
 #include "paint/fonts.h"
+#include "paint/png.h"
 #include "paint/rasterise.h"
 #include "support/fake_host.h"
 #include "support/paths.h"

@@ -2,10 +2,15 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <cmath>
+#include <filesystem>
 #include <limits>
+#include <span>
 
 #include "paint/fonts.h"
+#include "paint/jpeg.h"
+#include "paint/png.h"
 #include "paint/rasterise.h"
 #include "support/fake_host.h"
 
@@ -202,6 +207,77 @@ TEST(Graphics, ImagesComeFromTheRoot) {
     EXPECT_EQ(picture.Pixel(10, 10), kRed);
     EXPECT_EQ(picture.Pixel(11, 11), kWhite);
     EXPECT_EQ(picture.Pixel(12, 11), 0U);
+}
+
+TEST(Graphics, ImagesOfEveryFormAndRoad) {
+    FakeHost host;
+    const PixelImage block{8, 8, std::vector<std::uint32_t>(64, 0xff40a0c0)};
+    // A BMP of 8 by 8 pixels, 24 bits: head, size, planes, and pixels with the blue first.
+    std::string bmp("BM\xf6\0\0\0\0\0\0\0\x36\0\0\0\x28\0\0\0\x08\0\0\0\x08\0\0\0\1\0\x18\0", 30);
+    bmp += std::string(24, '\0');
+    for (int i = 0; i < 64; ++i) bmp += "\x20\x60\xff";
+    host.PutFile("a.png", EncodePng(block));
+    host.PutFile("b.JPG", EncodeJpeg(block));
+    host.PutFile("c.bmp", bmp);
+    const struct {
+        const char* file;
+        std::uint32_t colour;
+    } kCases[] = {{"a.png", 0xff40a0c0}, {"b.jpg", 0xff40a0c0}, {"c.bmp", 0xffff6020}};
+    const auto is_near = [](std::uint32_t a, std::uint32_t b) {
+        for (const int shift : {0, 8, 16, 24})
+            if (std::abs(static_cast<int>(a >> shift & 255) - static_cast<int>(b >> shift & 255)) > 4)
+                return false;
+        return true;
+    };
+    for (const auto& row : kCases) {
+        Picture picture;
+        Image image = GdipLoadImageFromFile(row.file);
+        const Image clone = GdipCloneImage(image);
+        GdipDisposeImage(image);
+        GdipDrawImageRectI(picture.graphics, image, 0, 0, 20, 20);
+        EXPECT_TRUE(picture.list.primitives.empty()) << row.file;
+        GdipDrawImageRectI(picture.graphics, clone, 0, 0, 20, 20);
+        EXPECT_TRUE(is_near(picture.Pixel(10, 10), row.colour)) << row.file;
+        // As a stream, and saved as each encoder has it and read again.
+        unsigned count = 0, size = 0;
+        GdipGetImageEncodersSize(count, size);
+        std::vector<ImageCodecInfo> encoders(count);
+        EXPECT_FALSE(GdipGetImageEncoders(std::span(encoders).first(1)));
+        ASSERT_TRUE(GdipGetImageEncoders(encoders));
+        for (const ImageCodecInfo& encoder : encoders) {
+            std::string stream;
+            ASSERT_TRUE(GdipSaveImageToStream(clone, stream, encoder.mime_type));
+            const Image loaded = GdipLoadImageFromStream(stream);
+            EXPECT_EQ(loaded.width, clone.width);
+            Picture again;
+            GdipDrawImageRectI(again.graphics, loaded, 0, 0, 20, 20);
+            EXPECT_TRUE(is_near(again.Pixel(10, 10), row.colour)) << row.file << encoder.mime_type;
+            // Cut anywhere it is an image or none, and nothing is read behind its end.
+            for (std::size_t cut = 0; cut < stream.size(); ++cut)
+                GdipLoadImageFromStream(std::string(stream.substr(0, cut)));
+        }
+        std::string stream = "kept";
+        EXPECT_FALSE(GdipSaveImageToStream(clone, stream, "image/none"));
+        EXPECT_FALSE(GdipSaveImageToStream(image, stream, "image/png"));
+        EXPECT_EQ(stream, "kept");
+    }
+}
+
+TEST(Graphics, AnImageHasItsPhysicalSizeAndChangesWithItsFile) {
+    FakeHost host;
+    const PixelImage block{8, 8, std::vector<std::uint32_t>(64, kRed)};
+    host.PutFile("dense.png", EncodePng(block, {192, 192}));
+    host.PutFile("dense.jpg", EncodeJpeg(block, {48, 48}));
+    for (const auto& [file, size] : {std::pair("dense.png", 4.0f), {"dense.jpg", 16.0f}}) {
+        Picture picture;
+        GdipDrawImageI(picture.graphics, GdipLoadImageFromFile(file), 0, 0);
+        ASSERT_EQ(picture.list.primitives.size(), 1U);
+        EXPECT_NEAR(std::get<DrawnImage>(picture.list.primitives[0]).width, size, 0.01f) << file;
+    }
+    host.PutFile("dense.png", EncodePng({2, 2, std::vector<std::uint32_t>(4, kWhite)}));
+    std::filesystem::last_write_time(host.root / "dense.png",
+                                     std::filesystem::file_time_type::clock::now() - std::chrono::hours(1));
+    EXPECT_EQ(GdipLoadImageFromFile("dense.png").width, 2);
 }
 
 TEST(Graphics, WhatCannotBeDrawnIsLeftOut) {

@@ -1,0 +1,163 @@
+#include "paint/image_store.h"
+
+#include <cstdint>
+#include <list>
+#include <mutex>
+#include <utility>
+
+#include "paint/bmp.h"
+#include "paint/jpeg.h"
+#include "paint/png.h"
+#include "platform/files.h"
+#include "platform/text.h"
+
+namespace {
+
+constexpr std::size_t kLargestFile = std::size_t{1} << 26;
+constexpr std::int64_t kMostPixels = std::int64_t{1} << 24;
+constexpr std::size_t kKeptBytes = std::size_t{1} << 26;  // of pixels and streams together
+constexpr std::size_t kMostKept = 200;
+constexpr std::string_view kStreamPrefix = "stream:";
+
+struct Form {
+    std::string_view extension;
+    std::optional<ImageHead> (*read_head)(std::string_view bytes);
+    PixelImage (*decode)(std::string_view bytes);
+};
+constexpr Form kForms[] = {
+    {".png", ReadPngHead, DecodePng}, {".jpg", ReadJpegHead, DecodeJpeg}, {".bmp", ReadBmpHead, DecodeBmp}};
+
+struct Readable {
+    const Form* form = nullptr;  // null: no picture
+    ImageHead head;
+};
+
+Readable FindForm(std::string_view bytes) {
+    for (const Form& form : kForms) {
+        const auto head = form.read_head(bytes);
+        if (!head) continue;
+        const std::int64_t pixels = std::int64_t{head->width} * head->height;
+        if (head->width < 1 || head->height < 1 || pixels > kMostPixels) return {};
+        return {&form, *head};
+    }
+    return {};
+}
+
+// A picture that has been asked for, readable or not.
+struct Entry {
+    std::string name;
+    std::int64_t written = 0;  // of its file
+    Readable readable;
+    std::shared_ptr<const std::string> stream;  // null for a file
+    std::shared_ptr<const PixelImage> pixels;   // null until somebody paints it
+};
+
+std::size_t BytesOf(const Entry& entry) {
+    return (entry.stream == nullptr ? 0 : entry.stream->size()) +
+           (entry.pixels == nullptr ? 0 : entry.pixels->pixels.size() * 4);
+}
+
+// The entries, the last used one first.
+struct Store {
+    std::mutex lock;
+    std::list<Entry> entries;
+};
+Store store;
+
+// With the lock held.
+Entry* FindEntry(std::string_view name) {
+    for (auto entry = store.entries.begin(); entry != store.entries.end(); ++entry) {
+        if (entry->name != name) continue;
+        store.entries.splice(store.entries.begin(), store.entries, entry);
+        return &*entry;
+    }
+    return nullptr;
+}
+
+// Puts an entry first in place of its namesake. With the lock held.
+void PutEntry(Entry entry) {
+    std::erase_if(store.entries, [&](const Entry& old) { return old.name == entry.name; });
+    store.entries.push_front(std::move(entry));
+    std::size_t bytes = 0, count = 0;
+    std::erase_if(store.entries, [&](const Entry& kept) {
+        bytes += BytesOf(kept);
+        return ++count > 1 && (bytes > kKeptBytes || count > kMostKept);
+    });
+}
+
+bool IsStream(std::string_view name) {
+    return name.starts_with(kStreamPrefix);
+}
+
+// The entry of a name as it now is; nothing when there is no such file or stream. Files are read without the
+// lock, so that no painter waits for the disk.
+std::optional<Entry> EntryOf(std::string_view name) {
+    const auto written = IsStream(name) ? std::optional<std::int64_t>(0) : LastWriteTime(name);
+    if (!written) return {};
+    {
+        const std::lock_guard guard(store.lock);
+        const Entry* entry = FindEntry(name);
+        if (entry != nullptr && entry->written == *written) return *entry;
+    }
+    if (IsStream(name)) return {};
+    Entry entry{std::string(name), *written, {}, nullptr, nullptr};
+    if (const auto file = ReadFile(name, FileRoot::kSimulator, kLargestFile))
+        entry.readable = FindForm(file->Text());
+    const std::lock_guard guard(store.lock);
+    PutEntry(entry);
+    return entry;
+}
+
+PixelImage Decode(const Entry& entry) {
+    if (entry.stream != nullptr) return entry.readable.form->decode(*entry.stream);
+    const auto file = ReadFile(entry.name, FileRoot::kSimulator, kLargestFile);
+    // The file may have changed since its head was read.
+    const Form* form = file ? FindForm(file->Text()).form : nullptr;
+    return form == nullptr ? PixelImage{} : form->decode(file->Text());
+}
+
+// FNV-1a, G. Fowler, L. C. Noll, K.-P. Vo.
+std::uint64_t HashOf(std::string_view bytes) {
+    std::uint64_t hash = 14695981039346656037ull;
+    for (const char c : bytes) hash = (hash ^ static_cast<unsigned char>(c)) * 1099511628211ull;
+    return hash;
+}
+
+}  // namespace
+
+std::optional<ImageHead> ImageHeadOf(std::string_view name) {
+    const auto entry = EntryOf(name);
+    if (!entry || entry->readable.form == nullptr) return {};
+    return entry->readable.head;
+}
+
+std::shared_ptr<const PixelImage> ImagePixelsOf(std::string_view name) {
+    auto entry = EntryOf(name);
+    if (!entry || entry->readable.form == nullptr) return nullptr;
+    if (entry->pixels == nullptr) {
+        entry->pixels = std::make_shared<const PixelImage>(Decode(*entry));
+        const std::lock_guard guard(store.lock);
+        PutEntry(*entry);
+    }
+    return entry->pixels->pixels.empty() ? nullptr : entry->pixels;
+}
+
+std::string KeepStreamImage(std::string_view bytes) {
+    if (bytes.size() > kLargestFile) return {};
+    const Readable readable = FindForm(bytes);
+    if (readable.form == nullptr) return {};
+    std::string name =
+        std::string(kStreamPrefix) + Format("%016llx", static_cast<unsigned long long>(HashOf(bytes)));
+    name += readable.form->extension;
+    const std::lock_guard guard(store.lock);
+    if (FindEntry(name) == nullptr)
+        PutEntry({name, 0, readable, std::make_shared<const std::string>(bytes), nullptr});
+    return name;
+}
+
+std::optional<std::string> StreamImageBytes(std::string_view name) {
+    const std::lock_guard guard(store.lock);
+    const Entry* entry = FindEntry(name);
+    if (entry == nullptr || entry->stream == nullptr) return {};
+    return *entry->stream;
+}
