@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <chrono>
 #include <cmath>
 #include <cstdlib>
 #include <filesystem>
@@ -69,6 +70,19 @@ void Call(PanelGauge& gauge, int service) {
     if (gauge.instance.gauge->service != nullptr) gauge.instance.gauge->service(&gauge.instance, service);
 }
 
+// The files of the private copy are as old as the run, by the simulator's clock: what a file's age brings
+// about is the same on every day.
+void DateFiles(const std::string& root) {
+    const auto now =
+        std::chrono::file_clock::from_sys(std::chrono::sys_seconds(std::chrono::seconds(UtcSeconds())));
+    std::error_code failed;
+    for (std::filesystem::recursive_directory_iterator file(root, failed), end; !failed && file != end;
+         file.increment(failed)) {
+        std::error_code ignored;
+        if (file->is_regular_file(ignored)) std::filesystem::last_write_time(file->path(), now, ignored);
+    }
+}
+
 }  // namespace
 
 bool IsMainPanelShown() {
@@ -100,6 +114,7 @@ bool PrepareSession(Session& session, std::string& error) {
     if (settings.root.empty()) {
         if (!MakePrivateRoot(settings.demo_root, settings.root, error)) return false;
         session.private_root = true;
+        DateFiles(settings.root);
     }
     const std::filesystem::path velarion = FindInFolder(settings.root, "Velarion");
     if (velarion.empty()) {

@@ -2,7 +2,6 @@
 
 #include <random>
 
-#include "fmc/demo_navdata.h"
 #include "fmc/edit_legs.h"
 #include "fmc/endpoints.h"
 #include "fmc/execute_route.h"
@@ -12,9 +11,8 @@
 #include "fmc/route.h"
 #include "fmc/route_airway.h"
 #include "fmc/route_invariants.h"
-#include "fmc/route_operations.h"
+#include "fmc/route_model.h"
 #include "fmc/route_rows.h"
-#include "fmc/route_text.h"
 #include "navdata/parse_entry.h"
 #include "state/cdu.h"
 #include "state/cfg.h"
@@ -23,50 +21,9 @@
 #include "state/plan.h"
 #include "state/side.h"
 #include "state/sim.h"
-#include "state/vnav.h"
 #include "state/weights.h"
 
 namespace {
-
-std::string ModLegs() {
-    return Idents(plan.FlightPlanMod, plan.mod_cnt);
-}
-std::string ActiveLegs() {
-    return Idents(plan.FlightPlan, plan.fp_cnt);
-}
-class RouteModel : public testing::Test {
-  protected:
-    RouteModel() {
-        PutRouteNavdata(host);
-        sim.on_ground = 1;
-        sim.plane_lat = 39;
-        sim.plane_lon = 10;
-    }
-
-    static void Enter(std::string_view route) {
-        std::string error;
-        ASSERT_EQ(EnterRouteText(route, error), 1) << error;
-    }
-    static void EnterAndExecute(std::string_view route) {
-        Enter(route);
-        std::string error;
-        ASSERT_EQ(ExecuteEnteredRoute(error), 1) << error;
-    }
-    // As a page does it: an operation, then the modification is opened.
-    static std::string Op(std::string_view line) {
-        std::string result, error;
-        if (RunRouteOperation(line, result, error) == 0) return error;
-        return result;
-    }
-    static void InsertEntry(int position, std::string_view entry, bool replace) {
-        ParseEntry(entry);
-        ASSERT_GT(nav.entry_cnt, 0) << entry;
-        InsertFixAt(position, 1, replace);
-        OpenModification();
-    }
-
-    FakeHost host;
-};
 
 TEST_F(RouteModel, StateAdvancesInItsCircleAndPreparesTheAircraftOnTheGround) {
     cfg.SetMCPCruiseAltonFlightPlanLoad = 1;
@@ -235,174 +192,6 @@ TEST_F(RouteModel, RowsGoAsBlocks) {
     EXPECT_EQ(plan.fms_fpln_active, kRouteActive);
 }
 
-TEST_F(RouteModel, ExecStepsOverADiscontinuityAndKeepsThePlanInBounds) {
-    perf.pending_cruise_alt = 35000;
-    EnterAndExecute("ORIG AAA CCC DEST");
-    EXPECT_EQ(plan.stpos, 1);
-    EXPECT_EQ(plan.pending_stpos, 0);
-    DeleteLegWithDiscontinuity(1, false, kCaptain);
-    OpenModification();
-    plan.FlightPlanMod[2].step_alt = 39000;
-    ExecuteRoute();
-    EXPECT_EQ(ActiveLegs(), "ORIG DISCO CCC DEST");
-    EXPECT_EQ(plan.stpos, 2);
-    EXPECT_EQ(plan.mod_stpos, 2);
-    EXPECT_EQ(plan.ActiveLeg.from, "ORIG");
-    EXPECT_EQ(plan.ActiveLeg.to, "CCC");
-    EXPECT_NEAR(lnav.leg_len, 180, 0.01);  // 39 N to 42 N
-    EXPECT_EQ(perf.cruise_alt, 39000);
-}
-
-TEST_F(RouteModel, ADirectToStartsPastTheTurn) {
-    EnterAndExecute("ORIG AAA BBFIX CCC EEE DEST");
-    sim.on_ground = 0;
-    sim.plane_lat = 40.5;
-    sim.ground_speed_kt = 360;
-    const auto direct_to = [](double heading) {
-        EraseModification();
-        sim.true_hdg = heading;
-        ConnectLegs(plan.stpos, 3, kCaptain);
-    };
-    direct_to(8);
-    EXPECT_EQ(plan.fms_fpln_active, kRouteModified);
-    EXPECT_EQ(ModLegs(), "ORIG CCC EEE DEST");
-    EXPECT_EQ(plan.pending_stpos, 1);
-    EXPECT_EQ(plan.ActiveLegMod.from, "DIRECT");
-    EXPECT_EQ(plan.ActiveLegMod.to, "CCC");
-    EXPECT_EQ(plan.ActiveLeg.to, "AAA");
-    ExecuteRoute();
-    EXPECT_EQ(plan.ActiveLeg.from, "DIRECT");
-    EXPECT_EQ(plan.ActiveLeg.to, "CCC");
-    EXPECT_EQ(plan.ActiveLeg.from_lat, 40.5);
-    EXPECT_EQ(plan.ActiveLeg.from_lon, 10);
-    EXPECT_EQ(plan.ActiveLeg.direct_flag, 1);
-    EXPECT_EQ(plan.stpos, 1);
-    // A later modification doesn't move its start.
-    sim.plane_lat = 41;
-    InsertEntry(2, "DDFIX", true);
-    ExecuteRoute();
-    EXPECT_EQ(plan.ActiveLeg.from, "DIRECT");
-    EXPECT_EQ(plan.ActiveLeg.from_lat, 40.5);
-
-    // 90 degrees to turn left at 360 kt: 2.5 nm on 045, which is 1.768 nm north and east.
-    EnterAndExecute("ORIG AAA BBFIX CCC EEE DEST");
-    sim.plane_lat = 40.5;
-    direct_to(90);
-    ExecuteRoute();
-    EXPECT_NEAR(plan.ActiveLeg.from_lat, 40.5 + 1.768 / 60, 1e-4);
-    EXPECT_NEAR(plan.ActiveLeg.from_lon, 10 + 1.768 / 60 / 0.7602, 1e-4);
-    // Slow, to the right: 1.25 nm on 315, of 270 to be turned to 360.
-    EnterAndExecute("ORIG AAA BBFIX CCC EEE DEST");
-    sim.ground_speed_kt = 149;
-    direct_to(270);
-    ExecuteRoute();
-    EXPECT_NEAR(plan.ActiveLeg.from_lat, 40.5 + 0.8839 / 60, 1e-4);
-    EXPECT_NEAR(plan.ActiveLeg.from_lon, 10 - 0.8839 / 60 / 0.7602, 1e-4);
-}
-
-TEST_F(RouteModel, AModificationStartsFromTheLegBeingFlown) {
-    const struct {
-        std::vector<const char*> operations;
-        const char* to;  // the TO leg after EXEC
-        int stpos;
-    } kCases[] = {
-        {{"AdvanceRouteState"}, "CCC", 3},
-        {{"DeleteLegWithDiscontinuity 3 0 1", "AdvanceRouteState"}, "EEE", 4},
-        {{"InsertFixAt 1 1 1", "AdvanceRouteState"}, "CCC", 4},
-        {{"InsertFixAt 3 1 1"}, "LONER", 3},
-        {{"ConnectLegs 1 3 1"}, "CCC", 2},
-        {{"ConnectLegs 3 4 1"}, "EEE", 1},
-        {{"InsertFixAt 1 1 1", "ConnectLegs 4 5 1"}, "EEE", 1},
-        {{"ConnectLegs 1 3 1", "RefreshLegsForModification"}, "CCC", 3},
-        {{"ConnectLegs 3 4 1", "RefreshLegsForModification"}, "CCC", 3},
-    };
-    for (const auto& test : kCases) {
-        EnterAndExecute("ORIG AAA BBFIX CCC EEE DEST");
-        ParseEntry("LONER");
-        plan.stpos = 3;  // the working copy has yet to hear of it
-        for (const char* operation : test.operations) Op(operation);
-        ExecuteRoute();
-        EXPECT_EQ(plan.stpos, test.stpos) << test.operations[0];
-        EXPECT_EQ(plan.ActiveLeg.to, test.to) << test.operations[0];
-        EXPECT_EQ(plan.mod_stpos, test.stpos) << test.operations[0];
-    }
-}
-
-TEST_F(RouteModel, TheLegBeingFlownKeepsItsStart) {
-    const struct {
-        const char* operation;
-        const char* to;
-    } kCases[] = {
-        {"RebuildRouteRows", "CCC"},
-        {"DeleteLegWithDiscontinuity 2 0 1", "CCC"},
-        {"DeleteLegWithDiscontinuity 2 1 1", "CCC"},
-        {"DeleteLegWithDiscontinuity 3 1 1", "EEE"},
-        {"InsertFixAt 3 1 1", "LONER"},
-    };
-    for (const auto& test : kCases) {
-        EnterAndExecute("ORIG AAA BBFIX CCC EEE DEST");
-        ParseEntry("LONER");
-        plan.stpos = 3;
-        ExecuteRoute();
-        const double from_lat = plan.FlightPlan[2].lat;
-        Op(test.operation);
-        ExecuteRoute();
-        EXPECT_EQ(plan.ActiveLeg.from, "BBFIX") << test.operation;
-        EXPECT_EQ(plan.ActiveLeg.to, test.to) << test.operation;
-        EXPECT_EQ(plan.ActiveLeg.from_lat, from_lat) << test.operation;
-    }
-}
-
-TEST_F(RouteModel, TheBottomOfDescentMovesWithItsLeg) {
-    const struct {
-        int bottom;
-        const char* operation;
-        int moved;
-    } kCases[] = {
-        {6, "ConnectLegs 1 4 1", 3},  // direct to: three legs go
-        {4, "ConnectLegs 1 4 1", 1},
-        {2, "ConnectLegs 1 4 1", 1},  // itself removed: the leg that takes its place
-        {5, "ConnectLegs 2 4 1", 4},
-        {2, "ConnectLegs 2 4 1", 2},
-        {5, "RemoveViaRow 2", 3},  // two legs of the airway go
-        {5, "RemoveToRow 2", 3},   // three go, a "DISCO" comes
-        {5, "InsertFixAt 3 1 0", 7},
-        {5, "InsertFixAt 5 1 1", 6},
-        {2, "InsertFixAt 5 1 1", 2},
-    };
-    for (const auto& test : kCases) {
-        EnterAndExecute("ORIG AAA Q1 CCC EEE LONER DEST");
-        ASSERT_EQ(ActiveLegs(), "ORIG AAA AAFIX BBFIX CCC EEE LONER DEST");
-        ParseEntry("EASTX");
-        plan.mod_bod_pos = test.bottom;
-        Op(test.operation);
-        EXPECT_EQ(plan.mod_bod_pos, test.moved) << test.bottom << " " << test.operation;
-    }
-}
-
-TEST_F(RouteModel, ADirectToMayAimAtTheActiveLegItself) {
-    EnterAndExecute("ORIG AAA BBFIX CCC DEST");
-    plan.stpos = plan.mod_stpos = 2;
-    ConnectLegs(3, 3, kCaptain);  // not the active leg
-    EXPECT_EQ(plan.fms_fpln_active, kRouteActive);
-    ConnectLegs(2, 2, kCaptain);
-    EXPECT_EQ(plan.fms_fpln_active, kRouteModified);
-    EXPECT_EQ(ModLegs(), "ORIG BBFIX CCC DEST");
-    EXPECT_EQ(plan.pending_stpos, 1);
-    EXPECT_EQ(plan.ActiveLegMod.from, "DIRECT");
-    EXPECT_EQ(plan.ActiveLegMod.to, "BBFIX");
-    EXPECT_EQ(plan.ActiveLegMod.from_lat, 39);
-}
-
-TEST_F(RouteModel, ExecTakesEditsThatNobodyAnnounced) {
-    EnterAndExecute("ORIG AAA BBFIX CCC DEST");
-    DeleteLegWithDiscontinuity(2, true, kCaptain);
-    EXPECT_EQ(plan.fms_fpln_active, kRouteActive);
-    std::string error;
-    EXPECT_EQ(ExecuteEnteredRoute(error), 1);
-    EXPECT_EQ(ActiveLegs(), "ORIG AAA CCC DEST");
-}
-
 TEST_F(RouteModel, OtherConnectionsOnlyTakeOutWhatLiesBetween) {
     EnterAndExecute("ORIG AAA BBFIX CCC EEE DEST");
     ConnectLegs(2, 4, kCaptain);
@@ -412,36 +201,6 @@ TEST_F(RouteModel, OtherConnectionsOnlyTakeOutWhatLiesBetween) {
     ConnectLegs(-1, 2, kCaptain);
     ConnectLegs(2, 9, kCaptain);
     EXPECT_EQ(ModLegs(), "ORIG AAA BBFIX EEE DEST");
-}
-
-TEST_F(RouteModel, EraseBringsEverythingBack) {
-    EnterAndExecute("ORIG/16 AAA BBFIX CCC DEST/09");
-    MarkHold(2, false, 1);
-    OpenModification();
-    ExecuteRoute();
-    ASSERT_EQ(plan.hold_cnt, 1);
-    const std::string rows = Rows();
-    ASSERT_EQ(EnterDestination("ALTN"), 1);
-    SelectOriginRunway("34");
-    RemoveToRow(2);
-    MarkHold(1, false, 0);
-    perf.pending_climb_ias = 300;
-    perf.pending_cruise_alt = 39000;
-    EXPECT_EQ(ModLegs(), "ORIG AAA DISCO CCC ALTN");
-    EXPECT_EQ(plan.ends.dest, "DEST");
-    EXPECT_EQ(plan.ends_mod.dest, "ALTN");
-    EraseModification();
-    EXPECT_EQ(ModLegs(), "ORIG AAA BBFIX CCC DEST");
-    EXPECT_EQ(Rows(), rows);
-    EXPECT_EQ(plan.ends_mod.dest, "DEST");
-    EXPECT_EQ(plan.ends_mod.dep_runway, "16");
-    EXPECT_EQ(plan.procedures.arr_appr_rwy, "09");
-    ASSERT_EQ(plan.hold_cnt, 1);
-    EXPECT_EQ(plan.HoldList[1].ident, "BBFIX");
-    EXPECT_EQ(plan.FlightPlanMod[2].hold_pos, 1);
-    EXPECT_EQ(perf.pending_climb_ias, 0);
-    EXPECT_EQ(perf.pending_cruise_alt, 0);
-    EXPECT_EQ(plan.fms_fpln_active, kRouteActive);
 }
 
 TEST_F(RouteModel, HoldsFollowTheirLegs) {
@@ -511,102 +270,6 @@ TEST_F(RouteModel, AHoldOfTheActivePlanFindsItsLegInTheModification) {
         EXPECT_EQ(plan.HoldList[1].pending_leg, test.found);
         EXPECT_EQ(plan.HoldList[1].ident, plan.FlightPlanMod[test.found].ident);
     }
-}
-
-TEST_F(RouteModel, SequencingMovesAPendingModificationOn) {
-    EnterAndExecute("ORIG AAA BBFIX CCC EEE DEST");
-    const auto sequence_to = [](int leg) {
-        plan.stpos = leg;
-        FollowSequencing();
-    };
-    sequence_to(2);
-    EXPECT_EQ(plan.mod_stpos, 2);
-    // The next leg still stands, one place further back.
-    InsertEntry(3, "LONER", true);
-    EXPECT_EQ(plan.pending_stpos, 2);
-    sequence_to(3);
-    EXPECT_EQ(plan.pending_stpos, 4);
-    ExecuteRoute();
-    EXPECT_EQ(plan.ActiveLeg.to, "CCC");
-    // The leg flown to has been taken out: the passed one is left behind all the same.
-    ConnectLegs(3, 4, kCaptain);
-    DeleteLegWithDiscontinuity(5, false, kCaptain);
-    OpenModification();
-    EXPECT_EQ(ModLegs(), "ORIG AAA BBFIX LONER CCC DISCO DEST");
-    sequence_to(5);
-    ExecuteRoute();
-    EXPECT_EQ(plan.ActiveLeg.to, "DEST");
-}
-
-TEST_F(RouteModel, SpeedsAndLevelsFollowAtExec) {
-    Enter("ORIG AAA DEST");
-    perf.climb_ias = perf.cruise_ias = perf.descent_ias = 280;
-    perf.cruise_mach_manual = 1;
-    perf.cruise_mach = 0.81;
-    perf.pending_cruise_alt = 35000;
-    perf.pending_step_size = -1;
-    perf.gross_weight = 400000;
-    perf.cruise_alt = 12000;  // of the flight before
-    std::string error;
-    ExecuteEnteredRoute(error);
-    // 280 kt at 30000 ft: 228.714 K, speed of sound 589.33 kt, and 1.54 x 280 of it.
-    EXPECT_NEAR(perf.climb_mach, 0.7317, 1e-4);
-    EXPECT_EQ(perf.cruise_mach, 0.81);
-    EXPECT_EQ(perf.cruise_alt, 35000);
-    EXPECT_EQ(perf.init_cruise_alt, 35000);
-    EXPECT_EQ(perf.fms_step_to_alt, 39000);
-    EXPECT_EQ(vnav.cross_at_elev, 35000);
-    perf.pending_cost_index = 100;
-    perf.pending_step_size = 7000;
-    AdvanceRouteState();
-    ExecuteRoute();
-    EXPECT_EQ(perf.cost_index, 100);
-    EXPECT_EQ(perf.cruise_mach_manual, 0);
-    EXPECT_EQ(perf.fms_step_to_alt, 0);  // 42000 is above the maximum of 41800
-    EXPECT_NEAR(perf.perf_factor, 10 * 0.0071 - 0.03, 1e-9);
-}
-
-TEST(StepToAltitude, TakesTheNextLevelOfItsKind) {
-    const struct {
-        double cruise;
-        int size;
-        double entered, step_to;
-    } kCases[] = {
-        {35000, 0, 0, 0},      {35000, 0, 37000, 37000}, {35000, -1, 0, 39000},   {39000, -2, 0, 41000},
-        {40000, -2, 0, 43000}, {41000, -2, 0, 45000},    {41001, -2, 0, 0},       {43000, -2, 0, 47000},
-        {49000, -2, 0, 53000}, {40999, -2, 0, 42999},    {33000, 3000, 0, 36000},
-    };
-    for (const auto& test : kCases)
-        EXPECT_EQ(StepToAltitude(test.cruise, test.size, test.entered), test.step_to)
-            << test.cruise << " " << test.size;
-}
-
-TEST_F(RouteModel, ANewOriginStartsANewRoute) {
-    EnterAndExecute("ORIG/34 AAA CCC DEST");
-    MarkHold(1, false, 0);
-    EXPECT_EQ(EnterOrigin("NONE"), 0);
-    EXPECT_EQ(plan.fms_fpln_active, kRouteActive);
-    EXPECT_EQ(EnterOrigin("DEST"), 1);
-    EXPECT_EQ(plan.fms_fpln_active, kRouteNone);
-    EXPECT_EQ(plan.stpos, kNoPlan);
-    EXPECT_EQ(plan.hold_cnt, 0);
-    EXPECT_EQ(plan.fp_cnt, 1);
-    EXPECT_EQ(plan.FlightPlan[0].ident, "DEST");
-    EXPECT_EQ(plan.ends.dep_runway, kNotSelected);
-    std::string error;
-    EXPECT_EQ(ExecuteEnteredRoute(error), 0);
-    EXPECT_FALSE(error.empty());
-    EXPECT_EQ(EnterDestination("ORIG"), 1);
-    EXPECT_EQ(plan.stpos, 1);
-    EXPECT_EQ(ExecuteEnteredRoute(error), 1);
-    EXPECT_EQ(ActiveLegs(), "DEST ORIG");
-    ClearFlightPlan();
-    EXPECT_EQ(plan.stpos, kNoPlan);
-    EXPECT_EQ(plan.fp_cnt, 0);
-    EXPECT_EQ(perf.clb_burn, 33000);
-    EXPECT_EQ(perf.crz_burn, 8500);
-    EXPECT_EQ(perf.des_burn, 3500);
-    EXPECT_EQ(perf.default_climb_rate, 3300);
 }
 
 TEST_F(RouteModel, OperationsAreCheckedBeforeTheyRun) {

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include "fmc/demo_navdata.h"
+#include "fmc/insert_fix.h"
+#include "fmc/route.h"
+#include "fmc/route_invariants.h"
+#include "fmc/route_operations.h"
+#include "fmc/route_text.h"
+#include "navdata/parse_entry.h"
+#include "state/plan.h"
+#include "state/sim.h"
+
+// Tests of the route start on the ground of an invented region, with routes entered as text.
+
+inline std::string ModLegs() {
+    return Idents(plan.FlightPlanMod, plan.mod_cnt);
+}
+inline std::string ActiveLegs() {
+    return Idents(plan.FlightPlan, plan.fp_cnt);
+}
+class RouteModel : public testing::Test {
+  protected:
+    RouteModel() {
+        PutRouteNavdata(host);
+        sim.on_ground = 1;
+        sim.plane_lat = 39;
+        sim.plane_lon = 10;
+    }
+
+    static void Enter(std::string_view route) {
+        std::string error;
+        ASSERT_EQ(EnterRouteText(route, error), 1) << error;
+    }
+    static void EnterAndExecute(std::string_view route) {
+        Enter(route);
+        std::string error;
+        ASSERT_EQ(ExecuteEnteredRoute(error), 1) << error;
+    }
+    // As a page does it: an operation, then the modification is opened.
+    static std::string Op(std::string_view line) {
+        std::string result, error;
+        if (RunRouteOperation(line, result, error) == 0) return error;
+        return result;
+    }
+    static void InsertEntry(int position, std::string_view entry, bool replace) {
+        ParseEntry(entry);
+        ASSERT_GT(nav.entry_cnt, 0) << entry;
+        InsertFixAt(position, 1, replace);
+        OpenModification();
+    }
+
+    FakeHost host;
+};
