@@ -2,6 +2,9 @@
 
 #include <dlfcn.h>
 
+#include <initializer_list>
+
 void KeepGraphicsLibraries() {
-    if (void* library = dlopen("libpixman-1.so.0", RTLD_LAZY | RTLD_NOLOAD | RTLD_NODELETE)) dlclose(library);
+    for (const char* name : {"libpixman-1.so.0", "libcairo.so.2", "libfreetype.so.6", "libfontconfig.so.1"})
+        if (void* library = dlopen(name, RTLD_LAZY | RTLD_NOLOAD | RTLD_NODELETE)) dlclose(library);
 }
