@@ -9,8 +9,7 @@
 namespace {
 
 constexpr int kLeft = 1, kRight = 2;
-constexpr int kHalfWidth = 282;
-constexpr int kRightShift = 283;  // touch areas of the right half are those of the left, this much further on
+constexpr int kRightHalf = 283;    // first column of the right half
 constexpr int kWideNdShift = 141;  // the wide ND's keys stand around the middle of the unit
 
 // A point in a half's own frame.
@@ -88,10 +87,15 @@ void TouchSystemPage(const Touch& at) {
         if (row.strip.Has(at)) page = row.page;
 }
 
+// Where a content's own frame begins. The information and system pages keep their keys by the half's edge,
+// the others one further right.
+int LeftEdgeOf(Content content, int half) {
+    if (half == kLeft) return 0;
+    return content == Content::kInfo || content == Content::kSys ? kRightHalf - 1 : kRightHalf;
+}
+
 void TouchContent(Content content, const Touch& at) {
     switch (content) {
-        case Content::kCdu:
-            return OnCduClick(at.x + (at.half == kRight ? kRightShift : 0), at.y, at.unit);
         case Content::kComm:
             return TouchComm(at);
         case Content::kChkl:
@@ -115,8 +119,8 @@ void OnDisplayUnitClick(int x, int y, int unit) {
     const auto contents = ContentsOf(mode);
     if (!contents) return;
     if (mode == kModeWideNd) return TouchNd({unit, kLeft, x - kWideNdShift, y});
-    if (x < kHalfWidth)
-        TouchContent(contents->left, {unit, kLeft, x, y});
-    else
-        TouchContent(contents->right, {unit, kRight, x - kRightShift, y});
+    const int half = x < kRightHalf ? kLeft : kRight;
+    const Content content = half == kLeft ? contents->left : contents->right;
+    if (content == Content::kCdu) return OnCduClick(x, y, unit);
+    TouchContent(content, {unit, half, x - LeftEdgeOf(content, half), y});
 }

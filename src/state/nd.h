@@ -22,7 +22,7 @@ struct NdSide {
     int plan_step = 0;                     // leg at the centre of PLAN
     int nd_pick_pending = 0;               // PICK WPT has been pressed: the next click on the map picks
     int nd_pick_taken = 0;                 // it has been clicked, at the cursor
-    int nd_cursor_x = 0, nd_cursor_y = 0;  // in the unit's frame
+    int nd_cursor_x = 0, nd_cursor_y = 0;  // from the half's upper left corner
 };
 
 /// nd[0] is the captain's, nd[1] the first officer's: NdOf(side).

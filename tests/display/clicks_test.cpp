@@ -41,7 +41,7 @@ TEST(DisplayClicks, SystemStripsChooseThePageOfTheirHalf) {
             FakeHost host;
             displays.du_capt_inb_mode = 65;
             displays.du_capt_inb_l_sys_page = displays.du_capt_inb_r_sys_page = row.page;
-            OnDisplayUnitClick(row.x + (half == 2 ? 283 : 0), row.y, 2);
+            OnDisplayUnitClick(row.x + (half == 2 ? 282 : 0), row.y, 2);
             EXPECT_EQ(SystemPageOf(2, half), row.becomes) << row.page << ": " << row.x << ", " << row.y;
             EXPECT_EQ(SystemPageOf(2, 3 - half), row.page) << "the other half stays";
         }
