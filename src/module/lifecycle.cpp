@@ -12,6 +12,7 @@
 #include "module/controls/control_table.h"
 #include "module/service_cycle.h"
 #include "navdata/nav_tables.h"
+#include "paint/image_store.h"
 #include "platform/host.h"
 #include "platform/resident_libraries.h"
 #include "platform/state_lock.h"
@@ -102,6 +103,7 @@ void ModuleDeinit() {
     CloseSimClient();
     Teardown();  // a host that unloads without a disconnect
     if (sound.dsound_ok == 1) Host().close_sound_device();
+    DropImages();
     ResetSystemState();
 }
 

@@ -17,7 +17,8 @@ constexpr std::size_t kLargestFile = std::size_t{1} << 26;
 constexpr std::int64_t kMostPixels = std::int64_t{1} << 24;
 constexpr std::size_t kKeptBytes = std::size_t{1} << 26;  // of pixels and streams together
 constexpr std::size_t kMostKept = 200;
-constexpr std::string_view kStreamPrefix = "stream:";
+constexpr int kLoadsPerLook = 18;                      // about a second of one screen's pictures
+constexpr std::string_view kStreamPrefix = "stream:";  // the colon keeps it apart from files
 
 struct Form {
     std::string_view extension;
@@ -47,9 +48,10 @@ Readable FindForm(std::string_view bytes) {
 struct Entry {
     std::string name;
     std::int64_t written = 0;  // of its file
-    Readable readable;
-    std::shared_ptr<const std::string> stream;  // null for a file
-    std::shared_ptr<const PixelImage> pixels;   // null until somebody paints it
+    int loads = 0;             // since the file was looked at
+    Readable readable = {};
+    std::shared_ptr<const std::string> stream = nullptr;  // null: a file
+    std::shared_ptr<const PixelImage> pixels = nullptr;   // null until somebody paints it
 };
 
 std::size_t BytesOf(const Entry& entry) {
@@ -74,9 +76,14 @@ Entry* FindEntry(std::string_view name) {
     return nullptr;
 }
 
+// With the lock held.
+void DropEntry(std::string_view name) {
+    std::erase_if(store.entries, [&](const Entry& entry) { return entry.name == name; });
+}
+
 // Puts an entry first in place of its namesake. With the lock held.
 void PutEntry(Entry entry) {
-    std::erase_if(store.entries, [&](const Entry& old) { return old.name == entry.name; });
+    DropEntry(entry.name);
     store.entries.push_front(std::move(entry));
     std::size_t bytes = 0, count = 0;
     std::erase_if(store.entries, [&](const Entry& kept) {
@@ -85,27 +92,41 @@ void PutEntry(Entry entry) {
     });
 }
 
-bool IsStream(std::string_view name) {
-    return name.starts_with(kStreamPrefix);
-}
-
-// The entry of a name as it now is; nothing when there is no such file or stream. Files are read without the
-// lock, so that no painter waits for the disk.
-std::optional<Entry> EntryOf(std::string_view name) {
-    const auto written = IsStream(name) ? std::optional<std::int64_t>(0) : LastWriteTime(name);
-    if (!written) return {};
+// Looks at a file and reads it anew when it has changed; nothing when there is none. Files are read without
+// the lock, so that no painter waits for the disk.
+std::optional<Entry> LookAtFile(std::string_view name) {
+    const auto written = LastWriteTime(name);
     {
         const std::lock_guard guard(store.lock);
-        const Entry* entry = FindEntry(name);
-        if (entry != nullptr && entry->written == *written) return *entry;
+        Entry* entry = FindEntry(name);
+        if (entry != nullptr && entry->written == written) {
+            entry->loads = 0;
+            return *entry;
+        }
+        if (!written) {
+            DropEntry(name);
+            return {};
+        }
     }
-    if (IsStream(name)) return {};
-    Entry entry{std::string(name), *written, {}, nullptr, nullptr};
+    Entry entry{.name = std::string(name), .written = *written};
     if (const auto file = ReadFile(name, FileRoot::kSimulator, kLargestFile))
         entry.readable = FindForm(file->Text());
     const std::lock_guard guard(store.lock);
     PutEntry(entry);
     return entry;
+}
+
+// The entry of a picture that has been loaded, its file as it then was.
+std::optional<Entry> LoadedEntry(std::string_view name) {
+    {
+        const std::lock_guard guard(store.lock);
+        if (const Entry* entry = FindEntry(name)) return *entry;
+    }
+    return LookAtFile(name);
+}
+
+std::optional<ImageHead> HeadOf(const Readable& readable) {
+    return readable.form == nullptr ? std::nullopt : std::optional(readable.head);
 }
 
 PixelImage Decode(const Entry& entry) {
@@ -126,13 +147,18 @@ std::uint64_t HashOf(std::string_view bytes) {
 }  // namespace
 
 std::optional<ImageHead> ImageHeadOf(std::string_view name) {
-    const auto entry = EntryOf(name);
-    if (!entry || entry->readable.form == nullptr) return {};
-    return entry->readable.head;
+    {
+        const std::lock_guard guard(store.lock);
+        Entry* entry = FindEntry(name);
+        if (entry != nullptr && (entry->stream != nullptr || ++entry->loads < kLoadsPerLook))
+            return HeadOf(entry->readable);
+    }
+    const auto entry = LookAtFile(name);
+    return entry ? HeadOf(entry->readable) : std::nullopt;
 }
 
 std::shared_ptr<const PixelImage> ImagePixelsOf(std::string_view name) {
-    auto entry = EntryOf(name);
+    auto entry = LoadedEntry(name);
     if (!entry || entry->readable.form == nullptr) return nullptr;
     if (entry->pixels == nullptr) {
         entry->pixels = std::make_shared<const PixelImage>(Decode(*entry));
@@ -151,7 +177,7 @@ std::string KeepStreamImage(std::string_view bytes) {
     name += readable.form->extension;
     const std::lock_guard guard(store.lock);
     if (FindEntry(name) == nullptr)
-        PutEntry({name, 0, readable, std::make_shared<const std::string>(bytes), nullptr});
+        PutEntry({.name = name, .readable = readable, .stream = std::make_shared<const std::string>(bytes)});
     return name;
 }
 
@@ -160,4 +186,9 @@ std::optional<std::string> StreamImageBytes(std::string_view name) {
     const Entry* entry = FindEntry(name);
     if (entry == nullptr || entry->stream == nullptr) return {};
     return *entry->stream;
+}
+
+void DropImages() {
+    const std::lock_guard guard(store.lock);
+    store.entries.clear();
 }

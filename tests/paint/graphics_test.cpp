@@ -277,7 +277,15 @@ TEST(Graphics, AnImageHasItsPhysicalSizeAndChangesWithItsFile) {
     host.PutFile("dense.png", EncodePng({2, 2, std::vector<std::uint32_t>(4, kWhite)}));
     std::filesystem::last_write_time(host.root / "dense.png",
                                      std::filesystem::file_time_type::clock::now() - std::chrono::hours(1));
-    EXPECT_EQ(GdipLoadImageFromFile("dense.png").width, 2);
+    const auto load_for_a_second = [] {
+        Image image;
+        for (int frame = 0; frame < 18; ++frame) image = GdipLoadImageFromFile("dense.png");
+        return image;
+    };
+    EXPECT_EQ(load_for_a_second().width, 2);
+    std::filesystem::remove(host.root / "dense.png");
+    EXPECT_EQ(load_for_a_second().width, 0);
+    EXPECT_EQ(GdipLoadImageFromFile("dense.png").width, 0);
 }
 
 TEST(Graphics, WhatCannotBeDrawnIsLeftOut) {

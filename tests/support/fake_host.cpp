@@ -9,6 +9,7 @@
 #include <fstream>
 #include <iterator>
 
+#include "paint/image_store.h"
 #include "platform/host.h"
 #include "state/state_groups.h"
 
@@ -281,6 +282,7 @@ FakeHost::FakeHost() {
 
 FakeHost::~FakeHost() {
     UseHost(nullptr);
+    DropImages();
     ResetSystemState();
     std::error_code error;
     std::filesystem::remove_all(root.parent_path(), error);
