@@ -1,12 +1,17 @@
 #include "host/remote_peer.h"
 
 #include <fcntl.h>
+#include <signal.h>
 #include <sys/mman.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <atomic>
+#include <cerrno>
+#include <cstdlib>
 #include <ctime>
+#include <filesystem>
+#include <system_error>
 
 #include "host/world/world.h"
 
@@ -24,8 +29,24 @@ void RemoveNames(const std::string& names) {
         sem_unlink((names + name).c_str());
 }
 
+constexpr std::string_view kPrivatePrefix = "tz900.";  // the process id follows, and a point
+
 std::string PrivateNames() {
-    return "/tz900." + std::to_string(getpid()) + ".";
+    return "/" + std::string(kPrivatePrefix) + std::to_string(getpid()) + ".";
+}
+
+// Processes that were killed left their private names to the machine, which shows them as files.
+void RemoveNamesOfTheDead() {
+    constexpr std::string_view kSemaphore = "sem.";
+    std::error_code error;
+    for (const auto& entry : std::filesystem::directory_iterator("/dev/shm", error)) {
+        std::string name = entry.path().filename();
+        if (name.starts_with(kSemaphore)) name.erase(0, kSemaphore.size());
+        if (!name.starts_with(kPrivatePrefix)) continue;
+        const auto process = static_cast<pid_t>(std::atol(name.c_str() + kPrivatePrefix.size()));
+        if (process > 0 && kill(process, 0) != 0 && errno == ESRCH)
+            std::filesystem::remove(entry.path(), error);
+    }
 }
 
 // The module is told names, and leaves what it makes; this outlives every session of the process.
@@ -50,8 +71,12 @@ sem_t* OpenEvent(const char* name) {
 }  // namespace
 
 std::string SharedNames() {
-    (world.serves_peers ? given.machine_given : given.private_given) = true;
-    return world.serves_peers ? "/" : PrivateNames();
+    if (world.serves_peers) {
+        given.machine_given = true;
+        return "/";
+    }
+    if (!given.private_given.exchange(true)) RemoveNamesOfTheDead();
+    return PrivateNames();
 }
 
 RemotePeer::~RemotePeer() {

@@ -13,7 +13,7 @@ namespace host {
 
 /// What stands for "Global\" in the names that the module shares: "/" where this session serves the whole
 /// machine (`world.serves_peers`), else a beginning that no other process has. What has been made under it
-/// goes from the machine when the process ends.
+/// goes from the machine when the process ends; when it was killed, as soon as another one asks.
 std::string SharedNames();
 
 class RemotePeer {
