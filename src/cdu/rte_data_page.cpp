@@ -69,7 +69,7 @@ bool HasWinds(const FlightPlanLeg& leg) {
 void OpenWinds(PageCall& call, int leg) {
     if (leg > ShownCount() || !IsPlace(ShownLeg(leg))) return;
     if (plan.fms_fpln_active == kRouteActive) AdvanceRouteState();
-    route_pages.wind_leg = leg;
+    call.unit.wind_leg = leg;
     GoToPage(call.side, kPageWind);
 }
 

@@ -29,8 +29,12 @@ std::string AltitudeText(int altitude) {
     return altitude < cfg.TransAlt ? Format("%d", altitude) : Format("FL%d", altitude / 100);
 }
 
-FlightPlanLeg& EditedLeg() {
-    return plan.FlightPlanMod[route_pages.wind_leg];
+// What the page shows, and what an entry changes once a modification is open.
+const FlightPlanLeg& LegShown(const PageCall& call) {
+    return ShownLeg(call.unit.wind_leg);
+}
+FlightPlanLeg& EditedLeg(const PageCall& call) {
+    return plan.FlightPlanMod[call.unit.wind_leg];
 }
 
 // Rows in the order of their altitudes, the empty ones last.
@@ -62,7 +66,7 @@ bool IsFlightLevel(std::string_view text) {
 }
 
 void OnAltitude(PageCall& call, int row) {
-    Winds winds = ShownLeg(route_pages.wind_leg).wind;
+    Winds winds = LegShown(call).wind;
     WindLevel& level = winds[static_cast<std::size_t>(row - 1)];
     if (IsDelete(call)) {
         if (level.alt == 0) return RefuseDelete(call);
@@ -79,12 +83,12 @@ void OnAltitude(PageCall& call, int row) {
     }
     SortWinds(winds);
     OpenModification();
-    EditedLeg().wind = winds;
+    EditedLeg(call).wind = winds;
     ClearEntry(call);
 }
 
 void OnWind(PageCall& call, int row) {
-    const WindLevel shown = ShownLeg(route_pages.wind_leg).wind[static_cast<std::size_t>(row - 1)];
+    const WindLevel shown = LegShown(call).wind[static_cast<std::size_t>(row - 1)];
     double direction = 0, speed = 0;
     if (IsDelete(call)) {
         if (shown.alt == 0) return RefuseDelete(call);
@@ -100,7 +104,7 @@ void OnWind(PageCall& call, int row) {
             return Refuse(call, "INVALID WIND ENTRY", kHelpWindEntry);
     }
     OpenModification();
-    WindLevel& level = EditedLeg().wind[static_cast<std::size_t>(row - 1)];
+    WindLevel& level = EditedLeg(call).wind[static_cast<std::size_t>(row - 1)];
     level.dir = direction;
     level.spd = speed;
     ClearEntry(call);
@@ -108,10 +112,10 @@ void OnWind(PageCall& call, int row) {
 
 void OnTemperature(PageCall& call) {
     if (IsDelete(call)) {
-        if (ShownLeg(route_pages.wind_leg).temp_alt == 0) return RefuseDelete(call);
+        if (LegShown(call).temp_alt == 0) return RefuseDelete(call);
         OpenModification();
-        EditedLeg().temp_alt = 0;
-        EditedLeg().temp = 0;
+        EditedLeg(call).temp_alt = 0;
+        EditedLeg(call).temp = 0;
         return ClearEntry(call);
     }
     if (Entry(call).empty()) return;
@@ -126,8 +130,8 @@ void OnTemperature(PageCall& call) {
         temperature >= kTemperatureLimit)
         return Refuse(call, "INVALID ALT/OAT ENTRY", kHelpAltOat);
     OpenModification();
-    EditedLeg().temp_alt = static_cast<int>(altitude);
-    EditedLeg().temp = temperature;
+    EditedLeg(call).temp_alt = static_cast<int>(altitude);
+    EditedLeg(call).temp = temperature;
     ClearEntry(call);
 }
 
@@ -173,14 +177,14 @@ void DrawTemperature(PageCall& call, const FlightPlanLeg& leg) {
 void WindPage(PageCall& call) {
     const int first = std::max(1, ShownActiveLeg());
     const int count = std::max(1, ShownCount() - first + 1);
-    int place = std::clamp(route_pages.wind_leg - first + 1, 1, count);
+    int place = std::clamp(call.unit.wind_leg - first + 1, 1, count);
     // A discontinuity has no wind: the page goes on past it.
     const int step = call.unit.PrevPagePending == 1 ? count - 1 : 1;
     TurnPages(call, place, count);
     for (int tries = 0; tries < count && !IsPlace(ShownLeg(first + place - 1)); ++tries)
         place = (place - 1 + step) % count + 1;
-    route_pages.wind_leg = first + place - 1;
-    if (!IsPlace(ShownLeg(route_pages.wind_leg)) && call.line != kL6 && call.line != kR6) call.line = 0;
+    call.unit.wind_leg = first + place - 1;
+    if (!IsPlace(LegShown(call)) && call.line != kL6 && call.line != kR6) call.line = 0;
     const int left = LeftLine(call.line), right = RightLine(call.line);
     if (left == 6 || right == 6)
         OnLastLine(call);
@@ -191,8 +195,8 @@ void WindPage(PageCall& call) {
     else if (right == 5)
         OnTemperature(call);
 
-    const FlightPlanLeg& leg = ShownLeg(route_pages.wind_leg);
-    Title(call, 105, leg.ident, route_pages.wind_leg == ShownActiveLeg() ? kMagenta : kWhite);
+    const FlightPlanLeg& leg = LegShown(call);
+    Title(call, 105, leg.ident, call.unit.wind_leg == ShownActiveLeg() ? kMagenta : kWhite);
     Title(call, 140, "WIND");
     PageText(call, 228, 23, Format("%d/%d", place, count), kWhite, kLabelSize);
     LeftLabel(call, 1, "ALT");

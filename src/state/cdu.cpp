@@ -43,6 +43,7 @@ constexpr Variable kRows[] = {
     {"capt.fix_index", &cdu[0].fix_index},
     {"capt.flight_plans_index", &cdu[0].flight_plans_index},
     {"capt.panels_index", &cdu[0].panels_index},
+    {"capt.wind_leg", &cdu[0].wind_leg},
     {"capt.arrivals_of_origin", &cdu[0].arrivals_of_origin},
     {"fo.ScratchPad", &cdu[1].ScratchPad},
     {"fo.ScratchMessage", &cdu[1].ScratchMessage},
@@ -68,6 +69,7 @@ constexpr Variable kRows[] = {
     {"fo.fix_index", &cdu[1].fix_index},
     {"fo.flight_plans_index", &cdu[1].flight_plans_index},
     {"fo.panels_index", &cdu[1].panels_index},
+    {"fo.wind_leg", &cdu[1].wind_leg},
     {"fo.arrivals_of_origin", &cdu[1].arrivals_of_origin},
 };
 constexpr Variable kRoutePageRows[] = {
@@ -76,7 +78,6 @@ constexpr Variable kRoutePageRows[] = {
     {"DirectSelectIndex", &route_pages.DirectSelectIndex},
     {"PendingSelectRow", &route_pages.PendingSelectRow},
     {"hold_candidate", &route_pages.hold_candidate},
-    {"wind_leg", &route_pages.wind_leg},
 };
 }  // namespace
 

@@ -39,6 +39,7 @@ struct CduState {
     int dep_index = 1, arr_index = 1, select_index = 1;
     int progress_index = 1, altn_index = 1, fix_index = 1;
     int flight_plans_index = 1, panels_index = 1;
+    int wind_leg = 0;            // leg of the wind page
     int arrivals_of_origin = 0;  // ARRIVALS shows those of the origin, for a return
 };
 
@@ -49,7 +50,6 @@ struct RoutePages {
     int DirectSelectIndex = 0;  // leg picked in view 1, 0 = none
     int PendingSelectRow = 0;   // where a pick on SELECT DESIRED WPT goes in; 0 = the hold or direct-to path
     int hold_candidate = 0;     // the pick on SELECT DESIRED WPT that waits for "HOLD AT"
-    int wind_leg = 0;           // leg of the wind page
 };
 
 extern std::array<CduState, 2> cdu;
