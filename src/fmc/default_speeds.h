@@ -1,16 +1,8 @@
 #pragma once
 
-/// Planned speeds (kt, Mach) that a route begins with.
-struct DefaultSpeeds {
-    double climb_ias, cruise_ias, descent_ias;
-    double climb_mach, cruise_mach, descent_mach;
-};
+enum class SpeedsCount { kNow, kWithExec };
 
-/// Those of the configuration; cruise and descent without a setting of their own begin with the climb's.
-DefaultSpeeds ConfiguredSpeeds();
-
-/// Puts them into force, as speeds that nobody has set by hand.
-void SetDefaultSpeeds();
-
-/// Leaves them for EXEC, with a route that is flown meanwhile.
-void SetDefaultSpeedsPending();
+/// The planned speeds go back to those that a route begins with: the configuration's (cruise and descent
+/// without a setting of their own take the climb's), and Mach .74, .78, .74. Nobody has set them by hand.
+/// With a route that is flown meanwhile they are left for EXEC.
+void SetDefaultSpeeds(SpeedsCount when);

@@ -185,7 +185,7 @@ void PlaceEndsOnRunways() {
 
 void FillDefaultSpeeds() {
     if (perf.climb_ias > 0 || perf.cruise_ias > 0 || perf.descent_ias > 0) return;
-    SetDefaultSpeeds();
+    SetDefaultSpeeds(SpeedsCount::kNow);
 }
 
 void SettleDestination() {

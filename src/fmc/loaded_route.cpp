@@ -64,7 +64,7 @@ void TakeOrigin() {
         first.alt = first.alt_restr = airports.origin_airport.elevation_ft;
     else
         airports.origin_airport = UnknownAirport(first);
-    IsActive() ? SetDefaultSpeedsPending() : SetDefaultSpeeds();
+    SetDefaultSpeeds(IsActive() ? SpeedsCount::kWithExec : SpeedsCount::kNow);
 }
 
 void TakeDestination(std::string_view company_route) {
