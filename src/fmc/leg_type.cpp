@@ -4,15 +4,31 @@
 #include "navdata/ident_index.h"
 #include "state/nav_tables.h"
 
-void LookUpLegType(FlightPlanLeg& leg) {
-    constexpr double kSamePlace = 1;  // nm; the files of one cycle round their positions alike
-    if (leg.type.empty()) leg.type = "INT";
-    VisitIdent(nav_tables.nav_index, leg.ident, [&leg](int number) {
-        const NavaidRow& row = nav_tables.NavaidTable[number];
-        if (row.ident != leg.ident || GreatCircle(row.lat, row.lon, leg.lat, leg.lon).dist >= kSamePlace)
-            return true;
-        leg.type = row.type == "V" ? "VOR" : "NDB";
-        leg.freq = row.freq;
-        return false;
+namespace {
+
+// The row of a table that is called so and stands within a mile of the leg (the files of one cycle round
+// their positions alike); null when there is none.
+template <class Row>
+const Row* FindPlace(const IdentIndex& index, const GrowingList<Row>& table, const FlightPlanLeg& leg) {
+    constexpr double kSamePlace = 1;  // nm
+    const Row* found = nullptr;
+    VisitIdent(index, leg.ident, [&](int number) {
+        const Row& row = table[number];
+        if (row.ident == leg.ident && GreatCircle(row.lat, row.lon, leg.lat, leg.lon).dist < kSamePlace)
+            found = &row;
+        return found == nullptr;
     });
+    return found;
+}
+
+}  // namespace
+
+void LookUpLegType(FlightPlanLeg& leg) {
+    const NavTables& tables = nav_tables;
+    if (const NavaidRow* navaid = FindPlace(tables.nav_index, tables.NavaidTable, leg)) {
+        leg.type = navaid->type == "V" ? "VOR" : "NDB";
+        leg.freq = navaid->freq;
+    } else if (leg.type.empty() || FindPlace(tables.int_index, tables.IntersectionTable, leg) != nullptr) {
+        leg.type = "INT";
+    }
 }

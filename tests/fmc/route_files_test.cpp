@@ -122,6 +122,19 @@ std::string FullRow(const std::string& ident, const std::string& via = "DIRECT -
 
 TEST_F(RouteFiles, FieldsOfARow) {
     const std::string head = "[FlightPlan]\nORIG 39 10 APT\n", end = "DEST 45 10 APT\n";
+    const struct {
+        const char *row, *type, *freq;
+    } kTypes[] = {
+        {"AAA 40 10 WPT\n", "VOR", "110.00"},    {"EEE 44 10 VOR ---\n", "NDB", "300.0"},
+        {"AAA 41 10 NDB\n", "NDB", ""},          {"BBFIX 41.5 10 WPT ---\n", "INT", ""},
+        {"BBFIX 43 10 WPT\n", "WPT", ""},        {"NOBODY 43 10\n", "INT", ""},
+        {"AAA 40 10 WPT 99.9\n", "WPT", "99.9"},
+    };
+    for (const auto& [row, type, freq] : kTypes) {
+        Load(head + row + end);
+        EXPECT_EQ(Leg(1).type, type) << row;
+        EXPECT_EQ(Leg(1).freq, freq) << row;
+    }
     Load(head + FullRow("BBFIX", "Q1 AWY", "0800016000 --- --- 0 3") + end);  // the older form of a window
     EXPECT_EQ(Leg(1).block_above, 8000);
     EXPECT_EQ(Leg(1).block_below, 16000);
@@ -314,39 +327,39 @@ TEST_F(RouteFiles, NamesNeverLeaveTheFolder) {
     EXPECT_EQ(ListFolder("\\Velarion\\TZ900\\flightplans").size(), 1u);
 }
 
-// What a file keeps of a leg, to the file's own precision.
+// What a file keeps of a leg, to the file's own precision. A constraint that is none comes back as 0.
 void ExpectSameLeg(const FlightPlanLeg& a, const FlightPlanLeg& b) {
-    const auto limit = [](double value) { return std::max(value, 0.0); };
-    EXPECT_EQ(a.ident, b.ident);
-    EXPECT_NEAR(a.lat, b.lat, 0.00001) << a.ident;
-    EXPECT_NEAR(a.lon, b.lon, 0.00001) << a.ident;
-    EXPECT_EQ(a.type, b.type) << a.ident;
-    EXPECT_EQ(a.freq, b.freq) << a.ident;
-    EXPECT_EQ(a.via, b.via) << a.ident;
+    using L = FlightPlanLeg;
+    for (const auto text : {&L::ident, &L::type, &L::freq, &L::via, &L::rwy, &L::appr_wpt_type, &L::vector})
+        EXPECT_EQ(a.*text, b.*text) << a.ident;
     EXPECT_EQ(a.via.empty() ? "" : a.via_type, b.via_type) << a.ident;
-    EXPECT_NEAR(limit(a.alt_restr), b.alt_restr, 0.5) << a.ident;
-    EXPECT_EQ(limit(a.block_above), b.block_above) << a.ident;
-    EXPECT_EQ(limit(a.block_below), b.block_below) << a.ident;
-    EXPECT_EQ(a.restr_code, b.restr_code) << a.ident;
-    EXPECT_EQ(a.restr_type, b.restr_type) << a.ident;
-    EXPECT_EQ(a.ias_restr, b.ias_restr) << a.ident;
+    for (const auto code : {&L::restr_code, &L::restr_type, &L::flyover, &L::dep_turn, &L::hold_pos})
+        EXPECT_EQ(a.*code, b.*code) << a.ident;
+    for (const auto limit : {&L::alt_restr, &L::block_above, &L::block_below})
+        EXPECT_NEAR(std::max(a.*limit, 0.0), b.*limit, 0.5) << a.ident;
+    for (const auto whole : {&L::alt, &L::ias_restr, &L::rad_int, &L::step_alt, &L::until_alt, &L::from_hdg})
+        EXPECT_NEAR(a.*whole, b.*whole, 0.5) << a.ident;
     EXPECT_NEAR(a.mach_restr, b.mach_restr, 0.0005) << a.ident;
-    EXPECT_EQ(a.flyover, b.flyover) << a.ident;
-    EXPECT_EQ(a.dep_turn, b.dep_turn) << a.ident;
-    EXPECT_EQ(a.hold_pos, b.hold_pos) << a.ident;
-    EXPECT_EQ(a.rwy, b.rwy) << a.ident;
-    EXPECT_EQ(a.appr_wpt_type, b.appr_wpt_type) << a.ident;
-    EXPECT_EQ(a.vector, b.vector) << a.ident;
-    EXPECT_NEAR(a.until_alt, b.until_alt, 0.5) << a.ident;
-    EXPECT_NEAR(a.from_hdg, b.from_hdg, 0.5) << a.ident;
-    EXPECT_NEAR(a.anchor_lat, b.anchor_lat, 0.00001) << a.ident;
-    EXPECT_NEAR(a.vector_lon, b.vector_lon, 0.00001) << a.ident;
+    for (const auto angle : {&L::lat, &L::lon, &L::anchor_lat, &L::anchor_lon, &L::vector_lat, &L::vector_lon,
+                             &L::vector_trk_lat, &L::vector_trk_lon})
+        EXPECT_NEAR(a.*angle, b.*angle, 0.00001) << a.ident;
 }
 
 void SaveAndLoad(const std::string& route, int approach) {
     std::string error;
     ASSERT_EQ(EnterRouteText(route, error), 1) << error;
     if (approach > 0) SelectApproach(1, approach);
+    FlightPlanLeg& edited = plan.FlightPlanMod[2];
+    edited.step_alt = 37000;
+    edited.mach_restr = 0.812;
+    edited.rad_int = 270;
+    edited.restr_code = 3;
+    edited.restr_type = 3;
+    edited.ias_restr = 280;
+    edited.alt_restr = 0;
+    edited.block_above = 9000;
+    edited.block_below = 11000;
+    edited.vector_trk_lat = -9.123456;
     perf.pending_cruise_alt = 35000;
     ASSERT_EQ(ExecuteEnteredRoute(error), 1) << error;
     ASSERT_EQ(SaveCompanyRoute("SAVED.RTE"), 1);
