@@ -20,6 +20,7 @@
 #include "navdata/text_fields.h"
 #include "platform/files.h"
 #include "platform/text.h"
+#include "state/airports.h"
 #include "state/module_life.h"
 #include "state/perf.h"
 #include "state/sim.h"
@@ -122,20 +123,42 @@ std::optional<WeatherFiles> ReadWeatherFiles() {
     return files;
 }
 
-// Ident, METAR, TAF, then the winds: nine groups between slashes.
-void FillLevels(WxStation& station, const WeatherFiles& files) {
-    const auto found = files.snapshots.find(station.ident);
-    if (found == files.snapshots.end()) return;
+// What a line of the snapshot tells: ident, METAR, TAF, then the winds, nine groups between slashes. Empty
+// for a station that has none.
+struct Weather {
+    std::string_view metar, winds;
+};
+
+Weather FindWeather(const WeatherFiles& files, std::string_view ident) {
+    const auto found = files.snapshots.find(ident);
+    if (found == files.snapshots.end()) return {};
     std::string_view line = found->second;
-    for (int field = 0; field < 3; ++field) CutAt(line, "::");
-    std::string_view groups = CutAt(line, "::");
-    for (std::string& level : station.levels) level = Trimmed(CutAt(groups, "/"));
+    CutAt(line, "::");
+    Weather weather;
+    weather.metar = CutAt(line, "::");
+    CutAt(line, "::");
+    weather.winds = CutAt(line, "::");
+    return weather;
 }
 
-WxStation MakeWxStation(const Station& from, int leg, const WeatherFiles& files) {
-    WxStation station{std::string(from.ident), Format("%.6f", from.lat), Format("%.6f", from.lon), leg, {}};
-    FillLevels(station, files);
+WxStation MakeWxStation(const Station& from, int leg, const FlightPlanLeg& at, std::string_view groups) {
+    WxStation station{
+        std::string(from.ident), Format("%.6f", from.lat), Format("%.6f", from.lon), leg, at.ident, {}};
+    for (std::string& level : station.levels) level = Trimmed(CutAt(groups, "/"));
     return station;
+}
+
+// A METAR tells temperature and dew point as "12/06" or "M05/M12"; degrees Celsius.
+std::optional<double> MetarTemperature(std::string_view metar) {
+    constexpr std::string_view kDigits = "0123456789";
+    for (std::string_view word = NextField(metar); !word.empty(); word = NextField(metar)) {
+        const bool below_zero = word.starts_with('M');
+        if (below_zero) word.remove_prefix(1);
+        if (word.find_first_not_of(kDigits) != 2 || word[2] != '/') continue;
+        const double temperature = ToNumber(word.substr(0, 2));
+        return below_zero ? -temperature : temperature;
+    }
+    return {};
 }
 
 // "270,45": direction in three characters, the speed behind the comma. Nothing when the group tells no wind.
@@ -172,6 +195,18 @@ int SnapshotAgeHours() {
     return static_cast<int>(std::clamp(std::floor(seconds / 3600), 0.0, kMostHours));
 }
 
+// The first leg of FlightPlanMod with that ident, from `first` on; 0 = none.
+int FindLeg(std::string_view ident, int first) {
+    for (int leg = first; leg <= plan.mod_cnt; ++leg)
+        if (plan.FlightPlanMod[leg].ident == ident) return leg;
+    return 0;
+}
+
+void SetTemperature(FlightPlanLeg& destination, double temperature) {
+    destination.temp_alt = std::max(1, airports.dest_airport.elevation_ft);  // 0 would be none
+    destination.temp = temperature;
+}
+
 }  // namespace
 
 double LegWind(int prev_leg, int leg) {
@@ -189,7 +224,7 @@ double DescentWind(int leg) {
 bool RequestRouteWinds() {
     auto files = ReadWeatherFiles();
     if (!files) return false;
-    if (plan.mod_cnt < 2) return true;
+    if (plan.mod_cnt < 1) return true;
     files->stations = ReadStations(files->list);
     winds.WxStations = {};
     winds.wx_station_cnt = 0;
@@ -197,7 +232,8 @@ bool RequestRouteWinds() {
         const FlightPlanLeg& at = plan.FlightPlanMod[leg];
         if (!IsPlace(at)) continue;
         if (const Station* station = NearestStation(files->stations, at.lat, at.lon))
-            winds.WxStations[++winds.wx_station_cnt] = MakeWxStation(*station, leg, *files);
+            winds.WxStations[++winds.wx_station_cnt] =
+                MakeWxStation(*station, leg, at, FindWeather(*files, station->ident).winds);
     }
     return true;
 }
@@ -206,11 +242,13 @@ void ApplyRouteWinds(int side) {
     OpenModification();
     std::array<WindLevel, 4> altitudes = {};  // of the last leg that had some
     altitudes[0].alt = static_cast<int>(perf.cruise_alt);
+    int last = 0;
     for (int i = 1; i <= winds.wx_station_cnt; ++i) {
         const WxStation& station = winds.WxStations[i];
-        if (station.leg < 1 || station.leg > plan.mod_cnt) continue;
-        FlightPlanLeg& leg = plan.FlightPlanMod[station.leg];
-        if (!IsPlace(leg)) continue;
+        const int found = FindLeg(station.leg_ident, last + 1);
+        if (found == 0) continue;
+        last = found;
+        FlightPlanLeg& leg = plan.FlightPlanMod[found];
         const bool is_new = IsEmpty(leg.wind);
         std::array<WindLevel, 4> levels = is_new ? altitudes : leg.wind;
         for (WindLevel& level : levels)
@@ -231,15 +269,21 @@ void ApplyRouteWinds(int side) {
 bool RequestDescentWinds() {
     auto files = ReadWeatherFiles();
     if (!files) return false;
-    if (plan.fp_cnt < 2) return true;
+    if (plan.fp_cnt < 1) return true;
     files->stations = ReadStations(files->list);
-    const FlightPlanLeg& destination = plan.FlightPlan[plan.fp_cnt];
+    FlightPlanLeg& destination = plan.FlightPlan[plan.fp_cnt];
     const Station* nearest = NearestStation(files->stations, destination.lat, destination.lon);
     if (nearest == nullptr) return true;
-    const WxStation station = MakeWxStation(*nearest, plan.fp_cnt, *files);
+    const Weather weather = FindWeather(*files, nearest->ident);
+    const WxStation station = MakeWxStation(*nearest, plan.fp_cnt, destination, weather.winds);
     if (IsEmpty(winds.DescentForecast)) winds.DescentForecast[0].alt = static_cast<int>(perf.cruise_alt);
     for (WindLevel& level : winds.DescentForecast)
         if (level.alt > 0) FillLevel(level, station);
+    if (const auto temperature = MetarTemperature(weather.metar)) {
+        SetTemperature(destination, *temperature);
+        FlightPlanLeg& pending = plan.FlightPlanMod[plan.mod_cnt];  // else EXEC would take it back
+        if (pending.ident == destination.ident) SetTemperature(pending, *temperature);
+    }
     return true;
 }
 

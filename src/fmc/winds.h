@@ -24,8 +24,8 @@ bool RequestRouteWinds();
 /// they are 7 hours old or more. A level that a station doesn't tell keeps its wind.
 void ApplyRouteWinds(int side);
 
-/// Fills the levels of the descent's forecast from the station nearest to the destination. False, and nothing
-/// changes, when one of the files is missing.
+/// Fills the levels of the descent's forecast, and the temperature of the destination, from the station
+/// nearest to it. False, and nothing changes, when one of the files is missing.
 bool RequestDescentWinds();
 
 /// Once a second: what was requested is ready a while later.

@@ -11,7 +11,8 @@
 /// A station of the weather program that stands for a leg of the route.
 struct WxStation {
     std::string ident, lat_text, lon_text;
-    int leg = 0;                             // index in FlightPlanMod
+    int leg = 0;                             // index in FlightPlanMod when it was chosen
+    std::string leg_ident;                   // by which the leg is found again after an edit
     std::array<std::string, 9> levels = {};  // its winds as filed, kWxLevels
 };
 
