@@ -13,6 +13,7 @@
 #include <deque>
 #include <filesystem>
 #include <fstream>
+#include <limits>
 #include <nlohmann/json.hpp>
 #include <optional>
 #include <thread>
@@ -289,8 +290,11 @@ class Browser : public std::enable_shared_from_this<Browser> {
         }
         if (type == "event") {
             command.kind = DeckCommand::kKeyEvent;
-            return number("event", command.value) && number("value", command.x) ? ""
-                                                                                : "event: event and value";
+            constexpr double kMost = std::numeric_limits<int>::max();
+            const bool whole = number("event", command.value) && number("value", command.x);
+            return whole && std::abs(command.value) <= kMost && std::abs(command.x) <= kMost
+                       ? ""
+                       : "event: event and value";
         }
         if (type == "lever") {
             command.kind = DeckCommand::kLever;
