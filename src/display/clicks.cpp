@@ -9,7 +9,8 @@
 namespace {
 
 constexpr int kLeft = 1, kRight = 2;
-constexpr int kRightHalf = 283;    // first column of the right half
+constexpr int kRightEdge = 282;    // where the right half's drawings begin
+constexpr int kRightCanvas = 283;  // and, one further right, its canvas; 282 is the left one's last column
 constexpr int kWideNdShift = 141;  // the wide ND's keys stand around the middle of the unit
 
 // A point in a half's own frame.
@@ -87,11 +88,11 @@ void TouchSystemPage(const Touch& at) {
         if (row.strip.Has(at)) page = row.page;
 }
 
-// Where a content's own frame begins. The information and system pages keep their keys by the half's edge,
-// the others one further right.
-int LeftEdgeOf(Content content, int half) {
+// Where a content's touch areas are measured from: pages whose keys are drawn from the half's edge, from
+// there.
+int OriginOf(Content content, int half) {
     if (half == kLeft) return 0;
-    return content == Content::kInfo || content == Content::kSys ? kRightHalf - 1 : kRightHalf;
+    return content == Content::kInfo || content == Content::kSys ? kRightEdge : kRightCanvas;
 }
 
 void TouchContent(Content content, const Touch& at) {
@@ -119,8 +120,8 @@ void OnDisplayUnitClick(int x, int y, int unit) {
     const auto contents = ContentsOf(mode);
     if (!contents) return;
     if (mode == kModeWideNd) return TouchNd({unit, kLeft, x - kWideNdShift, y});
-    const int half = x < kRightHalf ? kLeft : kRight;
+    const int half = x < kRightCanvas ? kLeft : kRight;
     const Content content = half == kLeft ? contents->left : contents->right;
     if (content == Content::kCdu) return OnCduClick(x, y, unit);
-    TouchContent(content, {unit, half, x - LeftEdgeOf(content, half), y});
+    TouchContent(content, {unit, half, x - OriginOf(content, half), y});
 }
