@@ -58,7 +58,14 @@ void CallPage(Graphics& graphics, int side, int line) {
     CduState& unit = CduOf(side);
     PageCall call{graphics, side, line, unit};
     unit.line_selectable = {};
-    if (const CduPage* page = FindPage(unit.fms_page)) page->draw(call);
+    const CduPage* page = FindPage(unit.fms_page);
+    if (page == nullptr) return;
+    const bool can_delete = ((page->delete_lines >> line) & 1U) != 0;
+    if (line > 0 && IsDelete(call) && !can_delete) {
+        RefuseDelete(call);
+        call.line = 0;
+    }
+    page->draw(call);
 }
 
 void StepCdu(int side, bool shown) {

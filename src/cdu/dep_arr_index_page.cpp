@@ -19,7 +19,6 @@ void OpenArrivals(PageCall& call, bool of_origin) {
 }
 
 void OnLine(PageCall& call) {
-    if (IsDelete(call)) return RefuseDelete(call);
     const bool origin = plan.ends_mod.origin != kNotSelected, dest = plan.ends_mod.dest != kNotSelected;
     if (call.line == kL1 && origin) {
         call.unit.dep_index = 1;

@@ -44,7 +44,6 @@ int PageCount(const ProcedureColumn& left, const ProcedureColumn& right) {
 
 void OnLine(PageCall& call, const ProcedureColumn& left, const ProcedureColumn& right, int page) {
     if (call.line == kL6 || call.line == kR6) return OnProcedureLastLine(call);
-    if (IsDelete(call)) return RefuseDelete(call);
     if (const int item = LeftLine(call.line) > 0 ? ItemAtRow(left, page, LeftLine(call.line)) : 0; item > 0) {
         if (!SidIsChosen())
             SelectSid(call.side, item, false);

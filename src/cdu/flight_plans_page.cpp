@@ -23,7 +23,6 @@ const std::string& FileAt(int place) {
 
 void OnFile(PageCall& call, int place) {
     if (place > route_files.route_file_cnt) return;
-    if (IsDelete(call)) return RefuseDelete(call);
     if (LoadCompanyRoute(FileAt(place)) == 0) Refuse(call, "NOT IN DATABASE", kHelpCompanyRoute);
     call.unit.rte_index = 1;
     call.unit.ItemCursor = 0;

@@ -307,7 +307,6 @@ void OnLastLine(PageCall& call) {
             EraseModification();
             return ClearEntry(call);
         }
-        if (IsDelete(call)) return RefuseDelete(call);
         if (route_pages.LegsView == kHoldView) return OnHoldEntry(call);
         if (route_pages.LegsView == kDirectView) return OnDirectEntry(call);
         return;

@@ -1,6 +1,7 @@
 #include "cdu/page_table.h"
 
 #include <algorithm>
+#include <initializer_list>
 #include <iterator>
 
 #include "cdu/arrivals_page.h"
@@ -15,16 +16,26 @@
 
 namespace {
 
+consteval unsigned Lines(std::initializer_list<int> lines) {
+    unsigned bits = 0;
+    for (const int line : lines) bits |= 1U << line;
+    return bits;
+}
+constexpr unsigned kNoLine = 0;
+constexpr unsigned kRows1To5 = Lines({kL1, kL2, kL3, kL4, kL5, kR1, kR2, kR3, kR4, kR5});
+// The lowest of a leg's winds is only typed over.
+constexpr unsigned kWindRows = Lines({kL2, kL3, kL4, kR1, kR2, kR3, kR4});
+
 constexpr CduPage kPages[] = {
-    {kPageFlightPlans, FlightPlansPage, true},
-    {kPageLegs, LegsPage, true},
-    {kPageSelectWpt, SelectWptPage, true},
-    {kPageDepartures, DeparturesPage, true},
-    {kPageArrivals, ArrivalsPage, true},
-    {kPageRte, RtePage, true},
-    {kPageDepArrIndex, DepArrIndexPage, false},
-    {kPageRteData, RteDataPage, true},
-    {kPageWind, WindPage, true},
+    {kPageFlightPlans, FlightPlansPage, true, kNoLine},
+    {kPageLegs, LegsPage, true, kRows1To5},
+    {kPageSelectWpt, SelectWptPage, true, kNoLine},
+    {kPageDepartures, DeparturesPage, true, kNoLine},
+    {kPageArrivals, ArrivalsPage, true, kNoLine},
+    {kPageRte, RtePage, true, kRows1To5},
+    {kPageDepArrIndex, DepArrIndexPage, false, kNoLine},
+    {kPageRteData, RteDataPage, true, kNoLine},
+    {kPageWind, WindPage, true, kWindRows},
 };
 
 struct FirstItem {

@@ -5,7 +5,8 @@
 struct CduPage {
     int id;
     void (*draw)(PageCall& call);
-    bool is_family = false;  // has several pages: takes PREV PAGE and NEXT PAGE
+    bool is_family;         // has several pages: takes PREV PAGE and NEXT PAGE
+    unsigned delete_lines;  // line keys that act on DELETE, a bit each; the others refuse it
 };
 
 /// The page of an id; null for an id without a page, whose face stays empty.

@@ -54,7 +54,6 @@ void OriginLine(PageCall& call) {
 }
 
 void OnOrigin(PageCall& call) {
-    if (IsDelete(call)) return RefuseDelete(call);
     if (Entry(call).empty()) {
         if (HasOrigin()) return CopyDown(call, plan.ends_mod.origin);
         return Refuse(call, "INVALID ENTRY", kHelpOrigin);
@@ -64,7 +63,6 @@ void OnOrigin(PageCall& call) {
 }
 
 void OnDestination(PageCall& call) {
-    if (IsDelete(call)) return RefuseDelete(call);
     if (Entry(call).empty()) {
         if (plan.ends_mod.dest != kNotSelected) return CopyDown(call, plan.ends_mod.dest);
         return Refuse(call, "INVALID ENTRY", kHelpDestination);
@@ -75,7 +73,6 @@ void OnDestination(PageCall& call) {
 }
 
 void OnRunway(PageCall& call) {
-    if (IsDelete(call)) return RefuseDelete(call);
     if (!HasOrigin()) return Refuse(call, "INVALID ENTRY", kHelpOrigin);
     if (Entry(call).empty()) return;
     if (SelectOriginRunway(Entry(call)) == 0) return Refuse(call, "NOT IN DATABASE", kHelpAirportCode);
@@ -84,7 +81,6 @@ void OnRunway(PageCall& call) {
 }
 
 void OnFlightNumber(PageCall& call) {
-    if (IsDelete(call)) return RefuseDelete(call);
     if (Entry(call).empty()) return;
     if (Entry(call).size() > kMaxFlightNumber) return Refuse(call, "INVALID ENTRY", kHelpFlightNumber);
     plan.fms_fltno = Entry(call);
@@ -93,7 +89,6 @@ void OnFlightNumber(PageCall& call) {
 
 // A new route is entered and waits for ACTIVATE, whatever loading has made of the state.
 void OnCompanyRoute(PageCall& call) {
-    if (IsDelete(call)) return RefuseDelete(call);
     if (Entry(call).empty()) return;
     ListRouteFiles();
     const int file = FindRouteFile(Entry(call));
@@ -104,6 +99,7 @@ void OnCompanyRoute(PageCall& call) {
 }
 
 void OnEndsLine(PageCall& call) {
+    if (IsDelete(call)) return RefuseDelete(call);
     switch (call.line) {
         case kL1:
             return OnOrigin(call);
@@ -121,7 +117,7 @@ void OnEndsLine(PageCall& call) {
             call.unit.altn_index = 1;
             return GoToPage(call.side, kPageAltn);
         default:
-            if (IsDelete(call)) RefuseDelete(call);
+            break;
     }
 }
 

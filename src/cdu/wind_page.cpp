@@ -65,59 +65,56 @@ bool IsFlightLevel(std::string_view text) {
     return text.starts_with("FL");
 }
 
+void StoreWinds(PageCall& call, const Winds& winds) {
+    OpenModification();
+    EditedLeg(call).wind = winds;
+}
+
 void OnAltitude(PageCall& call, int row) {
     Winds winds = LegShown(call).wind;
     WindLevel& level = winds[static_cast<std::size_t>(row - 1)];
     if (IsDelete(call)) {
         if (level.alt == 0) return RefuseDelete(call);
         level = {};
-    } else if (Entry(call).empty()) {
-        return;
-    } else {
-        const std::string_view text = Entry(call);
-        const double altitude = IsFlightLevel(text) ? LeadingInt(text.substr(2)) * 100.0 : LeadingInt(text);
-        if (altitude < kMinAltitude || altitude > kMaxAltitude)
-            return Refuse(call, "INVALID WIND ALTITUDE", kHelpWindAltitude);
-        if (CountWinds(winds) == kWindRows) return Refuse(call, "INVALID ENTRY", kHelpFourWinds);
-        winds[static_cast<std::size_t>(CountWinds(winds))] = {static_cast<int>(altitude), 0, 0};
+        SortWinds(winds);
+        StoreWinds(call, winds);
+        return call.unit.ScratchMessage.clear();
     }
+    if (Entry(call).empty()) return;
+    const std::string_view text = Entry(call);
+    const double altitude = IsFlightLevel(text) ? LeadingInt(text.substr(2)) * 100.0 : LeadingInt(text);
+    if (altitude < kMinAltitude || altitude > kMaxAltitude)
+        return Refuse(call, "INVALID WIND ALTITUDE", kHelpWindAltitude);
+    if (CountWinds(winds) == kWindRows) return Refuse(call, "INVALID ENTRY", kHelpFourWinds);
+    winds[static_cast<std::size_t>(CountWinds(winds))] = {static_cast<int>(altitude), 0, 0};
     SortWinds(winds);
-    OpenModification();
-    EditedLeg(call).wind = winds;
+    StoreWinds(call, winds);
     ClearEntry(call);
 }
 
 void OnWind(PageCall& call, int row) {
-    const WindLevel shown = LegShown(call).wind[static_cast<std::size_t>(row - 1)];
-    double direction = 0, speed = 0;
+    Winds winds = LegShown(call).wind;
+    WindLevel& level = winds[static_cast<std::size_t>(row - 1)];
     if (IsDelete(call)) {
-        if (shown.alt == 0) return RefuseDelete(call);
-    } else {
-        if (Entry(call).empty()) return;
-        const auto parts = SplitAtSlash(Entry(call));
-        if (shown.alt == 0 || !parts || !IsNumber(parts->first) || !IsNumber(parts->second))
-            return Refuse(call, "INVALID WIND ENTRY", kHelpWindEntry);
-        direction = LeadingDouble(parts->first);
-        speed = LeadingDouble(parts->second);
-        const auto in_range = [](double value) { return value >= 0 && value < 360; };
-        if (!in_range(direction) || !in_range(speed))
-            return Refuse(call, "INVALID WIND ENTRY", kHelpWindEntry);
+        if (level.alt == 0) return RefuseDelete(call);
+        level.dir = level.spd = 0;
+        StoreWinds(call, winds);
+        return call.unit.ScratchMessage.clear();
     }
-    OpenModification();
-    WindLevel& level = EditedLeg(call).wind[static_cast<std::size_t>(row - 1)];
-    level.dir = direction;
-    level.spd = speed;
+    if (Entry(call).empty()) return;
+    const auto parts = SplitAtSlash(Entry(call));
+    if (level.alt == 0 || !parts || !IsNumber(parts->first) || !IsNumber(parts->second))
+        return Refuse(call, "INVALID WIND ENTRY", kHelpWindEntry);
+    level.dir = LeadingDouble(parts->first);
+    level.spd = LeadingDouble(parts->second);
+    const auto in_range = [](double value) { return value >= 0 && value < 360; };
+    if (!in_range(level.dir) || !in_range(level.spd))
+        return Refuse(call, "INVALID WIND ENTRY", kHelpWindEntry);
+    StoreWinds(call, winds);
     ClearEntry(call);
 }
 
 void OnTemperature(PageCall& call) {
-    if (IsDelete(call)) {
-        if (LegShown(call).temp_alt == 0) return RefuseDelete(call);
-        OpenModification();
-        EditedLeg(call).temp_alt = 0;
-        EditedLeg(call).temp = 0;
-        return ClearEntry(call);
-    }
     if (Entry(call).empty()) return;
     const auto parts = SplitAtSlash(Entry(call));
     if (!parts || !IsNumber(parts->second)) return Refuse(call, "INVALID ALT/OAT ENTRY", kHelpAltOat);
