@@ -35,18 +35,18 @@ std::string NameOf(const ApproachChoice& choice) {
 ProcedureColumn StarColumn(const PageCall& call) {
     ProcedureColumn column;
     if (!StarIsChosen(call)) {
-        AddItems(column, StarNames(ShownAirport(call)), "STARS", "- NONE -", "");
+        AddItems(column, StarNames(ShownAirport(call)), kProcedureWidth, "STARS", "- NONE -", "");
         return column;
     }
-    column.push_back({Format("%-6s", plan.procedures.arr_star.c_str()), "STARS", true, true});
-    AddItems(column, ArrivalTransitions(ShownAirport(call)), "TRANS", "-NONE-", plan.procedures.arr_trans);
+    column.push_back({Format("%*s", kProcedureWidth, plan.procedures.arr_star.c_str()), "STARS", true, true});
+    AddItems(column, ArrivalTransitions(ShownAirport(call)), kTransitionWidth, "TRANS", "-NONE-",
+             plan.procedures.arr_trans);
     return column;
 }
 
 std::vector<std::string> ApproachNames(const AirportData& airport) {
     std::vector<std::string> names;
-    for (const ApproachChoice& choice : ApproachChoices(airport))
-        names.push_back(Format("%5s", NameOf(choice).c_str()));
+    for (const ApproachChoice& choice : ApproachChoices(airport)) names.push_back(NameOf(choice));
     return names;
 }
 
@@ -59,11 +59,12 @@ ProcedureColumn ApproachColumn(const PageCall& call) {
         std::vector<std::string> transitions;
         for (int i = 1; i <= procedure_lists.approach_transition_cnt; ++i)
             transitions.push_back(procedure_lists.approach_transitions[i]);
-        AddItems(column, transitions, "TRANS", "-NONE-", chosen.arr_appr_trans);
+        AddItems(column, transitions, kTransitionWidth, "TRANS", "-NONE-", chosen.arr_appr_trans);
         return column;
     }
-    AddItems(column, ApproachNames(ShownAirport(call)), "APPROACHES", "-NONE-", "");
-    AddItems(column, ArrivalRunways(ShownAirport(call)), "RUNWAYS", "-NONE -", chosen.arr_appr_rwy);
+    AddItems(column, ApproachNames(ShownAirport(call)), kApproachWidth, "APPROACHES", "-NONE-", "");
+    AddItems(column, ArrivalRunways(ShownAirport(call)), kRunwayWidth, "RUNWAYS", "-NONE -",
+             chosen.arr_appr_rwy);
     return column;
 }
 

@@ -23,17 +23,17 @@ int PlaceOfChosenSid() {
 ProcedureColumn SidColumn() {
     ProcedureColumn column;
     if (!SidIsChosen()) {
-        AddItems(column, SidNames(), "SIDS", "- N O N E -", "");
+        AddItems(column, SidNames(), kProcedureWidth, "SIDS", "- N O N E -", "");
         return column;
     }
-    column.push_back({Format("%-6s", plan.procedures.dep_sid.c_str()), "SIDS", true, true});
-    AddItems(column, DepartureTransitions(), "TRANS", "-NONE-", plan.procedures.dep_trans);
+    column.push_back({Format("%*s", kProcedureWidth, plan.procedures.dep_sid.c_str()), "SIDS", true, true});
+    AddItems(column, DepartureTransitions(), kTransitionWidth, "TRANS", "-NONE-", plan.procedures.dep_trans);
     return column;
 }
 
 ProcedureColumn RunwayColumn() {
     ProcedureColumn column;
-    AddItems(column, DepartureRunways(), "RUNWAYS", "-NONE-", plan.ends_mod.dep_runway);
+    AddItems(column, DepartureRunways(), kRunwayWidth, "RUNWAYS", "-NONE-", plan.ends_mod.dep_runway);
     return column;
 }
 

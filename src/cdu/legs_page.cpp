@@ -374,7 +374,7 @@ void DrawLegs(PageCall& call, int first) {
         MarkSelectable(call, kL1 + line - 1);
         DrawLabel(call, line, leg);
         if (leg > ShownCount()) {
-            EntryFrame(call, 32, static_cast<int>(DataY(line)), 48);
+            EntryFrame(call, 34, static_cast<int>(DataY(line)), 46);
             LeftData(call, line, "------");
             return;
         }

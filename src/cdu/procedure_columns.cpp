@@ -31,11 +31,12 @@ int ItemAtRow(const ProcedureColumn& column, int page, int row) {
     return item != nullptr && item->selectable ? (page - 1) * kProcedureRows + row : 0;
 }
 
-void AddItems(ProcedureColumn& column, const std::vector<std::string>& names, const char* label,
+void AddItems(ProcedureColumn& column, const std::vector<std::string>& names, int width, const char* label,
               const char* none, const std::string& selected) {
     if (names.empty()) column.push_back({none, label, false, false});
     for (const std::string& name : names)
-        column.push_back({name, &name == &names.front() ? label : "", name == selected, true});
+        column.push_back({Format("%*s", width, name.c_str()), &name == &names.front() ? label : "",
+                          name == selected, true});
 }
 
 void DrawProcedureColumns(PageCall& call, const ProcedureColumn& left, const ProcedureColumn& right,

@@ -32,6 +32,9 @@ void DrawProcedureColumns(PageCall& call, const ProcedureColumn& left, const Pro
 /// The keys of the last line.
 void OnProcedureLastLine(PageCall& call);
 
+/// Columns of text that a name fills; below 0 it stands at their left.
+constexpr int kProcedureWidth = -6, kTransitionWidth = -5, kRunwayWidth = -3, kApproachWidth = 5;
+
 /// A list under its heading, or one row that says that there is none.
-void AddItems(ProcedureColumn& column, const std::vector<std::string>& names, const char* label,
+void AddItems(ProcedureColumn& column, const std::vector<std::string>& names, int width, const char* label,
               const char* none, const std::string& selected);

@@ -14,6 +14,7 @@
 #include "fmc/route_rows.h"
 #include "fmc/select_procedures.h"
 #include "frame/crew_messages.h"
+#include "navdata/nearest.h"
 #include "navdata/parse_entry.h"
 #include "platform/text.h"
 #include "state/airports.h"
@@ -114,6 +115,7 @@ void OnEndsLine(PageCall& call) {
         case kR3:
             return OnCompanyRoute(call);
         case kR5:
+            BuildAltnList();
             call.unit.altn_index = 1;
             return GoToPage(call.side, kPageAltn);
         default:
@@ -145,10 +147,9 @@ void DrawEnds(PageCall& call) {
     LeftData(call, 3, "<REQUEST");
     RightLabel(call, 3, "CO ROUTE");
     EntryFrame(call, 151, static_cast<int>(DataY(3)), 100);
-    constexpr std::size_t kCompanyRouteColumns = 14;
     const std::string& company_route =
         plan.fms_fpln_active == kRouteModified ? plan.ends_mod.company_route : plan.ends.company_route;
-    RightData(call, 3, company_route.substr(0, kCompanyRouteColumns));
+    if (!company_route.empty()) RightData(call, 3, Format("%14.14s", company_route.c_str()));
     LeftLabel(call, 5, "ROUTE");
     LeftData(call, 5, "<PRINT");
     RightData(call, 5, "ALTN>");
