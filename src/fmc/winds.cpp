@@ -112,7 +112,7 @@ struct WeatherFiles {
 
 std::optional<WeatherFiles> ReadWeatherFiles() {
     constexpr std::size_t kIdent = 4;
-    const ConfiguredFolder folder = FindConfiguredFolder(module_life.weather_folder);
+    const ConfiguredFolder folder = FindConfiguredFolder(module_life.ActiveSkyFolder);
     const auto list = ReadWeatherFile(folder, kStationList);
     auto snapshot = ReadWeatherFile(folder, kSnapshot);
     if (!list || !snapshot) return {};
@@ -188,7 +188,7 @@ bool IsEmpty(std::span<const WindLevel> levels) {
 int SnapshotAgeHours() {
     constexpr double kSecondsToUnixTime = 719162.0 * 86400;  // from the first day of year 1
     constexpr double kMostHours = 100000;
-    const ConfiguredFolder folder = FindConfiguredFolder(module_life.weather_folder);
+    const ConfiguredFolder folder = FindConfiguredFolder(module_life.ActiveSkyFolder);
     const auto written = LastWriteTime(folder.File(kSnapshot), folder.root);
     if (!written) return 0;
     const double seconds = sim.abs_time - kSecondsToUnixTime - static_cast<double>(*written);

@@ -78,7 +78,7 @@ void DelayedStart() {
         PostCduMessage("NAV DATA OUT OF DATE", kAdvisory, kHelpNavdataDate, kBothSides);
     if (cfg.SystemsOn == 1) StartSystemsRunning();
     ReadModelValues();
-    if (!cfg.HiFiSnapshotDir.empty()) module_life.weather_folder = cfg.HiFiSnapshotDir;
+    if (!cfg.HiFiSnapshotDir.empty()) module_life.ActiveSkyFolder = cfg.HiFiSnapshotDir;
     if (cfg.LoadFuelonAircraftLoad == 1 && ReadToken(kTokenOnGround) != 0) LoadStoredFuel();
     if (cfg.RemoteCdu == 1) OpenRemoteBridge(identity.panel_hires == 1 && cfg.remotecduhires == 1);
     nav.nearest_refresh_due = 1;

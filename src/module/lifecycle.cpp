@@ -90,7 +90,7 @@ void ModuleInit() {
     Host().set_timer_period(kTimerPeriodMs);
     time_base.startup_msg_ticks = 0;
     sound.dsound_ok = Host().open_sound_device();
-    module_life.weather_folder = AppDataFolder() + "\\Hifi\\AS_P3Dv4\\Weather";
+    module_life.ActiveSkyFolder = AppDataFolder() + "\\Hifi\\AS_P3Dv4\\Weather";
     const std::string weather_module = RootFolder() + "\\as_srv\\as_connect_64.dll";
     module_life.activesky_loaded = Host().is_library_loaded(weather_module.c_str());
     OpenSimClient();

@@ -10,7 +10,7 @@ constexpr Variable kRows[] = {
     {"startup_done", &module_life.startup_done},
     {"outputs_running", &module_life.outputs_running},
     {"activesky_loaded", &module_life.activesky_loaded},
-    {"weather_folder", &module_life.weather_folder},
+    {"ActiveSkyFolder", &module_life.ActiveSkyFolder},
     {"tcas_target_cnt", &module_life.tcas_target_cnt},
     {"tod_pause_done", &module_life.tod_pause_done},
     {"tod_rate_done", &module_life.tod_rate_done},

@@ -14,7 +14,7 @@ struct ModuleLife {
     int startup_done = 0;     // DelayedStart has run
     int outputs_running = 0;  // the eighth second has come
     int activesky_loaded = 0;
-    std::string weather_folder;  // of the weather program's snapshots
+    std::string ActiveSkyFolder;  // of the weather program's snapshots
     // the host's traffic records, bound at pre-initialise; null = not published
     void* tcas_targets_variable = nullptr;  // holds the address of the records
     void* tcas_count_variable = nullptr;    // holds their number
