@@ -13,12 +13,15 @@
 #include "navdata/geodesy.h"
 #include "state/airports.h"
 #include "state/cdu.h"
+#include "state/cfg.h"
 #include "state/perf.h"
 #include "state/plan.h"
 #include "state/procedure_lists.h"
 #include "state/sim.h"
 
 namespace {
+
+constexpr int kNoCostIndex = -1;
 
 bool IsActive() {
     return plan.fms_fpln_active >= kRouteActive;
@@ -91,6 +94,7 @@ void BeginLoadedRoute() {
     procedure_lists = {};
     perf.pending_cruise_alt = 0;
     perf.planned_fuel = 0;
+    if (cfg.CostIndex > kNoCostIndex) PlanCostIndex(cfg.CostIndex);
     LeaveLegsView();
     route_pages.PendingSelectRow = 0;
     if (IsActive()) SetPendingActiveLeg(1);  // the leg flown to isn't in the working copy any more
@@ -102,7 +106,14 @@ void MarkLoadedRouteNew() {
     SetPendingActiveLeg(1);
 }
 
+void PlanCostIndex(double index) {
+    constexpr int kMost = 999;
+    if (index < kNoCostIndex || index > kMost) return;
+    (IsActive() ? perf.pending_cost_index : perf.cost_index) = static_cast<int>(index);
+}
+
 void AddLoadedLeg(FlightPlanLeg leg) {
+    if (IsDisco(leg) && cfg.ExcludeDisco == 1) return;
     // A gap begins no route and stands beside no other; an airway without an end is none to fly.
     const bool nothing_before = plan.mod_cnt < 0 || IsDisco(plan.FlightPlanMod[plan.mod_cnt]);
     if (IsThen(leg) || (IsDisco(leg) && nothing_before)) return;

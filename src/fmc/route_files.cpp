@@ -232,7 +232,6 @@ class RouteReader {
   private:
     static void ReadKey(std::string_view line) {
         constexpr double kMostFuel = 1e6, kHighest = 99999;
-        constexpr int kMostCostIndex = 999;
         const auto next = [&line] { return NextPart(line, [](char c) { return c == '=' || IsBlank(c); }); };
         const std::string_view key = next(), text = next();
         const double value = LeadingDouble(text);
@@ -240,9 +239,7 @@ class RouteReader {
         if (EqualIgnoringCase(key, "CruiseAlt")) {
             if (value >= 0 && value <= kHighest) perf.pending_cruise_alt = value;
         } else if (EqualIgnoringCase(key, "CostIndex")) {
-            if (value < -1 || value > kMostCostIndex) return;
-            const int index = static_cast<int>(value);
-            (plan.fms_fpln_active >= kRouteActive ? perf.pending_cost_index : perf.cost_index) = index;
+            PlanCostIndex(value);
         } else if (EqualIgnoringCase(key, "TripFuel")) {
             perf.planned_fuel += fuel;
         } else if (EqualIgnoringCase(key, "ResvFuel")) {

@@ -159,6 +159,24 @@ TEST_F(RouteFiles, FieldsOfARow) {
     EXPECT_EQ(Leg(1).lon, 10);
 }
 
+TEST_F(RouteFiles, SettingsThatLoadingFollows) {
+    const std::string text =
+        std::string(kSimple).replace(std::string(kSimple).find("DDFIX"), 0, "DISCO 0 0 WPT\n");
+    Load(text);
+    EXPECT_EQ(Idents(plan.FlightPlanMod, plan.mod_cnt), "ORIG AAA DISCO DDFIX DEST");
+    EXPECT_EQ(perf.cost_index, -1);
+    cfg.ExcludeDisco = 1;
+    cfg.CostIndex = 70;
+    Load(text);
+    EXPECT_EQ(Idents(plan.FlightPlanMod, plan.mod_cnt), "ORIG AAA DDFIX DEST");
+    EXPECT_EQ(perf.cost_index, 70);
+    Load("CostIndex=20\n" + text);
+    EXPECT_EQ(perf.cost_index, 20);
+    cfg.CostIndex = 2000000000;
+    Load(text);
+    EXPECT_EQ(perf.cost_index, 20);
+}
+
 TEST_F(RouteFiles, MissedApproachOnlyWhereItIsWanted) {
     const std::string text = "[FlightPlan]\nORIG 39 10 APT\n" + FullRow("BBFIX", "ILS09 APPR") +
                              FullRow("LONER", "MISSED_APPR APPR") + FullRow("LONER", "HOLD APPR") +
