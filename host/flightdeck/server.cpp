@@ -13,13 +13,14 @@
 #include <deque>
 #include <filesystem>
 #include <fstream>
-#include <limits>
 #include <nlohmann/json.hpp>
 #include <optional>
 #include <thread>
 
 #include "host/flightdeck/deck.h"
+#include "host/flightdeck/messages.h"
 #include "host/flightdeck/picture_stream.h"
+#include "host/flightdeck/request_text.h"
 #include "host/root_folder.h"
 
 // The web server: one thread, asynchronous. It serves the page's folder, the fonts and images that pictures
@@ -54,75 +55,16 @@ constexpr auto kPeerSilence = std::chrono::seconds(20);
 constexpr std::array<std::string_view, 10> kScreens = {"capt_outb", "capt_inb", "fo_inb", "fo_outb", "lower",
                                                        "hud",       "stby",     "efb_l",  "efb_r",   "debug"};
 
-struct ContentType {
-    std::string_view extension, type;
-};
-constexpr ContentType kContentTypes[] = {{".html", "text/html; charset=utf-8"},
-                                         {".css", "text/css"},
-                                         {".js", "text/javascript"},
-                                         {".svg", "image/svg+xml"},
-                                         {".png", "image/png"},
-                                         {".jpg", "image/jpeg"},
-                                         {".jpeg", "image/jpeg"},
-                                         {".bmp", "image/bmp"},
-                                         {".ttf", "font/ttf"},
-                                         {".otf", "font/otf"}};
-
-std::string_view TypeOf(const std::filesystem::path& file) {
-    for (const ContentType& row : kContentTypes)
-        if (file.extension() == row.extension) return row.type;
-    return "application/octet-stream";
+std::size_t ScreenIndex(std::string_view name) {
+    return static_cast<std::size_t>(std::find(kScreens.begin(), kScreens.end(), name) - kScreens.begin());
 }
 
-// The value of a name in a target's query; empty when it isn't there.
-std::string QueryValue(std::string_view target, std::string_view name) {
-    const std::size_t question = target.find('?');
-    if (question == std::string_view::npos) return {};
-    std::string_view query = target.substr(question + 1);
-    while (!query.empty()) {
-        const std::string_view pair = query.substr(0, query.find('&'));
-        query.remove_prefix(std::min(query.size(), pair.size() + 1));
-        if (pair.starts_with(name) && pair.substr(name.size()).starts_with('='))
-            return std::string(pair.substr(name.size() + 1));
-    }
-    return {};
-}
-
-// The text behind a target's %XX; nothing when it makes no sense.
-std::optional<std::string> DecodePercent(std::string_view encoded) {
-    std::string text;
-    for (std::size_t i = 0; i < encoded.size(); ++i) {
-        if (encoded[i] != '%') {
-            text += encoded[i];
-            continue;
-        }
-        unsigned code = 0;
-        if (i + 2 >= encoded.size()) return {};
-        const char* begin = encoded.data() + i + 1;
-        const auto [end, failed] = std::from_chars(begin, begin + 2, code, 16);
-        if (failed != std::errc{} || end != begin + 2 || code == 0) return {};
-        text += code == '\\' ? '/' : static_cast<char>(code);
-        i += 2;
-    }
-    return text;
+std::string_view TargetOf(const http::request<http::string_body>& request) {
+    return {request.target().data(), request.target().size()};
 }
 
 bool IsWithin(const std::filesystem::path& file, const std::filesystem::path& folder) {
     return std::mismatch(folder.begin(), folder.end(), file.begin(), file.end()).first == folder.end();
-}
-
-// A Host field's name without its port.
-std::string_view HostName(std::string_view host) {
-    if (host.starts_with('[')) return host.substr(0, host.find(']') + 1);
-    return host.substr(0, host.find(':'));
-}
-
-// Takes as long for every wrong token of the right length.
-bool SameToken(std::string_view given, std::string_view wanted) {
-    if (given.size() != wanted.size()) return false;
-    unsigned difference = 0;
-    for (std::size_t i = 0; i < given.size(); ++i) difference |= static_cast<unsigned>(given[i] ^ wanted[i]);
-    return difference == 0;
 }
 
 }  // namespace
@@ -216,15 +158,14 @@ class Browser : public std::enable_shared_from_this<Browser> {
             return "not a message: an object with a type";
         const std::string type = message["type"];
         if (type == "screens") {
-            const std::string reason = TakeNames(message, screens_wanted_, kScreens.size(), true);
-            // A browser forgets a screen that it doesn't want, and begins anew when it wants it again.
-            for (std::size_t i = 0; i < kScreens.size(); ++i)
-                if (!screens_wanted_.contains(std::string(kScreens[i]))) streams_[i] = {};
-            return reason;
+            std::set<std::string> names;
+            if (const std::string reason = ReadNames(message, kScreens.size(), names); !reason.empty())
+                return reason;
+            return TakeScreens(names);
         }
         if (type == "watch") {
-            std::string reason = TakeNames(message, watched_, kMaxWatched, false);
-            if (!reason.empty()) return reason;
+            if (const std::string reason = ReadNames(message, kMaxWatched, watched_); !reason.empty())
+                return reason;
             network_.RenewWatched();
             for (const auto& [name, value] : network_.values)
                 if (watched_.contains(name)) changed_[name] = value;
@@ -232,9 +173,23 @@ class Browser : public std::enable_shared_from_this<Browser> {
             return {};
         }
         DeckCommand command{};
-        if (const std::string reason = ParseCommand(message, type, command); !reason.empty()) return reason;
+        if (const std::string reason = ReadCommand(message, type, command); !reason.empty()) return reason;
         const std::lock_guard guard(network_.lock);
         if (network_.commands.size() < kMaxCommands) network_.commands.push_back(std::move(command));
+        return {};
+    }
+
+    // A browser forgets a screen that it doesn't want, and begins anew when it wants it again.
+    std::string TakeScreens(const std::set<std::string>& names) {
+        std::array<bool, kScreens.size()> wanted{};
+        for (const std::string& name : names) {
+            const std::size_t index = ScreenIndex(name);
+            if (index == kScreens.size()) return "no such screen";
+            wanted[index] = true;
+        }
+        for (std::size_t i = 0; i < kScreens.size(); ++i)
+            if (!wanted[i]) streams_[i] = {};
+        screens_wanted_ = wanted;
         return {};
     }
 
@@ -245,83 +200,6 @@ class Browser : public std::enable_shared_from_this<Browser> {
         last_message_ = now;
         allowance_ = std::min<double>(kMessageBurst, allowance_ + seconds * kMessagesPerSecond) - 1;
         return allowance_ >= 0;
-    }
-
-    static std::string ParseCommand(const json& message, const std::string& type, DeckCommand& command) {
-        const auto text = [&](const char* key, std::string& to) {
-            const bool there = message.contains(key) && message[key].is_string();
-            if (there) to = message[key];
-            return there && to.size() <= 200;
-        };
-        const auto number = [&](const char* key, double& to) {
-            const bool there = message.contains(key) && message[key].is_number();
-            if (there) to = message[key];
-            return there && std::abs(to) < 1e12;
-        };
-        const auto button = [&] {
-            std::string side;
-            const bool known = text("button", side) && (side == "left" || side == "right");
-            command.right = side == "right";
-            return known;
-        };
-        if (type == "lvar") {
-            command.kind = DeckCommand::kNamedVariable;
-            return text("name", command.name) && number("value", command.value) ? "" : "lvar: name and value";
-        }
-        if (type == "press") {
-            command.kind = DeckCommand::kPress;
-            return text("name", command.name) && number("value", command.value) ? ""
-                                                                                : "press: name and value";
-        }
-        if (type == "set") {
-            command.kind = DeckCommand::kStateVariable;
-            return text("name", command.name) && text("text", command.text) ? "" : "set: name and text";
-        }
-        if (type == "mouse") {
-            command.kind = DeckCommand::kMouse;
-            const bool whole =
-                text("screen", command.name) && number("x", command.x) && number("y", command.y);
-            return whole && button() ? "" : "mouse: screen, x, y and button";
-        }
-        if (type == "area") {
-            command.kind = DeckCommand::kMouseArea;
-            const bool whole = text("gauge", command.name) && text("area", command.text);
-            return whole && button() ? "" : "area: gauge, area and button";
-        }
-        if (type == "event") {
-            command.kind = DeckCommand::kKeyEvent;
-            constexpr double kMost = std::numeric_limits<int>::max();
-            const bool whole = number("event", command.value) && number("value", command.x);
-            return whole && std::abs(command.value) <= kMost && std::abs(command.x) <= kMost
-                       ? ""
-                       : "event: event and value";
-        }
-        if (type == "lever") {
-            command.kind = DeckCommand::kLever;
-            return text("name", command.name) && number("value", command.value) ? ""
-                                                                                : "lever: name and value";
-        }
-        if (type == "pause" || type == "rate") {
-            command.kind = type == "pause" ? DeckCommand::kPause : DeckCommand::kRate;
-            return number("value", command.value) ? "" : type + ": value";
-        }
-        return "unknown message type";
-    }
-
-    std::string TakeNames(const json& message, std::set<std::string>& to, std::size_t most, bool screens) {
-        if (!message.contains("names") || !message["names"].is_array() || message["names"].size() > most)
-            return "names: an array, not too long";
-        std::set<std::string> names;
-        for (const json& name : message["names"]) {
-            if (!name.is_string()) return "names: texts";
-            const std::string text = name;
-            if (text.size() > 200) return "names: too long";
-            if (screens && std::find(kScreens.begin(), kScreens.end(), text) == kScreens.end())
-                return "no such screen";
-            names.insert(text);
-        }
-        to = std::move(names);
-        return {};
     }
 
     void Tick() {
@@ -369,7 +247,7 @@ class Browser : public std::enable_shared_from_this<Browser> {
     std::string NextPictures() {
         std::string all;
         for (std::size_t i = 0; i < kScreens.size(); ++i) {
-            if (!screens_wanted_.contains(std::string(kScreens[i]))) continue;
+            if (!screens_wanted_[i]) continue;
             const LastPicture& picture = network_.PictureOf(i);
             if (picture.number == 0 || picture.number == streams_[i].number) continue;
             const std::string message = NextPictureMessage(streams_[i], picture.bytes, picture.number);
@@ -403,7 +281,8 @@ class Browser : public std::enable_shared_from_this<Browser> {
     std::string outgoing_;
     std::deque<std::string> pending_text_;
     std::map<std::string, std::string> changed_;
-    std::set<std::string> watched_, screens_wanted_;
+    std::set<std::string> watched_;
+    std::array<bool, kScreens.size()> screens_wanted_{};
     std::array<PictureStream, kScreens.size()> streams_;
     Clock::time_point last_write_{}, last_message_ = Clock::now();
     double allowance_ = kMessageBurst;
@@ -435,11 +314,11 @@ class Connection : public std::enable_shared_from_this<Connection> {
 
   private:
     void Answer(http::request<http::string_body> request) {
-        const std::string_view target(request.target().data(), request.target().size());
+        const std::string_view path = TargetPath(TargetOf(request));
         if (!network_.MayConnect(request))
             return Send(request, http::status::forbidden, "text/plain", "403\n");
         if (websocket::is_upgrade(request)) {
-            if (target.substr(0, target.find('?')) != "/socket") return SendNotFound(request);
+            if (path != "/socket") return SendNotFound(request);
             if (!network_.HasRoom())
                 return Send(request, http::status::service_unavailable, "text/plain", "503\n");
             stream_.expires_never();
@@ -449,7 +328,7 @@ class Connection : public std::enable_shared_from_this<Connection> {
         }
         if (request.method() != http::verb::get && request.method() != http::verb::head)
             return Send(request, http::status::method_not_allowed, "text/plain", "405\n");
-        Serve(request, target.substr(0, target.find('?')));
+        Serve(request, path);
     }
 
     void Serve(const http::request<http::string_body>& request, std::string_view path) {
@@ -463,18 +342,15 @@ class Connection : public std::enable_shared_from_this<Connection> {
         std::string name(path.substr(std::min<std::size_t>(1, path.size())));
         if (name.empty()) name = "index.html";
         if (name.starts_with("screen/")) {
-            if (std::find(kScreens.begin(), kScreens.end(), name.substr(7)) == kScreens.end())
+            if (ScreenIndex(std::string_view(name).substr(7)) == kScreens.size())
                 return SendNotFound(request);
             name = "index.html";
         }
-        const bool plain =
-            name.find_first_not_of("abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789_-.") ==
-                std::string::npos &&
-            !name.starts_with('.');
         const std::filesystem::path file = std::filesystem::path(network_.settings.page_folder) / name;
         std::error_code failed;
         // A link in the folder is not followed: it may lead anywhere.
-        if (!plain || !std::filesystem::is_regular_file(std::filesystem::symlink_status(file, failed)))
+        if (!IsPlainFileName(name) ||
+            !std::filesystem::is_regular_file(std::filesystem::symlink_status(file, failed)))
             return SendNotFound(request);
         SendFile(request, file);
     }
@@ -496,12 +372,12 @@ class Connection : public std::enable_shared_from_this<Connection> {
         const std::filesystem::path root = network_.settings.root;
         std::string stream;
         if (name && network_.settings.stream_image && network_.settings.stream_image(*name, stream))
-            return Send(request, http::status::ok, TypeOf(*name), std::move(stream));
+            return Send(request, http::status::ok, MediaType(*name), std::move(stream));
         std::error_code failed;
         std::filesystem::path file = name ? FindUnderRoot(root.string(), *name) : std::filesystem::path{};
         if (!file.empty()) file = std::filesystem::canonical(file, failed);
         if (failed || !IsWithin(file, std::filesystem::canonical(root, failed)) || failed ||
-            !TypeOf(file).starts_with("image/") || !std::filesystem::is_regular_file(file, failed))
+            !MediaType(file).starts_with("image/") || !std::filesystem::is_regular_file(file, failed))
             return SendNotFound(request);
         SendFile(request, file);
     }
@@ -509,7 +385,7 @@ class Connection : public std::enable_shared_from_this<Connection> {
     void SendFile(const http::request<http::string_body>& request, const std::filesystem::path& file) {
         std::ifstream in(file, std::ios::binary);
         if (!in) return SendNotFound(request);
-        Send(request, http::status::ok, TypeOf(file), {std::istreambuf_iterator<char>(in), {}});
+        Send(request, http::status::ok, MediaType(file), {std::istreambuf_iterator<char>(in), {}});
     }
 
     void SendNotFound(const http::request<http::string_body>& request) {
@@ -524,7 +400,7 @@ class Connection : public std::enable_shared_from_this<Connection> {
         response->set("X-Content-Type-Options", "nosniff");
         response->set("Content-Security-Policy", "default-src 'self'; frame-ancestors 'none'");
         // The token came with the address of the page; what the page loads comes with a cookie.
-        const std::string token = QueryValue({request.target().data(), request.target().size()}, "token");
+        const std::string token = QueryValue(TargetOf(request), "token");
         if (!token.empty() && token == network_.settings.token)
             response->set(http::field::set_cookie, "token=" + token + "; HttpOnly; SameSite=Strict; Path=/");
         response->keep_alive(request.keep_alive());
@@ -601,12 +477,8 @@ bool FlightDeck::Network::MayConnect(const http::request<http::string_body>& req
         name != settings.address)
         return false;
     if (settings.token.empty()) return true;
-    const std::string_view target(request.target().data(), request.target().size());
-    const std::string cookie = field(http::field::cookie);
-    const std::size_t at = cookie.find("token=");
-    const std::string kept =
-        at == std::string::npos ? "" : cookie.substr(at + 6, cookie.find(';', at) - at - 6);
-    return SameToken(QueryValue(target, "token"), settings.token) || SameToken(kept, settings.token);
+    return SameToken(QueryValue(TargetOf(request), "token"), settings.token) ||
+           SameToken(CookieValue(field(http::field::cookie), "token"), settings.token);
 }
 
 void FlightDeck::Network::RenewWatched() {

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <nlohmann/json.hpp>
+#include <set>
+#include <string>
+
+#include "host/flightdeck/deck.h"
+
+// The messages that a browser sends: JSON objects with a type. Whoever sends something else is told why in
+// the reason with which its link is closed; a reason that is empty says that all was well.
+
+namespace host {
+
+/// A command out of a message of the type; the reason for refusing it, or empty.
+std::string ReadCommand(const nlohmann::json& message, const std::string& type, DeckCommand& command);
+
+/// The message's `names`, `most` of them at the most; the reason for refusing it, or empty, and `to` stays as
+/// it is when refused.
+std::string ReadNames(const nlohmann::json& message, std::size_t most, std::set<std::string>& to);
+
+}  // namespace host
