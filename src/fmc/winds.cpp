@@ -143,7 +143,7 @@ Weather FindWeather(const WeatherFiles& files, std::string_view ident) {
 
 WxStation MakeWxStation(const Station& from, int leg, const FlightPlanLeg& at, std::string_view groups) {
     WxStation station{
-        std::string(from.ident), Format("%.6f", from.lat), Format("%.6f", from.lon), leg, at.ident, {}};
+        std::string(from.ident), Format("%.6f", from.lat), Format("%.6f", from.lon), leg, at.lat, at.lon, {}};
     for (std::string& level : station.levels) level = Trimmed(CutAt(groups, "/"));
     return station;
 }
@@ -195,11 +195,15 @@ int SnapshotAgeHours() {
     return static_cast<int>(std::clamp(std::floor(seconds / 3600), 0.0, kMostHours));
 }
 
-// The first leg of FlightPlanMod with that ident, from `first` on; 0 = none.
-int FindLeg(std::string_view ident, int first) {
-    for (int leg = first; leg <= plan.mod_cnt; ++leg)
-        if (plan.FlightPlanMod[leg].ident == ident) return leg;
-    return 0;
+// The station that was chosen for the leg; null for a leg that came in since.
+const WxStation* FindWxStation(const FlightPlanLeg& leg) {
+    constexpr double kSamePlace = 1;  // nm; coded legs are computed anew
+    for (int i = 1; i <= winds.wx_station_cnt; ++i) {
+        const WxStation& station = winds.WxStations[i];
+        if (GreatCircle(leg.lat, leg.lon, station.leg_lat, station.leg_lon).dist < kSamePlace)
+            return &station;
+    }
+    return nullptr;
 }
 
 void SetTemperature(FlightPlanLeg& destination, double temperature) {
@@ -242,17 +246,14 @@ void ApplyRouteWinds(int side) {
     OpenModification();
     std::array<WindLevel, 4> altitudes = {};  // of the last leg that had some
     altitudes[0].alt = static_cast<int>(perf.cruise_alt);
-    int last = 0;
-    for (int i = 1; i <= winds.wx_station_cnt; ++i) {
-        const WxStation& station = winds.WxStations[i];
-        const int found = FindLeg(station.leg_ident, last + 1);
-        if (found == 0) continue;
-        last = found;
-        FlightPlanLeg& leg = plan.FlightPlanMod[found];
+    for (int i = 1; i <= plan.mod_cnt; ++i) {
+        FlightPlanLeg& leg = plan.FlightPlanMod[i];
+        const WxStation* station = IsPlace(leg) ? FindWxStation(leg) : nullptr;
+        if (station == nullptr) continue;
         const bool is_new = IsEmpty(leg.wind);
         std::array<WindLevel, 4> levels = is_new ? altitudes : leg.wind;
         for (WindLevel& level : levels)
-            if (level.alt > 0) FillLevel(level, station);
+            if (level.alt > 0) FillLevel(level, *station);
         const bool told =
             std::any_of(levels.begin(), levels.end(), [](const WindLevel& w) { return w.spd > 0; });
         if (is_new && !told) continue;

@@ -4,9 +4,10 @@ template <>
 struct Describe<WxStation> {
     using W = WxStation;
     static constexpr Field fields[] = {
-        FieldRow<&W::ident>("ident"),         FieldRow<&W::lat_text>("lat_text"),
-        FieldRow<&W::lon_text>("lon_text"),   FieldRow<&W::leg>("leg"),
-        FieldRow<&W::leg_ident>("leg_ident"), FieldRow<&W::levels>("levels"),
+        FieldRow<&W::ident>("ident"),       FieldRow<&W::lat_text>("lat_text"),
+        FieldRow<&W::lon_text>("lon_text"), FieldRow<&W::leg>("leg"),
+        FieldRow<&W::leg_lat>("leg_lat"),   FieldRow<&W::leg_lon>("leg_lon"),
+        FieldRow<&W::levels>("levels"),
     };
     static constexpr ValueType type{.kind = ValueKind::kRecord, .fields = fields};
 };

@@ -12,7 +12,7 @@
 struct WxStation {
     std::string ident, lat_text, lon_text;
     int leg = 0;                             // index in FlightPlanMod when it was chosen
-    std::string leg_ident;                   // by which the leg is found again after an edit
+    double leg_lat = 0, leg_lon = 0;         // where that leg is: edits move its index
     std::array<std::string, 9> levels = {};  // its winds as filed, kWxLevels
 };
 

@@ -125,6 +125,7 @@ TEST_F(WeatherFiles, WindsFollowTheirLegsThroughAnEdit) {
     plan.FlightPlanMod[4] = plan.FlightPlanMod[3];
     plan.FlightPlanMod[3] = plan.FlightPlanMod[2];
     plan.FlightPlanMod[2].ident = "NEW";
+    plan.FlightPlanMod[2].lon = 2;
     plan.mod_cnt = 4;
     ApplyRouteWinds(1);
     EXPECT_EQ(Leg(1).wind[0].alt, 33000);  // no level yet: the cruise altitude, and its nearest group
