@@ -17,6 +17,7 @@ constexpr double kTurnBeyondCrossing = 0.019444;  // nm a degree
 constexpr int kMaxInterceptError = 7;             // degrees
 constexpr double kFarthestCrossing = 500;         // nm
 constexpr std::size_t kBoundDigits = 5;           // of an altitude window
+constexpr int kHighestAltitude = 99999;           // ft
 constexpr int kTouching = 2;                      // degrees between lines that count as one
 
 double Folded(double degrees) {
@@ -157,6 +158,24 @@ bool TakeTurn(std::string_view& text, int& turn) {
     return true;
 }
 
+bool TakeEndCondition(std::string_view text, LegCode& code) {
+    if (text.empty()) return true;
+    const std::string_view condition = text.substr(0, 3), limit = text.substr(condition.size());
+    if (condition == "/UA")
+        code.until = LegCode::kAltitude;
+    else if (condition == "/VT")
+        code.until = LegCode::kVectors;
+    else if (condition == "/IC")
+        code.until = LegCode::kIntercept;
+    else if (condition == "/UD")
+        code.until = LegCode::kDistance;
+    else
+        return false;
+    code.limit = LeadingDouble(limit);
+    const bool has_limit = code.until == LegCode::kIntercept || code.until == LegCode::kDistance;
+    return !has_limit || (!limit.empty() && IsDigit(limit[0]));
+}
+
 }  // namespace
 
 bool ParseLegCode(std::string_view text, LegCode& code) {
@@ -168,19 +187,7 @@ bool ParseLegCode(std::string_view text, LegCode& code) {
     if (!is_head) return false;
     code.letter = text[1];
     code.course = LeadingInt(text.substr(2, 3));
-    text.remove_prefix(5);
-    if (text.starts_with("/IC")) {
-        code.until = LegCode::kIntercept;
-        code.limit = LeadingInt(text.substr(3));
-    } else if (text.starts_with("/UD")) {
-        code.until = LegCode::kDistance;
-        code.limit = LeadingDouble(text.substr(3));
-    } else if (text.starts_with("/UA")) {
-        code.until = LegCode::kAltitude;
-    } else if (text.starts_with("/VT")) {
-        code.until = LegCode::kVectors;
-    }
-    return true;
+    return TakeEndCondition(text.substr(5), code);
 }
 
 std::string LegCodeIdent(const LegCode& code, std::string_view alt_token) {
@@ -204,8 +211,10 @@ bool IsAltitudeWindow(std::string_view alt_token) {
     return alt_token.size() == 2 * kBoundDigits + 1 && alt_token.back() == 'B';
 }
 
-double AltitudeOfToken(std::string_view alt_token) {
-    return LeadingInt(IsAltitudeWindow(alt_token) ? alt_token.substr(0, kBoundDigits) : alt_token);
+int AltitudeOfToken(std::string_view alt_token) {
+    const int altitude =
+        LeadingInt(IsAltitudeWindow(alt_token) ? alt_token.substr(0, kBoundDigits) : alt_token);
+    return altitude >= 0 && altitude <= kHighestAltitude ? altitude : 0;
 }
 
 int ComputeDepartureLeg(const LegCode& code, LegCodeInput& input, LatLon& end) {

@@ -16,7 +16,7 @@ struct LegCode {
     double limit = 0;  // of kIntercept the inbound course (degrees magnetic), of kDistance nm
 };
 
-/// False for a text that is no code.
+/// False for a text that is no code, also where only its end is none.
 bool ParseLegCode(std::string_view text, LegCode& code);
 
 /// The name under which a coded leg is shown: "(INTC)", "VECTORS", "(1200)" or "HD190".
@@ -24,8 +24,8 @@ std::string LegCodeIdent(const LegCode& code, std::string_view alt_token);
 
 /// "1600023000B": two bounds of five digits.
 bool IsAltitudeWindow(std::string_view alt_token);
-/// The altitude of a token, ft; of a window its lower bound. 0 = none.
-double AltitudeOfToken(std::string_view alt_token);
+/// The altitude of a token, ft; of a window its lower bound. 0 = none, or none that an aircraft could have.
+int AltitudeOfToken(std::string_view alt_token);
 
 /// What a coded leg is computed from.
 struct LegCodeInput {

@@ -44,6 +44,11 @@ bool IsNumber(std::string_view text) {
     return !text.empty() && text.find_first_not_of("0123456789.") == std::string_view::npos;
 }
 
+bool IsAltitude(std::string_view text) {
+    if (text.ends_with('+') || text.ends_with('-') || IsAltitudeWindow(text)) text.remove_suffix(1);
+    return !text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos;
+}
+
 int TurnOf(std::string_view field) {
     if (field == "/LT" || field == "LT") return 1;
     return field == "/RT" || field == "RT" ? 2 : 0;
@@ -126,13 +131,6 @@ void StartAtRunway(const Reading& reading, std::string_view runway, Approach& st
     StartOfClimb(reading.airport, runway, reading.variation, start.at.lat, start.at.lon, start.course);
 }
 
-bool IsRunway(const Reading& reading, std::string_view name) {
-    const AirportData& airport = reading.airport;
-    for (int i = 1; i <= airport.runway_cnt; ++i)
-        if (std::as_const(airport.runways)[i].ident == name) return true;
-    return false;
-}
-
 int VariationAt(const AirportData& airport) {
     return MagVarAt(airport.lat, airport.lon);
 }
@@ -167,7 +165,8 @@ void CloseRecord(Reading& reading) {
 // Legs for different runways, or of different transitions, are never flown one behind the other.
 bool AreAlternatives(const Reading& reading, const ProcedureLeg& a, const ProcedureLeg& b) {
     if (IsForAll(a.segment) || IsForAll(b.segment) || ListsShareAName(a.segment, b.segment)) return false;
-    return IsRunway(reading, FirstOfList(a.segment)) == IsRunway(reading, FirstOfList(b.segment));
+    return HasRunway(reading.airport, FirstOfList(a.segment)) ==
+           HasRunway(reading.airport, FirstOfList(b.segment));
 }
 
 // Where the next leg of a record begins.
@@ -367,10 +366,11 @@ void TakeApproachLine(ApproachReading& state, Fields fields) {
     }
     ProcedureLeg leg;
     TakeTurn(reading, fields, 2, leg);
-    // Without an altitude all that follows stands one place further left.
-    if (!IsNumber(fields[6]) && IsNumber(fields[5]) && IsNumber(fields[4])) OpenGap(fields, 4);
+    // Without a role or an altitude all that follows stands one place further left.
+    if (!IsNumber(fields[6]) && IsNumber(fields[5]) && IsNumber(fields[4]))
+        OpenGap(fields, IsAltitude(fields[3]) ? 3 : 4);
 
-    const std::string_view role = fields[3], second = fields[7];
+    const std::string_view role = fields[3].empty() ? "---" : fields[3], second = fields[7];
     const bool second_given = !second.empty() && !second.starts_with('-');
     if (IsRole(role)) {
         leg.applies_to = role;
@@ -419,6 +419,12 @@ std::string_view NextListed(std::string_view& list) {
 bool ListNames(std::string_view list, std::string_view name) {
     for (std::string_view item = NextListed(list); !item.empty(); item = NextListed(list))
         if (item == name) return true;
+    return false;
+}
+
+bool HasRunway(const AirportData& airport, std::string_view runway) {
+    for (int i = 1; i <= airport.runway_cnt; ++i)
+        if (airport.runways[i].ident == runway) return true;
     return false;
 }
 

@@ -16,6 +16,8 @@ void LoadApproaches(AirportData& airport);
 std::string_view NextListed(std::string_view& list);
 bool ListNames(std::string_view list, std::string_view name);
 
+bool HasRunway(const AirportData& airport, std::string_view runway);
+
 /// Where a departure's first coded leg starts: past the runway's threshold, in its direction. False when the
 /// airport has no runway of that name.
 bool StartOfClimb(const AirportData& airport, std::string_view runway, int variation, double& lat,

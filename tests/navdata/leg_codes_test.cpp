@@ -48,7 +48,8 @@ TEST(LegCodes, AreParsedAndNamed) {
         EXPECT_EQ(LegCodeIdent(code, "1200+"), row.ident);
     }
     LegCode code;
-    for (const char* text : {"", "/", "/RT", "/X100", "/H1", "/H12A/UA", "BTG", "/RT/"})
+    for (const char* text : {"", "/", "/RT", "/X100", "/H1", "/H12A/UA", "BTG", "/RT/", "/H190/", "/H190/XX3",
+                             "/H045/IC", "/H190/UD"})
         EXPECT_FALSE(ParseLegCode(text, code)) << text;
 }
 

@@ -89,6 +89,7 @@ TEST_F(ProcedureFiles, ApproachesWithAProcedureTurn) {
         "[ORIG]\n"
         "16 ILS LONER LONER 6000+ 41.0 9.0 IAF 210 0\n"
         "16 ILS AAFIX --- 5000 40.5 10.0 - 0 0\n"
+        "16 ILS BBFIX 4000+ 41.5 10.0 - 0 0\n"
         "16 ILS FINAL FAF 2300 39.2 9.95 - 170 5\n"
         "16 ILS RW16 MAP 480 39.02 9.99 - 140 0 FO\n"
         "16 ILS SHORT MAF 39.1 9.9 - 0 0\n"
@@ -99,16 +100,20 @@ TEST_F(ProcedureFiles, ApproachesWithAProcedureTurn) {
     LoadApproaches(airport);
     ASSERT_EQ(airport.approach_cnt, 3);
     EXPECT_EQ(airport.approaches[1].name, "ILS16");
-    EXPECT_EQ(Legs(airport.approaches[1]), "LONER AAFIX FINAL RW16 SHORT");
+    EXPECT_EQ(Legs(airport.approaches[1]), "LONER AAFIX BBFIX FINAL RW16 SHORT");
     EXPECT_EQ(airport.approaches[1].legs[1].segment, "LONER");
     EXPECT_EQ(airport.approaches[1].legs[1].applies_to, "IAF");
     EXPECT_EQ(airport.approaches[1].legs[2].segment, "LONER");  // "---" stays with the transition
-    EXPECT_EQ(airport.approaches[1].legs[3].segment, "");
-    EXPECT_EQ(airport.approaches[1].legs[3].speed, 170);
-    EXPECT_EQ(airport.approaches[1].legs[3].alt2, 5);
-    EXPECT_EQ(airport.approaches[1].legs[4].flyover, 1);
-    EXPECT_EQ(airport.approaches[1].legs[5].alt_token, "");  // the fields stood one place further left
-    EXPECT_DOUBLE_EQ(airport.approaches[1].legs[5].lat, 39.1);
+    // without a role, or without an altitude, the fields behind it stand one place further left
+    EXPECT_EQ(airport.approaches[1].legs[3].segment, "LONER");
+    EXPECT_EQ(airport.approaches[1].legs[3].alt_token, "4000+");
+    EXPECT_DOUBLE_EQ(airport.approaches[1].legs[3].lat, 41.5);
+    EXPECT_EQ(airport.approaches[1].legs[6].alt_token, "");
+    EXPECT_DOUBLE_EQ(airport.approaches[1].legs[6].lat, 39.1);
+    EXPECT_EQ(airport.approaches[1].legs[4].segment, "");
+    EXPECT_EQ(airport.approaches[1].legs[4].speed, 170);
+    EXPECT_EQ(airport.approaches[1].legs[4].alt2, 5);
+    EXPECT_EQ(airport.approaches[1].legs[5].flyover, 1);
     EXPECT_EQ(airport.approaches[3].runways, "");
     ASSERT_EQ(airport.approach_kind_cnt, 3);
     EXPECT_EQ(airport.approach_kinds[2], "VOR");
