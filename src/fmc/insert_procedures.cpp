@@ -52,7 +52,7 @@ bool Counts(int altitude, Kind kind) {
 
 void TakeAltitude(std::string_view token, Kind kind, FlightPlanLeg& leg) {
     if (TakeWindow(token, kind, leg)) return;
-    const int altitude = LeadingInt(token);
+    const int altitude = AltitudeOfToken(token);
     if (!Counts(altitude, kind)) return;
     leg.alt_restr = altitude;
     leg.restr_code = leg.restr_code >= 2 ? 3 : 1;
@@ -78,10 +78,8 @@ FlightPlanLeg LegOf(const ProcedureLeg& from) {
         leg.anchor_lon = from.file_lon;
         leg.vector_lat = from.start_lat;
         leg.vector_lon = from.start_lon;
-        leg.type = "WPT";
-    } else {
-        LookUpLegType(leg);
     }
+    LookUpLegType(leg);
     return leg;
 }
 
@@ -237,6 +235,17 @@ bool StayOn(const FlightPlanLeg& flown) {
     return leg > 0;
 }
 
+// No fix of the route has been passed.
+bool IsAtStart(const FlightPlanLeg& flown) {
+    return IsPlace(flown) && PlaceBefore(plan.FlightPlanMod, PendingActiveLeg()) <= 0;
+}
+
+// From a leg on, past a break.
+int FirstPlace(int leg) {
+    while (leg < plan.mod_cnt && !IsPlace(plan.FlightPlanMod[leg])) ++leg;
+    return leg;
+}
+
 void RefreshActiveLeg() {
     if (plan.fms_fpln_active < kRouteActive || plan.direct_to_pending == 1) return;
     const int to = PendingActiveLeg();
@@ -326,7 +335,7 @@ void WriteApproachLegs(int end) {
         plan.procedures.shared_leg = plan.FlightPlanMod[end];
         RemoveHold(end);
         position = end;
-    } else if (end > 0) {
+    } else {
         OpenModLeg(position++).ident = "DISCO";
     }
     bool missed = false;
@@ -350,8 +359,7 @@ void WriteApproachLegs(int end) {
 void InsertDeparture() {
     EnsureEnds();
     const FlightPlanLeg flown = FlownLeg();
-    const bool under_way =
-        PendingActiveLeg() > 1 || (sim.on_ground == 0 && flown.via_type.starts_with("SID"));
+    const bool from_start = IsAtStart(flown) && (sim.on_ground == 1 || !flown.via_type.starts_with("SID"));
     RemoveProcedure("SID", "STAR");
     PutOrigin();
     const ProcedureLists& lists = procedure_lists;
@@ -373,13 +381,17 @@ void InsertDeparture() {
         RemoveModLegs(position, 1);
         if (of_star) plan.FlightPlanMod[last].via_type = "SIDSTAR";
     }
-    if (under_way) StayOn(flown);
+    if (from_start)
+        SetPendingActiveLeg(FirstPlace(1));
+    else
+        StayOn(flown);
     Finish();
 }
 
 void InsertArrival() {
     EnsureEnds();
     const FlightPlanLeg flown = FlownLeg();
+    const bool from_start = IsAtStart(flown) && sim.on_ground == 1;
     UnshareApproach();
     const bool had_arrival = HasLegsOf("STAR");
     RemoveProcedure("STAR", "SID");
@@ -405,7 +417,10 @@ void InsertArrival() {
         OpenModLeg(position++) = std::move(leg);
     }
     ShareWithApproach(position - 1);
-    if (flown.type != "APT" || had_arrival) StayOn(flown);
+    if (from_start)
+        SetPendingActiveLeg(FirstPlace(1));
+    else if (flown.type != "APT" || had_arrival)
+        StayOn(flown);
     Finish();
 }
 
@@ -419,8 +434,7 @@ void InsertApproach() {
     dest = DestinationOnRunway();
     const bool to_destination = flown.type == "APT";
     if ((to_destination || !StayOn(flown)) && past_route) {
-        int to = end + 1;
-        while (to < plan.mod_cnt && !IsPlace(plan.FlightPlanMod[to])) ++to;
+        const int to = FirstPlace(end + 1);
         if (to_destination && procedure_lists.approach_leg_cnt > 0)
             GoDirectTo(to);
         else

@@ -19,6 +19,20 @@ std::string_view TransitionOf(const ProcedureRecord& record) {
     return point == std::string::npos ? std::string_view() : std::string_view(record.name).substr(point + 1);
 }
 
+// The legs of a transition's own record are all flown with it, but for those of other runways.
+bool IsFlown(const AirportData& airport, const ProcedureRecord& record, const ProcedureLeg& leg,
+             std::string_view runway, std::string_view transition) {
+    const std::string_view own = TransitionOf(record);
+    if (!own.empty() && own != transition) return false;
+    if (leg.applies_to == kForAll || ListNames(leg.applies_to, runway)) return true;
+    std::string_view names = leg.applies_to;
+    return own.empty() ? ListNames(names, transition) : !HasRunway(airport, NextListed(names));
+}
+
+bool IsOfTransition(const ProcedureRecord& record, const ProcedureLeg& leg, std::string_view transition) {
+    return !TransitionOf(record).empty() || ListNames(leg.applies_to, transition);
+}
+
 // Legs of the records with a base name that `take` accepts; the count stops at `most`.
 template <class Take>
 void Collect(const GrowingList<ProcedureRecord>& records, int count, std::string_view base, int most,
@@ -85,17 +99,12 @@ void BuildDepartureLegs() {
     const AirportData& origin = airports.origin_airport;
     lists.departure_leg_cnt = 0;
     if (chosen.dep_sid == kNotSelected) return;
-    const auto add = [&](bool transition) {
+    for (const bool of_transition : {false, true})
         Collect(origin.sids, origin.sid_cnt, chosen.dep_sid, kMostDepartureLegs, lists.DepartureLegs,
                 lists.departure_leg_cnt, [&](const ProcedureRecord& record, const ProcedureLeg& leg) {
-                    const std::string_view own = TransitionOf(record);
-                    if (transition != !own.empty() || (transition && own != chosen.dep_trans)) return false;
-                    return transition || leg.applies_to == kForAll || ListNames(leg.applies_to, runway) ||
-                           ListNames(leg.applies_to, chosen.dep_trans);
+                    return TransitionOf(record).empty() != of_transition &&
+                           IsFlown(origin, record, leg, runway, chosen.dep_trans);
                 });
-    };
-    add(false);
-    add(true);
     if (runway_known) RecomputeForRunway(lists.DepartureLegs, lists.departure_leg_cnt, runway);
 }
 
@@ -105,17 +114,13 @@ void BuildArrivalLegs() {
     const AirportData& dest = airports.dest_airport;
     lists.arrival_leg_cnt = 0;
     if (chosen.arr_star == kNotSelected) return;
-    const auto is_of_transition = [&](const ProcedureRecord& record, const ProcedureLeg& leg) {
-        return TransitionOf(record) == chosen.arr_trans || ListNames(leg.applies_to, chosen.arr_trans);
-    };
     constexpr int kNoLimit = 100000;
-    Collect(dest.stars, dest.star_cnt, chosen.arr_star, kNoLimit, lists.ArrivalLegs, lists.arrival_leg_cnt,
-            is_of_transition);
-    Collect(dest.stars, dest.star_cnt, chosen.arr_star, kNoLimit, lists.ArrivalLegs, lists.arrival_leg_cnt,
-            [&](const ProcedureRecord& record, const ProcedureLeg& leg) {
-                if (is_of_transition(record, leg) || !TransitionOf(record).empty()) return false;
-                return leg.applies_to == kForAll || ListNames(leg.applies_to, chosen.arr_appr_rwy);
-            });
+    for (const bool of_transition : {true, false})
+        Collect(dest.stars, dest.star_cnt, chosen.arr_star, kNoLimit, lists.ArrivalLegs,
+                lists.arrival_leg_cnt, [&](const ProcedureRecord& record, const ProcedureLeg& leg) {
+                    return IsOfTransition(record, leg, chosen.arr_trans) == of_transition &&
+                           IsFlown(dest, record, leg, chosen.arr_appr_rwy, chosen.arr_trans);
+                });
 }
 
 void BuildApproachLegs() {

@@ -26,12 +26,6 @@ Names BaseNames(const GrowingList<ProcedureRecord>& records, int count) {
     return names;
 }
 
-bool IsRunwayName(const AirportData& airport, std::string_view name) {
-    for (int i = 1; i <= airport.runway_cnt; ++i)
-        if (airport.runways[i].ident == name) return true;
-    return false;
-}
-
 template <class Visit>
 void ForEachListed(std::string_view list, Visit visit) {
     for (std::string_view name = NextListed(list); !name.empty(); name = NextListed(list)) visit(name);
@@ -41,8 +35,8 @@ bool IsName(std::string_view text) {
     return !text.empty() && text.find_first_not_of('-') != std::string_view::npos;
 }
 
-// The transitions of a procedure: records of their own ("DEENA7.KADOM"), or legs that apply to a name that is
-// no runway.
+// The transitions of a procedure: records of their own ("DEENA7.KADOM"), or legs of its own record that apply
+// to a name that is no runway.
 Names Transitions(const AirportData& airport, const GrowingList<ProcedureRecord>& records, int count,
                   const std::string& base) {
     Names names;
@@ -50,10 +44,13 @@ Names Transitions(const AirportData& airport, const GrowingList<ProcedureRecord>
         const ProcedureRecord& record = records[i];
         if (record.base_name != base) continue;
         const std::size_t point = record.name.find('.');
-        if (point != std::string::npos) AddOnce(names, std::string_view(record.name).substr(point + 1));
+        if (point != std::string::npos) {
+            AddOnce(names, std::string_view(record.name).substr(point + 1));
+            continue;
+        }
         for (int leg = 1; leg <= record.leg_cnt; ++leg)
             ForEachListed(record.legs[leg].applies_to, [&](std::string_view part) {
-                if (IsName(part) && !IsRunwayName(airport, part)) AddOnce(names, part);
+                if (IsName(part) && !HasRunway(airport, part)) AddOnce(names, part);
             });
     }
     return names;
@@ -68,7 +65,7 @@ Names RunwaysOf(const AirportData& airport, const GrowingList<ProcedureRecord>& 
         const ProcedureRecord& record = records[i];
         if (record.base_name != base) continue;
         const auto add = [&](std::string_view part) {
-            if (IsRunwayName(airport, part)) AddOnce(names, part);
+            if (HasRunway(airport, part)) AddOnce(names, part);
         };
         ForEachListed(record.runways, add);
         for (int leg = 1; leg <= record.leg_cnt; ++leg) ForEachListed(record.legs[leg].applies_to, add);
@@ -144,7 +141,8 @@ std::vector<std::string> ArrivalTransitions(const AirportData& airport) {
 
 std::vector<ApproachChoice> ApproachChoices(const AirportData& airport) {
     const Names served = RunwaysOf(airport, airport.stars, airport.star_cnt, plan.procedures.arr_star);
-    const bool filter = !served.empty() && plan.procedures.arr_appr == kNotSelected;
+    const bool filter =
+        &airport == &airports.dest_airport && !served.empty() && plan.procedures.arr_appr == kNotSelected;
     std::vector<ApproachChoice> choices;
     for (int i = 1; i <= airport.approach_cnt; ++i) {
         const ProcedureRecord& record = airport.approaches[i];

@@ -21,7 +21,7 @@ std::vector<std::string> ArrivalTransitions(const AirportData& airport);
 struct ApproachChoice {
     std::string kind, runway;
 };
-/// Those for the runways of the chosen STAR, unless an approach is chosen.
+/// At the destination those for the runways of the chosen STAR, unless an approach is chosen.
 std::vector<ApproachChoice> ApproachChoices(const AirportData& airport);
 std::vector<std::string> ArrivalRunways(const AirportData& airport);
 

@@ -4,11 +4,13 @@
 
 #include "fmc/demo_navdata.h"
 #include "fmc/endpoints.h"
+#include "fmc/execute_route.h"
 #include "fmc/route_invariants.h"
 #include "fmc/select_procedures.h"
 #include "state/cfg.h"
 #include "state/plan.h"
 #include "state/procedure_lists.h"
+#include "state/sim.h"
 
 namespace {
 
@@ -19,8 +21,9 @@ class InsertProcedures : public testing::Test {
         plan = {};
         procedure_lists = {};
     }
-    void Enter(const std::string& sids, const std::string& apps) const {
+    void Enter(const std::string& sids, const std::string& apps, const std::string& stars = "") const {
         host.PutFile("Velarion/TZ900/Navdata/sids.txt", "[ORIG]\n" + sids);
+        host.PutFile("Velarion/TZ900/Navdata/stars.txt", "[DEST]\n" + stars);
         host.PutFile("Velarion/TZ900/Navdata/apps.txt", "[DEST]\n" + apps);
         ASSERT_EQ(EnterOrigin("ORIG"), 1);
         ASSERT_EQ(EnterDestination("DEST"), 1);
@@ -35,8 +38,8 @@ TEST_F(InsertProcedures, ACirclingApproachTakesNoLegsOfARunway) {
           "-- VOR EEE FAF 3000 44.0 10.0 - 0 0\n-- VOR EASTX MAP 1800 42.0 12.0 - 0 0\n");
     SelectApproach(1, 2);
     EXPECT_EQ(plan.procedures.arr_appr, "VOR");
-    EXPECT_EQ(Idents(plan.FlightPlanMod, plan.mod_cnt), "ORIG EEE EASTX DEST");
-    EXPECT_EQ(plan.FlightPlanMod[2].via, "VOR");
+    EXPECT_EQ(Idents(plan.FlightPlanMod, plan.mod_cnt), "ORIG DISCO EEE EASTX DEST");
+    EXPECT_EQ(plan.FlightPlanMod[3].via, "VOR");
 }
 
 TEST_F(InsertProcedures, MissedApproachAltitudesAndHold) {
@@ -46,21 +49,90 @@ TEST_F(InsertProcedures, MissedApproachAltitudesAndHold) {
         "09 ILS WWFIX MAF 4000 42.0 8.0 - 0 0\n09 ILS --- MAF 0 42.0 8.0 - 0 0\n";
     Enter("", apps);
     SelectApproach(1, 1);
-    ASSERT_EQ(Idents(plan.FlightPlanMod, plan.mod_cnt), "ORIG DDFIX RW09 EASTX LONER WWFIX WWFIX DEST");
-    EXPECT_EQ(plan.FlightPlanMod[3].block_above, 3000);
-    EXPECT_EQ(plan.FlightPlanMod[3].block_below, 5000);
-    EXPECT_EQ(plan.FlightPlanMod[4].alt_restr, 3500);  // halfway from the window's lower bound to 4000
-    EXPECT_EQ(plan.FlightPlanMod[4].restr_code, 3);
-    EXPECT_EQ(plan.FlightPlanMod[6].via, "HOLD");
-    EXPECT_EQ(plan.FlightPlanMod[6].alt_restr, 4000);
-    EXPECT_EQ(plan.FlightPlanMod[6].hold_pos, 1);
+    ASSERT_EQ(Idents(plan.FlightPlanMod, plan.mod_cnt), "ORIG DISCO DDFIX RW09 EASTX LONER WWFIX WWFIX DEST");
+    EXPECT_EQ(plan.FlightPlanMod[4].block_above, 3000);
+    EXPECT_EQ(plan.FlightPlanMod[4].block_below, 5000);
+    EXPECT_EQ(plan.FlightPlanMod[5].alt_restr, 3500);  // halfway from the window's lower bound to 4000
+    EXPECT_EQ(plan.FlightPlanMod[5].restr_code, 3);
+    EXPECT_EQ(plan.FlightPlanMod[7].via, "HOLD");
+    EXPECT_EQ(plan.FlightPlanMod[7].alt_restr, 4000);
+    EXPECT_EQ(plan.FlightPlanMod[7].hold_pos, 1);
     SelectApproach(1, 1);
     EXPECT_EQ(Idents(plan.FlightPlanMod, plan.mod_cnt), "ORIG DEST");
     EXPECT_EQ(plan.hold_cnt, 0);
     cfg.IncludeMissedApproach = 0;
     SelectApproach(1, 1);
-    EXPECT_EQ(Idents(plan.FlightPlanMod, plan.mod_cnt), "ORIG DDFIX RW09 DEST");
+    EXPECT_EQ(Idents(plan.FlightPlanMod, plan.mod_cnt), "ORIG DISCO DDFIX RW09 DEST");
     EXPECT_EQ(plan.hold_cnt, 0);
+}
+
+TEST_F(InsertProcedures, AltitudeTokens) {
+    struct Row {
+        const char* token;
+        double sid, star, approach;  // ft; -999 = none
+        int type, approach_type;
+    };
+    constexpr Row kRows[] = {
+        {"0", -999, -999, -999, 0, 0},           {"99", -999, -999, 99, 0, 0},
+        {"999", -999, 999, 999, 0, 0},           {"1000", 1000, 1000, 1000, 0, 0},
+        {"1050", -999, 1050, 1050, 0, 0},        {"900+", -999, 900, 900, 0, 1},
+        {"9000+", 9000, 9000, 9000, 1, 1},       {"08000-", 8000, 8000, 8000, 2, 2},
+        {"-9000", -999, -999, -999, 0, 0},       {"FL240", -999, -999, -999, 0, 0},
+        {"1400018000A", -999, -999, -999, 0, 0},
+    };
+    for (const Row& row : kRows) {
+        const std::string token = row.token;
+        plan = {};
+        Enter("ONE1 AAFIX " + token + " --- 40.5 10.0\n", "09 ILS DDFIX --- " + token + " 43.0 10.0 - 0 0\n",
+              "TWO2 --- CCC " + token + " 42.0 10.0\n");
+        SelectSid(1, 1, false);
+        SelectArrival(1, 1, false);
+        SelectApproach(1, 1);
+        ASSERT_EQ(Idents(plan.FlightPlanMod, plan.mod_cnt), "ORIG AAFIX CCC DISCO DDFIX DEST");
+        const FlightPlanLeg &sid = plan.FlightPlanMod[1], &star = plan.FlightPlanMod[2],
+                            &approach = plan.FlightPlanMod[4];
+        EXPECT_EQ(sid.alt_restr, row.sid) << token;
+        EXPECT_EQ(sid.restr_code, row.sid > 0 ? 1 : 0) << token;
+        EXPECT_EQ(sid.restr_type, row.sid > 0 ? row.type : 0) << token;
+        EXPECT_EQ(star.alt_restr, row.star) << token;
+        EXPECT_EQ(star.restr_type, row.type) << token;
+        EXPECT_EQ(approach.alt_restr, row.approach) << token;
+        EXPECT_EQ(approach.restr_code, row.approach > 0 ? 3 : 2) << token;
+        EXPECT_EQ(approach.restr_type, row.approach_type) << token;
+    }
+}
+
+// Nothing but the two ends: arrival and approach join as in any route, and the departure is flown first.
+TEST_F(InsertProcedures, IntoAnEmptyRoute) {
+    Enter("ONE1 AAFIX 0 --- 40.5 10.0\n",
+          "09 ILS DDFIX IAF 3000 43.0 10.0 - 0 0\n09 ILS RW09 MAP 1250 45.0 9.98 - 0 0\n",
+          "TWO2 --- CCC 0 42.0 10.0\nTWO2 09 DDFIX 0 43.0 10.0\n");
+    SelectApproach(1, 1);
+    EXPECT_EQ(Idents(plan.FlightPlanMod, plan.mod_cnt), "ORIG DISCO DDFIX RW09 DEST");
+    AdvanceRouteState();
+    ExecuteRoute();
+    EXPECT_EQ(plan.stpos, 2);
+    sim.on_ground = 1;
+    SelectArrival(1, 1, false);
+    EXPECT_EQ(Idents(plan.FlightPlanMod, plan.mod_cnt), "ORIG CCC DDFIX RW09 DEST");
+    EXPECT_EQ(plan.mod_stpos, 1);
+    SelectSid(1, 1, false);
+    EXPECT_EQ(Idents(plan.FlightPlanMod, plan.mod_cnt), "ORIG AAFIX CCC DDFIX RW09 DEST");
+    EXPECT_EQ(plan.ActiveLegMod.to, "AAFIX");
+}
+
+// A transition may have legs of its own for each runway.
+TEST_F(InsertProcedures, TransitionsByRunway) {
+    Enter(
+        "T ONE1 RNAV 16,34\nONE1 AAFIX 0 --- 40.5 10.0\nONE1.OUT BBFIX 0 16 41.5 10.0\n"
+        "ONE1.OUT EASTX 0 34 42.0 12.0\nONE1.OUT CCC 0 OUT 42.0 10.0\n",
+        "");
+    SelectSid(1, 1, false);
+    SelectDepartureRunway(1, 2);
+    SelectDepartureTransition(1, 1);
+    EXPECT_EQ(Idents(plan.FlightPlanMod, plan.mod_cnt), "ORIG AAFIX EASTX CCC DEST");
+    SelectDepartureRunway(1, 1);
+    EXPECT_EQ(Idents(plan.FlightPlanMod, plan.mod_cnt), "ORIG AAFIX BBFIX CCC DEST");
 }
 
 TEST_F(InsertProcedures, ListsEndWhereTheyMay) {
