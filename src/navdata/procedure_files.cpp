@@ -80,14 +80,14 @@ bool ListsShareAName(std::string_view list, std::string_view other) {
 // What stands behind the heading "[ICAO]"; empty when there is none.
 std::string_view FindSection(std::string_view text, std::string_view airport) {
     for (std::size_t at = text.find('['); at != std::string_view::npos; at = text.find('[', at + 1)) {
-        const std::size_t end = std::min(text.find('\n', at), text.size());
         const std::size_t before = text.rfind('\n', at);
         const std::size_t start = before == std::string_view::npos ? 0 : before + 1;
         if (!Trimmed(text.substr(start, at - start)).empty()) continue;
-        std::string heading(text.substr(at, std::min(end - at, kLineBound)));
+        std::string_view rest = text.substr(at);
+        std::string heading(NextBoundedLine(rest, kLineBound).value_or(""));
         std::replace_if(
             heading.begin(), heading.end(), [](char c) { return c == '[' || c == ']'; }, ' ');
-        if (EqualIgnoringCase(Trimmed(heading), airport)) return text.substr(end);
+        if (EqualIgnoringCase(Trimmed(heading), airport)) return rest;
     }
     return {};
 }

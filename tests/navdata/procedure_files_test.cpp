@@ -67,12 +67,12 @@ TEST_F(ProcedureFiles, DeparturesOfTheSection) {
 
 TEST_F(ProcedureFiles, ArrivalsOfTheSection) {
     Put("stars.txt",
-        "[ORIG]\n"
-        "T ECHO2 RNAV 16\n"
+        "[ORIG]\r\n"
+        "T ECHO2 RNAV 16\r\n"
         "ECHO2.OUTER EEE EEE 25000 44.0 10.0\n"
-        "ECHO2 --- /LT DDFIX 1400018000B 43.0 10.0 FO\n"
+        "ECHO2 --- /LT DDFIX 1400018000B 43.0 10.0 FO\r\n"
         "ECHO2 16 CCC 9000- 42.0 10.0\n"
-        "ECHO2 16 /H180/VT 0 0 0\n");
+        "ECHO2 16 /H180/VT 0 0 0\r\n");
     LoadStars(airport);
     ASSERT_EQ(airport.star_cnt, 2);
     EXPECT_EQ(Legs(airport.stars[1]), "DDFIX CCC VECTORS");
