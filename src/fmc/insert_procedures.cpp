@@ -246,20 +246,28 @@ int FirstPlace(int leg) {
     return leg;
 }
 
+bool LeadsTo(const ActiveLegRecord& leg, const FlightPlanLeg& fix) {
+    return leg.to == fix.ident && leg.to_lat == fix.lat && leg.to_lon == fix.lon;
+}
+
+// A direct-to ends with its fix.
 void RefreshActiveLeg() {
-    if (plan.fms_fpln_active < kRouteActive || plan.direct_to_pending == 1) return;
-    const int to = PendingActiveLeg();
+    if (plan.fms_fpln_active < kRouteActive) return;
+    const int to = FirstPlace(PendingActiveLeg());
     if (to < 1 || to > plan.mod_cnt) return;
-    const FlightPlanLeg& from_leg = plan.FlightPlanMod[to - 1];
-    const FlightPlanLeg& to_leg = plan.FlightPlanMod[to];
+    if (to != PendingActiveLeg()) SetPendingActiveLeg(to);
+    const FlightPlanLeg& fix = plan.FlightPlanMod[to];
     ActiveLegRecord& leg = plan.ActiveLegMod;
-    if (leg.to == to_leg.ident && leg.to_lat == to_leg.lat && leg.to_lon == to_leg.lon) return;
-    leg.from = from_leg.ident;
-    leg.from_lat = from_leg.lat;
-    leg.from_lon = from_leg.lon;
-    leg.to = to_leg.ident;
-    leg.to_lat = to_leg.lat;
-    leg.to_lon = to_leg.lon;
+    if (LeadsTo(leg, fix)) return;
+    if (std::exchange(plan.direct_to_pending, 0) == 1) leg = plan.ActiveLeg;
+    if (LeadsTo(leg, fix)) return;
+    const FlightPlanLeg& before = plan.FlightPlanMod[std::max(PlaceBefore(plan.FlightPlanMod, to), 0)];
+    leg = {.from = before.ident,
+           .from_lat = before.lat,
+           .from_lon = before.lon,
+           .to = fix.ident,
+           .to_lat = fix.lat,
+           .to_lon = fix.lon};
 }
 
 void Finish() {
@@ -359,7 +367,8 @@ void WriteApproachLegs(int end) {
 void InsertDeparture() {
     EnsureEnds();
     const FlightPlanLeg flown = FlownLeg();
-    const bool from_start = IsAtStart(flown) && (sim.on_ground == 1 || !flown.via_type.starts_with("SID"));
+    const bool on_its_way = flown.via_type.starts_with("SID") || plan.ActiveLegMod.from == "DIRECT";
+    const bool from_start = IsAtStart(flown) && (sim.on_ground == 1 || !on_its_way);
     RemoveProcedure("SID", "STAR");
     PutOrigin();
     const ProcedureLists& lists = procedure_lists;

@@ -119,6 +119,12 @@ TEST_F(InsertProcedures, IntoAnEmptyRoute) {
     SelectSid(1, 1, false);
     EXPECT_EQ(Idents(plan.FlightPlanMod, plan.mod_cnt), "ORIG AAFIX CCC DDFIX RW09 DEST");
     EXPECT_EQ(plan.ActiveLegMod.to, "AAFIX");
+    SelectSid(1, 1, false);
+    SelectArrival(1, 1, false);
+    EXPECT_EQ(Idents(plan.FlightPlanMod, plan.mod_cnt), "ORIG DISCO DDFIX RW09 DEST");
+    EXPECT_EQ(plan.mod_stpos, 2);
+    EXPECT_EQ(plan.ActiveLegMod.to, "DDFIX");
+    EXPECT_EQ(plan.ActiveLegMod.from, "ORIG");
 }
 
 // A transition may have legs of its own for each runway.
