@@ -1,5 +1,6 @@
 #include "fmc/procedure_legs.h"
 
+#include "navdata/geodesy.h"
 #include "navdata/leg_codes.h"
 #include "navdata/magnetic_model.h"
 #include "navdata/procedure_files.h"
@@ -45,7 +46,8 @@ void Collect(const GrowingList<ProcedureRecord>& records, int count, std::string
     }
 }
 
-// The coded legs that a departure begins with were computed for the first runway of its list.
+// Coded legs were computed from what stands before them in the file, at first from the first runway of the
+// list: for this runway other legs stand before them.
 void RecomputeForRunway(GrowingList<ProcedureLeg>& legs, int count, const std::string& runway) {
     const AirportData& airport = airports.origin_airport;
     LegCodeInput input{.start = {},
@@ -59,17 +61,20 @@ void RecomputeForRunway(GrowingList<ProcedureLeg>& legs, int count, const std::s
     for (int i = 1; i <= count; ++i) {
         ProcedureLeg& leg = legs[i];
         LegCode code;
-        if (!ParseLegCode(leg.code, code)) return;
         input.reference = {leg.file_lat, leg.file_lon};
         input.altitude = leg.code_alt;
-        LatLon end;
-        if (ComputeDepartureLeg(code, input, end) != 0) return;
-        leg.start_lat = input.start.lat;
-        leg.start_lon = input.start.lon;
-        leg.lat = end.lat;
-        leg.lon = end.lon;
+        LatLon end{leg.lat, leg.lon};
+        if (!ParseLegCode(leg.code, code)) {
+            const double bearing = GreatCircle(input.start.lat, input.start.lon, end.lat, end.lon).bearing;
+            input.entry_course = bearing - input.variation;
+        } else if (ComputeDepartureLeg(code, input, end) == 0) {
+            leg.start_lat = input.start.lat;
+            leg.start_lon = input.start.lon;
+            leg.lat = end.lat;
+            leg.lon = end.lon;
+            input.entry_course = code.course;
+        }
         input.start = end;
-        input.entry_course = code.course;
     }
 }
 

@@ -5,7 +5,7 @@
 // list.
 
 /// DepartureLegs, at most 80: the SID's legs for the departure runway, then those of the chosen transition.
-/// The coded legs that it begins with are computed anew from the chosen runway.
+/// Its coded legs are computed anew from the chosen runway on.
 void BuildDepartureLegs();
 
 /// ArrivalLegs: those of the chosen transition, then those of the STAR that hold for the runway.

@@ -7,6 +7,7 @@
 #include "fmc/execute_route.h"
 #include "fmc/route_invariants.h"
 #include "fmc/select_procedures.h"
+#include "navdata/geodesy.h"
 #include "state/cfg.h"
 #include "state/plan.h"
 #include "state/procedure_lists.h"
@@ -139,6 +140,22 @@ TEST_F(InsertProcedures, TransitionsByRunway) {
     EXPECT_EQ(Idents(plan.FlightPlanMod, plan.mod_cnt), "ORIG AAFIX EASTX CCC DEST");
     SelectDepartureRunway(1, 1);
     EXPECT_EQ(Idents(plan.FlightPlanMod, plan.mod_cnt), "ORIG AAFIX BBFIX CCC DEST");
+}
+
+// A coded leg for all runways goes on from what the chosen one's legs lead to: 1200 ft up are 3.4966 nm.
+TEST_F(InsertProcedures, CodedLegsFollowTheirRunway) {
+    Enter(
+        "T ONE1 RNAV 16,34\nONE1 RW16 0 16 39.02 9.99\nONE1 RW34 0 34 38.98 10.01\n"
+        "ONE1 /T160/UA 1630 --- 0 0\n",
+        "");
+    SelectSid(1, 1, false);
+    for (int runway : {1, 2}) {
+        SelectDepartureRunway(1, runway);
+        ASSERT_EQ(plan.mod_cnt, 3);
+        const FlightPlanLeg &threshold = plan.FlightPlanMod[1], &end = plan.FlightPlanMod[2];
+        EXPECT_EQ(threshold.ident, runway == 1 ? "RW16" : "RW34");
+        EXPECT_NEAR(GreatCircle(threshold.lat, threshold.lon, end.lat, end.lon).dist, 3.4966, 1e-3);
+    }
 }
 
 TEST_F(InsertProcedures, ListsEndWhereTheyMay) {
