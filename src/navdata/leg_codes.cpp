@@ -190,6 +190,10 @@ bool ParseLegCode(std::string_view text, LegCode& code) {
     return TakeEndCondition(text.substr(5), code);
 }
 
+bool IsProcedureTurn(const LegCode& code, std::string_view role) {
+    return code.letter == 'H' && code.turn != 0 && role != "MAF";
+}
+
 std::string LegCodeIdent(const LegCode& code, std::string_view alt_token) {
     switch (code.until) {
         case LegCode::kIntercept:
@@ -227,5 +231,6 @@ int ComputeArrivalLeg(const LegCode& code, LegCodeInput& input, LatLon& end) {
 }
 
 int ComputeApproachLeg(const LegCode& code, LegCodeInput& input, LatLon& end) {
+    if (IsTowardsFix(code) && !IsProcedureTurn(code, input.role)) OffsetStart(code, input);
     return ComputeLeg(code, input, kMissedClimb, 0, end);
 }

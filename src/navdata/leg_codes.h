@@ -29,14 +29,19 @@ int AltitudeOfToken(std::string_view alt_token);
 
 /// What a coded leg is computed from.
 struct LegCodeInput {
-    LatLon start;              // where the leg begins
-    double entry_course;       // degrees magnetic, on which the aircraft comes to it
-    LatLon reference;          // the fix of the code's line
-    double altitude = 0;       // ft, of the line
-    double elevation = 0;      // ft, of the airport
-    int variation = 0;         // degrees, east positive
-    double climb_speed = 250;  // kt
+    LatLon start;                // where the leg begins
+    double entry_course;         // degrees magnetic, on which the aircraft comes to it
+    LatLon reference;            // the fix of the code's line
+    double altitude = 0;         // ft, of the line
+    double elevation = 0;        // ft, of the airport
+    int variation = 0;           // degrees, east positive
+    double climb_speed = 250;    // kt
+    std::string_view role = {};  // of an approach's leg: "FAF", "MAF" ...
 };
+
+/// A heading with a turn, but for one of the missed approach: it follows a procedure turn, whose two legs
+/// stand before it.
+bool IsProcedureTurn(const LegCode& code, std::string_view role);
 
 constexpr int kLegFails = -99;
 
@@ -44,6 +49,5 @@ constexpr int kLegFails = -99;
 int ComputeDepartureLeg(const LegCode& code, LegCodeInput& input, LatLon& end);
 /// The same rules.
 int ComputeArrivalLeg(const LegCode& code, LegCodeInput& input, LatLon& end);
-/// The same, with the gentler climb of a missed approach. A heading with a turn is what follows a procedure
-/// turn, whose two legs stand before it and end at `start`: it isn't offset again.
+/// The same, with the gentler climb of a missed approach. Behind a procedure turn the turn has been flown.
 int ComputeApproachLeg(const LegCode& code, LegCodeInput& input, LatLon& end);

@@ -223,7 +223,8 @@ bool PlaceLeg(const Reading& reading, const ProcedureRecord& record, ProcedureLe
                        .altitude = leg.code_alt,
                        .elevation = static_cast<double>(reading.airport.elevation_ft),
                        .variation = reading.variation,
-                       .climb_speed = perf.climb_ias > 0 ? perf.climb_ias : 250};
+                       .climb_speed = perf.climb_ias > 0 ? perf.climb_ias : 250,
+                       .role = leg.applies_to};
     LatLon end;
     if (compute(code, input, end) != 0) return false;
     leg.start_lat = input.start.lat;
@@ -391,9 +392,8 @@ void TakeApproachLine(ApproachReading& state, Fields fields) {
     leg.alt2 = ToWholeNumber(fields[9]);
     leg.flyover = fields[10] == "FO" ? 1 : 0;
     LegCode code;
-    const bool procedure_turn =
-        ParseLegCode(leg.code, code) && code.letter == 'H' && code.turn != 0 && leg.applies_to != "MAF";
-    if (procedure_turn) AddProcedureTurn(reading, leg, code);
+    if (ParseLegCode(leg.code, code) && IsProcedureTurn(code, leg.applies_to))
+        AddProcedureTurn(reading, leg, code);
     AddLeg(reading, std::move(leg), ComputeApproachLeg);
 }
 

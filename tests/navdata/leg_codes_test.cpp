@@ -117,6 +117,23 @@ TEST(LegCodes, UntilAnIntercept) {
     end = {7, 7};
     EXPECT_EQ(ComputeDepartureLeg(Code("/H180/IC090"), input, end), kLegFails);
     EXPECT_EQ(end.lat, 7);
+    // A turn right to 090 at 250 kt ends 1.8757 nm north and east of where it began; that to the course of 90
+    // degrees, 1.75 nm along it. Behind a procedure turn only the second is left.
+    struct Row {
+        int (*compute)(const LegCode&, LegCodeInput&, LatLon&);
+        const char* role;
+        double north;
+    };
+    constexpr Row kRows[] = {{ComputeDepartureLeg, "", 1.8757 - 1.75},
+                             {ComputeApproachLeg, "MAF", 1.8757 - 1.75},
+                             {ComputeApproachLeg, "---", -1.75}};
+    for (const Row& row : kRows) {
+        input = {.start = {0, 0}, .entry_course = 0, .reference = {-20 / kNmPerDegree, 30 / kNmPerDegree}};
+        input.role = row.role;
+        ASSERT_EQ(row.compute(Code("/RT/H090/IC180"), input, end), 0);
+        EXPECT_NEAR(NorthNm(end), row.north, 0.01) << row.role;
+        EXPECT_NEAR(EastNm(end), 30, 0.01) << row.role;
+    }
     // Already along the course: reached at once.
     input = {.start = {0, 0}, .entry_course = 90, .reference = {0, 20 / kNmPerDegree}};
     ASSERT_EQ(ComputeDepartureLeg(Code("/H091/IC090"), input, end), 0);
