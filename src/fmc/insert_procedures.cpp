@@ -8,6 +8,7 @@
 #include "fmc/holds.h"
 #include "fmc/leg_list.h"
 #include "fmc/leg_type.h"
+#include "fmc/procedure_legs.h"
 #include "fmc/route.h"
 #include "fmc/route_rows.h"
 #include "navdata/geodesy.h"
@@ -87,6 +88,16 @@ std::string RunwayText(const std::string& runway) {
     return runway == kNotSelected ? std::string() : runway;
 }
 
+FlightPlanLeg ArrivalLeg(int record) {
+    const ProcedureLeg& from = procedure_lists.ArrivalLegs[record];
+    FlightPlanLeg leg = LegOf(from);
+    leg.via_type = "STAR";
+    leg.via = plan.procedures.arr_star;
+    leg.rwy = RunwayText(plan.procedures.arr_appr_rwy);
+    TakeAltitude(from.alt_token, Kind::kStar, leg);
+    return leg;
+}
+
 bool IsSameFix(const FlightPlanLeg& a, const FlightPlanLeg& b) {
     return a.ident == b.ident && IsPlace(a) && a.vector.empty() && b.vector.empty() && b.via != "HOLD" &&
            a.via != "HOLD";
@@ -140,6 +151,12 @@ bool IsOfApproach(const FlightPlanLeg& leg) {
     return leg.appr_wpt_type.starts_with("IAF") || leg.appr_wpt_type == "FAF" || leg.via_type == "APPR";
 }
 
+// The shared leg of two procedures has what the departure says of it; this one knows what the arrival says.
+bool BeginsArrival(const FlightPlanLeg& leg) {
+    BuildArrivalLegs();
+    return procedure_lists.arrival_leg_cnt > 0 && procedure_lists.ArrivalLegs[1].ident == leg.ident;
+}
+
 // Legs that two procedures share stay, as the other's. A break within the procedure goes with it.
 void RemoveProcedure(std::string_view via_type, std::string_view other) {
     bool within = false;
@@ -153,6 +170,12 @@ void RemoveProcedure(std::string_view via_type, std::string_view other) {
         } else if (within && IsDisco(leg)) {
             RemoveModLegs(i, 1);
         } else if (leg.via_type == "SIDSTAR") {
+            if (other == "STAR" && BeginsArrival(leg)) {
+                const int hold = leg.hold_pos;
+                leg = ArrivalLeg(1);
+                leg.hold_pos = hold;
+                continue;
+            }
             const FlightPlanLeg& neighbour = plan.FlightPlanMod[other == "SID" ? i - 1 : i + 1];
             leg.via_type = other;
             // A stored route brings procedures that nobody has selected.
@@ -412,12 +435,7 @@ void InsertArrival() {
     const ProcedureLists& lists = procedure_lists;
     int position = point + 1;
     for (int i = 1; i <= lists.arrival_leg_cnt; ++i) {
-        const ProcedureLeg& from = lists.ArrivalLegs[i];
-        FlightPlanLeg leg = LegOf(from);
-        leg.via_type = "STAR";
-        leg.via = plan.procedures.arr_star;
-        leg.rwy = RunwayText(plan.procedures.arr_appr_rwy);
-        TakeAltitude(from.alt_token, Kind::kStar, leg);
+        FlightPlanLeg leg = ArrivalLeg(i);
         FlightPlanLeg& before = plan.FlightPlanMod[position - 1];
         if (position > 1 && IsSameFix(before, leg)) {
             if (before.via_type == "SID") before.via_type = "SIDSTAR";

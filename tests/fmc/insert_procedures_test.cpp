@@ -128,6 +128,25 @@ TEST_F(InsertProcedures, IntoAnEmptyRoute) {
     EXPECT_EQ(plan.ActiveLegMod.from, "ORIG");
 }
 
+TEST_F(InsertProcedures, ASharedFixGoesBackToTheArrival) {
+    Enter("ONE1 AAFIX 12000+ --- 40.5 10.0 FO\n", "",
+          "TWO2 --- AAFIX 9000- 40.5 10.0\nTWO2 --- CCC 0 42.0 10.0\n");
+    for (bool arrival_first : {true, false}) {
+        if (arrival_first) SelectArrival(1, 1, false);
+        SelectSid(1, 1, false);
+        if (!arrival_first) SelectArrival(1, 1, false);
+        ASSERT_EQ(Idents(plan.FlightPlanMod, plan.mod_cnt), "ORIG AAFIX CCC DEST");
+        EXPECT_EQ(plan.FlightPlanMod[1].via_type, "SIDSTAR");
+        EXPECT_EQ(plan.FlightPlanMod[1].alt_restr, 12000);
+        SelectSid(1, 1, false);
+        ASSERT_EQ(Idents(plan.FlightPlanMod, plan.mod_cnt), "ORIG AAFIX CCC DEST");
+        EXPECT_EQ(plan.FlightPlanMod[1].via_type, "STAR");
+        EXPECT_EQ(plan.FlightPlanMod[1].alt_restr, 9000);
+        EXPECT_EQ(plan.FlightPlanMod[1].flyover, 0);
+        SelectArrival(1, 1, false);
+    }
+}
+
 // A transition may have legs of its own for each runway.
 TEST_F(InsertProcedures, TransitionsByRunway) {
     Enter(
