@@ -16,8 +16,10 @@ namespace {
 
 using Names = std::vector<std::string>;
 
+// A name that is there already is mostly the last one.
 void AddOnce(Names& names, std::string_view name) {
-    if (!name.empty() && std::find(names.begin(), names.end(), name) == names.end()) names.emplace_back(name);
+    if (!name.empty() && std::find(names.rbegin(), names.rend(), name) == names.rend())
+        names.emplace_back(name);
 }
 
 Names BaseNames(const GrowingList<ProcedureRecord>& records, int count) {
