@@ -31,11 +31,6 @@ constexpr CduKey kKeys[] = {
 };
 constexpr std::string_view kClearMessage = "CLRMSG";
 
-bool IsLeft(const Word& side) {
-    if (side.text != "L" && side.text != "R") throw CommandError{"\"" + side.text + "\" is no side; L or R"};
-    return side.text == "L";
-}
-
 void Tick(Scenario& scenario) {
     TickScenario(scenario, false);
 }
@@ -73,7 +68,7 @@ void Type(Scenario& scenario, bool left, char c) {
 }
 
 void Keys(Scenario& scenario, const std::vector<Word>& words) {
-    const bool left = IsLeft(words[1]);
+    const bool left = IsLeftSide(words[1]);
     for (const char c : words[2].text) Type(scenario, left, c);
 }
 
@@ -94,7 +89,7 @@ void PressCdu(Scenario& scenario, bool left, const std::string& name) {
 }
 
 void Cdu(Scenario& scenario, const std::vector<Word>& words) {
-    const bool left = IsLeft(words[1]);
+    const bool left = IsLeftSide(words[1]);
     for (std::size_t i = 2; i < words.size(); ++i) PressCdu(scenario, left, words[i].text);
 }
 

@@ -40,13 +40,8 @@ void Press(Scenario& scenario, const std::vector<Word>& words) {
     throw CommandError{words[1].text + " has no area \"" + words[2].text + "\"; " + known};
 }
 
-char SideWord(const Word& word) {
-    if (word.text != "L" && word.text != "R") throw CommandError{"\"" + word.text + "\" is no side; L or R"};
-    return word.text[0];
-}
-
 void Efb(Scenario& scenario, const std::vector<Word>& words) {
-    const char* gauge = SideWord(words[1]) == 'L' ? "CAPT_EFB" : "FO_EFB";
+    const char* gauge = IsLeftSide(words[1]) ? "CAPT_EFB" : "FO_EFB";
     const double x = NumberWord(words[2], "an x"), y = NumberWord(words[3], "a y");
     if (!(x >= 0 && x < 340 && y >= 0 && y < 448))
         throw CommandError{words[2].text + ' ' + words[3].text +

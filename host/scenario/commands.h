@@ -4,7 +4,7 @@
 
 #include "host/scenario/scenario.h"
 
-// Groups of commands; commands.cpp joins them into the table.
+// Groups of commands, which scenario.cpp joins into the table, and what several groups use.
 
 namespace host {
 
@@ -24,5 +24,11 @@ void TickScenario(Scenario& scenario, bool paused_frame);
 /// A number word; throws CommandError that names what it should be.
 double NumberWord(const Word& word, std::string_view what);
 int IntWord(const Word& word, std::string_view what);
+
+/// "L", the captain's, or "R"; throws CommandError for another word.
+bool IsLeftSide(const Word& word);
+
+/// The words behind the command's name as one text, a blank between.
+std::string Rest(const std::vector<Word>& words);
 
 }  // namespace host

@@ -136,10 +136,6 @@ void Warp(Scenario&, const std::vector<Word>& words) {
     FillClockTokens();
 }
 
-void NotYet(Scenario&, const std::vector<Word>&) {
-    throw CommandError{"not available yet"};
-}
-
 }  // namespace
 
 std::vector<Command> HostSideCommands() {
@@ -160,8 +156,8 @@ std::vector<Command> HostSideCommands() {
         {"oat", "C", "oat 15", Command::kAnytime, 1, 1, Oat},
         {"qnh", "HPA", "qnh 1013.25", Command::kAnytime, 1, 1, Qnh},
         {"runways", "ICAO RWY...", "runways KSEA 16L 16R", Command::kAnytime, 1, 5, Runways},
-        {"traffic", "ID LAT LON ALT_FT VS_FPM HDG | clear", "", Command::kAnytime, 1, 6, NotYet},
-        {"url", "ADDRESS FILE", "", Command::kAnytime, 2, 2, NotYet},
+        {"traffic", "ID LAT LON ALT_FT VS_FPM HDG | clear", "", Command::kAnytime, 1, 6, nullptr},
+        {"url", "ADDRESS FILE", "", Command::kAnytime, 2, 2, nullptr},
         {"remote", "DEVICE key CODE | touch X Y", "remote 0 key 20", Command::kAfter, 3, 4, Remote},
         {"warp", "X", "warp 4", Command::kAnytime, 1, 1, Warp},
     };

@@ -26,12 +26,6 @@ void Expect(Scenario& scenario, const std::vector<Word>& words) {
     if (!Holds(scenario, condition, have)) TellFailure(scenario, condition, have);
 }
 
-std::string Rest(const std::vector<Word>& words) {
-    std::string text;
-    for (std::size_t i = 1; i < words.size(); ++i) text += (i > 1 ? " " : "") + words[i].text;
-    return text;
-}
-
 void Vars(Scenario& scenario, const std::vector<Word>& words) {
     const std::string pattern = Rest(words);
     for (const auto& [name, type] : Inspect(InspectionOf(scenario).list_variables, ""))
@@ -47,7 +41,6 @@ constexpr const char* kLegs = "legs";
 constexpr const char* kRows = "rows";
 constexpr const char* kCandidates = "candidates";
 constexpr const char* kMessages = "messages";
-constexpr const char* kAlerts = "alerts";
 
 constexpr const char* kText = "text";
 constexpr const char* kDraws = "draws";
@@ -98,10 +91,6 @@ void Log(Scenario& scenario, const std::vector<Word>& words) {
     scenario.out << Rest(words) << '\n';
 }
 
-void NotYet(Scenario&, const std::vector<Word>&) {
-    throw CommandError{"not available yet"};
-}
-
 }  // namespace
 
 std::vector<Command> LookingCommands() {
@@ -114,11 +103,11 @@ std::vector<Command> LookingCommands() {
         {"rows", "", "rows", Command::kAfter, 0, 0, PrintList<kRows>},
         {"candidates", "\"ENTRY\"", "candidates \"N45W120\"", Command::kAfter, 1, 1, PrintList<kCandidates>},
         {"messages", "L|R", "messages L", Command::kAfter, 1, 1, PrintList<kMessages>},
-        {"alerts", "", "", Command::kAfter, 0, 0, PrintList<kAlerts>},
+        {"alerts", "", "", Command::kAfter, 0, 0, nullptr},
         {"text", "SCREEN", "text capt_outb", Command::kAfter, 1, 1, PrintPicture<kText>},
         {"draws", "SCREEN", "draws stby", Command::kAfter, 1, 1, PrintPicture<kDraws>},
         {"shot", "SCREEN FILE.png [SCALE]", "shot lower lower.png 2", Command::kAfter, 2, 3, Shot},
-        {"sounds", "", "", Command::kAfter, 0, 0, NotYet},
+        {"sounds", "", "", Command::kAfter, 0, 0, nullptr},
         {"events", "", "events", Command::kAfter, 0, 0, Events},
         {"lvars", "[PATTERN]", "lvars TZ_OH_*", Command::kAfter, 0, 1, Lvars},
         {"call", "FUNCTION ARG...", "call GreatCircle 47 -122 45 -122", Command::kAfter, 1, 20, Call},

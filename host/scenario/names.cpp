@@ -86,10 +86,6 @@ std::string PictureDraws(Scenario& scenario, const std::string& screen) {
     return PrintedPicture(scenario, "draws", screen);
 }
 
-std::string NotYet(Scenario&, const std::string&) {
-    throw CommandError{"not available yet"};
-}
-
 struct NameSpace {
     std::string_view prefix;
     std::string (*value)(Scenario&, const std::string& rest);
@@ -118,8 +114,7 @@ std::string ValueOfName(Scenario& scenario, const Word& name) {
         if (name.text.starts_with(space.prefix))
             return space.value(scenario, name.text.substr(space.prefix.size()));
     if (name.text == "events") return EventsText();
-    if (name.text == "alerts") return PrintedList(scenario, "alerts", "");
-    if (name.text == "sounds") return NotYet(scenario, "");
+    if (name.text == "alerts" || name.text == "sounds") return PrintedList(scenario, name.text, "");
     const Results results = Inspect(InspectionOf(scenario).read_variable, name.text.c_str());
     return results.empty() ? std::string() : results.front().second;
 }

@@ -34,6 +34,17 @@ int IntWord(const Word& word, std::string_view what) {
     return *number;
 }
 
+bool IsLeftSide(const Word& word) {
+    if (word.text != "L" && word.text != "R") throw CommandError{"\"" + word.text + "\" is no side; L or R"};
+    return word.text == "L";
+}
+
+std::string Rest(const std::vector<Word>& words) {
+    std::string text;
+    for (std::size_t i = 1; i < words.size(); ++i) text += (i > 1 ? " " : "") + words[i].text;
+    return text;
+}
+
 namespace {
 
 std::string Form(const Command& command) {
@@ -58,6 +69,7 @@ void RunLine(Scenario& scenario, const std::string& line) {
         throw CommandError{"`" + name + "` stands before `start`"};
     if (command->when == Command::kAfter && !scenario.started)
         throw CommandError{"`" + name + "` stands behind `start`"};
+    if (command->run == nullptr) throw CommandError{"`" + name + "` is not available yet"};
     command->run(scenario, *words);
 }
 
@@ -125,10 +137,9 @@ std::string ScenarioHelp() {
     std::string help = "Commands, one a line; an example of each that is available behind it:\n";
     for (const Command& command : Commands()) {
         const std::string form = Form(command);
-        help +=
-            "  " + form + "\n      " +
-            (command.example.empty() ? std::string("(not available yet)") : std::string(command.example)) +
-            "\n";
+        help += "  " + form + "\n      " +
+                (command.run == nullptr ? std::string("(not available yet)") : std::string(command.example)) +
+                "\n";
     }
     return help;
 }

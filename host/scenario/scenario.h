@@ -8,7 +8,7 @@
 #include "host/session.h"
 
 // The scenario language: one command a line, the whole system driven through the host boundary, always with
-// the same result. commands.cpp is the table of commands, names.cpp answers the names of get and expect.
+// the same result. Commands() is the table of commands, names.cpp answers the names of get and expect.
 
 namespace host {
 
@@ -37,8 +37,8 @@ struct Command {
     std::string_view example;
     enum When { kBefore, kAfter, kAnytime } when;
     std::size_t least_words, most_words;  // behind the name
-    void (*run)(Scenario& scenario,
-                const std::vector<Word>& words);  // throws CommandError; words[0] is the name
+    /// Throws CommandError; words[0] is the name. Null for a command that isn't available yet.
+    void (*run)(Scenario& scenario, const std::vector<Word>& words);
 };
 
 /// The table of commands, in the order of their help.

@@ -17,15 +17,11 @@ void Navdata(Scenario& scenario, const std::vector<Word>& words) {
 }
 
 void AircraftTitle(Scenario& scenario, const std::vector<Word>& words) {
-    std::string title = words[1].text;
-    for (std::size_t i = 2; i < words.size(); ++i) title += ' ' + words[i].text;
-    scenario.session.settings.title = title;
+    scenario.session.settings.title = Rest(words);
 }
 
 void Cfg(Scenario& scenario, const std::vector<Word>& words) {
-    std::string line = words[1].text;
-    for (std::size_t i = 2; i < words.size(); ++i) line += ' ' + words[i].text;
-    scenario.session.settings.cfg_lines.push_back(line);
+    scenario.session.settings.cfg_lines.push_back(Rest(words));
 }
 
 void Date(Scenario& scenario, const std::vector<Word>& words) {

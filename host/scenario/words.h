@@ -12,9 +12,8 @@ struct Word {
     std::string raw;   // as it stands in the line, for messages
 };
 
-/// Splits a line at blanks. A text with blanks stands in double quotes, also within a word (call:"F 1
-/// 2".dist);
-/// `#` at a word's start begins a comment. Nothing when a quote is left open.
+/// Splits a line at blanks. A text with blanks stands in double quotes, also within a word, as in
+/// call:"F 1 2".dist; `#` at a word's start begins a comment. Nothing when a quote is left open.
 std::optional<std::vector<Word>> SplitWords(std::string_view line);
 
 /// A whole number, decimal or 0x hexadecimal.
