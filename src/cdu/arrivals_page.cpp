@@ -123,7 +123,7 @@ void OnApproachItem(PageCall& call, int item) {
 }
 
 void OnLine(PageCall& call, const ProcedureColumn& left, const ProcedureColumn& right, int page) {
-    if (call.line == kL6 || call.line == kR6) return OnProcedureLastLine(call);
+    if (LineRow(call.line) == 6) return OnProcedureLastLine(call);
     if (const int row = LeftLine(call.line); row > 0) {
         if (const int item = ItemAtRow(left, page, row); item > 0) OnStarItem(call, item);
     } else if (const int item = ItemAtRow(right, page, RightLine(call.line)); item > 0) {

@@ -45,10 +45,9 @@ void DrawFace(Graphics& graphics) {
 }
 
 void DrawLineKey(Graphics& graphics, const CduState& unit, int line) {
-    const int row = LeftLine(line) + RightLine(line);
     const bool left = LeftLine(line) > 0;
     const bool bright = unit.line_selectable[static_cast<std::size_t>(line)] != 0;
-    const int x = left ? kLeftKeyX : kRightKeyX, y = LineKeyY(row);
+    const int x = left ? kLeftKeyX : kRightKeyX, y = LineKeyY(LineRow(line));
     const double middle = y + kLineKeyHeight / 2.0;
     if (IsPressed(unit, line)) FilledBox(graphics, x, y, kLineKeyWidth, kLineKeyHeight, kPressed);
     BoxOutline(graphics, x, y, kLineKeyWidth, kLineKeyHeight, bright ? kWhite : kDark);
@@ -106,8 +105,7 @@ void DrawMessageWindow(Graphics& graphics, const CduState& unit) {
 
 // A flag around the text of the line: nine segments from the key and back.
 void OutlineLine(Graphics& graphics, int line) {
-    const int row = LeftLine(line) + RightLine(line);
-    const float y = static_cast<float>(LineKeyY(row)), middle = y + 9.5f;
+    const float y = static_cast<float>(LineKeyY(LineRow(line))), middle = y + 9.5f;
     const bool left = LeftLine(line) > 0;
     const float key = left ? 9 : 274, text = left ? 139 : 145, stub = left ? 27 : 257, turn = left ? 31 : 253;
     const PaintPoint points[] = {{key, y - 1},  {stub, y - 1}, {stub, middle - 3}, {turn, middle - 3},
@@ -121,8 +119,7 @@ void DrawCursor(Graphics& graphics, const CduState& unit) {
     for (const SoftKey& key : SoftKeys())
         if (key.item == unit.ItemCursor)
             BoxOutline(graphics, key.x, key.y, kSoftKeyWidth, kSoftKeyHeight, kMapGreen);
-    if (LeftLine(unit.ItemCursor) > 0 || RightLine(unit.ItemCursor) > 0)
-        OutlineLine(graphics, unit.ItemCursor);
+    if (LineRow(unit.ItemCursor) > 0) OutlineLine(graphics, unit.ItemCursor);
 }
 
 }  // namespace

@@ -56,12 +56,12 @@ bool HasSomethingPending(const CduState& unit) {
 
 void CallPage(Graphics& graphics, int side, int line) {
     CduState& unit = CduOf(side);
-    PageCall call{graphics, side, line, unit};
+    PageCall call{graphics, side, LineRow(line) > 0 ? line : 0, unit};
     unit.line_selectable = {};
     const CduPage* page = FindPage(unit.fms_page);
     if (page == nullptr) return;
-    const bool can_delete = ((page->delete_lines >> line) & 1U) != 0;
-    if (line > 0 && IsDelete(call) && !can_delete) {
+    const bool can_delete = ((page->delete_lines >> call.line) & 1U) != 0;
+    if (call.line > 0 && IsDelete(call) && !can_delete) {
         RefuseDelete(call);
         call.line = 0;
     }

@@ -43,7 +43,7 @@ int PageCount(const ProcedureColumn& left, const ProcedureColumn& right) {
 }
 
 void OnLine(PageCall& call, const ProcedureColumn& left, const ProcedureColumn& right, int page) {
-    if (call.line == kL6 || call.line == kR6) return OnProcedureLastLine(call);
+    if (LineRow(call.line) == 6) return OnProcedureLastLine(call);
     if (const int item = LeftLine(call.line) > 0 ? ItemAtRow(left, page, LeftLine(call.line)) : 0; item > 0) {
         if (!SidIsChosen())
             SelectSid(call.side, item, false);

@@ -132,6 +132,16 @@ void PressSoftKey(int side, int item, bool by_enter) {
     }
 }
 
+bool IsSoftKey(int item) {
+    return item >= kItemInitRef && item <= kItemNextPage;
+}
+
+// What is heard and seen of any press.
+void ShowPress(CduState& unit, int item) {
+    RequestCue(kCueKeyClick);
+    unit.KeyPressTimer[static_cast<std::size_t>(item)] = kPressTicks;
+}
+
 bool IsModeKey(int item) {
     return item >= kItemInitRef && item <= kItemNavRad && item != kItemExec && item != kItemFmcComm;
 }
@@ -154,11 +164,10 @@ int CduSideOf(int display_unit, int half) {
 }
 
 void OnCduKeyPress(int side, int item) {
-    const bool is_line = LeftLine(item) > 0 || RightLine(item) > 0;
-    if (!is_line && (item < kItemInitRef || item > kItemNextPage)) return;
+    const bool is_line = LineRow(item) > 0;
+    if (!is_line && !IsSoftKey(item)) return;
     CduState& unit = CduOf(side);
-    RequestCue(kCueKeyClick);
-    unit.KeyPressTimer[static_cast<std::size_t>(item)] = kPressTicks;
+    ShowPress(unit, item);
     if (is_line) {
         unit.PendingLine = item;
         return;
@@ -168,8 +177,8 @@ void OnCduKeyPress(int side, int item) {
 }
 
 void EnterSoftKey(int side, int item) {
-    RequestCue(kCueKeyClick);
-    CduOf(side).KeyPressTimer[static_cast<std::size_t>(item)] = kPressTicks;
+    if (!IsSoftKey(item)) return;
+    ShowPress(CduOf(side), item);
     PressSoftKey(side, item, true);
 }
 

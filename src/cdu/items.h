@@ -26,7 +26,7 @@ void OnCduClick(double x, double y, int display_unit);
 /// Presses an item as a click on it would; a number that is no item does nothing.
 void OnCduKeyPress(int side, int item);
 
-/// The item under the cursor is pressed with Enter: a soft key as the keyboard has it.
+/// Presses a soft key as the keyboard's Enter does; a number that is none does nothing.
 void EnterSoftKey(int side, int item);
 
 /// CLR MSG: the newest message goes when the press is over. Nothing without a message.

@@ -440,7 +440,7 @@ void LegsPage(PageCall& call) {
     TurnPages(call, page, PageCount());
     const int first = FirstLeg() + (page - 1) * kLegsPerPage;
     const int left = LeftLine(call.line), right = RightLine(call.line);
-    if (left == 6 || right == 6)
+    if (LineRow(call.line) == 6)
         OnLastLine(call);
     else if (left > 0)
         OnFix(call, first + left - 1);

@@ -76,6 +76,10 @@ int RightLine(int line) {
     return line >= kR1 && line <= kR6 ? line - kR1 + 1 : 0;
 }
 
+int LineRow(int line) {
+    return LeftLine(line) + RightLine(line);
+}
+
 void MarkSelectable(PageCall& call, int line) {
     call.unit.line_selectable[static_cast<std::size_t>(line)] = 1;
 }

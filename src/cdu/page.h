@@ -69,9 +69,11 @@ void CopyDown(PageCall& call, std::string_view text);
 void TurnPages(PageCall& call, int& index, int count);
 void GoToPage(int side, int page);
 
-/// 1 to 6 for a line key of the left or right column; 0 for one of the other column, and for none.
+/// The row, 1 to 6, of a line key of the left or right column, or of either; 0 for one of the other column,
+/// and for a number that is no line key.
 int LeftLine(int line);
 int RightLine(int line);
+int LineRow(int line);
 
 // --- what the crew sees
 

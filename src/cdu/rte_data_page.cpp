@@ -127,7 +127,7 @@ void RteDataPage(PageCall& call) {
     TurnPages(call, page, PageCount());
     const int first = FirstLeg() + (page - 1) * kLegsPerPage;
     const int right = RightLine(call.line);
-    if (call.line == kL6 || call.line == kR6)
+    if (LineRow(call.line) == 6)
         OnLastLine(call);
     else if (right > 0)
         OpenWinds(call, first + right - 1);

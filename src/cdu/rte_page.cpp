@@ -36,7 +36,7 @@ bool HasOrigin() {
 // What an end shows: a modification's value stands on a highlight.
 void DrawEnd(PageCall& call, int line, const std::string& active, const std::string& modified) {
     const bool left = LeftLine(line) > 0;
-    const int row = LeftLine(line) + RightLine(line);
+    const int row = LineRow(line);
     const bool in_mod = plan.fms_fpln_active == kRouteModified;
     const std::string& value = in_mod ? modified : active;
     if (value == kNotSelected)
@@ -314,13 +314,13 @@ void RtePage(PageCall& call) {
     int& index = call.unit.rte_index;
     TurnPages(call, index, PageCount());
     const int first_row = FirstShownRow() + (index - 2) * kRowsPerPage;
-    const int left = LeftLine(call.line), right = RightLine(call.line);
-    if (left == 6 || right == 6)
+    const int row = LineRow(call.line);
+    if (row == 6)
         OnLastLine(call);
-    else if (index == 1 && call.line > 0)
+    else if (row > 0 && index == 1)
         OnEndsLine(call);
-    else if (call.line > 0)
-        OnRow(call, first_row + left + right - 1);
+    else if (row > 0)
+        OnRow(call, first_row + row - 1);
 
     Title(call, 132, "RTE 1", plan.fms_fpln_active == kRouteActive ? kMapGreen : kWhite);
     RouteStatusMark(call, 110);

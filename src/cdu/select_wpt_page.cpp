@@ -65,8 +65,7 @@ void SelectWptPage(PageCall& call) {
     int& page = call.unit.select_index;
     TurnPages(call, page, PageCount());
     const int first = (page - 1) * kPerPage;
-    const int row = LeftLine(call.line) + RightLine(call.line);
-    if (row > 0) Pick(call, first + row);
+    if (const int row = LineRow(call.line)) Pick(call, first + row);
 
     Title(call, 75, "SELECT DESIRED WPT");
     PageText(call, 220, 28, Format("%2d/%2d", page, PageCount()), kWhite, kLabelSize);

@@ -181,9 +181,9 @@ void WindPage(PageCall& call) {
     for (int tries = 0; tries < count && !IsPlace(ShownLeg(first + place - 1)); ++tries)
         place = (place - 1 + step) % count + 1;
     call.unit.wind_leg = first + place - 1;
-    if (!IsPlace(LegShown(call)) && call.line != kL6 && call.line != kR6) call.line = 0;
+    if (!IsPlace(LegShown(call)) && LineRow(call.line) != 6) call.line = 0;
     const int left = LeftLine(call.line), right = RightLine(call.line);
-    if (left == 6 || right == 6)
+    if (LineRow(call.line) == 6)
         OnLastLine(call);
     else if (left >= 1 && left <= kWindRows)
         OnAltitude(call, left);

@@ -1,5 +1,6 @@
 #include "guidance/holds.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -139,6 +140,8 @@ void HoldUpdate() {
         if (lnav.holding == 1) StopHolding();
         return;
     }
+    lnav.hold_point = std::clamp(lnav.hold_point, 0, kLastPoint);  // the points are indexed by them
+    lnav.hold_prev_point = std::clamp(lnav.hold_prev_point, 0, kLastPoint);
     HoldRecord& hold = plan.HoldList[index];
     TakeVariation(hold);
     const Pattern pattern = LayPattern(hold);

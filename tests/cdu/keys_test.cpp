@@ -243,6 +243,13 @@ TEST_F(CduKeys, TheKeyboardCursorGoesRound) {
     Ticks(1);
     EXPECT_EQ(cdu[0].fms_page, kPagePerfInit);
     EXPECT_EQ(cdu[0].ItemCursor, 17);
+    // a cursor or a line that was set to a number which is none presses nothing
+    cdu[0].fms_page = kPageDepArrIndex;
+    cdu[0].ItemCursor = 5000;
+    cdu[0].PendingLine = 200;
+    keyboard.keyboard_code = 5;
+    Ticks(1);
+    EXPECT_EQ(cdu[0].fms_page, kPageDepArrIndex);
 }
 
 // More approaches and runways than the eight pages of a departure list: the last must still be in reach.

@@ -76,6 +76,9 @@ TEST_F(HoldsTest, TheVariationIsTakenNearTheFix) {
 }
 
 TEST_F(HoldsTest, IsEnteredAtTheFixAndFlownRound) {
+    lnav.hold_point = lnav.hold_prev_point = 1000;  // set to what is no point
+    RunASecond();
+    lnav.hold_point = lnav.holding = 0;
     PlaceAt(0, 0.47, 90);  // 1.8 nm: a quarter of the pattern's 6 nm is 1.5
     RunASecond();
     EXPECT_EQ(lnav.holding, 0);
