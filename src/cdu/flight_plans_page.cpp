@@ -1,6 +1,5 @@
 #include "cdu/flight_plans_page.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "cdu/page.h"
@@ -14,7 +13,7 @@ namespace {
 constexpr int kPerPage = 6;
 
 int PageCount() {
-    return std::max(1, (route_files.route_file_cnt + kPerPage - 1) / kPerPage);
+    return PagesFor(route_files.route_file_cnt, kPerPage);
 }
 
 const std::string& FileAt(int place) {

@@ -150,7 +150,7 @@ bool IsModeKey(int item) {
 
 void OpenHoldSelection(int side) {
     LeaveLegsView();
-    route_pages.LegsView = 2;
+    route_pages.LegsView = kHoldView;
     OpenLegs(side);
 }
 

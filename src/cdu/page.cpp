@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "fmc/route.h"
+#include "fmc/route_rows.h"
 #include "frame/crew_messages.h"
 #include "paint/painter.h"
 #include "platform/text.h"
@@ -57,6 +58,10 @@ void CopyDown(PageCall& call, std::string_view text) {
     call.unit.ScratchPad = text;
 }
 
+int PagesFor(int rows, int rows_per_page) {
+    return std::max(1, (rows + rows_per_page - 1) / rows_per_page);
+}
+
 void TurnPages(PageCall& call, int& index, int count) {
     if (call.unit.PrevPagePending == 1) index = index <= 1 ? count : index - 1;
     if (call.unit.NextPagePending == 1) index = index >= count ? 1 : index + 1;
@@ -66,6 +71,19 @@ void TurnPages(PageCall& call, int& index, int count) {
 
 void GoToPage(int side, int page) {
     CduOf(side).fms_page = page;
+}
+
+void LegsChanged(PageCall& call) {
+    RebuildRouteRows();
+    OpenModification();
+    ClearEntry(call);
+}
+
+bool TakeErase(PageCall& call) {
+    if (call.line != kL6 || plan.fms_fpln_active != kRouteModified) return false;
+    EraseModification();
+    ClearEntry(call);
+    return true;
 }
 
 int LeftLine(int line) {
@@ -181,6 +199,10 @@ void RightBoxes(PageCall& call, int row, int count) {
 
 void EntryFrame(PageCall& call, int x, int y, int width) {
     BoxOutline(call.graphics, x, y, width, 14, kBorder);
+}
+
+void ErasePrompt(PageCall& call, std::string_view otherwise) {
+    LeftData(call, 6, plan.fms_fpln_active == kRouteModified ? "<ERASE" : otherwise);
 }
 
 void DashLine(PageCall& call) {

@@ -13,36 +13,6 @@
 constexpr int kL1 = 1, kL2 = 2, kL3 = 3, kL4 = 4, kL5 = 5, kL6 = 6;
 constexpr int kR1 = 9, kR2 = 10, kR3 = 11, kR4 = 12, kR5 = 13, kR6 = 14;
 
-// Page ids, as panel state files keep them.
-constexpr int kPageFlightPlans = 1;
-constexpr int kPagePerfInit = 3;
-constexpr int kPageLegs = 6;
-constexpr int kPageSelectWpt = 9;
-constexpr int kPageDepartures = 10;
-constexpr int kPageArrivals = 11;
-constexpr int kPageApproachRef = 12;
-constexpr int kPageVnav = 15;
-constexpr int kPagePanels = 20;
-constexpr int kPageRte = 22;
-constexpr int kPageInitRefIndex = 23;
-constexpr int kPageDepArrIndex = 24;
-constexpr int kPageIdent = 25;
-constexpr int kPagePosInit = 26;
-constexpr int kPageTakeoffRef = 27;
-constexpr int kPageRefNavData = 28;
-constexpr int kPageProgress = 33;
-constexpr int kPageFixInfo = 37;
-constexpr int kPageHold = 39;
-constexpr int kPageNavRadio = 49;
-constexpr int kPageAltn = 51;
-constexpr int kPageThrustLim = 52;
-constexpr int kPageAltnDetail = 53;
-constexpr int kPagePosReport = 54;
-constexpr int kPageRteData = 55;
-constexpr int kPageAnnouncements = 56;
-constexpr int kPageDescentForecast = 57;
-constexpr int kPageWind = 58;
-
 /// One call of a page.
 struct PageCall {
     Graphics& graphics;
@@ -65,9 +35,16 @@ void Refuse(PageCall& call, std::string_view title, int help_id);
 void RefuseDelete(PageCall& call);
 /// A value goes down to the scratchpad.
 void CopyDown(PageCall& call, std::string_view text);
+/// The pages that some rows fill, at least one.
+int PagesFor(int rows, int rows_per_page);
 /// Moves the index of a family of `count` pages by what PREV PAGE and NEXT PAGE ask, with wrap-around.
 void TurnPages(PageCall& call, int& index, int count);
 void GoToPage(int side, int page);
+/// An entry has changed the legs of the working copy: the rows follow, and a modification is open.
+void LegsChanged(PageCall& call);
+/// <ERASE of the sixth line, the prompt while a modification waits for EXEC. True when one has been thrown
+/// away.
+bool TakeErase(PageCall& call);
 
 /// The row, 1 to 6, of a line key of the left or right column, or of either; 0 for one of the other column,
 /// and for a number that is no line key.
@@ -114,5 +91,7 @@ void LeftBoxes(PageCall& call, int row, int count);
 void RightBoxes(PageCall& call, int row, int count);
 /// The frame behind a value that may be entered.
 void EntryFrame(PageCall& call, int x, int y, int width);
+/// "<ERASE" while a modification waits for EXEC, else another prompt, on the left of the sixth line.
+void ErasePrompt(PageCall& call, std::string_view otherwise);
 /// The line of dashes above the sixth line.
 void DashLine(PageCall& call);

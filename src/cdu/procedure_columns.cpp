@@ -23,7 +23,7 @@ const ProcedureItem* ItemOn(const ProcedureColumn& column, int page, int row) {
 
 int ProcedurePageCount(const ProcedureColumn& left, const ProcedureColumn& right) {
     const int most = static_cast<int>(std::max(left.size(), right.size()));
-    return std::max(1, (most + kProcedureRows - 1) / kProcedureRows);
+    return PagesFor(most, kProcedureRows);
 }
 
 int ItemAtRow(const ProcedureColumn& column, int page, int row) {
@@ -59,7 +59,7 @@ void DrawProcedureColumns(PageCall& call, const ProcedureColumn& left, const Pro
         }
     }
     DashLine(call);
-    LeftData(call, 6, plan.fms_fpln_active == kRouteModified ? "<ERASE" : "<INDEX");
+    ErasePrompt(call, "<INDEX");
     RightData(call, 6, "ROUTE>");
     MarkSelectable(call, kL6);
     MarkSelectable(call, kR6);
@@ -67,7 +67,5 @@ void DrawProcedureColumns(PageCall& call, const ProcedureColumn& left, const Pro
 
 void OnProcedureLastLine(PageCall& call) {
     if (call.line == kR6) return GoToPage(call.side, kPageRte);
-    if (plan.fms_fpln_active != kRouteModified) return GoToPage(call.side, kPageDepArrIndex);
-    EraseModification();
-    ClearEntry(call);
+    if (!TakeErase(call)) GoToPage(call.side, kPageDepArrIndex);
 }

@@ -23,12 +23,8 @@ constexpr int kLegsPerPage = 5;
 constexpr double kPoundsPerKg = 2.20462262185;
 constexpr double kUsableGroundSpeed = 60;  // kt; below it the planned one counts
 
-int FirstLeg() {
-    return std::max(1, ShownActiveLeg());
-}
-
 int PageCount() {
-    return std::max(1, (ShownCount() - FirstLeg() + kLegsPerPage) / kLegsPerPage);
+    return PagesFor(ShownCount() - FirstShownLeg() + 1, kLegsPerPage);
 }
 
 struct Arrival {
@@ -99,12 +95,7 @@ void OnLastLine(PageCall& call) {
         if (plan.fms_fpln_active < kRouteActivated) return;
         return winds.wind_uplink_pending == 1 ? LoadWinds(call) : RequestWinds(call);
     }
-    if (plan.fms_fpln_active == kRouteModified) {
-        EraseModification();
-        ClearEntry(call);
-    } else {
-        GoToPage(call.side, kPageLegs);
-    }
+    if (!TakeErase(call)) GoToPage(call.side, kPageLegs);
 }
 
 void DrawRow(PageCall& call, int row, int leg, const Arrival& arrival) {
@@ -125,7 +116,7 @@ void DrawRow(PageCall& call, int row, int leg, const Arrival& arrival) {
 void RteDataPage(PageCall& call) {
     int& page = call.unit.rte_data_index;
     TurnPages(call, page, PageCount());
-    const int first = FirstLeg() + (page - 1) * kLegsPerPage;
+    const int first = FirstShownLeg() + (page - 1) * kLegsPerPage;
     const int right = RightLine(call.line);
     if (LineRow(call.line) == 6)
         OnLastLine(call);
@@ -140,12 +131,12 @@ void RteDataPage(PageCall& call) {
     PageText(call, 155, LabelY(1), "FUEL", kCyan, kLabelSize);
     RightLabel(call, 1, "WIND");
     Arrival arrival{0, sim.total_fuel};
-    for (int leg = FirstLeg(); leg < first + kLegsPerPage && leg <= ShownCount(); ++leg) {
+    for (int leg = FirstShownLeg(); leg < first + kLegsPerPage && leg <= ShownCount(); ++leg) {
         FlyTo(arrival, leg);
         if (leg >= first) DrawRow(call, leg - first + 1, leg, arrival);
     }
     DashLine(call);
-    LeftData(call, 6, plan.fms_fpln_active == kRouteModified ? "<ERASE" : "<LEGS");
+    ErasePrompt(call, "<LEGS");
     RightData(call, 6, plan.fms_fpln_active < kRouteActivated ? "POS REF>" : UplinkPrompt());
     MarkSelectable(call, kL6);
     if (plan.fms_fpln_active >= kRouteActivated) MarkSelectable(call, kR6);

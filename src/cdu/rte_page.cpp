@@ -1,9 +1,8 @@
 #include "cdu/rte_page.h"
 
-#include <algorithm>
-
 #include "cdu/flight_plans_page.h"
 #include "cdu/page.h"
+#include "cdu/select_wpt_page.h"
 #include "cdu/shown_plan.h"
 #include "fmc/edit_legs.h"
 #include "fmc/endpoints.h"
@@ -160,8 +159,7 @@ void DrawEnds(PageCall& call) {
 
 // The row that the active leg belongs to: those before it are flown and not shown.
 int FirstShownRow() {
-    const int active = std::max(1, ShownActiveLeg());
-    for (int leg = active; leg <= ShownCount(); ++leg)
+    for (int leg = FirstShownLeg(); leg <= ShownCount(); ++leg)
         for (int row = 1; row <= plan.route_cnt; ++row)
             if (plan.Route[row].to == ShownLeg(leg).ident) return row;
     return 1;
@@ -174,12 +172,6 @@ int PageCount() {
 
 bool IsOpenAirway(const RouteRow& row) {
     return row.to.empty() && row.via_type == "AWY";
-}
-
-void RowsChanged(PageCall& call) {
-    RebuildRouteRows();
-    OpenModification();
-    ClearEntry(call);
 }
 
 void OnVia(PageCall& call, int row) {
@@ -198,7 +190,7 @@ void OnVia(PageCall& call, int row) {
         InsertAirwaySegment(end);
     else
         InsertAirwayPlaceholder(fix + 1, plan.awy_name);
-    RowsChanged(call);
+    LegsChanged(call);
 }
 
 // The leg, from the row on, that a later row ends with.
@@ -222,7 +214,7 @@ void OnAirwayEnd(PageCall& call, int row, bool is_open) {
     if (end == 0 || end == plan.awy_start_pos) return Refuse(call, "INVALID ENTRY", kHelpNotAllowed);
     if (!is_open) RemoveToRow(row);
     InsertAirwaySegment(end);
-    RowsChanged(call);
+    LegsChanged(call);
 }
 
 void OnTo(PageCall& call, int row) {
@@ -239,20 +231,15 @@ void OnTo(PageCall& call, int row) {
     if (exists && Entry(call) == shown.to) return Refuse(call, "INVALID ENTRY", kHelpNotAllowed);
     if (const int later = FindLaterEnd(row, Entry(call)); exists && later > 0) {
         ConnectLegs(ConnectFrom(row), later, call.side);
-        return RowsChanged(call);
+        return LegsChanged(call);
     }
     if (IsOpenAirway(shown)) return OnAirwayEnd(call, row, true);
     if (shown.via_type == "AWY") return OnAirwayEnd(call, row, false);
     ParseEntry(Entry(call));
     if (nav.entry_cnt == 0) return Refuse(call, "NOT IN DATABASE", kHelpRoute);
-    if (nav.entry_cnt == 1) {
-        InsertDirectRow(1, row);
-        return RowsChanged(call);
-    }
-    route_pages.PendingSelectRow = row;
-    call.unit.prev_fms_page = kPageRte;
-    call.unit.select_index = 1;
-    GoToPage(call.side, kPageSelectWpt);
+    if (nav.entry_cnt > 1) return OpenSelectWpt(call, row);
+    InsertDirectRow(1, row);
+    LegsChanged(call);
 }
 
 void OnRow(PageCall& call, int row) {
@@ -288,11 +275,7 @@ void DrawRows(PageCall& call, int first_row) {
 // --- both
 
 void OnLastLine(PageCall& call) {
-    if (call.line == kL6 && plan.fms_fpln_active == kRouteModified) {
-        EraseModification();
-        ClearEntry(call);
-    }
-    if (call.line != kR6) return;
+    if (TakeErase(call) || call.line != kR6) return;
     if (plan.fms_fpln_active == kRouteEntered)
         AdvanceRouteState();
     else if (plan.fms_fpln_active > kRouteEntered)
@@ -301,7 +284,7 @@ void OnLastLine(PageCall& call) {
 
 void DrawLastLine(PageCall& call) {
     const int state = plan.fms_fpln_active;
-    LeftData(call, 6, state == kRouteModified ? "<ERASE" : "<RTE 2");
+    ErasePrompt(call, "<RTE 2");
     if (state == kRouteModified) MarkSelectable(call, kL6);
     if (state == kRouteNone) return;
     RightData(call, 6, state == kRouteEntered ? "ACTIVATE>" : "PERF INIT>");

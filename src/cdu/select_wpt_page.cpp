@@ -1,23 +1,19 @@
 #include "cdu/select_wpt_page.h"
 
-#include <algorithm>
 #include <cmath>
 
 #include "cdu/legs_page.h"
 #include "cdu/page.h"
 #include "fmc/insert_fix.h"
-#include "fmc/route.h"
-#include "fmc/route_rows.h"
 #include "platform/text.h"
 #include "state/nav.h"
 
 namespace {
 
 constexpr int kPerPage = 6;
-constexpr int kHoldView = 2;
 
 int PageCount() {
-    return std::max(1, (nav.entry_cnt + kPerPage - 1) / kPerPage);
+    return PagesFor(nav.entry_cnt, kPerPage);
 }
 
 std::string Angle(double degrees, char positive, char negative, int width) {
@@ -38,9 +34,7 @@ void Pick(PageCall& call, int candidate) {
     CduState& unit = call.unit;
     if (unit.prev_fms_page == kPageRte) {
         InsertDirectRow(candidate, row);
-        RebuildRouteRows();
-        OpenModification();
-        ClearEntry(call);
+        LegsChanged(call);
     } else if (unit.prev_fms_page == kPageLegs && row > 0) {
         InsertPickedLeg(call, row, candidate);
     } else if (unit.prev_fms_page == kPageLegs && route_pages.LegsView == kHoldView) {
@@ -60,6 +54,13 @@ void DrawPlace(PageCall& call, int row, const NavRecord& place) {
 }
 
 }  // namespace
+
+void OpenSelectWpt(PageCall& call, int row) {
+    route_pages.PendingSelectRow = row;
+    call.unit.prev_fms_page = call.unit.fms_page;
+    call.unit.select_index = 1;
+    GoToPage(call.side, kPageSelectWpt);
+}
 
 void SelectWptPage(PageCall& call) {
     int& page = call.unit.select_index;

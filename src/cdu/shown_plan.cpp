@@ -1,5 +1,7 @@
 #include "cdu/shown_plan.h"
 
+#include <algorithm>
+
 #include "fmc/leg_list.h"
 #include "fmc/path.h"
 #include "fmc/route.h"
@@ -8,14 +10,14 @@
 
 namespace {
 
-GrowingList<FlightPlanLeg>& ShownList() {
+const GrowingList<FlightPlanLeg>& ShownList() {
     return plan.fms_fpln_active == kRouteActive ? plan.FlightPlan : plan.FlightPlanMod;
 }
 
 }  // namespace
 
 const FlightPlanLeg& ShownLeg(int index) {
-    return std::as_const(ShownList())[index];
+    return ShownList()[index];
 }
 
 int ShownCount() {
@@ -26,6 +28,10 @@ int ShownActiveLeg() {
     if (plan.fms_fpln_active < kRouteActive) return 0;
     const int leg = plan.fms_fpln_active == kRouteActive ? plan.stpos : PendingActiveLeg();
     return leg == kNoPlan ? 0 : leg;
+}
+
+int FirstShownLeg() {
+    return std::max(1, ShownActiveLeg());
 }
 
 ShownTrack TrackToLeg(int index) {

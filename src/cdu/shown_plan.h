@@ -9,6 +9,9 @@ int ShownCount();
 /// The leg that is flown to, in the list that is shown; 0 = none.
 int ShownActiveLeg();
 
+/// Where the legs begin that are still to be flown: the active leg, or the first.
+int FirstShownLeg();
+
 /// Course (degrees magnetic, 1 to 360) and distance (nm) of a shown leg from the place before it.
 struct ShownTrack {
     bool known = false;

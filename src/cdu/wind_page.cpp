@@ -134,12 +134,7 @@ void OnTemperature(PageCall& call) {
 
 void OnLastLine(PageCall& call) {
     if (call.line == kR6) return GoToPage(call.side, kPageRteData);
-    if (plan.fms_fpln_active == kRouteModified) {
-        EraseModification();
-        ClearEntry(call);
-    } else {
-        GoToPage(call.side, kPageLegs);
-    }
+    if (!TakeErase(call)) GoToPage(call.side, kPageLegs);
 }
 
 void DrawWinds(PageCall& call, const FlightPlanLeg& leg) {
@@ -163,16 +158,15 @@ void DrawWinds(PageCall& call, const FlightPlanLeg& leg) {
 
 void DrawTemperature(PageCall& call, const FlightPlanLeg& leg) {
     RightLabel(call, 5, "ALT/OAT");
-    const std::string altitude =
-        leg.temp_alt < cfg.TransAlt ? Format("%d", leg.temp_alt) : Format("FL%d", leg.temp_alt / 100);
-    RightData(call, 5, leg.temp_alt == 0 ? "----/---" : altitude + Format("/%.0f", leg.temp));
+    RightData(call, 5,
+              leg.temp_alt == 0 ? "----/---" : AltitudeText(leg.temp_alt) + Format("/%.0f", leg.temp));
     MarkSelectable(call, kR5);
 }
 
 }  // namespace
 
 void WindPage(PageCall& call) {
-    const int first = std::max(1, ShownActiveLeg());
+    const int first = FirstShownLeg();
     const int count = std::max(1, ShownCount() - first + 1);
     int place = std::clamp(call.unit.wind_leg - first + 1, 1, count);
     // A discontinuity has no wind: the page goes on past it.
@@ -202,7 +196,7 @@ void WindPage(PageCall& call) {
     DrawWinds(call, leg);
     DrawTemperature(call, leg);
     DashLine(call);
-    LeftData(call, 6, plan.fms_fpln_active == kRouteModified ? "<ERASE" : "<LEGS");
+    ErasePrompt(call, "<LEGS");
     RightData(call, 6, "RTE DATA>");
     MarkSelectable(call, kL6);
     MarkSelectable(call, kR6);

@@ -12,9 +12,6 @@
 
 namespace {
 
-constexpr int kHoldPage = 39;
-constexpr int kLegsPage = 6;
-
 int HoldAt(int leg) {
     for (int i = 1; i <= plan.hold_cnt; ++i)
         if (HoldLegInModification(plan.HoldList[i]) == leg) return i;
@@ -107,7 +104,7 @@ void RemoveHoldRecord(int hold) {
     RenumberHolds();
     if (plan.hold_cnt > 0) return;
     for (CduState& side : cdu)
-        if (side.fms_page == kHoldPage) side.fms_page = kLegsPage;
+        if (side.fms_page == kPageHold) side.fms_page = kPageLegs;
 }
 
 void RemoveAllHolds() {

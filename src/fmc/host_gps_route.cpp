@@ -19,7 +19,6 @@
 
 namespace {
 
-constexpr int kRtePage = 22;
 constexpr int kMostWaypoints = 1000;  // more than any planner's route: the block is no route
 constexpr std::uint32_t kBlockSize = GpsRouteLayout::kBlockSize;
 using Waypoint = GpsRouteLayout;
@@ -100,6 +99,6 @@ void ImportHostGpsRoute(int side) {
     }
     perf.pending_cruise_alt = highest;
     FinishLoadedRoute("");
-    CduOf(side).fms_page = kRtePage;
+    CduOf(side).fms_page = kPageRte;
     CduOf(side).rte_index = 1;
 }

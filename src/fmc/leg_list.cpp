@@ -37,7 +37,7 @@ bool IsPlace(const FlightPlanLeg& leg) {
     return !leg.ident.empty() && !IsDisco(leg) && !IsThen(leg);
 }
 
-int PlaceBefore(GrowingList<FlightPlanLeg>& legs, int index) {
+int PlaceBefore(const GrowingList<FlightPlanLeg>& legs, int index) {
     for (int i = index - 1; i >= 0; --i)
         if (IsPlace(legs[i])) return i;
     return -1;

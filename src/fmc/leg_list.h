@@ -11,7 +11,7 @@ bool IsThen(const FlightPlanLeg& leg);  // airway without an end
 bool IsPlace(const FlightPlanLeg& leg);
 
 /// The last place before `index`, -1 when there is none.
-int PlaceBefore(GrowingList<FlightPlanLeg>& legs, int index);
+int PlaceBefore(const GrowingList<FlightPlanLeg>& legs, int index);
 
 /// The leg of FlightPlanMod, from `first` on, that is the same place; 0 = none.
 int FindModLeg(const FlightPlanLeg& place, int first);

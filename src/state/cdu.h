@@ -17,6 +17,36 @@ struct CduMessage {
 constexpr const char* kDeleteMessage = "DELETE";  // the scratch message of the DEL key
 constexpr int kCduItems = 31;                     // item numbers 1 to 30; 0 = none
 
+// Page ids, of fms_page; panel state files keep them.
+constexpr int kPageFlightPlans = 1;
+constexpr int kPagePerfInit = 3;
+constexpr int kPageLegs = 6;
+constexpr int kPageSelectWpt = 9;
+constexpr int kPageDepartures = 10;
+constexpr int kPageArrivals = 11;
+constexpr int kPageApproachRef = 12;
+constexpr int kPageVnav = 15;
+constexpr int kPagePanels = 20;
+constexpr int kPageRte = 22;
+constexpr int kPageInitRefIndex = 23;
+constexpr int kPageDepArrIndex = 24;
+constexpr int kPageIdent = 25;
+constexpr int kPagePosInit = 26;
+constexpr int kPageTakeoffRef = 27;
+constexpr int kPageRefNavData = 28;
+constexpr int kPageProgress = 33;
+constexpr int kPageFixInfo = 37;
+constexpr int kPageHold = 39;
+constexpr int kPageNavRadio = 49;
+constexpr int kPageAltn = 51;
+constexpr int kPageThrustLim = 52;
+constexpr int kPageAltnDetail = 53;
+constexpr int kPagePosReport = 54;
+constexpr int kPageRteData = 55;
+constexpr int kPageAnnouncements = 56;
+constexpr int kPageDescentForecast = 57;
+constexpr int kPageWind = 58;
+
 /// One CDU. cdu[0] is the captain's, cdu[1] the first officer's: CduOf(side).
 struct CduState {
     int fms_page = 0;
@@ -43,9 +73,12 @@ struct CduState {
     int arrivals_of_origin = 0;  // ARRIVALS shows those of the origin, for a return
 };
 
+// Of LegsView.
+constexpr int kNormalView = 0, kDirectView = 1, kHoldView = 2;
+
 /// What both CDUs share of the route pages.
 struct RoutePages {
-    int LegsView = 0;           // 0 normal, 1 direct-to selection, 2 hold selection
+    int LegsView = kNormalView;
     int HoldSelectIndex = 0;    // leg picked in view 2, 0 = none
     int DirectSelectIndex = 0;  // leg picked in view 1, 0 = none
     int PendingSelectRow = 0;   // where a pick on SELECT DESIRED WPT goes in; 0 = the hold or direct-to path
