@@ -1,0 +1,44 @@
+#include "paint/recording.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+PaintPoint Map(const Matrix& m, double x, double y) {
+    return {static_cast<float>(m.a * x + m.c * y + m.e), static_cast<float>(m.b * x + m.d * y + m.f)};
+}
+
+bool IsNear(PaintPoint p) {
+    return std::fabs(p.x) <= kFarthest && std::fabs(p.y) <= kFarthest;
+}
+
+Growth GrowthOf(const Matrix& m) {
+    constexpr double kNothing = 1e-12;
+    if (m.b == 0 && m.c == 0 && m.a > 0 && m.d > kNothing)
+        return {m.d, {0, static_cast<float>(m.a / m.d), 0}};
+    const double run = std::hypot(m.a, m.b);
+    const double height = run > kNothing ? std::fabs(m.a * m.d - m.b * m.c) / run : 0;
+    if (height <= kNothing) return {height, {}};
+    const double slant = (m.a * m.c + m.b * m.d) / run;
+    return {height,
+            {static_cast<float>(std::atan2(m.b, m.a) * 180 / std::numbers::pi),
+             static_cast<float>(run / height), static_cast<float>(slant / height)}};
+}
+
+PaintRange RangeOf(std::size_t first, std::size_t end) {
+    return {static_cast<std::uint32_t>(first), static_cast<std::uint32_t>(end - first)};
+}
+
+bool IsDrawable(const Graphics& graphics, const GraphicsPath& path) {
+    return graphics.list != nullptr && path.points.size() > 1 &&
+           std::ranges::all_of(path.points,
+                               [&](PaintPoint p) { return IsNear(Map(graphics.world, p.x, p.y)); });
+}
+
+PaintPath RecordPath(Graphics& graphics, const GraphicsPath& path) {
+    DrawList& list = *graphics.list;
+    const std::size_t verbs = list.verbs.size(), points = list.points.size();
+    list.verbs.insert(list.verbs.end(), path.verbs.begin(), path.verbs.end());
+    for (const PaintPoint& point : path.points) list.points.push_back(Map(graphics.world, point.x, point.y));
+    return {RangeOf(verbs, list.verbs.size()), RangeOf(points, list.points.size()), path.winding};
+}
