@@ -2,12 +2,12 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <cstdlib>
 #include <nlohmann/json.hpp>
 #include <optional>
 
 #include "host/flight.h"
 #include "host/inspection.h"
+#include "host/scenario/words.h"
 #include "host/world/world.h"
 
 namespace host {
@@ -15,14 +15,15 @@ namespace {
 
 using nlohmann::json;
 
-std::string NumberText(double value) {
+// Ten digits: more than a page shows, and a value that jitters below them needn't be sent.
+std::string ShortNumber(double value) {
     char text[32];
     std::snprintf(text, sizeof text, "%.10g", value);
     return text;
 }
 
 std::optional<std::string> HostValue(std::string_view name) {
-    if (name == "rate") return NumberText(world.sim_rate);
+    if (name == "rate") return ShortNumber(world.sim_rate);
     if (name == "paused") return world.paused ? "1" : "0";
     if (name == "clock") {
         char text[16];
@@ -35,14 +36,18 @@ std::optional<std::string> HostValue(std::string_view name) {
 std::optional<std::string> ValueOf(const Session& session, const std::string& name) {
     if (name.starts_with("lvar:")) {
         if (!NamedVariableExists(name.substr(5))) return {};
-        return NumberText(NamedValue(name.substr(5)));
+        return ShortNumber(NamedValue(name.substr(5)));
     }
     if (name.starts_with("host:")) return HostValue(name.substr(5));
-    if (name.starts_with("token:")) return NumberText(TokenOf(std::atoi(name.c_str() + 6)));
+    if (name.starts_with("token:")) {
+        const std::optional<int> token = ParseInt(std::string_view(name).substr(6));
+        if (!token) return {};
+        return ShortNumber(TokenOf(*token));
+    }
     if (name.starts_with("aircraft:")) {
         double value = 0;
         if (!AircraftValue(name.substr(9), value)) return {};
-        return NumberText(value);
+        return ShortNumber(value);
     }
     const InspectionAnswer answer = Ask(session.linkage->inspection->read_variable, name.c_str());
     if (!answer.good || answer.results.empty()) return {};

@@ -1,5 +1,6 @@
 #include <array>
 #include <chrono>
+#include <cmath>
 #include <filesystem>
 
 #include "host/remote_peer.h"
@@ -11,6 +12,8 @@
 
 namespace host {
 namespace {
+
+constexpr double kMostHours = 1e6;
 
 void Token(Scenario&, const std::vector<Word>& words) {
     const int token = IntWord(words[1], "a token");
@@ -78,7 +81,9 @@ void Exec(Scenario& scenario, const std::vector<Word>&) {
 void Age(Scenario& scenario, const std::vector<Word>& words) {
     const std::filesystem::path file = FindUnderRoot(scenario.session.settings.root, words[1].text);
     if (file.empty()) throw CommandError{"there is no " + words[1].text + " under the root"};
-    const std::chrono::duration<double> age(3600 * NumberWord(words[2], "a number of hours"));
+    const double hours = NumberWord(words[2], "a number of hours");
+    if (std::fabs(hours) > kMostHours) throw CommandError{"\"" + words[2].text + "\" hours are no age"};
+    const std::chrono::duration<double> age(3600 * hours);
     const auto now = std::chrono::sys_seconds(std::chrono::seconds(UtcSeconds()));
     const auto written =
         std::chrono::file_clock::from_sys(now - std::chrono::floor<std::chrono::seconds>(age));

@@ -40,7 +40,7 @@ std::optional<int> ParseInt(std::string_view text) {
         std::from_chars(digits.data(), digits.data() + digits.size(), value, hexadecimal ? 16 : 10);
     if (error != std::errc{} || rest != digits.data() + digits.size()) return {};
     if (!hexadecimal && value > 2147483647U) return {};
-    return negative ? -static_cast<int>(value) : static_cast<int>(value);
+    return static_cast<int>(negative ? 0 - value : value);  // 0x80000000 has no positive int
 }
 
 std::optional<double> ParseNumber(std::string_view text) {

@@ -24,7 +24,8 @@ struct Terrain {
 Terrain terrain;
 
 int RowOf(double lat) {
-    return std::clamp(static_cast<int>(std::floor(lat)) + 90, 0, kCells - 1);
+    const double row = std::floor(lat) + 90;  // of whatever the module asks for
+    return row > 0 ? static_cast<int>(std::min(row, kCells - 1.0)) : 0;
 }
 
 }  // namespace

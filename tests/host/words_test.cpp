@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 namespace host {
 namespace {
 
@@ -34,6 +36,7 @@ TEST(ScenarioWords, SplitAtBlanksOutsideQuotes) {
 TEST(ScenarioWords, NumbersAreTakenWhole) {
     EXPECT_EQ(ParseInt("0x1002c"), 0x1002c);
     EXPECT_EQ(ParseInt("-5"), -5);
+    EXPECT_EQ(ParseInt("-0x80000000"), std::numeric_limits<int>::min());
     for (const char* wrong : {"", "1.5", "0x", "12x", "99999999999", "-"})
         EXPECT_FALSE(ParseInt(wrong)) << wrong;
     EXPECT_EQ(ParseNumber("-47.5"), -47.5);
