@@ -51,7 +51,8 @@ std::optional<ImageHead> ReadPngHead(std::string_view bytes) {
         const std::string_view name = bytes.substr(at + kNameAt, 4);
         const std::size_t content = at + kContentAt;
         if (name == "IEND") return head;
-        if (name == "IHDR" && length >= kHeaderSize) {
+        // The decoder makes room by the first chunk: a header further on must not tell another size.
+        if (name == "IHDR" && length >= kHeaderSize && at == kSignature.size()) {
             head.width = SizeOf(BigWord(bytes, content));
             head.height = SizeOf(BigWord(bytes, content + 4));
         }

@@ -196,12 +196,19 @@ TEST(Graphics, ImagesComeFromTheRoot) {
     PixelImage image{2, 2, {kRed, kRed, kWhite, kWhite}};
     host.PutFile("Pictures/two.png", EncodePng(image));
     host.PutFile("Pictures/cut.png", EncodePng(image).substr(0, 20));
+    // 30,000 pixels square by its header, behind which stands another one that tells 2.
+    constexpr std::size_t kSignature = 8, kHeaderChunk = 25, kWidth = 16, kHeight = 20;
+    std::string huge = EncodePng(image);
+    huge.insert(kSignature, huge.substr(kSignature, kHeaderChunk));
+    for (const std::size_t at : {kWidth, kHeight}) huge.replace(at, 4, std::string_view("\0\0\x75\x30", 4));
+    host.PutFile("Pictures/huge.png", huge);
     Picture picture;
     const Image two = GdipLoadImageFromFile("\\pictures\\TWO.PNG");
     EXPECT_EQ(two.width, 2);
     EXPECT_EQ(two.height, 2);
     GdipDrawImageI(picture.graphics, two, 10, 10);
     GdipDrawImageI(picture.graphics, GdipLoadImageFromFile("\\Pictures\\cut.png"), 50, 10);
+    GdipDrawImageI(picture.graphics, GdipLoadImageFromFile("\\Pictures\\huge.png"), 50, 10);
     GdipDrawImageI(picture.graphics, GdipLoadImageFromFile("\\..\\two.png"), 50, 10);
     EXPECT_EQ(picture.list.primitives.size(), 1U);
     EXPECT_EQ(picture.Pixel(10, 10), kRed);
