@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <vector>
 
 #include "display/frame.h"
 #include "display/remote_bridge.h"
@@ -87,13 +88,9 @@ void GDIMTGauge::Callback(GaugeElement* element_tree, int service_id) {
 }
 
 void GDIMTGauge::StartWorker(GaugeElement* element_tree) {
-    elements_.clear();
-    first_element_ = nullptr;
-    for (GaugeElement* element = element_tree; element != nullptr; element = element->next) {
-        if (elements_.empty() && element->device_context != nullptr) first_element_ = element;
-        elements_.push_back(element);
-    }
-    if (first_element_ == nullptr) return;
+    const bool can_be_painted = element_tree != nullptr && element_tree->device_context != nullptr;
+    first_element_ = can_be_painted ? element_tree : nullptr;
+    if (!can_be_painted) return;
     StopWorker();
     painted_pixels_ = nullptr;
     frame_pending_ = 0;  // what was asked for stood on the elements of before

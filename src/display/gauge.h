@@ -6,10 +6,8 @@
 #include <functional>
 #include <mutex>
 #include <span>
-#include <string>
 #include <string_view>
 #include <thread>
-#include <vector>
 
 #include "paint/draw_list.h"
 #include "platform/panel_gauges.h"
@@ -40,13 +38,13 @@ std::span<const PaintedGauge> PaintedGauges();
 class GDIMTGauge {
   public:
     explicit GDIMTGauge(const PaintedGauge& row) : row_(row) {}
-    virtual ~GDIMTGauge();
+    ~GDIMTGauge();
     GDIMTGauge(const GDIMTGauge&) = delete;
     GDIMTGauge& operator=(const GDIMTGauge&) = delete;
 
-    /// The host's services: 3 finds the elements and starts the worker, 10 asks for a picture, 12 ends the
-    /// worker.
-    virtual void Callback(GaugeElement* element_tree, int service_id);
+    /// The host's services: 3 starts the worker when the head of the chain can be painted, 10 asks for a
+    /// picture, 12 ends the worker.
+    void Callback(GaugeElement* element_tree, int service_id);
 
     /// Paints one picture if the host has asked for one. The body of the worker's loop; called in line where
     /// there are no workers. False when nothing was asked.
@@ -74,8 +72,7 @@ class GDIMTGauge {
     std::atomic<int> frame_pending_ = 0;
     std::thread thread_;
     std::atomic<int> stop_ = 0;
-    GaugeElement* first_element_ = nullptr;  // the one that proved to hold a device context
-    std::vector<GaugeElement*> elements_;
+    GaugeElement* first_element_ = nullptr;  // the chain's head, if it proved to hold a device context
 
     std::mutex sleep_lock_;  // the worker sleeps on it, so that neither a request nor its end waits
     std::condition_variable wake_;
