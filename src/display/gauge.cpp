@@ -88,13 +88,12 @@ void GDIMTGauge::Callback(GaugeElement* element_tree, int service_id) {
 }
 
 void GDIMTGauge::StartWorker(GaugeElement* element_tree) {
-    const bool can_be_painted = element_tree != nullptr && element_tree->device_context != nullptr;
-    first_element_ = can_be_painted ? element_tree : nullptr;
-    if (!can_be_painted) return;
     StopWorker();
     painted_pixels_ = nullptr;
     frame_pending_ = 0;  // what was asked for stood on the elements of before
-    if (Host().paints_in_line() == 0) thread_ = std::thread([this] { Work(); });
+    const bool can_be_painted = element_tree != nullptr && element_tree->device_context != nullptr;
+    first_element_ = can_be_painted ? element_tree : nullptr;
+    if (can_be_painted && Host().paints_in_line() == 0) thread_ = std::thread([this] { Work(); });
 }
 
 // Never called with the state lock held: the worker may be waiting for it.

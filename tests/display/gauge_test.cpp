@@ -82,14 +82,18 @@ TEST(PaintedGauge, ElementsWithoutSurface) {
 
 TEST(PaintedGauge, ReinstalledPanelForgetsWhatWasAsked) {
     Panel panel("STBY_PFD");
-    {
-        GaugeElement gone = Element(true);
-        panel.Install(&gone);
-        panel.Serve(kServicePreDraw);
+    for (const bool with_context : {false, true}) {
+        {
+            GaugeElement gone = Element(true);
+            panel.Install(&gone);
+            panel.Serve(kServicePreDraw);
+        }
+        GaugeElement element = Element(with_context);
+        panel.Install(&element);
+        EXPECT_FALSE(panel.Paint()) << with_context;
     }
     GaugeElement element = Element(true);
     panel.Install(&element);
-    EXPECT_FALSE(panel.Paint());
     panel.Serve(kServicePreDraw);
     EXPECT_TRUE(panel.Paint());
 }
