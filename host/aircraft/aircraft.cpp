@@ -2,13 +2,13 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 #include <numeric>
+
+#include "host/aircraft/angles.h"
 
 namespace host {
 namespace {
 
-constexpr double kRad = std::numbers::pi / 180;
 constexpr double kEarthRadiusNm = 3437.7467707849396;
 constexpr double kKgPerLb = 0.45359237;
 constexpr double kSeaLevelDensity = 1.225, kSeaLevelK = 288.15;
@@ -21,54 +21,6 @@ constexpr double kCleanDrag = 0.0150, kFlapDrag = 0.060, kGearDrag = 0.018, kBra
 constexpr double kCleanMaxLift = 1.35, kFlapMaxLift = 1.15;
 constexpr double kZeroLiftAngle = -2.5, kFlapLiftShift = -5;  // degrees
 constexpr double kDragRiseMach = 0.86;
-
-Vector3 operator+(Vector3 a, Vector3 b) {
-    return {a.x + b.x, a.y + b.y, a.z + b.z};
-}
-Vector3 operator*(Vector3 a, double k) {
-    return {a.x * k, a.y * k, a.z * k};
-}
-double Dot(Vector3 a, Vector3 b) {
-    return a.x * b.x + a.y * b.y + a.z * b.z;
-}
-Vector3 Cross(Vector3 a, Vector3 b) {
-    return {a.y * b.z - a.z * b.y, a.z * b.x - a.x * b.z, a.x * b.y - a.y * b.x};
-}
-double Length(Vector3 a) {
-    return std::sqrt(Dot(a, a));
-}
-Vector3 Normalised(Vector3 a) {
-    const double length = Length(a);
-    return length > 0 ? a * (1 / length) : Vector3{1, 0, 0};
-}
-
-// Rotates a vector about a unit axis; O. Rodrigues' formula.
-Vector3 Rotated(Vector3 v, Vector3 axis, double angle) {
-    const double c = std::cos(angle), s = std::sin(angle);
-    return v * c + Cross(axis, v) * s + axis * (Dot(axis, v) * (1 - c));
-}
-
-struct Compass {
-    Vector3 north, east;
-};
-
-// North and east at a place. At a pole every direction is one of them; the meridian of Greenwich stands in.
-Compass CompassAt(Vector3 place) {
-    const Vector3 east =
-        std::hypot(place.x, place.y) > 1e-12 ? Normalised({-place.y, place.x, 0}) : Vector3{0, 1, 0};
-    return {Cross(place, east), east};
-}
-
-double BearingOf(Vector3 direction, Vector3 place) {
-    const Compass compass = CompassAt(place);
-    const double bearing = std::atan2(Dot(direction, compass.east), Dot(direction, compass.north)) / kRad;
-    return bearing < 0 ? bearing + 360 : bearing;
-}
-
-Vector3 DirectionOf(double bearing, Vector3 place) {
-    const Compass compass = CompassAt(place);
-    return compass.north * std::cos(bearing * kRad) + compass.east * std::sin(bearing * kRad);
-}
 
 double PressureAltitude(const Aircraft& aircraft) {
     return IndicatedAltitude(aircraft.altitude, kStandardHpa, aircraft.air);
@@ -129,6 +81,32 @@ void StepEngines(Aircraft& aircraft, double dt) {
     aircraft.fuel_lb[kCentreTank] -= centre;
     for (const FuelTank tank : {kLeftTank, kRightTank})
         aircraft.fuel_lb[tank] = std::max(aircraft.fuel_lb[tank] - (burnt - centre) / 2, 0.0);
+}
+
+// Engines that stand as they run, or don't, with the lever at idle.
+void IdleEngines(Aircraft& aircraft) {
+    for (Engine& engine : aircraft.engines) {
+        engine.n1 = engine.running ? kIdleN1 : 0;
+        engine.n2 = engine.running ? kIdleN2 : 0;
+    }
+    StepEngines(aircraft, 0);
+}
+
+// The lever that holds the speed in level flight, by halving.
+void TrimThrust(Aircraft& aircraft) {
+    const double needed =
+        Drag(aircraft, WeightNewton(aircraft) / (std::max(DynamicPressure(aircraft), 500.0) * kWingArea));
+    double low = 0, high = 1;
+    for (int i = 0; i < 20; ++i) {
+        aircraft.controls.thrust_lever = (low + high) / 2;
+        for (Engine& engine : aircraft.engines) {
+            engine.n1 = kIdleN1 + (kFullN1 - kIdleN1) * aircraft.controls.thrust_lever;
+            engine.n2 = kIdleN2;
+        }
+        StepEngines(aircraft, 0);
+        const double thrust = aircraft.engines[0].thrust_n + aircraft.engines[1].thrust_n;
+        (thrust < needed ? low : high) = aircraft.controls.thrust_lever;
+    }
 }
 
 // The bank follows its command as a roll channel does: a limited rate that itself builds up.
@@ -235,8 +213,7 @@ const Airframe& AirframeOf(std::string_view title) {
 
 void PlaceAircraftAt(Aircraft& aircraft, double lat, double lon, double altitude, double heading, double ias,
                      double ground_elevation) {
-    const double phi = lat * kRad, lambda = lon * kRad;
-    aircraft.place = {std::cos(phi) * std::cos(lambda), std::cos(phi) * std::sin(lambda), std::sin(phi)};
+    aircraft.place = PlaceAt(lat, lon);
     aircraft.nose = DirectionOf(heading, aircraft.place);
     aircraft.ground_elevation = ground_elevation;
     constexpr double kOnGroundBelow = 15;  // ft, as an altitude typed for the ground is rounded
@@ -255,30 +232,10 @@ void PlaceAircraftAt(Aircraft& aircraft, double lat, double lon, double altitude
     if (aircraft.on_ground && ias == 0) aircraft.ground_speed = 0;
     UpdateAirspeeds(aircraft);
     aircraft.pitch = aircraft.on_ground ? 0 : AngleOfAttack(aircraft, 1);
-    // The lever that holds the speed, by halving.
-    if (!aircraft.on_ground) {
-        const double needed =
-            Drag(aircraft, WeightNewton(aircraft) / (std::max(DynamicPressure(aircraft), 500.0) * kWingArea));
-        double low = 0, high = 1;
-        for (int i = 0; i < 20; ++i) {
-            aircraft.controls.thrust_lever = (low + high) / 2;
-            for (Engine& engine : aircraft.engines) {
-                engine.n1 = kIdleN1 + (kFullN1 - kIdleN1) * (low + high) / 2;
-                engine.n2 = kIdleN2;
-            }
-            const std::array<double, 3> fuel = aircraft.fuel_lb;
-            StepEngines(aircraft, 0);
-            aircraft.fuel_lb = fuel;
-            const double thrust = aircraft.engines[0].thrust_n + aircraft.engines[1].thrust_n;
-            (thrust < needed ? low : high) = aircraft.controls.thrust_lever;
-        }
-    } else {
-        for (Engine& engine : aircraft.engines) {
-            engine.n1 = engine.running ? kIdleN1 : 0;
-            engine.n2 = engine.running ? kIdleN2 : 0;
-        }
-        StepEngines(aircraft, 0);
-    }
+    if (aircraft.on_ground)
+        IdleEngines(aircraft);
+    else
+        TrimThrust(aircraft);
     StepPlace(aircraft, 0);
 }
 

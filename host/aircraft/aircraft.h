@@ -5,16 +5,13 @@
 
 #include "host/aircraft/air.h"
 #include "host/aircraft/engines.h"
+#include "host/aircraft/sphere.h"
 
 // The stand-in aircraft: a point mass that banks, climbs and turns with believable lags, burns fuel and knows
 // its drag. It is flown by FlightControls alone and knows nothing of tokens; aircraft/tokens.h tells the
 // simulator what it does.
 
 namespace host {
-
-struct Vector3 {
-    double x = 0, y = 0, z = 0;
-};
 
 /// What pilot or autopilot ask of the aircraft.
 struct FlightControls {

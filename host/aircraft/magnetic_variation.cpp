@@ -3,7 +3,8 @@
 #include <algorithm>
 #include <cmath>
 #include <iterator>
-#include <numbers>
+
+#include "host/aircraft/angles.h"
 
 namespace host {
 namespace {
@@ -30,7 +31,6 @@ static_assert(std::size(kCoefficients) == kOrder * (kOrder + 3) / 2);
 }  // namespace
 
 double MagneticVariation(double lat, double lon) {
-    constexpr double kRad = std::numbers::pi / 180;
     lat = std::clamp(lat, -89.999, 89.999);
     const double cos_t = std::sin(lat * kRad), sin_t = std::cos(lat * kRad);  // colatitude
     // Legendre functions and their slope over the colatitude, by recursion.

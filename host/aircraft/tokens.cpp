@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
-#include <string>
 #include <utility>
 
+#include "host/aircraft/angles.h"
 #include "host/aircraft/magnetic_variation.h"
 #include "host/world/world.h"
 
@@ -29,11 +29,6 @@ constexpr const char* kPayloadExpressions[] = {
     "(A:Payload Station Weight:5,pounds)"};
 constexpr int kTankTokens[] = {291, 297, 289};  // left main, right main, centre: level, then capacity
 
-double Fold360(double degrees) {
-    const double folded = std::fmod(degrees, 360);
-    return folded < 0 ? folded + 360 : folded;
-}
-
 void FillMotion(const Aircraft& aircraft) {
     const double lat = Latitude(aircraft), lon = Longitude(aircraft);
     SetToken(82, MagneticVariation(lat, lon));
@@ -43,7 +38,7 @@ void FillMotion(const Aircraft& aircraft) {
     SetToken(77, -aircraft.pitch);  // nose down positive
     SetToken(79, -aircraft.bank);   // left wing down positive
     SetToken(80, -aircraft.bank);
-    SetToken(81, Fold360(heading - TokenOf(82)));  // by a variation set by hand too
+    SetToken(81, FoldDegrees(heading - TokenOf(82)));  // by a variation set by hand too
     SetToken(86, heading);
     SetToken(60, aircraft.on_ground ? 1 : 0);
     SetToken(63, aircraft.ias);

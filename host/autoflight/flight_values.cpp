@@ -2,20 +2,14 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 
+#include "host/aircraft/angles.h"
 #include "host/world/world.h"
 
 namespace host {
 namespace {
-constexpr double kRad = std::numbers::pi / 180;
 constexpr double kFeetPerMinutePerKnot = 6076.115 / 60;
 }  // namespace
-
-double FoldDegrees(double degrees) {
-    const double folded = std::fmod(degrees, 360);
-    return folded < 0 ? folded + 360 : folded;
-}
 
 double Difference(double from, double to) {
     const double clockwise = FoldDegrees(to - from);

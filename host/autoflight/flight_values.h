@@ -20,7 +20,6 @@ int PanelRequest(const char* variable);
 
 /// A bearing difference, -180 to 180, right positive.
 double Difference(double from, double to);
-double FoldDegrees(double degrees);
 
 /// Moves a command towards its target by at most so far.
 double Slew(double value, double target, double step);

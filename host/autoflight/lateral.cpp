@@ -2,15 +2,14 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 
+#include "host/aircraft/air.h"
+#include "host/aircraft/angles.h"
 #include "host/world/world.h"
 
 namespace host {
 namespace {
 
-constexpr double kRad = std::numbers::pi / 180;
-constexpr double kGravity = 9.80665, kKnotsPerMps = 3600.0 / 1852;
 constexpr double kMostBank = 25, kMostBankLnav = 28;
 constexpr double kNoHeading = 999;  // of lnav_hdg
 constexpr double kLnavCaptureNm = 2.5;

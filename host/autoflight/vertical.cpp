@@ -2,14 +2,13 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 
+#include "host/aircraft/angles.h"
 #include "host/world/world.h"
 
 namespace host {
 namespace {
 
-constexpr double kRad = std::numbers::pi / 180;
 constexpr double kFeetPerMinutePerKnot = 6076.115 / 60;
 constexpr double kGravityKt = 19.0625;  // kt/s
 // An altitude is closed in on exponentially: with this time the pull stays below a tenth of the gravity.
