@@ -1,14 +1,8 @@
 #include "host/session.h"
 
-#include <unistd.h>
-
 #include <algorithm>
 #include <chrono>
-#include <cmath>
-#include <cstdlib>
 #include <filesystem>
-#include <fstream>
-#include <span>
 #include <string_view>
 
 #include "host/module_library.h"
@@ -70,6 +64,17 @@ void Call(PanelGauge& gauge, int service) {
     if (gauge.instance.gauge->service != nullptr) gauge.instance.gauge->service(&gauge.instance, service);
 }
 
+// A panel that is shown for the first time brings its gauges up then, each service for all of them in turn.
+void ConnectGauges(Session& session) {
+    std::vector<PanelGauge*> fresh;
+    for (PanelGauge& gauge : session.gauges)
+        if (!gauge.connected && IsOnPanel(gauge)) fresh.push_back(&gauge);
+    for (const int service : {kServiceConnectToWindow, kServicePreInstall, kServicePostInstall,
+                              kServicePreInitialize, kServicePostInitialize})
+        for (PanelGauge* gauge : fresh) Call(*gauge, service);
+    for (PanelGauge* gauge : fresh) gauge->connected = true;
+}
+
 // The files of the private copy are as old as the run, by the simulator's clock: what a file's age brings
 // about is the same on every day.
 void DateFiles(const std::string& root) {
@@ -81,6 +86,30 @@ void DateFiles(const std::string& root) {
         std::error_code ignored;
         if (file->is_regular_file(ignored)) std::filesystem::last_write_time(file->path(), now, ignored);
     }
+}
+
+struct FoundArea {
+    PanelGauge* panel = nullptr;
+    const MouseRectangle* area = nullptr;
+};
+
+// The first mouse area of a gauge that is wanted; none = nulls.
+template <class IsWanted>
+FoundArea FindArea(Session& session, const std::string& gauge, IsWanted&& is_wanted) {
+    for (PanelGauge& panel : session.gauges) {
+        const GaugeHeader& header = *panel.instance.gauge;
+        if (gauge != header.name) continue;
+        for (int i = 0; i < header.mouse_count; ++i)
+            if (is_wanted(header.mouse[i])) return {&panel, &header.mouse[i]};
+    }
+    return {};
+}
+
+// Hands a press at a point of the gauge's frame to an area.
+void Press(PanelGauge& panel, const MouseRectangle& area, int x, int y, bool right) {
+    panel.instance.mouse_x = x;
+    panel.instance.mouse_y = y;
+    area.callback(&panel.instance, right ? kMouseRightSingle : kMouseLeftSingle);
 }
 
 }  // namespace
@@ -98,19 +127,9 @@ void CallGauges(Session& session, int service) {
         if (gauge.connected && IsOnPanel(gauge)) Call(gauge, service);
 }
 
-// A panel that is shown for the first time brings its gauges up then, each service for all of them in turn.
-void ConnectGauges(Session& session) {
-    std::vector<PanelGauge*> fresh;
-    for (PanelGauge& gauge : session.gauges)
-        if (!gauge.connected && IsOnPanel(gauge)) fresh.push_back(&gauge);
-    for (const int service : {kServiceConnectToWindow, kServicePreInstall, kServicePostInstall,
-                              kServicePreInitialize, kServicePostInitialize})
-        for (PanelGauge* gauge : fresh) Call(*gauge, service);
-    for (PanelGauge* gauge : fresh) gauge->connected = true;
-}
-
 bool PrepareSession(Session& session, std::string& error) {
     SessionSettings& settings = session.settings;
+    world.machine_date = settings.machine_date;
     if (settings.root.empty()) {
         if (!MakePrivateRoot(settings.demo_root, settings.root, error)) return false;
         session.private_root = true;
@@ -138,7 +157,6 @@ bool PrepareSession(Session& session, std::string& error) {
     world.root = settings.root;
     world.app_data = settings.root;
     world.navdata = settings.navdata;
-    world.machine_date = settings.machine_date;
     if (!settings.terrain_chosen) UseModelTerrain(AirportsFile(settings));
     if (found != titles.end()) {
         SetCalcText("(A:TITLE,string)", found->title);
@@ -180,43 +198,22 @@ void TickSession(Session& session, bool paused_frame) {
     CallGauges(session, kServicePreUpdate);
 }
 
-namespace {
-
-// Hands a press at a point of the gauge's frame to an area.
-void Press(PanelGauge& panel, const MouseRectangle& area, int x, int y, bool right) {
-    panel.instance.mouse_x = x;
-    panel.instance.mouse_y = y;
-    area.callback(&panel.instance, right ? kMouseRightSingle : kMouseLeftSingle);
-}
-
-std::span<const MouseRectangle> AreasOf(const GaugeHeader& gauge) {
-    return {gauge.mouse, static_cast<std::size_t>(gauge.mouse_count)};
-}
-
-}  // namespace
-
 bool PressMouseArea(Session& session, const std::string& gauge, const std::string& name, bool right) {
-    for (PanelGauge& panel : session.gauges) {
-        if (gauge != panel.instance.gauge->name) continue;
-        for (const MouseRectangle& area : AreasOf(*panel.instance.gauge)) {
-            if (name != area.name) continue;
-            Press(panel, area, area.x + area.width / 2, area.y + area.height / 2, right);
-            return true;
-        }
-    }
-    return false;
+    const auto [panel, area] =
+        FindArea(session, gauge, [&](const MouseRectangle& candidate) { return name == candidate.name; });
+    if (area == nullptr) return false;
+    Press(*panel, *area, area->x + area->width / 2, area->y + area->height / 2, right);
+    return true;
 }
 
 bool PressMouse(Session& session, const std::string& gauge, double x, double y, bool right) {
-    for (PanelGauge& panel : session.gauges) {
-        if (gauge != panel.instance.gauge->name) continue;
-        for (const MouseRectangle& area : AreasOf(*panel.instance.gauge)) {
-            if (x < area.x || y < area.y || x >= area.x + area.width || y >= area.y + area.height) continue;
-            Press(panel, area, static_cast<int>(x), static_cast<int>(y), right);
-            return true;
-        }
-    }
-    return false;
+    const auto [panel, area] = FindArea(session, gauge, [&](const MouseRectangle& candidate) {
+        return x >= candidate.x && x < candidate.x + candidate.width && y >= candidate.y &&
+               y < candidate.y + candidate.height;
+    });
+    if (area == nullptr) return false;
+    Press(*panel, *area, static_cast<int>(x), static_cast<int>(y), right);
+    return true;
 }
 
 void StopSession(Session& session) {
