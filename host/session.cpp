@@ -140,7 +140,8 @@ bool PrepareSession(Session& session, std::string& error) {
         error = settings.root + " holds no Velarion folder";
         return false;
     }
-    if (!settings.navdata.empty() && !std::filesystem::is_directory(settings.navdata)) {
+    std::error_code failed;
+    if (!settings.navdata.empty() && !std::filesystem::is_directory(settings.navdata, failed)) {
         error = settings.navdata + " is no folder";
         return false;
     }

@@ -1,4 +1,3 @@
-#include <array>
 #include <string>
 
 #include "host/scenario/commands.h"

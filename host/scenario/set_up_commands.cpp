@@ -6,14 +6,18 @@
 namespace host {
 namespace {
 
+std::string FolderWord(const Word& word) {
+    std::error_code failed;
+    if (!std::filesystem::is_directory(word.text, failed)) throw CommandError{word.text + " is no folder"};
+    return std::filesystem::absolute(word.text).string();
+}
+
 void Root(Scenario& scenario, const std::vector<Word>& words) {
-    if (!std::filesystem::is_directory(words[1].text)) throw CommandError{words[1].text + " is no folder"};
-    scenario.session.settings.root = std::filesystem::absolute(words[1].text).string();
+    scenario.session.settings.root = FolderWord(words[1]);
 }
 
 void Navdata(Scenario& scenario, const std::vector<Word>& words) {
-    if (!std::filesystem::is_directory(words[1].text)) throw CommandError{words[1].text + " is no folder"};
-    scenario.session.settings.navdata = std::filesystem::absolute(words[1].text).string();
+    scenario.session.settings.navdata = FolderWord(words[1]);
 }
 
 void AircraftTitle(Scenario& scenario, const std::vector<Word>& words) {

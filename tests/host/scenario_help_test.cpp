@@ -49,7 +49,8 @@ TEST(ScenarioHelp, EveryExampleRuns) {
 
 TEST(ScenarioHelp, WrongCommandsSayWhatWouldBeRight) {
     const struct {
-        const char *line, *told;
+        std::string line;
+        const char* told;
     } kCases[] = {
         {"fly", "\"fly\" is no command"},
         {"tick", "`tick` stands behind `start`"},
@@ -60,13 +61,14 @@ TEST(ScenarioHelp, WrongCommandsSayWhatWouldBeRight) {
         {"log \"open", "a quote is left open"},
         {"date 2026/12/01", "YYYY-MM-DD"},
         {"root /nowhere/at/all", "is no folder"},
+        {"navdata " + std::string(5000, 'x'), "is no folder"},
         {"at 1 2", "LAT LON ALT_FT HDG [IAS]"},
     };
     for (const auto& row : kCases) {
         world = World{};
         std::ostringstream out, errors;
         Scenario scenario{{}, out};
-        std::istringstream lines(std::string("log ready\n") + row.line + '\n');
+        std::istringstream lines("log ready\n" + row.line + '\n');
         EXPECT_EQ(RunScenario(scenario, lines, "case.scn", errors), 2) << row.line;
         EXPECT_TRUE(errors.str().starts_with("case.scn:2: ")) << errors.str();
         EXPECT_NE(errors.str().find(row.told), std::string::npos) << row.line << ": " << errors.str();
