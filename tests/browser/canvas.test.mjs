@@ -6,6 +6,7 @@ import {mkdtempSync, readdirSync, readFileSync, rmSync} from 'node:fs';
 import {tmpdir} from 'node:os';
 import {join} from 'node:path';
 import {test} from 'node:test';
+import {setTimeout as wait} from 'node:timers/promises';
 import {openBrowser, openDeck, startHost} from './support.mjs';
 
 const WIDTH = 320, HEIGHT = 240;
@@ -60,7 +61,10 @@ test('the canvas shows what Cairo paints', async (t) => {
   execFileSync(process.env.TZ900_PICTURES, [folder]);
   const host = await startHost(t), browser = await openBrowser(t);
   const page = await openDeck(t, browser, host.address, 'screen/debug');
-  await page.route('**/image/**', (route) => route.fulfill({path: join(folder, 'picture.png')}));
+  await page.route('**/image/**', async (route) => {
+    await wait(300);
+    await route.fulfill({path: join(folder, 'picture.png')});
+  });
   await page.evaluate(async ([width, height]) => {
     const {Screen} = await import('/picture.js');
     const canvas = document.createElement('canvas');
@@ -79,6 +83,27 @@ test('the canvas shows what Cairo paints', async (t) => {
       return btoa(text);
     };
   }, [WIDTH, HEIGHT]);
+
+  // The image comes when every screen has long been drawn without it.
+  const message = messageOf(readFileSync(join(folder, 'images.list'))).toString('base64');
+  const inked = await page.evaluate(async (message) => {
+    const {Screen} = await import('/picture.js');
+    const screens = [1, 2].map(() => {
+      const canvas = document.createElement('canvas');
+      canvas.style = 'position: fixed; left: 0; top: 0; width: 160px; height: 120px';
+      document.body.append(canvas);
+      return new Screen(canvas);
+    });
+    for (const screen of screens) screen.take(Uint8Array.from(atob(message), (c) => c.charCodeAt(0)));
+    const frame = () => new Promise((done) => requestAnimationFrame(done));
+    await frame();
+    await Promise.all([...Screen.pictures.values()].map((picture) => picture.decode()));
+    await frame();
+    await frame();
+    return screens.map(({canvas: {width, height}, context}) =>
+      context.getImageData(0, 0, width, height).data.some((value, i) => i % 4 < 3 && value > 0));
+  }, message);
+  assert.deepEqual(inked, [true, true], 'an image is drawn on each screen that waits for it');
 
   const names = readdirSync(folder).filter((file) => file.endsWith('.list')).map((file) => file.slice(0, -5));
   assert.ok(names.length > 20);

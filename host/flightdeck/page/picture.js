@@ -242,7 +242,8 @@ export class Screen {
     context.restore();
   }
   image(file, x, y, width, height, rotation) {
-    const picture = Screen.picture(file, () => this.draw());
+    const picture = Screen.picture(file);
+    if (!picture.complete) picture.waiting.add(this);
     if (!picture.complete || picture.naturalWidth === 0) return;
     const {context} = this;
     context.save();
@@ -271,13 +272,18 @@ export class Screen {
     context.save();
   }
 
+  /** The image of a name; the screens in its `waiting` are drawn again when it has come. */
   static pictures = new Map();
-  static picture(file, loaded) {
+  static picture(file) {
     let picture = Screen.pictures.get(file);
     if (!picture) {
       if (Screen.pictures.size >= MOST_IMAGES) Screen.pictures.delete(Screen.pictures.keys().next().value);
       picture = new Image();
-      picture.onload = loaded;
+      picture.waiting = new Set();
+      picture.onload = () => {
+        for (const screen of picture.waiting) screen.drawSoon();
+        picture.waiting.clear();
+      };
       picture.src = `/image/${encodeURIComponent(file)}`;
       Screen.pictures.set(file, picture);
     }
