@@ -6,6 +6,7 @@
 #include "cdu/page.h"
 #include "fmc/endpoints.h"
 #include "fmc/select_procedures.h"
+#include "legs.h"
 #include "navdata/nav_tables.h"
 #include "state/airports.h"
 #include "state/plan.h"
@@ -18,31 +19,20 @@ namespace {
 constexpr int kPages[] = {kPageRte, kPageLegs, kPageRteData, kPageWind, kPageDepartures, kPageArrivals};
 
 void FillRoute(int last) {
-    for (int i = 0; i <= last; ++i) {
-        FlightPlanLeg& leg = plan.FlightPlan[i];
-        leg.ident = "LEG" + std::to_string(i);
-        leg.type = "INT";
-        leg.via = i % 2 == 0 ? "DIRECT" : "Q" + std::to_string(i / 10);
-        leg.lat = 30 + i * 0.2;
-        leg.lon = i % 3 * 0.1;
-        plan.FlightPlanMod[i] = leg;
-    }
+    FillLegs(plan.FlightPlan, last);
+    FillLegs(plan.FlightPlanMod, last);
     plan.fp_cnt = plan.mod_cnt = last;
     plan.stpos = plan.mod_stpos = 1;
     plan.fms_fpln_active = 3;
 }
 
-// Both CDUs of the lower unit, each page in turn on a route of 120 legs: the mean of one CDU.
+// The captain's CDU on the lower unit, each page in turn on a route of 120 legs.
 void DrawPages(benchmark::State& state) {
     const FakeHost host;
     FillRoute(120);
     DrawList picture;
     int turn = 0;
     for (auto _ : state) {
-        picture.primitives.clear();
-        picture.verbs.clear();
-        picture.points.clear();
-        picture.text.clear();
         cdu[0].fms_page = kPages[turn++ % std::size(kPages)];
         Graphics graphics = GdipCreateGraphics(picture, 564, 424);
         DrawCdu(graphics, 1, 5);

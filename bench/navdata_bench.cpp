@@ -1,7 +1,6 @@
 #include <benchmark/benchmark.h>
 
 #include <fstream>
-#include <iterator>
 #include <string>
 #include <string_view>
 #include <vector>

@@ -4,6 +4,7 @@
 
 #include "fmc/execute_route.h"
 #include "fmc/route_text.h"
+#include "legs.h"
 #include "navdata/nav_tables.h"
 #include "state/plan.h"
 #include "support/world_navdata.h"
@@ -15,14 +16,7 @@ namespace {
 void Execute(benchmark::State& state) {
     FakeHost host;
     const int last = static_cast<int>(state.range(0));
-    for (int i = 0; i <= last; ++i) {
-        FlightPlanLeg& leg = plan.FlightPlanMod[i];
-        leg.ident = "LEG" + std::to_string(i);
-        leg.type = "INT";
-        leg.via = i % 2 == 0 ? "DIRECT" : "Q" + std::to_string(i / 10);
-        leg.lat = 30 + i * 0.2;
-        leg.lon = i % 3 * 0.1;
-    }
+    FillLegs(plan.FlightPlanMod, last);
     plan.mod_cnt = last;
     for (auto _ : state) ExecuteRoute();
 }
