@@ -13,6 +13,8 @@ std::string Quoted(const std::string& word) {
     for (const char c : word) {
         if (c == '\n')
             quoted += "\\n";
+        else if (c == '\\')
+            quoted += "\"\\\"";  // outside the quotes it stands for itself, also before an n
         else
             quoted += c;
     }

@@ -47,9 +47,11 @@ TEST(Recorder, WritesCallsAndCommandsInTheirOrder) {
     Record(&recorder, {"route", "KSEA BTG"});
     Record(&recorder, {"set", "capt.ScratchPad", ""});
     RecordCall(&recorder, true);
+    Record(&recorder, {"set", "x", "a\nb \\n"});
     Record(&recorder, {"set", "x", "a \"b\"\nc"});
     EXPECT_EQ(TextOf(recording.file),
               "start\ntick 12\nframe 3\nroute \"KSEA BTG\"\nset capt.ScratchPad \"\"\nframe 1\n"
+              "set x \"a\\nb \"\\\"n\"\n"
               "# not expressible: set x \"a \"b\"\\nc\"\n");
     std::string error;
     Recorder nowhere;
@@ -77,7 +79,7 @@ void FlyALittle(Session& session) {
     calls(40);
     apply({.kind = Command::kStateVariable, .name = "du_lower_mode", .text = "44"});
     apply({.kind = Command::kStateVariable, .name = "du_lower_mode", .text = "not a number"});
-    apply({.kind = Command::kStateVariable, .name = "capt.ScratchPad", .text = "TO KSFO # 1"});
+    apply({.kind = Command::kStateVariable, .name = "capt.ScratchPad", .text = "TO KSFO # \\n"});
     apply({.kind = Command::kNamedVariable, .name = "TZ_FMC_L_B_Button", .value = 1});
     calls(20);
     apply({.kind = Command::kLever, .name = "flaps", .value = 0.5});
