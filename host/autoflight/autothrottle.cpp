@@ -1,7 +1,6 @@
 #include "host/autoflight/autothrottle.h"
 
 #include <algorithm>
-#include <cmath>
 
 #include "host/autoflight/vertical.h"
 #include "host/world/world.h"
@@ -9,8 +8,8 @@
 namespace host {
 namespace {
 
-constexpr double kReferenceLever =
-    0.96;  // the thrust reference that is displayed as 100 percent of the limit
+// The thrust reference, displayed as 100 percent of the limit.
+constexpr double kReferenceLever = 0.96;
 constexpr int kRequestSpeed = 1, kRequestThrustReference = 5;
 
 bool IsArmed() {

@@ -41,8 +41,8 @@ struct DeckSettings {
     std::string token;  // asked for on an address wider than loopback
     std::string page_folder;
     std::string root;  // where the pictures' image files lie
-    std::vector<std::pair<std::string, std::string>> fonts =
-        {};  // family and file, by the picture form's numbers
+    /// Family and file, by the picture form's numbers.
+    std::vector<std::pair<std::string, std::string>> fonts = {};
     /// The bytes of an image that is no file, by the name that pictures give it; called on the network
     /// thread.
     std::function<bool(const std::string& name, std::string& bytes)> stream_image = {};

@@ -15,7 +15,7 @@ struct ModeCode {
 constexpr int kModeFree = 200;   // background only, or the full-unit airport map
 constexpr int kModeWideNd = 47;  // both halves are one navigation display
 
-/// Every code with its contents, 200 apart.
+/// Every code that stands for two contents: all but 200.
 std::span<const ModeCode> ModeCodes();
 
 /// The contents of a code; nothing for a code that isn't listed, and for 200.

@@ -59,7 +59,7 @@ void SetColour(cairo_t* cairo, Argb colour) {
 struct Painter {
     const DrawList& list;
     cairo_t* cairo;
-    double pixel_x, pixel_y;  // size of half a pixel in the logical frame
+    double half_x, half_y;  // of a pixel, in the logical frame
 
     void Trace(const PaintPath& path, double dx = 0, double dy = 0) const {
         cairo_new_path(cairo);
@@ -108,9 +108,9 @@ struct Painter {
     }
     void operator()(const StrokePath& stroke) const {
         // A line's middle runs through pixel centres, so that a one-pixel line is one pixel wide and sharp.
-        Trace(stroke.path, pixel_x, pixel_y);
+        Trace(stroke.path, half_x, half_y);
         SetColour(cairo, stroke.colour);
-        const double least = 2 * std::min(pixel_x, pixel_y), width = stroke.width;
+        const double least = 2 * std::min(half_x, half_y), width = stroke.width;
         const double across = std::max(width, least), along = std::max(width * stroke.axes.stretch, least);
         cairo_set_line_width(cairo, across);
         double dashes[16];
@@ -163,7 +163,7 @@ struct Painter {
         // A picture's first pixel has its middle where the first pixel of the place has it.
         const double grow_x = image.width / static_cast<double>(pixels->width);
         const double grow_y = image.height / static_cast<double>(pixels->height);
-        cairo_translate(cairo, pixel_x - grow_x / 2, pixel_y - grow_y / 2);
+        cairo_translate(cairo, half_x - grow_x / 2, half_y - grow_y / 2);
         cairo_scale(cairo, grow_x, grow_y);
         cairo_set_source_surface(cairo, picture, 0, 0);
         cairo_fill(cairo);

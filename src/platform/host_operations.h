@@ -78,7 +78,7 @@ struct HostOperations {
     void (*close_keyboard)();
     void (*swallow_keys)(int on);  // while on, keys do not reach the simulator itself
 
-    // machine
+    // machine; the folders are asked for by any thread, since those who paint read the pictures' files
     void (*set_timer_period)(int milliseconds);    // 0 gives the period back
     int (*navdata_folder)(char* text, int size);   // navigation data kept elsewhere; empty = under the root
     int (*root_folder)(char* text, int size);      // the simulator's root folder

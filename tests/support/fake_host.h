@@ -50,8 +50,8 @@ class FakeHost {
 
     SimMessageHandler sim_handler = nullptr;  // null while the client is closed
     std::string sim_client_name;
-    std::vector<std::string>
-        sim_declarations;  // "data 2 NAME UNITS", "event 11 NAME", "state ...", "client ..."
+    /// "data 2 NAME UNITS", "event 11 NAME", "state ...", "client ..."
+    std::vector<std::string> sim_declarations;
     std::vector<std::pair<int, std::vector<std::uint8_t>>> sim_data;  // definition, bytes
     std::vector<int> client_events;
     std::vector<std::string> saved_flights;  // "FILE|TITLE|DESCRIPTION"
