@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
-#include <initializer_list>
 
 #include "host/inspection.h"
 #include "host/scenario/words.h"

@@ -1,6 +1,8 @@
 #include "host/flightdeck/picture_stream.h"
 
 #include <optional>
+#include <unordered_map>
+#include <vector>
 
 namespace host {
 namespace {

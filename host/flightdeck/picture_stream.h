@@ -3,8 +3,6 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
-#include <unordered_map>
-#include <vector>
 
 // A screen's pictures on their way to one browser: only the primitives that it hasn't got.
 

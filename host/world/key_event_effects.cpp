@@ -1,7 +1,6 @@
 #include "host/world/key_event_effects.h"
 
 #include <algorithm>
-#include <cmath>
 
 #include "host/world/world.h"
 

@@ -1,7 +1,6 @@
 #include "display/routing.h"
 
 #include <algorithm>
-#include <iterator>
 #include <span>
 
 #include "frame/named_variables.h"

@@ -2,7 +2,6 @@
 
 #include <array>
 #include <cstdint>
-#include <string_view>
 
 #include "platform/host.h"
 #include "state/cdu.h"

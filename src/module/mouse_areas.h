@@ -2,8 +2,6 @@
 
 #include <array>
 #include <cstdint>
-#include <iterator>
-#include <span>
 
 #include "frame/named_variables.h"
 #include "platform/panel_gauges.h"

@@ -1,6 +1,5 @@
 #include "module/pictures.h"
 
-#include <algorithm>
 #include <cmath>
 
 #include "display/gauge.h"

@@ -1,10 +1,9 @@
 #include "module/printed_lists.h"
 
-#include "module/pictures.h"
-
 #include <algorithm>
 #include <string>
 
+#include "module/pictures.h"
 #include "navdata/parse_entry.h"
 #include "state/cdu.h"
 #include "state/nav.h"

@@ -2,7 +2,6 @@
 
 #include <array>
 #include <bit>
-#include <string>
 
 #include "paint/byte_fields.h"
 

@@ -2,7 +2,6 @@
 
 #include <array>
 #include <span>
-#include <string>
 #include <string_view>
 #include <vector>
 

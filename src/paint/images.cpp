@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <utility>
 
 #include "paint/image_store.h"
 #include "paint/jpeg.h"

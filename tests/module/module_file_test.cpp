@@ -10,7 +10,6 @@
 #include <iterator>
 #include <set>
 #include <string>
-#include <vector>
 
 #include "frame/tokens.h"
 #include "module/linkage.h"

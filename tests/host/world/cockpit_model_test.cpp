@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 #include "frame/named_variable_catalogue.h"
 #include "host/world/world.h"
 
