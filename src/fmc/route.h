@@ -1,15 +1,9 @@
 #pragma once
 
+#include "state/plan.h"
+
 // The life of the route: entered, activated, executed, modified, erased, thrown away. The legs that are flown
 // stand in plan.FlightPlan; every edit works on plan.FlightPlanMod, and EXEC (execute_route.h) takes it over.
-
-enum RouteStatus {
-    kRouteNone = 0,
-    kRouteEntered = 1,
-    kRouteActivated = 2,
-    kRouteActive = 3,
-    kRouteModified = 4
-};
 
 /// Moves `fms_fpln_active` on: 0 to 1, 1 to 2, 2 to 3, 3 to 4 (the TO leg is then kept as the pending active
 /// leg), 4 to 3. On the ground below 5 kt it also loads the planned fuel, once, and sets the MCP

@@ -111,7 +111,7 @@ double VnavPathAngle() {
 }
 
 double LnavHeading() {
-    if (plan.fms_fpln_active < 3 || plan.stpos == kNoPlan) return kNoValue;
+    if (plan.fms_fpln_active < kRouteActive || plan.stpos == kNoPlan) return kNoValue;
     return IsHoldPatternFlown() ? lnav.hold_hdg : lnav.fms_hdg;
 }
 

@@ -77,7 +77,7 @@ bool RequestForcedSequence() {
     }
     const bool after_activation = plan.direct_abeam_check == 1 && plan.stpos == 1;
     plan.direct_abeam_check = 0;
-    const bool in_flight = IsAirborne() && plan.fms_fpln_active > 2 && sim.ground_speed_kt > 100;
+    const bool in_flight = IsAirborne() && plan.fms_fpln_active >= kRouteActive && sim.ground_speed_kt > 100;
     if ((in_flight || after_activation) && IsTargetFixPassed()) lnav.wpt_dist = kSequenceNow;
     return overflown;
 }

@@ -68,8 +68,8 @@ void ActAtTopOfDescent() {
 
 void ActNearDestination() {
     // A distance of 0 is one that isn't known yet.
-    const bool near =
-        plan.fms_fpln_active > 2 && perf.dist_to_dest > 0 && perf.dist_to_dest < cfg.PauseAtDistFromDest;
+    const bool near = plan.fms_fpln_active >= kRouteActive && perf.dist_to_dest > 0 &&
+                      perf.dist_to_dest < cfg.PauseAtDistFromDest;
     if (!near) {
         module_life.dest_pause_done = module_life.dest_rate_done = 0;
         return;

@@ -19,7 +19,6 @@
 #include "state/displays.h"
 #include "state/identity.h"
 #include "state/module_life.h"
-#include "state/plan.h"
 #include "state/side.h"
 #include "state/sim.h"
 #include "state/time_base.h"
@@ -67,10 +66,7 @@ void RunUpdateCycle(bool virtual_cockpit) {
     if (module_life.startup_done == 0 && since_start > kDelayedStartSeconds) DelayedStart();
     MainUpdate();
     if (first_update) ReadSnapshot();  // where the aircraft is, is known before the counter moves
-    if (time_base.tick2s_phase == 35) {
-        plan.rebuild_latch = 0;
-        CheckGearLever();
-    }
+    if (time_base.tick2s_phase == 35) CheckGearLever();
     IdentifyLateAircraft();
     const bool main_panel_visible = IsWindowVisible(kMainPanelWindow) != 0;
     displays.cockpit_2d_active = main_panel_visible ? 1 : 0;

@@ -45,7 +45,7 @@ void UpdateSpeedTrend() {
 
 // The runways of the air traffic at the nearer end of the route.
 void RefreshActiveRunways() {
-    if (cfg.DispAiActiveRwys != 1 || plan.fms_fpln_active < 3) return;
+    if (cfg.DispAiActiveRwys != 1 || plan.fms_fpln_active < kRouteActive) return;
     const AirportData& origin = airports.origin_airport;
     const AirportData& dest = airports.dest_airport;
     const auto distance = [](const AirportData& airport) {
@@ -91,7 +91,7 @@ void StepSecond(int phase) {
 
 void UpdateExecLamps() {
     cockpit.autobrake_switch = WholeNumber(ReadNamedVar(NamedVar("auto_brake_switch")));
-    const int lit = plan.fms_fpln_active == 2 || plan.fms_fpln_active == 4 ? 1 : 0;
+    const int lit = plan.fms_fpln_active == kRouteActivated || plan.fms_fpln_active == kRouteModified ? 1 : 0;
     WriteNamedVar(NamedVar("TZ_FMC_EXEC_L_Annun"), lit);
     WriteNamedVar(NamedVar("TZ_FMC_EXEC_R_Annun"), lit);
 }

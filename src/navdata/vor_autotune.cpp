@@ -17,7 +17,6 @@
 namespace {
 
 constexpr int kModeAuto = 1;
-constexpr int kRouteActive = 3;
 
 // A radio of the host: the token that reads its active frequency, the event that sets it.
 struct NavRadio {

@@ -111,6 +111,15 @@ struct ProcedureSelections {
     FlightPlanLeg shared_leg = {};  // the approach's first leg stands in its place; no ident = none
 };
 
+/// Of fms_fpln_active.
+enum RouteStatus {
+    kRouteNone = 0,
+    kRouteEntered = 1,
+    kRouteActivated = 2,  // waits for EXEC
+    kRouteActive = 3,
+    kRouteModified = 4  // active, and a modification waits for EXEC
+};
+
 /// The route. FlightPlan is what is flown, FlightPlanMod is what the pages edit; only fmc/ changes either.
 struct PlanState {
     std::string fms_fltno;                  // flight number, at most 10 characters; empty = none
@@ -129,13 +138,12 @@ struct PlanState {
     int hold_cnt = 0;
     GrowingList<HoldRecord> executed_holds;  // as EXEC left them: what ERASE brings back
     int executed_hold_cnt = 0;
-    int fms_fpln_active = 0;  // 0 none, 1 entered, 2 activate pressed, 3 active, 4 active and modified
+    int fms_fpln_active = kRouteNone;
     GrowingList<PositionReport> PositionReports;
     int position_report_cnt = 0;
     int new_route = 0;            // first activation of a newly entered route
     int direct_to_pending = 0;    // EXEC starts a direct-to course
     int direct_abeam_check = 0;   // once after a direct-to or activation: the passed-abeam test at stpos 1
-    int rebuild_latch = 0;        // two-second latch of the route rebuild
     int terrain_profile_due = 0;  // a new route's terrain profile is wanted
     // final approach, kept for the approach displays
     double final_appr_crs = 0;  // degrees magnetic

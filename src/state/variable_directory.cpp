@@ -8,20 +8,14 @@
 
 namespace {
 
-struct Entry {
-    const Variable* variable;
-    std::string_view group;
-};
-
-std::unordered_map<std::string_view, Entry> BuildIndex() {
-    std::unordered_map<std::string_view, Entry> index;
+std::unordered_map<std::string_view, const Variable*> BuildIndex() {
+    std::unordered_map<std::string_view, const Variable*> index;
     for (const StateGroup& group : StateGroups())
-        for (const Variable& variable : *group.variables)
-            index.emplace(variable.name, Entry{&variable, group.name});
+        for (const Variable& variable : *group.variables) index.emplace(variable.name, &variable);
     return index;
 }
 
-const std::unordered_map<std::string_view, Entry> kIndex = BuildIndex();
+const std::unordered_map<std::string_view, const Variable*> kIndex = BuildIndex();
 
 // Cuts the name before the next '.' or '[' off the front of the path.
 std::string_view TakeName(std::string_view& path) {
@@ -70,8 +64,7 @@ std::optional<VariableRef> FindVariable(std::string_view path) {
     if (name.size() == prefix) return {};
     const auto found = kIndex.find(name);
     if (found == kIndex.end()) return {};
-    std::optional<VariableRef> at =
-        VariableRef{found->second.variable->type, found->second.variable->address};
+    std::optional<VariableRef> at = VariableRef{found->second->type, found->second->address};
     while (at && !rest.empty()) at = Step(*at, rest);
     return at;
 }
@@ -120,9 +113,4 @@ bool StoreValue(const VariableRef& variable, std::string_view text) {
     if (number != std::floor(number) || std::fabs(number) > 2147483647.0) return false;
     *static_cast<int*>(variable.address) = static_cast<int>(number);
     return true;
-}
-
-std::string_view GroupOfVariable(std::string_view name) {
-    const auto found = kIndex.find(name);
-    return found == kIndex.end() ? std::string_view{} : found->second.group;
 }

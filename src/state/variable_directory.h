@@ -26,6 +26,3 @@ bool StoreValue(const VariableRef& variable, std::string_view text);
 
 /// A number with as many digits as it takes to read it back, an integer without a point.
 std::string FormatNumber(double value);
-
-/// Which group owns the variable of that name (no path); empty when there is none.
-std::string_view GroupOfVariable(std::string_view name);
