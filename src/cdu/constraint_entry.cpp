@@ -5,6 +5,7 @@
 #include <charconv>
 #include <string>
 
+#include "platform/text.h"
 #include "state/perf.h"
 #include "state/plan.h"
 #include "state/vnav.h"
@@ -26,10 +27,6 @@ struct Tokens {
     bool good = true;
     bool speed_first = false;  // a slash stands behind the first token
 };
-
-bool IsDigit(char c) {
-    return c >= '0' && c <= '9';
-}
 
 // Numbers with a suffix each; "/", "F", "L" and blanks part them, and so does a suffix.
 Tokens Split(std::string_view text) {

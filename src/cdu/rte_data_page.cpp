@@ -6,6 +6,7 @@
 #include "cdu/page.h"
 #include "cdu/shown_plan.h"
 #include "fmc/leg_list.h"
+#include "fmc/predictions.h"
 #include "fmc/route.h"
 #include "fmc/winds.h"
 #include "frame/crew_messages.h"
@@ -20,7 +21,6 @@
 namespace {
 
 constexpr int kLegsPerPage = 5;
-constexpr double kPoundsPerKg = 2.20462262185;
 constexpr double kUsableGroundSpeed = 60;  // kt; below it the planned one counts
 
 int PageCount() {
@@ -101,11 +101,10 @@ void OnLastLine(PageCall& call) {
 void DrawRow(PageCall& call, int row, int leg, const Arrival& arrival) {
     const FlightPlanLeg& shown = ShownLeg(leg);
     if (!IsPlace(shown)) return;
-    const double unit = cfg.WeightUnit == "KGS" ? kPoundsPerKg : 1;
     const double y = DataY(row);
     PageText(call, 34, y, EtaText(arrival.hours));
     PageText(call, 90, y, shown.ident, leg == ShownActiveLeg() ? kMagenta : kWhite);
-    PageText(call, 150, y, Format("%3.1f", arrival.fuel_lb / unit / 1000));
+    PageText(call, 150, y, Format("%3.1f", DisplayWeight(arrival.fuel_lb) / 1000));
     if (HasWinds(shown)) PageText(call, 225, y, "W");
     RightData(call, row, ">");
     MarkSelectable(call, kR1 + row - 1);

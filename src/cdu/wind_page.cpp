@@ -49,11 +49,6 @@ int CountWinds(const Winds& winds) {
         std::count_if(winds.begin(), winds.end(), [](const WindLevel& w) { return w.alt != 0; }));
 }
 
-bool IsNumber(std::string_view text) {
-    if (text.starts_with('-') || text.starts_with('+')) text.remove_prefix(1);
-    return !text.empty() && text.find_first_not_of("0123456789.") == std::string_view::npos;
-}
-
 // Both sides of a slash; nothing without one.
 std::optional<std::pair<std::string_view, std::string_view>> SplitAtSlash(std::string_view text) {
     const std::size_t slash = text.find('/');

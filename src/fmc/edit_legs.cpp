@@ -168,7 +168,7 @@ void NormalizeLegs() {
     MergeNeighbourDiscos();
     for (int i = 1; i <= plan.mod_cnt; ++i) {
         RecomputeCodedLeg(i);
-        if (legs[i].ident != "VECTORS") continue;
+        if (!IsVectors(legs[i])) continue;
         const int before = PlaceBefore(legs, i);
         if (before < 0) continue;
         legs[i].lat = legs[before].lat;

@@ -2,12 +2,12 @@
 
 #include <array>
 #include <cmath>
-#include <cstdio>
 
 #include "fmc/predictions.h"
 #include "frame/named_variables.h"
 #include "navdata/geodesy.h"
 #include "platform/files.h"
+#include "platform/text.h"
 #include "state/cfg.h"
 #include "state/flight_log.h"
 #include "state/identity.h"
@@ -53,10 +53,9 @@ void BeginLog() {
     perf.fplog_mode = kInitLoad;
     time_base.fltsecs = 0;
     if (cfg.LogFlightPlan != 1) return;
-    char text[512];
-    std::snprintf(text, sizeof text, "FlightPlan=%.20s-%.20s\nAircraft=%.200s\n", plan.ends.origin.c_str(),
-                  plan.ends.dest.c_str(), identity.aircraft.c_str());
-    WriteFile(kLogFile, std::string(text) + kDashes + kHeader + kDashes);
+    const std::string head = Format("FlightPlan=%.20s-%.20s\nAircraft=%.200s\n", plan.ends.origin.c_str(),
+                                    plan.ends.dest.c_str(), identity.aircraft.c_str());
+    WriteFile(kLogFile, head + kDashes + kHeader + kDashes);
 }
 
 double FlightPathAngle() {
@@ -72,15 +71,14 @@ void WriteRow() {
     const int seconds = static_cast<int>(time_base.fltsecs);
     const double fuel_flow =
         ReadNamedVar(NamedVar("tz_eng1_fuel_flow")) + ReadNamedVar(NamedVar("tz_eng2_fuel_flow"));
-    char row[256];
-    std::snprintf(
-        row, sizeof row,
-        "%02d:%02d:%02d %-10s %6.16s %5.0f  %5.0f   %5.0f  %6.0f  %5.0f %7.0f  %7.0f %-3.0f  %.2f %.1f\n",
-        seconds / 3600, seconds / 60 % 60, seconds % 60,
-        kPhaseTexts[static_cast<std::size_t>(perf.fplog_mode)], FlightPlanLegAt(plan.stpos).ident.c_str(),
-        sim.ground_speed_kt, sim.tas_kt, sim.vs_fpm, sim.ind_alt_ft, fuel_flow, sim.total_fuel, GrossWeight(),
-        sim.ias_kt, (sim.n1_l + sim.n1_r) / 2, FlightPathAngle());
-    AppendToFile(kLogFile, row);
+    AppendToFile(
+        kLogFile,
+        Format(
+            "%02d:%02d:%02d %-10s %6.16s %5.0f  %5.0f   %5.0f  %6.0f  %5.0f %7.0f  %7.0f %-3.0f  %.2f %.1f\n",
+            seconds / 3600, seconds / 60 % 60, seconds % 60,
+            kPhaseTexts[static_cast<std::size_t>(perf.fplog_mode)], FlightPlanLegAt(plan.stpos).ident.c_str(),
+            sim.ground_speed_kt, sim.tas_kt, sim.vs_fpm, sim.ind_alt_ft, fuel_flow, sim.total_fuel,
+            GrossWeight(), sim.ias_kt, (sim.n1_l + sim.n1_r) / 2, FlightPathAngle()));
 }
 
 // Seconds since a condition began to hold; 0 while it doesn't.

@@ -2,22 +2,18 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdio>
 
 #include "fmc/leg_list.h"
 #include "fmc/path.h"
 #include "fmc/route_rows.h"
 #include "navdata/geodesy.h"
 #include "navdata/magnetic_model.h"
+#include "platform/text.h"
 
 namespace {
 
 constexpr std::string_view kLatLonPrefix = "WPT";
 constexpr std::size_t kPlacePrefixLength = 3;
-
-bool IsDigit(char c) {
-    return c >= '0' && c <= '9';
-}
 
 // The number of an ident of the form prefix and number of at least two digits, 0 for any other.
 int MadeNumber(std::string_view ident, std::string_view prefix) {
@@ -79,9 +75,7 @@ std::string MadeName(std::string_view prefix) {
     int highest = 0;
     for (int i = 0; i <= plan.mod_cnt; ++i)
         highest = std::max(highest, MadeNumber(plan.FlightPlanMod[i].ident, prefix));
-    char number[16];
-    std::snprintf(number, sizeof number, "%02d", highest + 1);
-    return std::string(prefix).append(number);
+    return std::string(prefix).append(Format("%02d", highest + 1));
 }
 
 FlightPlanLeg LegFromEntry(const NavRecord& entry) {

@@ -315,7 +315,7 @@ double ApproachSpeed(std::string_view role) {
 // Where the file tells no altitude for a leg of the missed approach, it lies between its neighbours.
 void SetMissedAltitude(FlightPlanLeg& leg, const FlightPlanLeg& leg_before, int record) {
     double altitude = RecordAltitude(record - 1);
-    if (altitude == 0 && leg_before.via == "MISSED APPR" && leg_before.alt_restr > 0)
+    if (altitude == 0 && IsMissedApproach(leg_before) && leg_before.alt_restr > 0)
         altitude = leg_before.alt_restr;
     const double after = RecordAltitude(record + 1);
     if (record < procedure_lists.approach_leg_cnt && after > altitude) altitude += (after - altitude) / 2;
@@ -335,7 +335,7 @@ FlightPlanLeg ApproachLeg(int record, const FlightPlanLeg& leg_before, bool miss
     const ProcedureLeg& from = procedure_lists.ApproachLegs[record];
     FlightPlanLeg leg = LegOf(from);
     leg.via_type = "APPR";
-    leg.via = missed ? "MISSED APPR" : IsDisco(leg_before) ? "DIRECT" : procedure_lists.approach_via;
+    leg.via = missed ? kMissedApproach : IsDisco(leg_before) ? "DIRECT" : procedure_lists.approach_via;
     leg.rwy = RunwayText(plan.procedures.arr_appr_rwy);
     if (from.applies_to != "---") leg.appr_wpt_type = from.applies_to;
     leg.ias_restr = ApproachSpeed(leg.appr_wpt_type);

@@ -33,6 +33,14 @@ bool IsThen(const FlightPlanLeg& leg) {
     return leg.ident == "THEN";
 }
 
+bool IsVectors(const FlightPlanLeg& leg) {
+    return leg.ident == "VECTORS";
+}
+
+bool IsMissedApproach(const FlightPlanLeg& leg) {
+    return leg.via == kMissedApproach;
+}
+
 bool IsPlace(const FlightPlanLeg& leg) {
     return !leg.ident.empty() && !IsDisco(leg) && !IsThen(leg);
 }

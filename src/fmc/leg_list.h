@@ -5,8 +5,12 @@
 // The edits that all operations on FlightPlanMod are made of. What points into the list moves with its legs:
 // holds, `mod_bod_pos`, the start of the airway in work, and from state 3 on the pending active leg.
 
+constexpr const char* kMissedApproach = "MISSED APPR";  // the via of its legs
+
 bool IsDisco(const FlightPlanLeg& leg);
-bool IsThen(const FlightPlanLeg& leg);  // airway without an end
+bool IsThen(const FlightPlanLeg& leg);     // airway without an end
+bool IsVectors(const FlightPlanLeg& leg);  // a heading to fly, until the crew goes on
+bool IsMissedApproach(const FlightPlanLeg& leg);
 /// A leg with a position: no "DISCO", no "THEN", not the empty slot of a destination still to come.
 bool IsPlace(const FlightPlanLeg& leg);
 

@@ -14,10 +14,6 @@ namespace {
 
 constexpr std::size_t kMaxIdent = 64;
 
-bool IsDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-
 bool Begins(std::string_view text, std::string_view letters) {
     return text.size() > 1 && letters.find(text[0]) != std::string_view::npos && IsDigit(text[1]);
 }

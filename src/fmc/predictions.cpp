@@ -57,6 +57,11 @@ void Take(double value, int manual, double& speed) {
 
 }  // namespace
 
+double DisplayWeight(double lb) {
+    constexpr double kKgPerLb = 0.45359237;
+    return cfg.WeightUnit == "KGS" ? lb * kKgPerLb : lb;
+}
+
 double GrossWeight() {
     if (perf.gross_weight > 0) return perf.gross_weight;
     return sim.empty_weight + sim.payload_weight + sim.total_fuel;
@@ -83,7 +88,7 @@ void ComputeDistances(int) {
     double sum = 0;
     for (int i = plan.stpos; i <= plan.fp_cnt; ++i) {
         const FlightPlanLeg& leg = legs[i];
-        if (!IsPlace(leg) || leg.via == "MISSED APPR") continue;
+        if (!IsPlace(leg) || IsMissedApproach(leg)) continue;
         const auto measure = [&](int passed, int before, double at_lat, double at_lon, double& dist) {
             if (passed == 0 && before == from && (at_lat != 0 || at_lon != 0))
                 dist = sum + GreatCircle(lat, lon, at_lat, at_lon).dist;

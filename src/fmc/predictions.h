@@ -5,6 +5,9 @@
 // Speeds, fuel and altitudes that the plan implies, from the aircraft's built-in tables. Pounds, feet, knots,
 // nautical miles, feet per minute.
 
+/// A weight (lb) in the unit of the setting WeightUnit.
+double DisplayWeight(double lb);
+
 /// Gross weight (lb): as the performance pages have it, else empty weight, payload and fuel of the aircraft.
 double GrossWeight();
 

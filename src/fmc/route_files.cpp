@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <cstdio>
 #include <iterator>
 #include <string>
 
@@ -25,7 +24,7 @@ namespace {
 constexpr std::size_t kMaxLine = 499;
 constexpr std::string_view kRowsBegin = "[FlightPlan]";
 constexpr std::string_view kEmpty = "---";
-constexpr std::string_view kMissed = "MISSED APPR", kMissedInFile = "MISSED_APPR";
+constexpr std::string_view kMissedInFile = "MISSED_APPR";
 
 bool EndsWith(std::string_view name, std::string_view ending) {
     return name.size() >= ending.size() &&
@@ -36,11 +35,6 @@ bool EndsWith(std::string_view name, std::string_view ending) {
 
 constexpr int kFields = 31;
 using Row = std::array<std::string_view, kFields + 1>;  // from 1, as the columns are counted
-
-bool IsNumber(std::string_view text) {
-    if (text.starts_with('-') || text.starts_with('+')) text.remove_prefix(1);
-    return !text.empty() && text.find_first_not_of("0123456789.") == std::string_view::npos;
-}
 
 // Idents with blanks in them, "HOLD PPOS", make a full row longer: the position tells where they end. Their
 // parts stand together in the line.
@@ -77,9 +71,7 @@ double ReadNumber(std::string_view token, double limit = 1e6) {
 }
 
 std::string WriteNumber(double value, int decimals = 0) {
-    char text[400];
-    std::snprintf(text, sizeof text, "%.*f", decimals, value);
-    return text;
+    return Format("%.*f", decimals, value);
 }
 
 // --- the columns of a row, each with its reading and its writing
@@ -127,9 +119,9 @@ using Leg = FlightPlanLeg;
 constexpr Column kVia = {
     12,
     [](Leg& leg, std::string_view token) {
-        leg.via = token == kMissedInFile ? std::string(kMissed) : ReadText(token);
+        leg.via = token == kMissedInFile ? std::string(kMissedApproach) : ReadText(token);
     },
-    [](const Leg& leg) { return leg.via == kMissed ? std::string(kMissedInFile) : WriteText(leg.via); }};
+    [](const Leg& leg) { return IsMissedApproach(leg) ? std::string(kMissedInFile) : WriteText(leg.via); }};
 constexpr Column kViaType = {
     5, [](Leg& leg, std::string_view token) { leg.via_type = ReadText(token); },
     [](const Leg& leg) { return leg.via.empty() ? std::string(kEmpty) : WriteText(leg.via_type); }};
@@ -260,7 +252,7 @@ class RouteReader {
 
     // The hold that ends a missed approach goes with it.
     bool IsLeftOut(const FlightPlanLeg& leg) {
-        const bool is_missed = leg.via == kMissed;
+        const bool is_missed = IsMissedApproach(leg);
         missed_ = is_missed || (missed_ && leg.via == "HOLD" && leg.via_type == "APPR");
         return missed_ && cfg.IncludeMissedApproach == 0;
     }
@@ -314,8 +306,7 @@ int FindRouteFile(std::string_view prefix) {
 }
 
 int LoadCompanyRoute(std::string_view given) {
-    std::string name(given);
-    UpperCase(name);
+    const std::string name = UpperCase(given);
     const bool is_plan = name.find(".PLN") != std::string::npos;
     if (is_plan && ConvertPlanFile(name) == kNotConverted) return 0;
     const auto file =

@@ -16,6 +16,7 @@
 #include "fmc/route.h"
 #include "fmc/route_airway.h"
 #include "fmc/route_rows.h"
+#include "navdata/text_fields.h"
 #include "state/nav.h"
 #include "state/plan.h"
 
@@ -139,14 +140,9 @@ constexpr Operation kOperations[] = {
 
 std::vector<std::string_view> SplitWords(std::string_view line) {
     std::vector<std::string_view> words;
-    while (true) {
-        const std::size_t start = line.find_first_not_of(" \t");
-        if (start == std::string_view::npos) return words;
-        line.remove_prefix(start);
-        const std::size_t end = std::min(line.find_first_of(" \t"), line.size());
-        words.push_back(line.substr(0, end));
-        line.remove_prefix(end);
-    }
+    for (std::string_view word = NextField(line); !word.empty(); word = NextField(line))
+        words.push_back(word);
+    return words;
 }
 
 bool ParseNumber(std::string_view text, int& number) {

@@ -1,7 +1,6 @@
 #include "fmc/route_text.h"
 
 #include <algorithm>
-#include <cctype>
 #include <charconv>
 #include <cmath>
 #include <cstdlib>
@@ -18,6 +17,7 @@
 #include "navdata/airways.h"
 #include "navdata/geodesy.h"
 #include "navdata/parse_entry.h"
+#include "navdata/text_fields.h"
 #include "state/airports.h"
 #include "state/lnav.h"
 #include "state/perf.h"
@@ -40,10 +40,6 @@ std::string Told(const RouteWords& words, std::size_t i, std::string_view what) 
     std::string told = "word ";
     told.append(std::to_string(words.number[i])).append(" \"").append(words.text[i]).append("\": ");
     return told.append(what);
-}
-
-bool IsDigit(char c) {
-    return c >= '0' && c <= '9';
 }
 
 // Takes a letter of `letters` and the digits behind it off the front; -1 when they aren't there.
@@ -74,13 +70,8 @@ RouteWords SplitRoute(std::string_view text) {
     RouteWords words;
     int number = 0;
     while (true) {
-        const std::size_t start = text.find_first_not_of(" \t\r\n");
-        if (start == std::string_view::npos) return words;
-        text.remove_prefix(start);
-        const std::size_t end = std::min(text.find_first_of(" \t\r\n"), text.size());
-        std::string word(text.substr(0, end));
-        text.remove_prefix(end);
-        for (char& c : word) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+        std::string word = UpperCase(NextField(text));
+        if (word.empty()) return words;
         ++number;
         const std::size_t slash = word.find('/');
         const std::size_t level_at = slash == std::string::npos ? 0 : slash + 1;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "fmc/leg_list.h"
 #include "navdata/geodesy.h"
 #include "state/perf.h"
 #include "state/plan.h"
@@ -10,10 +11,6 @@
 namespace {
 
 enum RestrictionType { kAt = 0, kAtOrAbove = 1, kAtOrBelow = 2, kBetween = 3 };
-
-bool IsMissedApproach(const FlightPlanLeg& leg) {
-    return leg.via == "MISSED APPR";
-}
 
 bool HasAltitudeConstraint(const FlightPlanLeg& leg) {
     return leg.restr_code == 1 || leg.restr_code == 3;
@@ -45,7 +42,7 @@ double RouteDistance(int from, int to) {
     int last = from;
     for (int i = from + 1; i <= to; ++i) {
         const FlightPlanLeg& leg = FlightPlanLegAt(i);
-        if (IsMissedApproach(leg) || leg.ident == "DISCO") continue;
+        if (IsMissedApproach(leg) || IsDisco(leg)) continue;
         const FlightPlanLeg& start = FlightPlanLegAt(last);
         dist += GreatCircle(start.lat, start.lon, leg.lat, leg.lon).dist;
         last = i;

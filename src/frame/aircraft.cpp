@@ -58,10 +58,8 @@ void StoreLine(std::string_view line, AirframeSection& section) {
 // Finds the section with the aircraft's title; false when the file has none.
 bool FindTitle(std::string_view text, AirframeSection& section) {
     bool in_airframe = false;
-    std::string line;
     while (const auto next = NextLine(text)) {
-        line = Trimmed(next->substr(0, kMaxLine));
-        LowerCase(line);
+        const std::string line = LowerCase(Trimmed(next->substr(0, kMaxLine)));
         if (line.starts_with('[')) {
             if (in_airframe && section.title == identity.aircraft) return true;
             in_airframe = line.starts_with("[fltsim.");
@@ -74,8 +72,7 @@ bool FindTitle(std::string_view text, AirframeSection& section) {
 }
 
 void TakeIdentity(const AirframeSection& section) {
-    identity.airline_code = section.parking_codes;
-    UpperCase(identity.airline_code);
+    identity.airline_code = UpperCase(section.parking_codes);
     const std::string voices = "\\Velarion\\TZ900\\Sounds\\TZPAS\\" + identity.airline_code;
     if (!identity.airline_code.empty() && FolderExists(voices))
         identity.airline_voice_folder = identity.airline_code;
@@ -123,8 +120,7 @@ void DetectHost() {
 }
 
 void ReadAircraftTitle() {
-    std::string title = EvalCalcText("(A:TITLE,string)");
-    LowerCase(title);
+    const std::string title = LowerCase(EvalCalcText("(A:TITLE,string)"));
     // Another aircraft of the family has been loaded: what is known of the last one no longer holds.
     if (!title.empty() && title != identity.aircraft) {
         const int attempts = identity.identify_attempts;

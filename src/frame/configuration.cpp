@@ -63,9 +63,11 @@ void ApplyReadRule(const ConfigKey& key) {
     switch (key.read) {
         case ReadRule::kPlain:
             break;
-        case ReadRule::kUpperCase:
-            UpperCase(cfg.*std::get<std::string ConfigState::*>(key.member));
+        case ReadRule::kUpperCase: {
+            std::string& text = cfg.*std::get<std::string ConfigState::*>(key.member);
+            text = UpperCase(text);
             break;
+        }
         case ReadRule::kFeetToNm:
             cfg.*std::get<double ConfigState::*>(key.member) /= kFeetPerNm;
             break;

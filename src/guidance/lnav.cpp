@@ -1,9 +1,9 @@
 #include "guidance/lnav.h"
 
 #include <cmath>
-#include <cstdio>
 
 #include "fmc/holds.h"
+#include "fmc/leg_list.h"
 #include "fmc/path.h"
 #include "fmc/vertical_segment.h"
 #include "frame/key_events.h"
@@ -12,6 +12,7 @@
 #include "guidance/sequencing.h"
 #include "guidance/turn_log.h"
 #include "platform/host.h"
+#include "platform/text.h"
 #include "state/cfg.h"
 #include "state/lnav.h"
 #include "state/plan.h"
@@ -87,7 +88,7 @@ double CourseOfNextLeg() {
     const FlightPlanLeg& to = ToLeg();
     for (int next = LegAfter(plan.stpos); next != 0; next = LegAfter(next)) {
         const FlightPlanLeg& leg = FlightPlanLegAt(next);
-        if (leg.ident == "VECTORS") return leg.from_hdg;
+        if (IsVectors(leg)) return leg.from_hdg;
         const DistBearing course = GreatCircle(to.lat, to.lon, leg.lat, leg.lon);
         if (course.dist > 0) return course.bearing;
     }
@@ -126,11 +127,8 @@ void ApproachFix() {
         lnav.fix_near = 1;
     }
     FlightPlanLeg& to = plan.FlightPlan[plan.stpos];
-    if (sim.ground_speed_kt > 65 && to.ata.empty()) {
-        char text[16];
-        std::snprintf(text, sizeof text, "%02d:%02d", sim.utc_hours, sim.utc_minutes);
-        to.ata = text;
-    }
+    if (sim.ground_speed_kt > 65 && to.ata.empty())
+        to.ata = Format("%02d:%02d", sim.utc_hours, sim.utc_minutes);
 }
 
 bool IsFixReached(bool whatever_heading) {

@@ -1,9 +1,9 @@
 #include "guidance/sequencing.h"
 
 #include <array>
-#include <cstdio>
 
 #include "fmc/flight_log.h"
+#include "fmc/leg_list.h"
 #include "fmc/path.h"
 #include "fmc/predictions.h"
 #include "fmc/route.h"
@@ -11,6 +11,7 @@
 #include "frame/key_events.h"
 #include "guidance/vnav.h"
 #include "platform/host.h"
+#include "platform/text.h"
 #include "state/cfg.h"
 #include "state/lnav.h"
 #include "state/perf.h"
@@ -20,17 +21,13 @@
 
 namespace {
 
-constexpr double kKgPerLb = 0.45359237;
-
 void ReportPosition(const FlightPlanLeg& passed) {
     PositionReport& report = plan.PositionReports[1];
     plan.position_report_cnt = 1;
     report.leg = passed;
-    char text[16];
-    std::snprintf(text, sizeof text, "%02d%02dZ", sim.utc_hours, sim.utc_minutes);
-    report.time = text;
+    report.time = Format("%02d%02dZ", sim.utc_hours, sim.utc_minutes);
     report.altitude = sim.ind_alt_ft;
-    report.fuel = (sim.total_fuel + perf.reserves) * (cfg.WeightUnit == "KGS" ? kKgPerLb : 1);
+    report.fuel = DisplayWeight(sim.total_fuel + perf.reserves);
     if (!lnav.report_ident.empty() && lnav.report_ident == passed.ident) lnav.report_due = 1;
 }
 
@@ -67,13 +64,13 @@ void ActivateLeg(int to, const FlightPlanLeg& from) {
 
 int LegAfter(int leg) {
     for (int next = leg + 1; next <= plan.fp_cnt; ++next)
-        if (FlightPlanLegAt(next).ident != "DISCO") return next;
+        if (!IsDisco(FlightPlanLegAt(next))) return next;
     return 0;
 }
 
 int LegBefore(int leg) {
     int before = leg - 1;
-    while (before > 0 && FlightPlanLegAt(before).ident == "DISCO") --before;
+    while (before > 0 && IsDisco(FlightPlanLegAt(before))) --before;
     return before < 0 ? 0 : before;
 }
 
@@ -82,7 +79,7 @@ double ReferenceVariation() {
 }
 
 bool IsVectorsLegActive() {
-    return FlightPlanLegAt(plan.stpos).ident == "VECTORS";
+    return IsVectors(FlightPlanLegAt(plan.stpos));
 }
 
 void SequenceLeg() {

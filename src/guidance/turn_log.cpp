@@ -1,9 +1,8 @@
 #include "guidance/turn_log.h"
 
-#include <cstdio>
-
 #include "fmc/path.h"
 #include "platform/files.h"
+#include "platform/text.h"
 #include "state/cfg.h"
 #include "state/lnav.h"
 #include "state/plan.h"
@@ -25,10 +24,9 @@ void LogTurnData() {
         lnav.turn_log_begun = 1;
         return;
     }
-    char line[256];
-    std::snprintf(line, sizeof line, "%d,%.40s,%.0f,%.2f,%.1f,%d,%.2f,%03.0f,%03.0f,%.0f,%.1f\n",
-                  time_base.wpt_log_ticks, FlightPlanLegAt(plan.stpos).ident.c_str(), sim.tas_kt,
-                  lnav.wpt_dist, lnav.turn_radius, lnav.turn_angle, lnav.wpt_chg_dist, sim.mag_hdg,
-                  lnav.fms_hdg, sim.bank_deg, lnav.xtk_side == kTurnLeft ? -lnav.xtk : lnav.xtk);
-    AppendToFile(kLogFile, line);
+    AppendToFile(kLogFile,
+                 Format("%d,%.40s,%.0f,%.2f,%.1f,%d,%.2f,%03.0f,%03.0f,%.0f,%.1f\n", time_base.wpt_log_ticks,
+                        FlightPlanLegAt(plan.stpos).ident.c_str(), sim.tas_kt, lnav.wpt_dist,
+                        lnav.turn_radius, lnav.turn_angle, lnav.wpt_chg_dist, sim.mag_hdg, lnav.fms_hdg,
+                        sim.bank_deg, lnav.xtk_side == kTurnLeft ? -lnav.xtk : lnav.xtk));
 }

@@ -1,7 +1,5 @@
 #include "navdata/airport_file.h"
 
-#include <cstdio>
-
 #include "navdata/geodesy.h"
 #include "navdata/ident_index.h"
 #include "navdata/text_fields.h"
@@ -23,9 +21,7 @@ std::string TextOrNone(std::string_view text) {
 std::string OppositeRunway(std::string_view ident) {
     const int number = ToWholeNumber(ident);
     if (number < 1 || number > 36) return {};
-    char text[8];
-    std::snprintf(text, sizeof text, "%02d", number < 19 ? number + 18 : number - 18);
-    std::string opposite = text;
+    const std::string opposite = Format("%02d", number < 19 ? number + 18 : number - 18);
     const std::string_view sides = ident.substr(1, 2);
     if (sides.find('L') != std::string_view::npos) return opposite + "R";
     if (sides.find('R') != std::string_view::npos) return opposite + "L";
@@ -73,7 +69,7 @@ void ReadRightPatterns(AirportData& airport) {
     std::string_view rest = file.Text();
     bool inside = false;
     while (auto line = NextDataLine(rest, kAdditionalInfoBound)) {
-        const std::string word = ToUpper(NextField(*line));
+        const std::string word = UpperCase(NextField(*line));
         if (word.starts_with('[')) {
             if (inside) return;
             inside = std::string_view(word).substr(0, kHeadingLength) ==
@@ -123,7 +119,7 @@ int LoadAirport(std::string_view ident, AirportData& target) {
     });
     if (found == 0 || ident.empty()) return 0;
     airports.loading = 1;
-    target = ParseAirport(ToUpper(nav_tables.airport_lines[found]));
+    target = ParseAirport(UpperCase(nav_tables.airport_lines[found]));
     airports.loading = 0;
     return 1;
 }
@@ -150,7 +146,7 @@ std::string FindSelcal(std::string_view registration) {
     while (auto line = NextDataLine(rest, kSelcalBound)) {
         const std::string_view owner = NextField(*line);
         if (owner.empty() || owner != registration) continue;
-        const std::string code = ToUpper(NextField(*line));
+        const std::string code = UpperCase(NextField(*line));
         return code.size() == 4 ? code.substr(0, 2) + "-" + code.substr(2) : std::string();
     }
     return {};

@@ -2,7 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdio>
+
+#include "platform/text.h"
 
 namespace {
 
@@ -35,10 +36,7 @@ std::string DegMinSec(char hemisphere, double angle) {
     const double deg = std::fabs(angle);
     const double min = (deg - std::floor(deg)) * 60;
     const double sec = (min - std::floor(min)) * 60;
-    char text[48];
-    std::snprintf(text, sizeof text, "%c%02.0f:%02.0f:%02.0f", hemisphere, std::floor(deg), std::floor(min),
-                  std::floor(sec));
-    return text;
+    return Format("%c%02.0f:%02.0f:%02.0f", hemisphere, std::floor(deg), std::floor(min), std::floor(sec));
 }
 
 double ParseCompactAngle(std::string_view text, std::size_t degree_digits) {

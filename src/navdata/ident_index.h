@@ -19,7 +19,7 @@ inline std::uint32_t HashIdent(std::string_view ident) {
 
 /// The ICAO code of a line of apts.txt, in upper case.
 inline std::string AirportLineIdent(std::string_view line) {
-    return ToUpper(NextField(line));
+    return UpperCase(NextField(line));
 }
 
 /// Indexes rows 1 to `count` of a list by what `ident_of` gives for a row.

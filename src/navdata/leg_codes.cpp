@@ -143,10 +143,6 @@ bool IsTowardsFix(const LegCode& code) {
     return code.until == LegCode::kIntercept || code.until == LegCode::kDistance;
 }
 
-bool IsDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-
 bool TakeTurn(std::string_view& text, int& turn) {
     if (text.starts_with("/LT"))
         turn = 1;

@@ -123,7 +123,7 @@ void LoadNavaids(NavTables& t) {
         NextNumber(*line, lon);
         const std::string_view kind = NextField(*line), freq = NextField(*line);
         if (kind.empty()) continue;
-        const std::string_view type = ToUpper(kind) == "VOR" ? "V" : "N";
+        const std::string_view type = EqualIgnoringCase(kind, "VOR") ? "V" : "N";
         t.NavaidTable[++t.nav_cnt] = {ident, name, lat, lon, type, freq};
     }
     BuildIdentIndex(t.nav_index, t.NavaidTable, t.nav_cnt, kIdentOf);

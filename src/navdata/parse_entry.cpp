@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
-#include <cstdio>
 #include <optional>
 #include <string>
 #include <utility>
@@ -96,13 +95,6 @@ int HighestWptNumber(const GrowingList<FlightPlanLeg>& legs, int last) {
             highest = std::max(highest, Digits(ident.substr(3)).value_or(0));
     }
     return highest;
-}
-
-template <class... Values>
-std::string Format(const char* format, Values... values) {
-    char text[32];
-    std::snprintf(text, sizeof text, format, values...);
-    return text;
 }
 
 std::string PositionName(const PositionText& position, std::string_view entry) {

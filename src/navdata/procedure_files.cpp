@@ -39,11 +39,6 @@ void OpenGap(Fields& fields, std::size_t place) {
     fields[place] = {};
 }
 
-bool IsNumber(std::string_view text) {
-    if (text.starts_with('-') || text.starts_with('+')) text.remove_prefix(1);
-    return !text.empty() && text.find_first_not_of("0123456789.") == std::string_view::npos;
-}
-
 bool IsAltitude(std::string_view text) {
     if (text.ends_with('+') || text.ends_with('-') || IsAltitudeWindow(text)) text.remove_suffix(1);
     return !text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos;

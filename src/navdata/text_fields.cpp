@@ -31,13 +31,6 @@ std::optional<std::string_view> NextDataLine(std::string_view& rest, std::size_t
     return line;
 }
 
-std::string ToUpper(std::string_view text) {
-    std::string upper(text);
-    for (char& c : upper)
-        if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
-    return upper;
-}
-
 double ToNumber(std::string_view text) {
     double number = 0;
     const char* const end = text.data() + text.size();

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "platform/files.h"
+#include "platform/text.h"
 
 // Reading the navigation files: bounded lines, fields between blanks, numbers. Inline, for the time to load
 // the world's data is spent here.
@@ -45,8 +46,6 @@ inline std::string_view NextField(std::string_view& line) {
 inline std::string_view NextTokenPart(std::string_view& token) {
     return NextPart(token, [](char c) { return c == '_'; });
 }
-
-std::string ToUpper(std::string_view text);
 
 /// The number at the start of a text; 0 where there is none.
 double ToNumber(std::string_view text);

@@ -44,12 +44,21 @@ double LeadingDouble(std::string_view text) {
     return result.ec == std::errc{} && std::isfinite(value) ? value : 0;
 }
 
-void UpperCase(std::string& text) {
-    std::ranges::transform(text, text.begin(), Upper);
+bool IsNumber(std::string_view text) {
+    if (text.starts_with('-') || text.starts_with('+')) text.remove_prefix(1);
+    return !text.empty() && text.find_first_not_of("0123456789.") == std::string_view::npos;
 }
 
-void LowerCase(std::string& text) {
-    std::ranges::transform(text, text.begin(), Lower);
+std::string UpperCase(std::string_view text) {
+    std::string upper(text);
+    std::ranges::transform(upper, upper.begin(), Upper);
+    return upper;
+}
+
+std::string LowerCase(std::string_view text) {
+    std::string lower(text);
+    std::ranges::transform(lower, lower.begin(), Lower);
+    return lower;
 }
 
 bool EqualIgnoringCase(std::string_view a, std::string_view b) {

@@ -15,8 +15,15 @@ int LeadingInt(std::string_view text);
 /// The decimal number that a text begins with, after blanks. 0 when there is none; never infinite or NaN.
 double LeadingDouble(std::string_view text);
 
-void UpperCase(std::string& text);
-void LowerCase(std::string& text);
+inline bool IsDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+/// Whether a text is nothing but digits and points, with a sign before them at the most.
+bool IsNumber(std::string_view text);
+
+std::string UpperCase(std::string_view text);
+std::string LowerCase(std::string_view text);
 bool EqualIgnoringCase(std::string_view a, std::string_view b);
 
 /// A text by printf's rules, cut at 511 characters.
