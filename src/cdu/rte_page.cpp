@@ -7,6 +7,7 @@
 #include "fmc/edit_legs.h"
 #include "fmc/endpoints.h"
 #include "fmc/insert_fix.h"
+#include "fmc/leg_list.h"
 #include "fmc/route.h"
 #include "fmc/route_airway.h"
 #include "fmc/route_files.h"
@@ -170,10 +171,6 @@ int PageCount() {
     return 2 + (plan.route_cnt - FirstShownRow() + 1) / kRowsPerPage;
 }
 
-bool IsOpenAirway(const RouteRow& row) {
-    return row.to.empty() && row.via_type == "AWY";
-}
-
 void OnVia(PageCall& call, int row) {
     if (IsDelete(call)) {
         if (RemoveViaRow(row) == 0) return RefuseDelete(call);
@@ -207,8 +204,14 @@ int ConnectFrom(int row) {
     return 0;
 }
 
-void OnAirwayEnd(PageCall& call, int row, bool is_open) {
-    const std::string airway = plan.Route[row].via;
+// A new row along the airway of the row before shows nothing until it has an end: its legs join that row.
+bool ContinuesAirway(int row) {
+    if (row <= plan.route_cnt || plan.Route[row - 1].via_type != "AWY") return false;
+    const int fix = FindRouteFix(row - 1, false);
+    return fix > 0 && fix < plan.mod_cnt && IsThen(plan.FlightPlanMod[fix + 1]);
+}
+
+void OnAirwayEnd(PageCall& call, int row, const std::string& airway, bool is_open) {
     LoadAirway("#" + airway, row, FindRouteFix(row - 1, false), call.side);
     const int end = FindFixOnAirway(Entry(call));
     if (end == 0 || end == plan.awy_start_pos) return Refuse(call, "INVALID ENTRY", kHelpNotAllowed);
@@ -233,8 +236,8 @@ void OnTo(PageCall& call, int row) {
         ConnectLegs(ConnectFrom(row), later, call.side);
         return LegsChanged(call);
     }
-    if (IsOpenAirway(shown)) return OnAirwayEnd(call, row, true);
-    if (shown.via_type == "AWY") return OnAirwayEnd(call, row, false);
+    if (ContinuesAirway(row)) return OnAirwayEnd(call, row, plan.Route[row - 1].via, true);
+    if (shown.via_type == "AWY") return OnAirwayEnd(call, row, shown.via, shown.to.empty());
     ParseEntry(Entry(call));
     if (nav.entry_cnt == 0) return Refuse(call, "NOT IN DATABASE", kHelpRoute);
     if (nav.entry_cnt > 1) return OpenSelectWpt(call, row);

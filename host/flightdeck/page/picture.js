@@ -284,6 +284,7 @@ export class Screen {
         for (const screen of picture.waiting) screen.drawSoon();
         picture.waiting.clear();
       };
+      picture.onerror = () => Screen.pictures.delete(file);  // the host may have been away: asked for again
       picture.src = `/image/${encodeURIComponent(file)}`;
       Screen.pictures.set(file, picture);
     }
