@@ -95,13 +95,11 @@ test('the canvas shows what Cairo paints', async (t) => {
       return new Screen(canvas);
     });
     for (const screen of screens) screen.take(Uint8Array.from(atob(message), (c) => c.charCodeAt(0)));
-    const frame = () => new Promise((done) => requestAnimationFrame(done));
-    await frame();
-    await Promise.all([...Screen.pictures.values()].map((picture) => picture.decode()));
-    await frame();
-    await frame();
-    return screens.map(({canvas: {width, height}, context}) =>
-      context.getImageData(0, 0, width, height).data.some((value, i) => i % 4 < 3 && value > 0));
+    const isInked = ({canvas: {width, height}, context}) =>
+      context.getImageData(0, 0, width, height).data.some((value, i) => i % 4 < 3 && value > 0);
+    for (let frame = 0; frame < 600 && !screens.every(isInked); ++frame)
+      await new Promise((done) => requestAnimationFrame(done));
+    return screens.map(isInked);
   }, message);
   assert.deepEqual(inked, [true, true], 'an image is drawn on each screen that waits for it');
 
