@@ -44,11 +44,13 @@ struct Viewer {
                 const std::string name = linkage.gauges[i].name;
                 uint64_t& number = pictures[name];
                 linkage.inspection->picture(name.c_str(), number, keep, &number);
+                if (name == "DU_LOWER_PW") lower_pictures = number;
             }
             std::this_thread::sleep_for(std::chrono::milliseconds(3));
         }
     }
     std::map<std::string, uint64_t> pictures;
+    std::atomic<uint64_t> lower_pictures = 0;
     std::atomic<bool> stop = false;
     std::thread thread;
 };
@@ -57,8 +59,15 @@ constexpr const char* kKeys[] = {"TZ_FMC_L_B_Button",     "TZ_FMC_R_NXTPG_Button
                                  "TZ_MCP_L_EICAS_Button", "TZ_FMC_L_CLR_Button",   "TZ_MCP_R_SYS_Button",
                                  "TZ_FMC_R_EXEC_Button",  "TZ_MCP_L_INFO_Button",  "TZ_MCP_L_ND_Button"};
 
-void Fly(Session& session, Clock::time_point until) {
-    for (int tick = 0; Clock::now() < until; ++tick) {
+constexpr uint64_t kEnoughPictures = 4;
+constexpr std::chrono::seconds kPatience{60};  // on a machine that is busy with other things
+
+void Fly(Session& session, const Viewer& viewer, Clock::time_point until) {
+    const auto goes_on = [&] {
+        return Clock::now() < until ||
+               (viewer.lower_pictures < kEnoughPictures && Clock::now() < until + kPatience);
+    };
+    for (int tick = 0; goes_on(); ++tick) {
         TickSession(session, tick % 7 == 0);
         CallGauges(session, kServicePreDraw);
         if (tick % 5 == 0)
@@ -92,13 +101,13 @@ TEST(WorkerThreads, PaintWhileTheHostFliesReinstallsAndTearsDown) {
         ASSERT_TRUE(EnterRoute(session, "KSEA BTG J1 OED KSFO", error)) << error;
         ASSERT_TRUE(ExecuteRoute(session, error)) << error;
         Viewer viewer(*session.linkage);
-        Fly(session, Clock::now() + std::chrono::duration_cast<Clock::duration>(life));
+        Fly(session, viewer, Clock::now() + std::chrono::duration_cast<Clock::duration>(life));
         viewer.Stop();
         StopSession(session);
         int painted = 0;
         for (const auto& [gauge, number] : viewer.pictures) painted += number > 0 ? 1 : 0;
         EXPECT_EQ(painted, kPaintedGauges);
-        EXPECT_GT(viewer.pictures["DU_LOWER_PW"], 3u);
+        EXPECT_GE(viewer.pictures["DU_LOWER_PW"], kEnoughPictures);
     }
     world = {};
 }
