@@ -2,10 +2,10 @@
 
 #include <string>
 
-#include "cdu/cdu_format.h"
-#include "cdu/page.h"
-#include "fmc/endpoints.h"
-#include "fmc/select_procedures.h"
+#include "cdu/unit/cdu_format.h"
+#include "cdu/words/page.h"
+#include "fmc/procedures/select_procedures.h"
+#include "fmc/route/endpoints.h"
 #include "legs.h"
 #include "navdata/nav_tables.h"
 #include "state/airports.h"

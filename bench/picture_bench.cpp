@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "display/frame.h"
-#include "display/gauge.h"
-#include "display/modes.h"
+#include "display/pictures/frame.h"
+#include "display/pictures/gauge.h"
+#include "display/routing/modes.h"
 #include "flying_session.h"
 #include "host/flightdeck/picture_stream.h"
 #include "host/screens.h"

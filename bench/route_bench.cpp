@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "fmc/execute_route.h"
-#include "fmc/route_text.h"
+#include "fmc/route/execute_route.h"
+#include "fmc/route/route_text.h"
 #include "legs.h"
 #include "navdata/nav_tables.h"
 #include "state/plan.h"

@@ -6,9 +6,9 @@
 #include <string>
 #include <string_view>
 
+#include "base/text.h"
 #include "platform/files.h"
 #include "platform/host.h"
-#include "platform/text.h"
 #include "state/cfg.h"
 #include "state/identity.h"
 #include "state/perf.h"

@@ -7,10 +7,10 @@
 #include <string>
 #include <string_view>
 
+#include "base/text.h"
 #include "frame/fuel_loader.h"
 #include "paint/fonts.h"
 #include "platform/files.h"
-#include "platform/text.h"
 #include "state/cfg.h"
 #include "state/cockpit.h"
 #include "state/perf.h"

@@ -4,10 +4,10 @@
 #include <array>
 #include <cmath>
 
-#include "fmc/holds.h"
-#include "fmc/path.h"
-#include "fmc/route.h"
-#include "fmc/vertical_segment.h"
+#include "fmc/legs/holds.h"
+#include "fmc/legs/path.h"
+#include "fmc/performance/vertical_segment.h"
+#include "fmc/route/route.h"
 #include "guidance/sequencing.h"
 #include "platform/host.h"
 #include "state/lnav.h"

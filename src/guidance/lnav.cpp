@@ -2,17 +2,17 @@
 
 #include <cmath>
 
-#include "fmc/holds.h"
-#include "fmc/leg_list.h"
-#include "fmc/path.h"
-#include "fmc/vertical_segment.h"
+#include "base/text.h"
+#include "fmc/legs/holds.h"
+#include "fmc/legs/leg_list.h"
+#include "fmc/legs/path.h"
+#include "fmc/performance/vertical_segment.h"
 #include "frame/key_events.h"
 #include "frame/named_variables.h"
 #include "guidance/holds.h"
 #include "guidance/sequencing.h"
 #include "guidance/turn_log.h"
 #include "platform/host.h"
-#include "platform/text.h"
 #include "state/cfg.h"
 #include "state/lnav.h"
 #include "state/plan.h"

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <cstdlib>
 
-#include "fmc/path.h"
+#include "fmc/legs/path.h"
 #include "frame/key_events.h"
 #include "frame/named_variables.h"
 #include "frame/tokens.h"

@@ -2,16 +2,16 @@
 
 #include <array>
 
-#include "fmc/flight_log.h"
-#include "fmc/leg_list.h"
-#include "fmc/path.h"
-#include "fmc/predictions.h"
-#include "fmc/route.h"
-#include "fmc/vertical_segment.h"
+#include "base/text.h"
+#include "fmc/legs/leg_list.h"
+#include "fmc/legs/path.h"
+#include "fmc/performance/flight_log.h"
+#include "fmc/performance/predictions.h"
+#include "fmc/performance/vertical_segment.h"
+#include "fmc/route/route.h"
 #include "frame/key_events.h"
 #include "guidance/vnav.h"
 #include "platform/host.h"
-#include "platform/text.h"
 #include "state/cfg.h"
 #include "state/lnav.h"
 #include "state/perf.h"

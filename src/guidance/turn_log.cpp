@@ -1,8 +1,8 @@
 #include "guidance/turn_log.h"
 
-#include "fmc/path.h"
+#include "base/text.h"
+#include "fmc/legs/path.h"
 #include "platform/files.h"
-#include "platform/text.h"
 #include "state/cfg.h"
 #include "state/lnav.h"
 #include "state/plan.h"

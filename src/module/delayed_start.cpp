@@ -1,6 +1,6 @@
 #include "module/delayed_start.h"
 
-#include "display/remote_bridge.h"
+#include "display/pictures/remote_bridge.h"
 #include "frame/configuration.h"
 #include "frame/crew_messages.h"
 #include "frame/key_events.h"

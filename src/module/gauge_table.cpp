@@ -1,7 +1,7 @@
 #include "module/gauge_table.h"
 
-#include "display/gauge.h"
-#include "display/selector_gauges.h"
+#include "display/pictures/gauge.h"
+#include "display/routing/selector_gauges.h"
 #include "module/lifecycle.h"
 #include "module/mcp_gauge.h"
 #include "module/mouse_gauges.h"

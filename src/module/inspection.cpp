@@ -3,9 +3,9 @@
 #include <string>
 #include <string_view>
 
-#include "cdu/items.h"
-#include "fmc/route_operations.h"
-#include "fmc/route_text.h"
+#include "cdu/unit/items.h"
+#include "fmc/route/route_operations.h"
+#include "fmc/route/route_text.h"
 #include "module/controls/control_table.h"
 #include "module/pictures.h"
 #include "module/printed_lists.h"

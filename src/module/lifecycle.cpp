@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "fmc/route_files.h"
+#include "fmc/files/route_files.h"
 #include "frame/aircraft.h"
 #include "frame/configuration.h"
 #include "frame/key_hook.h"

@@ -1,6 +1,6 @@
 #include "module/main_update.h"
 
-#include "fmc/flight_log.h"
+#include "fmc/performance/flight_log.h"
 #include "frame/aircraft.h"
 #include "frame/key_events.h"
 #include "frame/snapshot.h"

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <utility>
 
-#include "display/clicks.h"
+#include "display/formats/clicks.h"
 #include "frame/key_events.h"
 #include "module/controls/control_table.h"
 #include "module/controls/operate.h"

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "display/gauge.h"
+#include "display/pictures/gauge.h"
 #include "paint/encode.h"
 #include "paint/fonts.h"
 #include "paint/image_store.h"

@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "fmc/path.h"
-#include "fmc/predictions.h"
+#include "fmc/legs/path.h"
+#include "fmc/performance/predictions.h"
 #include "navdata/airways.h"
 #include "navdata/geodesy.h"
 #include "navdata/magnetic_model.h"

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "cdu/items.h"
+#include "cdu/unit/items.h"
 #include "frame/named_variables.h"
 #include "module/mouse_areas.h"
 #include "module/mouse_gauges.h"

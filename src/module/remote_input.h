@@ -1,6 +1,6 @@
 #pragma once
 
-#include "display/remote_bridge.h"
+#include "display/pictures/remote_bridge.h"
 
 /// Carries out what the remote peer has pressed since the last call, as the cockpit's own key or screen
 /// would.

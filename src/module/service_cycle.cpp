@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cstring>
 
-#include "cdu/cdu_service.h"
-#include "display/cdu_shown.h"
+#include "cdu/unit/cdu_service.h"
+#include "display/routing/cdu_shown.h"
 #include "frame/aircraft.h"
 #include "frame/key_events.h"
 #include "frame/keyboard_capture.h"

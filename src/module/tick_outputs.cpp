@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <numeric>
 
-#include "display/routing.h"
-#include "fmc/winds.h"
+#include "display/routing/routing.h"
+#include "fmc/performance/winds.h"
 #include "frame/active_runways.h"
 #include "frame/named_variables.h"
 #include "guidance/autoflight.h"

@@ -1,8 +1,8 @@
 #include "navdata/airport_file.h"
 
+#include "base/text_fields.h"
 #include "navdata/geodesy.h"
 #include "navdata/ident_index.h"
-#include "navdata/text_fields.h"
 #include "state/nav_tables.h"
 
 namespace {

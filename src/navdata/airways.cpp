@@ -3,8 +3,8 @@
 #include <string>
 #include <unordered_set>
 
+#include "base/text_fields.h"
 #include "navdata/ident_index.h"
-#include "navdata/text_fields.h"
 #include "state/nav.h"
 #include "state/nav_tables.h"
 

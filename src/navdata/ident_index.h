@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "navdata/text_fields.h"
+#include "base/text_fields.h"
 #include "state/nav_tables.h"
 
 // The tables are searched by ident on every key press that enters one; with an index the answer is that of a

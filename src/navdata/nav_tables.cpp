@@ -6,9 +6,9 @@
 #include <string>
 #include <string_view>
 
+#include "base/text_fields.h"
 #include "navdata/airways.h"
 #include "navdata/ident_index.h"
-#include "navdata/text_fields.h"
 #include "platform/host.h"
 #include "state/cfg.h"
 #include "state/nav.h"

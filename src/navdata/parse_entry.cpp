@@ -9,9 +9,9 @@
 #include <variant>
 #include <vector>
 
+#include "base/text_fields.h"
 #include "navdata/geodesy.h"
 #include "navdata/ident_index.h"
-#include "navdata/text_fields.h"
 #include "state/nav.h"
 #include "state/nav_tables.h"
 #include "state/plan.h"

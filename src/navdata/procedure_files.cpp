@@ -5,11 +5,11 @@
 #include <cmath>
 #include <utility>
 
+#include "base/text.h"
+#include "base/text_fields.h"
 #include "navdata/geodesy.h"
 #include "navdata/leg_codes.h"
 #include "navdata/magnetic_model.h"
-#include "navdata/text_fields.h"
-#include "platform/text.h"
 #include "state/perf.h"
 
 namespace {

@@ -3,7 +3,7 @@
 #include <array>
 #include <bit>
 
-#include "paint/byte_fields.h"
+#include "base/byte_fields.h"
 
 namespace {
 

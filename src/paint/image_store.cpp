@@ -5,11 +5,11 @@
 #include <mutex>
 #include <utility>
 
+#include "base/text.h"
 #include "paint/bmp.h"
 #include "paint/jpeg.h"
 #include "paint/png.h"
 #include "platform/files.h"
-#include "platform/text.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include <cmath>
 #include <memory>
 
-#include "paint/byte_fields.h"
+#include "base/byte_fields.h"
 
 namespace {
 

@@ -7,7 +7,7 @@
 #include <cmath>
 #include <cstring>
 
-#include "paint/byte_fields.h"
+#include "base/byte_fields.h"
 
 namespace {
 

@@ -1,11 +1,11 @@
 #include <gtest/gtest.h>
 
-#include "cdu/cdu_service.h"
-#include "cdu/init_ref.h"
-#include "cdu/items.h"
-#include "cdu/keypad.h"
-#include "cdu/page.h"
-#include "cdu/procedure_columns.h"
+#include "cdu/pages/procedure_columns.h"
+#include "cdu/unit/cdu_service.h"
+#include "cdu/unit/init_ref.h"
+#include "cdu/unit/items.h"
+#include "cdu/unit/keypad.h"
+#include "cdu/words/page.h"
 #include "frame/crew_messages.h"
 #include "state/cfg.h"
 #include "state/keyboard.h"

@@ -3,13 +3,13 @@
 #include <cstdlib>
 #include <random>
 
-#include "cdu/cdu_format.h"
-#include "cdu/cdu_service.h"
-#include "cdu/items.h"
-#include "cdu/keypad.h"
+#include "cdu/unit/cdu_format.h"
+#include "cdu/unit/cdu_service.h"
+#include "cdu/unit/items.h"
+#include "cdu/unit/keypad.h"
 #include "fmc/demo_navdata.h"
+#include "fmc/route/route_text.h"
 #include "fmc/route_invariants.h"
-#include "fmc/route_text.h"
 #include "frame/named_variable_catalogue.h"
 #include "guidance/holds.h"
 #include "guidance/lnav.h"

@@ -1,4 +1,4 @@
-#include "display/clicks.h"
+#include "display/formats/clicks.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
-#include "display/gauge.h"
+#include "display/pictures/gauge.h"
 
 #include <gtest/gtest.h>
 
-#include "display/selector_gauges.h"
+#include "display/routing/selector_gauges.h"
 #include "state/displays.h"
 #include "state/electrical.h"
 #include "support/fake_host.h"

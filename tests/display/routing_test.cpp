@@ -1,4 +1,4 @@
-#include "display/routing.h"
+#include "display/routing/routing.h"
 
 #include <gtest/gtest.h>
 

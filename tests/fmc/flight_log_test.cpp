@@ -1,4 +1,4 @@
-#include "fmc/flight_log.h"
+#include "fmc/performance/flight_log.h"
 
 #include <gtest/gtest.h>
 

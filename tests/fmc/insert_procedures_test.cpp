@@ -3,10 +3,10 @@
 #include <string>
 
 #include "fmc/demo_navdata.h"
-#include "fmc/endpoints.h"
-#include "fmc/execute_route.h"
+#include "fmc/procedures/select_procedures.h"
+#include "fmc/route/endpoints.h"
+#include "fmc/route/execute_route.h"
 #include "fmc/route_invariants.h"
-#include "fmc/select_procedures.h"
 #include "navdata/geodesy.h"
 #include "state/cfg.h"
 #include "state/plan.h"

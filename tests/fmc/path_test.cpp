@@ -1,4 +1,4 @@
-#include "fmc/path.h"
+#include "fmc/legs/path.h"
 
 #include <gtest/gtest.h>
 

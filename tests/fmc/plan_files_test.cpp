@@ -1,4 +1,4 @@
-#include "fmc/plan_files.h"
+#include "fmc/files/plan_files.h"
 
 #include <gtest/gtest.h>
 
@@ -6,9 +6,9 @@
 #include <string>
 
 #include "fmc/demo_navdata.h"
-#include "fmc/host_gps_route.h"
-#include "fmc/route.h"
-#include "fmc/route_files.h"
+#include "fmc/files/host_gps_route.h"
+#include "fmc/files/route_files.h"
+#include "fmc/route/route.h"
 #include "fmc/route_invariants.h"
 #include "platform/files.h"
 #include "state/cdu.h"

@@ -1,4 +1,4 @@
-#include "fmc/predictions.h"
+#include "fmc/performance/predictions.h"
 
 #include <gtest/gtest.h>
 

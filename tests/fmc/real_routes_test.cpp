@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "fmc/route_text.h"
+#include "fmc/route/route_text.h"
 #include "navdata/geodesy.h"
 #include "navdata/nav_tables.h"
 #include "state/plan.h"

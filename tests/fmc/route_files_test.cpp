@@ -1,4 +1,4 @@
-#include "fmc/route_files.h"
+#include "fmc/files/route_files.h"
 
 #include <gtest/gtest.h>
 
@@ -6,14 +6,14 @@
 #include <string>
 
 #include "fmc/demo_navdata.h"
-#include "fmc/execute_route.h"
-#include "fmc/holds.h"
-#include "fmc/leg_list.h"
-#include "fmc/plan_files.h"
-#include "fmc/route.h"
+#include "fmc/files/plan_files.h"
+#include "fmc/legs/holds.h"
+#include "fmc/legs/leg_list.h"
+#include "fmc/procedures/select_procedures.h"
+#include "fmc/route/execute_route.h"
+#include "fmc/route/route.h"
+#include "fmc/route/route_text.h"
 #include "fmc/route_invariants.h"
-#include "fmc/route_text.h"
-#include "fmc/select_procedures.h"
 #include "navdata/nav_tables.h"
 #include "platform/files.h"
 #include "state/airports.h"

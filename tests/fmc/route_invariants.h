@@ -5,10 +5,10 @@
 #include <algorithm>
 #include <string>
 
-#include "fmc/holds.h"
-#include "fmc/leg_list.h"
-#include "fmc/route.h"
-#include "fmc/route_rows.h"
+#include "fmc/legs/holds.h"
+#include "fmc/legs/leg_list.h"
+#include "fmc/legs/route_rows.h"
+#include "fmc/route/route.h"
 #include "state/plan.h"
 
 inline std::string Idents(const GrowingList<FlightPlanLeg>& legs, int count) {

@@ -3,11 +3,11 @@
 #include <gtest/gtest.h>
 
 #include "fmc/demo_navdata.h"
-#include "fmc/insert_fix.h"
-#include "fmc/route.h"
+#include "fmc/legs/insert_fix.h"
+#include "fmc/route/route.h"
+#include "fmc/route/route_operations.h"
+#include "fmc/route/route_text.h"
 #include "fmc/route_invariants.h"
-#include "fmc/route_operations.h"
-#include "fmc/route_text.h"
 #include "navdata/parse_entry.h"
 #include "state/plan.h"
 #include "state/sim.h"

@@ -1,9 +1,9 @@
-#include "fmc/route_text.h"
+#include "fmc/route/route_text.h"
 
 #include <gtest/gtest.h>
 
 #include "fmc/demo_navdata.h"
-#include "fmc/route.h"
+#include "fmc/route/route.h"
 #include "state/perf.h"
 #include "state/plan.h"
 #include "state/sim.h"

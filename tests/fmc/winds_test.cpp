@@ -1,10 +1,10 @@
-#include "fmc/winds.h"
+#include "fmc/performance/winds.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
 
-#include "fmc/route.h"
+#include "fmc/route/route.h"
 #include "state/airports.h"
 #include "state/module_life.h"
 #include "state/perf.h"

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "fmc/path.h"
+#include "fmc/legs/path.h"
 #include "guidance/autoflight.h"
 #include "guidance/lnav.h"
 #include "host/aircraft/aircraft.h"

@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-#include "display/modes.h"
+#include "display/routing/modes.h"
 #include "frame/cues.h"
 #include "host/inspection.h"
 #include "host/remote_peer.h"

@@ -53,9 +53,9 @@ std::string IncludedName(const std::string& line) {
 }
 
 // Each folder of src/ may include what stands before it in this order, and state/.
-const std::vector<std::string> kOrder = {"platform", "state",  "paint",   "frame", "navdata", "fmc",
-                                         "guidance", "panels", "systems", "sound", "cdu",     "checklist",
-                                         "comm",     "efb",    "display", "module"};
+const std::vector<std::string> kOrder = {"base",      "platform", "state",  "paint",   "frame", "navdata",
+                                         "fmc",       "guidance", "panels", "systems", "sound", "cdu",
+                                         "checklist", "comm",     "efb",    "display", "module"};
 
 TEST(Tidy, IncludesPointForward) {
     const auto place = [](const std::string& folder) {

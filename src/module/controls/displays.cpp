@@ -3,8 +3,8 @@
 #include <string>
 #include <string_view>
 
-#include "display/nd_controls.h"
-#include "display/routing.h"
+#include "display/routing/nd_controls.h"
+#include "display/routing/routing.h"
 #include "frame/key_events.h"
 #include "guidance/mcp.h"
 #include "module/controls/panels.h"

@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "display/nd_controls.h"
+#include "display/routing/nd_controls.h"
 #include "guidance/mcp.h"
 #include "module/controls/control_table.h"
 #include "module/controls/panels.h"

@@ -3,8 +3,8 @@
 #include <string_view>
 #include <utility>
 
-#include "cdu/items.h"
-#include "cdu/keypad.h"
+#include "cdu/unit/items.h"
+#include "cdu/unit/keypad.h"
 #include "module/controls/panels.h"
 #include "state/cockpit.h"
 #include "state/side.h"

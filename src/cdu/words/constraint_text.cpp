@@ -1,0 +1,30 @@
+#include "cdu/words/constraint_text.h"
+
+#include "base/text.h"
+#include "state/cfg.h"
+
+bool HasWindow(const FlightPlanLeg& leg) {
+    return leg.restr_code != 0 && leg.alt_restr <= 0 && leg.block_above > 0;
+}
+
+std::string AltitudeText(double altitude) {
+    return altitude > cfg.TransAlt ? Format("FL%03.0f", altitude / 100) : Format("%5.0f", altitude);
+}
+
+std::string SpeedText(const FlightPlanLeg& leg) {
+    if (leg.mach_restr > 0 && leg.mach_restr < 1) return Format(".%03.0f", leg.mach_restr * 1000);
+    return leg.ias_restr > 0 ? Format("%3.0f", leg.ias_restr) : "----";
+}
+
+std::string ConstraintAltitude(const FlightPlanLeg& leg) {
+    if (HasWindow(leg)) return Format("%-3.0fA%-3.0fB", leg.block_above / 100, leg.block_below / 100);
+    const bool constrained = (leg.restr_code == 1 || leg.restr_code == 3) && leg.alt_restr > 0;
+    if (!constrained) return {};
+    return AltitudeText(leg.alt_restr) + (leg.restr_type == 1 ? "A" : leg.restr_type == 2 ? "B" : "");
+}
+
+std::string ConstraintText(const FlightPlanLeg& leg) {
+    const std::string altitude = ConstraintAltitude(leg);
+    const bool speed = leg.ias_restr > 0 || leg.mach_restr > 0;
+    return (speed ? SpeedText(leg) : std::string()) + "/" + std::string(Trimmed(altitude));
+}

@@ -1,0 +1,46 @@
+#include "cdu/words/shown_plan.h"
+
+#include <algorithm>
+
+#include "fmc/legs/leg_list.h"
+#include "fmc/legs/path.h"
+#include "fmc/route/route.h"
+#include "navdata/geodesy.h"
+#include "navdata/magnetic_model.h"
+
+namespace {
+
+const GrowingList<FlightPlanLeg>& ShownList() {
+    return plan.fms_fpln_active == kRouteActive ? plan.FlightPlan : plan.FlightPlanMod;
+}
+
+}  // namespace
+
+const FlightPlanLeg& ShownLeg(int index) {
+    return ShownList()[index];
+}
+
+int ShownCount() {
+    return plan.fms_fpln_active == kRouteActive ? plan.fp_cnt : plan.mod_cnt;
+}
+
+int ShownActiveLeg() {
+    if (plan.fms_fpln_active < kRouteActive) return 0;
+    const int leg = plan.fms_fpln_active == kRouteActive ? plan.stpos : PendingActiveLeg();
+    return leg == kNoPlan ? 0 : leg;
+}
+
+int FirstShownLeg() {
+    return std::max(1, ShownActiveLeg());
+}
+
+ShownTrack TrackToLeg(int index) {
+    const int before = PlaceBefore(ShownList(), index);
+    if (before < 0 || !IsPlace(ShownLeg(index))) return {};
+    const FlightPlanLeg& from = ShownLeg(before);
+    const FlightPlanLeg& to = ShownLeg(index);
+    const DistBearing line = GreatCircle(from.lat, from.lon, to.lat, to.lon);
+    double course = FoldBearing(line.bearing - MagVarAt(from.lat, from.lon));
+    if (course < 0.5) course += 360;
+    return {true, course, line.dist};
+}

@@ -1,7 +1,0 @@
-#pragma once
-
-#include "display/gauge.h"
-
-/// Composes one picture of a gauge from the state as it stands. False when the gauge may not paint now, so
-/// that its last picture stays. Called under the state lock.
-bool ComposeFrame(const PaintedGauge& gauge, DrawList& list);

@@ -1,0 +1,66 @@
+#include "display/pictures/frame.h"
+
+#include "display/pictures/compose.h"
+#include "display/routing/routing.h"
+#include "paint/graphics.h"
+#include "state/displays.h"
+#include "state/electrical.h"
+
+namespace {
+
+// Alpha 0: the host's blank screen shows through.
+constexpr Argb kDark = 0x0072bd61;
+constexpr int kFirstLevel = 15, kSecondLevel = 180;
+constexpr int kBatteryAlone = 5;  // lights no unit, however long it lasts
+
+bool MayPaint(ShownIn shown_in) {
+    const bool in_2d = displays.cockpit_2d_active == 1;
+    return shown_in == ShownIn::kAlways || in_2d == (shown_in == ShownIn::k2dCockpit);
+}
+
+bool UnitIsPowered(int unit) {
+    const int power = electrical.power_level;
+    switch (unit) {
+        case 1:
+            return power >= kFirstLevel;
+        case 2:
+            return power > kBatteryAlone && displays.du_cib_startup_cnt >= 90;
+        case 3:
+        case 4:
+            return power >= kSecondLevel;
+        case 5:
+            return power > kBatteryAlone && displays.du_lwr_startup_cnt >= 60;
+        default:
+            return false;
+    }
+}
+
+}  // namespace
+
+bool ComposeFrame(const PaintedGauge& gauge, DrawList& list) {
+    if (!MayPaint(gauge.shown_in)) return false;
+    Graphics graphics =
+        GdipCreateGraphics(list, static_cast<float>(gauge.width), static_cast<float>(gauge.height));
+    switch (gauge.painting) {
+        case Painting::kDisplayUnit:
+            if (UnitIsPowered(gauge.unit))
+                return ComposeDisplayUnit(graphics, DisplayModeOf(gauge.unit), gauge.unit, gauge.gauge_id);
+            GdipGraphicsClear(graphics, kDark);
+            break;
+        case Painting::kStandby:
+            GdipGraphicsClear(graphics, kDark);
+            if (electrical.power_level >= kFirstLevel) DrawStandbyPfd(graphics);
+            break;
+        case Painting::kHud:
+            GdipGraphicsClear(graphics, 0);
+            if (electrical.power_level >= kFirstLevel) DrawHud(graphics);
+            break;
+        case Painting::kEfb:
+            DrawEfb(graphics, gauge.unit);
+            break;
+        case Painting::kDebug:
+            DrawDebug(graphics);
+            break;
+    }
+    return true;
+}

@@ -1,0 +1,134 @@
+#include "fmc/files/loaded_route.h"
+
+#include <utility>
+#include <vector>
+
+#include "fmc/legs/holds.h"
+#include "fmc/legs/leg_list.h"
+#include "fmc/legs/route_rows.h"
+#include "fmc/performance/default_speeds.h"
+#include "fmc/performance/flight_log.h"
+#include "fmc/route/endpoints.h"
+#include "fmc/route/route.h"
+#include "navdata/geodesy.h"
+#include "state/airports.h"
+#include "state/cdu.h"
+#include "state/cfg.h"
+#include "state/perf.h"
+#include "state/plan.h"
+#include "state/procedure_lists.h"
+#include "state/sim.h"
+
+namespace {
+
+constexpr int kNoCostIndex = -1;
+
+bool IsActive() {
+    return plan.fms_fpln_active >= kRouteActive;
+}
+
+// The leg flown before a hold's; a hold has a leg of its own behind its fix, so that a namesake isn't it.
+int LegBeforeHold(int leg) {
+    GrowingList<FlightPlanLeg>& legs = plan.FlightPlanMod;
+    const int before = PlaceBefore(legs, leg);
+    if (before <= 0 || legs[before].ident != legs[leg].ident) return before;
+    return PlaceBefore(legs, before);
+}
+
+// A file tells at which legs holds stand, and no more: each is made anew.
+void MakeStoredHolds() {
+    std::vector<int> hold_legs;
+    for (int i = 1; i <= plan.mod_cnt; ++i)
+        if (std::exchange(plan.FlightPlanMod[i].hold_pos, 0) > 0) hold_legs.push_back(i);
+    for (const int leg : hold_legs) {
+        if (plan.hold_cnt >= kMostHolds) return;
+        MarkHold(leg, false, LegBeforeHold(leg));
+    }
+}
+
+// An airport that the database doesn't have is a place without runways and procedures.
+AirportData UnknownAirport(const FlightPlanLeg& leg) {
+    AirportData airport;
+    airport.ident = leg.ident;
+    airport.lat = leg.lat;
+    airport.lon = leg.lon;
+    return airport;
+}
+
+void TakeOrigin() {
+    FlightPlanLeg& first = plan.FlightPlanMod[0];
+    if (first.type != "APT") return;
+    plan.ends_mod.dep_runway = kNotSelected;
+    plan.ends_mod.fms_dep_rwy_pos = 0;
+    plan.ends.origin = plan.ends_mod.origin = first.ident;
+    if (!IsActive()) plan.ends = plan.ends_mod;
+    plan.procedures.dep_sid = plan.procedures.dep_trans = kNotSelected;
+    if (LoadOriginAirport(first.ident) == 1)
+        first.alt = first.alt_restr = airports.origin_airport.elevation_ft;
+    else
+        airports.origin_airport = UnknownAirport(first);
+    SetDefaultSpeeds(IsActive() ? SpeedsCount::kWithExec : SpeedsCount::kNow);
+}
+
+void TakeDestination(std::string_view company_route) {
+    const FlightPlanLeg& last = plan.FlightPlanMod[plan.mod_cnt];
+    if (last.type != "APT") return;
+    plan.ends_mod.dest = last.ident;
+    plan.ends_mod.company_route = company_route;
+    if (!IsActive()) plan.ends = plan.ends_mod;
+    plan.procedures = {.dep_sid = plan.procedures.dep_sid, .dep_trans = plan.procedures.dep_trans};
+    if (LoadDestinationAirport(last.ident) == 0) airports.dest_airport = UnknownAirport(last);
+}
+
+}  // namespace
+
+void BeginLoadedRoute() {
+    for (int i = plan.hold_cnt; i >= 1; --i) RemoveHold(HoldLegInModification(plan.HoldList[i]));
+    for (int i = 0; i <= plan.mod_cnt; ++i) plan.FlightPlanMod[i] = {};
+    plan.mod_cnt = -1;
+    plan.mod_bod_pos = 0;
+    plan.direct_to_pending = 0;
+    plan.ActiveLegMod = plan.ActiveLeg;
+    plan.awy_list_cnt = plan.awy_start_pos = plan.awy_start_leg = 0;
+    plan.along_track_nm = 0;
+    procedure_lists = {};
+    perf.pending_cruise_alt = 0;
+    perf.planned_fuel = 0;
+    if (cfg.CostIndex > kNoCostIndex) PlanCostIndex(cfg.CostIndex);
+    LeaveLegsView();
+    route_pages.PendingSelectRow = 0;
+    if (IsActive()) SetPendingActiveLeg(1);  // the leg flown to isn't in the working copy any more
+    RebuildRouteRows();
+}
+
+void MarkLoadedRouteNew() {
+    plan.new_route = 1;
+    SetPendingActiveLeg(1);
+}
+
+void PlanCostIndex(double index) {
+    constexpr int kMost = 999;
+    if (index < kNoCostIndex || index > kMost) return;
+    (IsActive() ? perf.pending_cost_index : perf.cost_index) = static_cast<int>(index);
+}
+
+void AddLoadedLeg(FlightPlanLeg leg) {
+    if (IsDisco(leg) && cfg.ExcludeDisco == 1) return;
+    // A gap begins no route and stands beside no other; an airway without an end is none to fly.
+    const bool nothing_before = plan.mod_cnt < 0 || IsDisco(plan.FlightPlanMod[plan.mod_cnt]);
+    if (IsThen(leg) || (IsDisco(leg) && nothing_before)) return;
+    plan.FlightPlanMod[++plan.mod_cnt] = std::move(leg);
+}
+
+void FinishLoadedRoute(std::string_view company_route) {
+    if (plan.fms_fpln_active != kRouteActivated && plan.fms_fpln_active != kRouteModified)
+        AdvanceRouteState();
+    if (plan.mod_cnt < 0) return;
+    MakeStoredHolds();
+    RebuildRouteRows();
+    FlightLogStep(false);
+    TakeOrigin();
+    TakeDestination(company_route);
+    if (!IsActive()) plan.procedures_kept = plan.procedures;
+    if (sim.on_ground == 1) perf.fplog_mode = -1;
+}

@@ -1,0 +1,113 @@
+#include "fmc/legs/leg_list.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "fmc/legs/holds.h"
+#include "fmc/route/route.h"
+
+namespace {
+
+bool HasActiveLeg() {
+    return plan.fms_fpln_active >= kRouteActive && PendingActiveLeg() != kNoPlan;
+}
+
+// Moves what points at legs from `first` on by `offset` places.
+void ShiftReferences(int first, int offset) {
+    for (int i = 1; i <= plan.hold_cnt; ++i) {
+        HoldRecord& hold = plan.HoldList[i];
+        const int leg = HoldLegInModification(hold);
+        if (leg >= first) hold.pending_leg = leg + offset;
+    }
+    if (plan.mod_bod_pos >= first) plan.mod_bod_pos += offset;
+    if (plan.awy_start_leg >= first) plan.awy_start_leg += offset;
+}
+
+}  // namespace
+
+bool IsDisco(const FlightPlanLeg& leg) {
+    return leg.ident == "DISCO";
+}
+
+bool IsThen(const FlightPlanLeg& leg) {
+    return leg.ident == "THEN";
+}
+
+bool IsVectors(const FlightPlanLeg& leg) {
+    return leg.ident == "VECTORS";
+}
+
+bool IsMissedApproach(const FlightPlanLeg& leg) {
+    return leg.via == kMissedApproach;
+}
+
+bool IsPlace(const FlightPlanLeg& leg) {
+    return !leg.ident.empty() && !IsDisco(leg) && !IsThen(leg);
+}
+
+int PlaceBefore(const GrowingList<FlightPlanLeg>& legs, int index) {
+    for (int i = index - 1; i >= 0; --i)
+        if (IsPlace(legs[i])) return i;
+    return -1;
+}
+
+int FindModLeg(const FlightPlanLeg& place, int first) {
+    for (int i = std::max(first, 1); i <= plan.mod_cnt; ++i) {
+        const FlightPlanLeg& leg = plan.FlightPlanMod[i];
+        if (leg.ident == place.ident && leg.lat == place.lat && leg.lon == place.lon) return i;
+    }
+    return 0;
+}
+
+FlightPlanLeg& OpenModLeg(int position) {
+    plan.mod_cnt = std::max(plan.mod_cnt, 0);
+    position = std::clamp(position, 1, plan.mod_cnt + 1);
+    GrowingList<FlightPlanLeg>& legs = plan.FlightPlanMod;
+    static_cast<void>(legs[plan.mod_cnt + 2]);  // from here on nothing in the list moves by itself
+    for (int i = plan.mod_cnt; i >= position; --i) legs[i + 1] = std::move(legs[i]);
+    ++plan.mod_cnt;
+    ShiftReferences(position, 1);
+    if (HasActiveLeg() && PendingActiveLeg() > position) SetPendingActiveLeg(PendingActiveLeg() + 1);
+    legs[position] = FlightPlanLeg{};
+    legs[position].mod_flag = 1;
+    RenumberHolds();
+    return legs[position];
+}
+
+void OpenDisco(int position) {
+    GrowingList<FlightPlanLeg>& legs = plan.FlightPlanMod;
+    if (position < 1 || position > plan.mod_cnt) return;
+    if (IsDisco(legs[position]) || IsDisco(legs[position - 1])) return;
+    OpenModLeg(position).ident = "DISCO";
+}
+
+void RemoveModLegs(int first, int count) {
+    first = std::max(first, 1);
+    count = std::min(count, plan.mod_cnt - first + 1);
+    if (count <= 0) return;
+    const int behind = first + count;
+    for (int i = first; i < behind; ++i) RemoveHold(i);
+    if (plan.awy_start_leg >= first && plan.awy_start_leg < behind) plan.awy_start_pos = 0;
+    GrowingList<FlightPlanLeg>& legs = plan.FlightPlanMod;
+    static_cast<void>(legs[plan.mod_cnt + 1]);
+    for (int i = behind; i <= plan.mod_cnt; ++i) legs[i - count] = std::move(legs[i]);
+    for (int i = plan.mod_cnt - count + 1; i <= plan.mod_cnt; ++i) legs[i] = FlightPlanLeg{};
+    plan.mod_cnt -= count;
+    if (plan.mod_bod_pos >= first && plan.mod_bod_pos < behind) plan.mod_bod_pos = behind;  // its successor
+    ShiftReferences(behind, -count);
+    plan.mod_bod_pos = std::min(plan.mod_bod_pos, std::max(plan.mod_cnt, 0));
+    if (HasActiveLeg() && PendingActiveLeg() >= first) {
+        const int active = PendingActiveLeg() >= behind ? PendingActiveLeg() - count : first;
+        SetPendingActiveLeg(std::clamp(active, 1, std::max(plan.mod_cnt, 1)));
+    }
+    RenumberHolds();
+}
+
+void MergeNeighbourDiscos() {
+    for (int i = plan.mod_cnt; i >= 1; --i)
+        if (IsDisco(plan.FlightPlanMod[i]) && IsDisco(plan.FlightPlanMod[i - 1])) RemoveModLegs(i, 1);
+}
+
+void EnsureEnds() {
+    if (plan.mod_cnt < 1) plan.mod_cnt = 1;
+}

@@ -1,0 +1,112 @@
+#include "fmc/legs/route_airway.h"
+
+#include <string>
+#include <utility>
+
+#include "fmc/legs/leg_list.h"
+#include "fmc/legs/leg_type.h"
+#include "fmc/legs/route_rows.h"
+#include "navdata/airways.h"
+#include "navdata/geodesy.h"
+#include "state/nav.h"
+
+namespace {
+
+constexpr double kSamePlace = 1;  // nm; the files of one cycle round their positions alike
+
+bool IsNear(double lat1, double lon1, double lat2, double lon2) {
+    return GreatCircle(lat1, lon1, lat2, lon2).dist < kSamePlace;
+}
+
+bool CandidatesHold(std::string_view ident) {
+    for (int i = 1; i <= nav.entry_cnt; ++i)
+        if (nav.EntryCandidates[i].ident == ident) return true;
+    return false;
+}
+
+// Which of the airways of that name is meant: the one that passes the fix, before one that only bears its
+// ident; among those, one that bears `end`, before the first. 0 = none.
+int ChooseRun(std::string_view name, const FlightPlanLeg& fix, std::string_view end) {
+    int best = 0, best_rank = 0;
+    for (int run = 1; LoadAirway(name, fix.ident, run) > 0; ++run) {
+        if (nav.entry_list_pos == 0) continue;
+        const NavRecord& found = nav.EntryCandidates[nav.entry_list_pos];
+        const int rank =
+            (IsNear(found.lat, found.lon, fix.lat, fix.lon) ? 3 : 1) + (CandidatesHold(end) ? 1 : 0);
+        if (rank <= best_rank) continue;
+        best = run;
+        best_rank = rank;
+    }
+    return best;
+}
+
+}  // namespace
+
+void LoadAirway(std::string_view name, int, int fix, int) {
+    LoadAirwayTowards(name, fix, "");
+}
+
+void LoadAirwayTowards(std::string_view name, int fix, std::string_view end) {
+    plan.awy_list_cnt = plan.awy_start_pos = plan.awy_start_leg = 0;
+    plan.awy_name.clear();
+    if (name.starts_with('#')) name.remove_prefix(1);
+    if (fix < 0 || fix > plan.mod_cnt || !IsPlace(plan.FlightPlanMod[fix])) return;
+    const std::string start = plan.FlightPlanMod[fix].ident;
+    const int run = ChooseRun(name, plan.FlightPlanMod[fix], end);
+    if (run == 0) return;
+    plan.awy_list_cnt = LoadAirway(name, start, run);
+    plan.awy_start_pos = nav.entry_list_pos;
+    plan.awy_start_leg = fix;
+    plan.awy_name = name;
+    for (int i = 1; i <= plan.awy_list_cnt; ++i) {
+        const NavRecord& record = nav.EntryCandidates[i];
+        FlightPlanLeg& leg = plan.AirwayFixList[i];
+        leg = {};
+        leg.ident = record.ident;
+        leg.lat = record.lat;
+        leg.lon = record.lon;
+        leg.via = name;
+        leg.via_type = "AWY";
+        leg.mod_flag = 1;
+        LookUpLegType(leg);
+    }
+}
+
+int FindFixOnAirway(std::string_view ident) {
+    for (int i = 1; i <= plan.awy_list_cnt; ++i)
+        if (plan.AirwayFixList[i].ident == ident) return i;
+    return 0;
+}
+
+void InsertAirwaySegment(int fix) {
+    const int start = plan.awy_start_pos;
+    if (fix < 1 || fix > plan.awy_list_cnt || fix == start || start == 0) return;
+    GrowingList<FlightPlanLeg>& legs = plan.FlightPlanMod;
+    // ERASE or a new route may have put another fix there since the list was made.
+    if (plan.awy_start_leg > plan.mod_cnt ||
+        legs[plan.awy_start_leg].ident != plan.AirwayFixList[start].ident)
+        return;
+    int position = plan.awy_start_leg + 1;
+    if (position <= plan.mod_cnt && IsThen(legs[position])) RemoveModLegs(position, 1);
+    const int step = fix > start ? 1 : -1;
+    for (int i = start + step; i != fix + step; i += step) {
+        FlightPlanLeg leg = plan.AirwayFixList[i];
+        OpenModLeg(position++) = std::move(leg);
+    }
+    const FlightPlanLeg& end = legs[position - 1];
+    if (position < plan.mod_cnt && legs[position].ident == end.ident &&
+        IsNear(legs[position].lat, legs[position].lon, end.lat, end.lon))
+        RemoveModLegs(position, 1);
+    RebuildRouteRows();
+}
+
+void InsertAirwayPlaceholder(int index, std::string_view airway) {
+    EnsureEnds();
+    if (index < 1 || index > plan.mod_cnt) return;
+    FlightPlanLeg& leg = OpenModLeg(index);
+    leg.ident = "THEN";
+    leg.type = "OAWY";
+    leg.via = airway;
+    leg.via_type = "AWY";
+    RebuildRouteRows();
+}

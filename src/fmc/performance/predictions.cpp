@@ -1,0 +1,209 @@
+#include "fmc/performance/predictions.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "fmc/legs/leg_list.h"
+#include "fmc/legs/path.h"
+#include "fmc/performance/performance_tables.h"
+#include "navdata/geodesy.h"
+#include "navdata/magnetic_model.h"
+#include "state/airports.h"
+#include "state/cfg.h"
+#include "state/identity.h"
+#include "state/perf.h"
+#include "state/plan.h"
+#include "state/sim.h"
+#include "state/vnav.h"
+
+namespace {
+
+// The row nearest by `key`, the first of two as near.
+template <class Rows, class Key>
+std::size_t Nearest(const Rows& rows, double wanted, Key key) {
+    std::size_t best = 0;
+    for (std::size_t i = 1; i < rows.size(); ++i)
+        if (std::fabs(key(rows[i]) - wanted) < std::fabs(key(rows[best]) - wanted)) best = i;
+    return best;
+}
+
+double LimitedRound(double value, double low, double high) {
+    return std::clamp(std::round(value), low, high);
+}
+
+// The destination's selected runway, null when there is none.
+const RunwayData* DestinationRunway() {
+    const int place = plan.procedures.fms_dest_rwy_pos;
+    const AirportData& airport = airports.dest_airport;
+    return place > 0 && place <= airport.runway_cnt ? &airport.runways[place] : nullptr;
+}
+
+// Five miles out on the final of the destination's runway, set once per route.
+void SetFinalPoint() {
+    constexpr double kNear = 30, kFinal = 5;
+    const RunwayData* runway = DestinationRunway();
+    if (perf.final_point_set == 1 || perf.dist_to_dest >= kNear || runway == nullptr) return;
+    const double outbound = FoldBearing(runway->course + MagVarAt(runway->lat, runway->lon) + 180);
+    const LatLon point = ProjectPoint(runway->lat, runway->lon, outbound, kFinal);
+    perf.final_point_lat = point.lat;
+    perf.final_point_lon = point.lon;
+    perf.final_point_set = 1;
+}
+
+void Take(double value, int manual, double& speed) {
+    if (manual == 0) speed = value;
+}
+
+}  // namespace
+
+double DisplayWeight(double lb) {
+    constexpr double kKgPerLb = 0.45359237;
+    return cfg.WeightUnit == "KGS" ? lb * kKgPerLb : lb;
+}
+
+double GrossWeight() {
+    if (perf.gross_weight > 0) return perf.gross_weight;
+    return sim.empty_weight + sim.payload_weight + sim.total_fuel;
+}
+
+void ComputeProfile(double cruise_alt, int) {
+    perf.start_weight = std::max(perf.start_weight, GrossWeight() + perf.reserves);
+    if (cruise_alt <= 0) perf.cruise_alt = perf.init_cruise_alt = cruise_alt = BestAltitude();
+    if (cruise_alt <= 0) return;
+    const double mean_altitude = cruise_alt / 2;
+    perf.clb_tas = PlanningTas(perf.climb_ias, mean_altitude);
+    perf.des_tas = PlanningTas(perf.descent_ias, mean_altitude);
+    perf.crz_tas = PlanningTas(perf.cruise_ias, cruise_alt);
+}
+
+void ComputeDistances(int) {
+    perf.dist_to_dest = 0;
+    if (plan.stpos == kNoPlan || plan.stpos < 1) return;
+    if (vnav.toc == 0) perf.dist_to_toc = 0;
+    if (vnav.tod == 0) perf.dist_to_tod = 0;
+    const GrowingList<FlightPlanLeg>& legs = plan.FlightPlan;
+    double lat = sim.plane_lat, lon = sim.plane_lon;
+    int from = PlaceBefore(plan.FlightPlan, plan.stpos);
+    double sum = 0;
+    for (int i = plan.stpos; i <= plan.fp_cnt; ++i) {
+        const FlightPlanLeg& leg = legs[i];
+        if (!IsPlace(leg) || IsMissedApproach(leg)) continue;
+        const auto measure = [&](int passed, int before, double at_lat, double at_lon, double& dist) {
+            if (passed == 0 && before == from && (at_lat != 0 || at_lon != 0))
+                dist = sum + GreatCircle(lat, lon, at_lat, at_lon).dist;
+        };
+        measure(vnav.toc, vnav.toc_stpos, vnav.toc_lat, vnav.toc_lon, perf.dist_to_toc);
+        measure(vnav.tod, vnav.tod_stpos, vnav.tod_lat, vnav.tod_lon, perf.dist_to_tod);
+        sum += GreatCircle(lat, lon, leg.lat, leg.lon).dist;
+        lat = leg.lat;
+        lon = leg.lon;
+        from = i;
+    }
+    perf.dist_to_dest = sum;
+    const FlightPlanLeg& last = legs[plan.fp_cnt];
+    perf.dest_brg =
+        FoldBearing(GreatCircle(sim.plane_lat, sim.plane_lon, last.lat, last.lon).bearing - sim.mgvar);
+    SetFinalPoint();
+}
+
+void ApplyCostIndexRow(bool active, int index) {
+    for (const CostIndexRow& row : kCostIndexTable) {
+        if (row.cost_index != index) continue;
+        Take(row.climb_ias, perf.climb_ias_manual, active ? perf.climb_ias : perf.pending_climb_ias);
+        Take(row.climb_mach, perf.climb_mach_manual, active ? perf.climb_mach : perf.pending_climb_mach);
+        Take(row.cruise_ias, perf.cruise_ias_manual, active ? perf.cruise_ias : perf.pending_cruise_ias);
+        Take(row.cruise_mach, perf.cruise_mach_manual, active ? perf.cruise_mach : perf.pending_cruise_mach);
+        Take(row.descent_ias, perf.descent_ias_manual, active ? perf.descent_ias : perf.pending_descent_ias);
+        Take(row.descent_mach, perf.descent_mach_manual,
+             active ? perf.descent_mach : perf.pending_descent_mach);
+        return;
+    }
+}
+
+double EconClimbSpeed(int cost_index) {
+    return LimitedRound(kEconClimb.At(GrossWeight(), cost_index), 248, 350);
+}
+
+double EconCruiseMach(int cost_index, double altitude) {
+    const double height = std::clamp(altitude, 10000.0, 43000.0);
+    const double weight = std::min(GrossWeight(), 520000.0);
+    constexpr int kHighIndex = 150;
+    const auto& table = cost_index == kLongRangeCruise ? kCruiseMachLongRange
+                        : cost_index >= kHighIndex     ? kCruiseMachHighIndex
+                                                       : kCruiseMachLowIndex;
+    return std::clamp(table.At(weight, height), 0.363, 0.89);
+}
+
+double EconDescentSpeed(int cost_index) {
+    const int index = std::min(cost_index, 119);
+    const double weight = std::min(GrossWeight(), 499999.0);
+    return LimitedRound(kEconDescent.At(weight, index), 250, 334);
+}
+
+double PerfFactor() {
+    if (perf.cost_index < 0) return 0;
+    const double index = perf.cost_index;
+    std::size_t upper = 1;
+    while (upper + 1 < kCostIndexTable.size() && index > kCostIndexTable[upper].cost_index) ++upper;
+    const double low = kCostIndexTable[upper - 1].cost_index, high = kCostIndexTable[upper].cost_index;
+    const double row = static_cast<double>(upper - 1) + std::min((index - low) / (high - low), 1.0);
+    return row * 0.0071 - 0.03;
+}
+
+int MaxAltitude() {
+    const double x = GrossWeight() / 1000;
+    const double feet = 0.00012 * x * x * x - 0.26203 * x * x + 121.62431 * x + 27382;
+    const double limit = identity.aircraft_model == "900-10" ? 411 : 431;
+    return static_cast<int>(std::clamp(std::round(feet / 100 + 0.5), 0.0, limit));
+}
+
+double BestAltitude() {
+    constexpr double kShortest = 35, kLongest = 450;
+    constexpr double kStep = 20;  // nm
+    if (plan.fp_cnt < 1) return 0;
+    const FlightPlanLeg& origin = plan.FlightPlan[0];
+    const FlightPlanLeg& dest = plan.FlightPlan[plan.fp_cnt];
+    const double route = GreatCircle(origin.lat, origin.lon, dest.lat, dest.lon).dist;
+    if (route <= kShortest || route > kLongest) return 0;
+    const double ceiling = std::max(35000.0, kAltitudeByWeight.back().altitude);
+    double climbed = std::max(origin.alt, 0.0), descended = std::max(dest.alt, 0.0);
+    double weight = perf.zfw + 100;
+    // Both ends are walked towards each other, the lower one first, until they have used up the route.
+    for (double used = 0; used < route && std::min(climbed, descended) < ceiling; used += kStep) {
+        const bool climbing = climbed <= descended;
+        const auto altitude_of = [](const auto& row) { return row.altitude; };
+        const ClimbPerfRow& climb = kClimbPerf[Nearest(kClimbPerf, climbed, altitude_of)];
+        const DescentPerfRow& descent = kDescentPerf[Nearest(kDescentPerf, descended, altitude_of)];
+        constexpr double kSpeedLimitAltitude = 10000, kFastestBelow = 300;
+        double speed = climbing ? climb.speed : descent.speed;
+        if (climbing && climbed < kSpeedLimitAltitude)
+            speed = std::min(PlanningTas(perf.clb_spd_trans_spd, climbed), kFastestBelow);
+        const double minutes = std::min(kStep, route - used) / speed * 60;
+        if (!climbing) {
+            descended += cfg.DescFpa * 100 * descent.speed / 60 * minutes;
+            continue;
+        }
+        const auto weight_at = [](double w) { return w; };
+        climbed += climb.rate[Nearest(kClimbPerfWeights, weight, weight_at)] * minutes;
+        weight -= climb.fuel_flow / 60 * minutes;
+    }
+    return std::floor(std::min({climbed, descended, ceiling}) / 100) * 100;
+}
+
+ClimbPerformance ClimbRate(double weight, double altitude) {
+    const ClimbPerfRow& row =
+        kClimbPerf[Nearest(kClimbPerf, altitude, [](const ClimbPerfRow& r) { return r.altitude; })];
+    if (cfg.RocTest != 1) return {perf.default_climb_rate, row.fuel_flow};
+    const double rate = row.rate[Nearest(kClimbPerfWeights, weight, [](double w) { return w; })];
+    return {rate > 0 ? rate : perf.default_climb_rate, row.fuel_flow};
+}
+
+double IasToMach(double ias, double altitude) {
+    const double kelvin = std::max(216.65, 288.15 - altitude / 3.28084 * 0.0065);
+    return (altitude / 1000 * 0.018 + 1) * ias / (std::sqrt(kelvin * 401.8812) * 1.94384);
+}
+
+double PlanningTas(double ias, double altitude) {
+    return ias + altitude / 1000 * 1.5 * ias / 100;
+}

@@ -1,0 +1,116 @@
+#include "fmc/performance/vertical_segment.h"
+
+#include <algorithm>
+
+#include "fmc/legs/leg_list.h"
+#include "navdata/geodesy.h"
+#include "state/perf.h"
+#include "state/plan.h"
+#include "state/vnav.h"
+
+namespace {
+
+enum RestrictionType { kAt = 0, kAtOrAbove = 1, kAtOrBelow = 2, kBetween = 3 };
+
+bool HasAltitudeConstraint(const FlightPlanLeg& leg) {
+    return leg.restr_code == 1 || leg.restr_code == 3;
+}
+
+// The altitude of a constraint: of a window the limit that binds.
+double ConstraintAltitude(const FlightPlanLeg& leg, double window_limit) {
+    return leg.alt_restr > 0 ? leg.alt_restr : std::max(window_limit, 0.0);
+}
+
+// At or above: the following constraints that the same altitude satisfies prolong the segment.
+int ProlongSegment(int start) {
+    int end = start;
+    const double altitude = FlightPlanLegAt(start).alt_restr;
+    for (int i = start + 1; i <= plan.fp_cnt; ++i) {
+        const FlightPlanLeg& leg = FlightPlanLegAt(i);
+        if (IsMissedApproach(leg) || !HasAltitudeConstraint(leg)) continue;
+        const bool met = leg.restr_type == kBetween
+                             ? leg.block_above <= altitude
+                             : leg.restr_type != kAtOrBelow && leg.alt_restr == altitude;
+        if (!met) break;
+        end = i;
+    }
+    return end;
+}
+
+double RouteDistance(int from, int to) {
+    double dist = 0;
+    int last = from;
+    for (int i = from + 1; i <= to; ++i) {
+        const FlightPlanLeg& leg = FlightPlanLegAt(i);
+        if (IsMissedApproach(leg) || IsDisco(leg)) continue;
+        const FlightPlanLeg& start = FlightPlanLegAt(last);
+        dist += GreatCircle(start.lat, start.lon, leg.lat, leg.lon).dist;
+        last = i;
+    }
+    return dist;
+}
+
+double NextRestriction(bool (*binds)(const FlightPlanLeg&), double FlightPlanLeg::*window_limit) {
+    if (plan.stpos == kNoPlan) return 0;
+    for (int i = plan.stpos; i <= plan.fp_cnt; ++i) {
+        const FlightPlanLeg& leg = FlightPlanLegAt(i);
+        if (IsMissedApproach(leg) || !HasAltitudeConstraint(leg) || !binds(leg)) continue;
+        return ConstraintAltitude(leg, leg.*window_limit);
+    }
+    return 0;
+}
+
+}  // namespace
+
+void FindBottomOfDescent(int first) {
+    const int before = vnav.bod_pos;
+    vnav.bod_pos = plan.fp_cnt;
+    for (int i = first; i <= plan.fp_cnt; ++i) {
+        const FlightPlanLeg& leg = FlightPlanLegAt(i);
+        if (IsMissedApproach(leg) || !HasAltitudeConstraint(leg)) continue;
+        const RestrictionType other = vnav.toc == 0 ? kAtOrBelow : kAtOrAbove;
+        if (leg.restr_type != kAt && leg.restr_type != other) continue;
+        vnav.bod_pos = leg.restr_type == kAtOrAbove ? ProlongSegment(i) : i;
+        break;
+    }
+    if (vnav.tod != 1 || vnav.bod_pos == before) return;
+    const FlightPlanLeg& to = FlightPlanLegAt(plan.stpos);
+    if (HasAltitudeConstraint(to)) {
+        vnav.last_tod_pos = plan.stpos;
+        vnav.last_tod_elev = ConstraintAltitude(to, to.block_above);
+    }
+    vnav.dist_from_tod_to_bod = RouteDistance(vnav.last_tod_pos, vnav.bod_pos);
+}
+
+void SetCrossAtPoint() {
+    constexpr double kLowestCruise = 1000;
+    if (perf.cruise_alt < kLowestCruise) return;
+    vnav.cross_at_elev = perf.cruise_alt;
+    const FlightPlanLeg& bottom = FlightPlanLegAt(vnav.bod_pos);
+    const double lower_limit = std::min(bottom.block_above, bottom.block_below);
+    if (vnav.toc == 0 && vnav.tod == 0) {
+        const bool levels_off = vnav.bod_pos <= vnav.toc_stpos && HasAltitudeConstraint(bottom) &&
+                                bottom.restr_type != kAtOrAbove;
+        vnav.cross_at_lat = levels_off ? bottom.lat : vnav.toc_lat;
+        vnav.cross_at_lon = levels_off ? bottom.lon : vnav.toc_lon;
+        if (levels_off) vnav.cross_at_elev = ConstraintAltitude(bottom, lower_limit);
+        return;
+    }
+    vnav.cross_at_lat = bottom.lat;
+    vnav.cross_at_lon = bottom.lon;
+    if (vnav.tod == 0) return;
+    if (HasAltitudeConstraint(bottom))
+        vnav.cross_at_elev = ConstraintAltitude(bottom, lower_limit);
+    else
+        vnav.cross_at_elev = bottom.alt != kNone ? bottom.alt : bottom.alt_restr;
+}
+
+void FindNextClimbRestriction() {
+    vnav.clb_next_restr_alt = NextRestriction(
+        [](const FlightPlanLeg& leg) { return leg.restr_type != kAtOrAbove; }, &FlightPlanLeg::block_below);
+}
+
+void FindNextDescentRestriction() {
+    vnav.des_next_restr_alt = NextRestriction(
+        [](const FlightPlanLeg& leg) { return leg.restr_type != kAtOrBelow; }, &FlightPlanLeg::block_above);
+}

@@ -1,0 +1,282 @@
+#include "fmc/route/execute_route.h"
+
+#include <algorithm>
+#include <cmath>
+#include <iterator>
+#include <utility>
+
+#include "fmc/legs/edit_legs.h"
+#include "fmc/legs/holds.h"
+#include "fmc/legs/leg_list.h"
+#include "fmc/legs/path.h"
+#include "fmc/legs/route_rows.h"
+#include "fmc/performance/default_speeds.h"
+#include "fmc/performance/predictions.h"
+#include "fmc/performance/vertical_segment.h"
+#include "fmc/route/endpoints.h"
+#include "fmc/route/route.h"
+#include "navdata/geodesy.h"
+#include "navdata/magnetic_model.h"
+#include "state/airports.h"
+#include "state/cfg.h"
+#include "state/lnav.h"
+#include "state/perf.h"
+#include "state/plan.h"
+#include "state/sim.h"
+#include "state/vnav.h"
+
+namespace {
+
+constexpr double kLowestCruise = 1000;
+
+void TakePending(double& pending, double& value) {
+    if (pending > 0) value = pending;
+    pending = 0;
+}
+
+void ApplyPendingEntries() {
+    TakePending(perf.pending_climb_ias, perf.climb_ias);
+    TakePending(perf.pending_climb_mach, perf.climb_mach);
+    TakePending(perf.pending_cruise_ias, perf.cruise_ias);
+    TakePending(perf.pending_cruise_mach, perf.cruise_mach);
+    TakePending(perf.pending_descent_ias, perf.descent_ias);
+    TakePending(perf.pending_descent_mach, perf.descent_mach);
+    constexpr int kNoStepSize = -99;
+    if (perf.pending_step_size > kNoStepSize) perf.fms_step_size = perf.pending_step_size;
+    perf.pending_step_size = kNoStepSize;
+    if (perf.pending_cost_index < 0) return;
+    perf.cost_index = perf.pending_cost_index;
+    perf.pending_cost_index = -1;
+    perf.climb_ias_manual = perf.climb_mach_manual = 0;
+    perf.cruise_ias_manual = perf.cruise_mach_manual = 0;
+    perf.descent_ias_manual = perf.descent_mach_manual = 0;
+}
+
+void BeginNewRoute() {
+    if (plan.new_route == 0) return;
+    plan.new_route = 0;
+    if (plan.fms_fpln_active < kRouteActive) perf.cruise_alt = 0;
+    plan.stpos = 1;
+    plan.pending_stpos = 0;
+    plan.ActiveLeg = plan.ActiveLegMod = {};
+    plan.direct_to_pending = 0;
+    plan.direct_abeam_check = 1;
+    vnav.toc = vnav.tod = vnav.init_tod = 0;
+    perf.final_point_set = 0;
+    plan.terrain_profile_due = 1;
+}
+
+void FillSpeeds() {
+    if (perf.cost_index < 0) {
+        constexpr double kUsualCruise = 30000;
+        const double altitude = perf.cruise_alt > 0 ? perf.cruise_alt : kUsualCruise;
+        if (perf.climb_mach_manual == 0) perf.climb_mach = IasToMach(perf.climb_ias, altitude);
+        if (perf.cruise_mach_manual == 0) perf.cruise_mach = IasToMach(perf.cruise_ias, altitude);
+        if (perf.descent_mach_manual == 0) perf.descent_mach = IasToMach(perf.descent_ias, altitude);
+        return;
+    }
+    if (perf.climb_ias_manual == 0) perf.climb_ias = EconClimbSpeed(perf.cost_index);
+    if (perf.cruise_mach_manual == 0) perf.cruise_mach = EconCruiseMach(perf.cost_index, perf.cruise_alt);
+    if (perf.descent_ias_manual == 0) perf.descent_ias = EconDescentSpeed(perf.cost_index);
+}
+
+void TakeOverLegs() {
+    for (int i = plan.mod_cnt + 1; i <= plan.fp_cnt; ++i) plan.FlightPlan[i] = {};
+    for (int i = 0; i <= plan.mod_cnt; ++i) {
+        plan.FlightPlanMod[i].mod_flag = 0;
+        plan.FlightPlan[i] = plan.FlightPlanMod[i];
+    }
+    plan.fp_cnt = plan.mod_cnt;
+}
+
+void KeepFinalApproach() {
+    for (int i = 1; i <= plan.fp_cnt; ++i) {
+        const FlightPlanLeg& map = plan.FlightPlan[i];
+        if (map.appr_wpt_type != "MAP") continue;
+        const FlightPlanLeg& before = plan.FlightPlan[std::max(PlaceBefore(plan.FlightPlan, i), 0)];
+        const double course = GreatCircle(before.lat, before.lon, map.lat, map.lon).bearing;
+        plan.final_appr_crs = FoldBearing(course - MagVarAt(map.lat, map.lon));
+        plan.map_ident = map.ident;
+        plan.map_fix_lat = map.lat;
+        plan.map_fix_lon = map.lon;
+        return;
+    }
+}
+
+void ChooseActiveLeg() {
+    if (plan.pending_stpos >= 1) plan.stpos = plan.pending_stpos;
+    plan.pending_stpos = 0;
+    if (plan.stpos == kNoPlan) plan.stpos = 1;
+    plan.stpos = std::clamp(plan.stpos, 1, plan.fp_cnt);
+    if (!IsDisco(plan.FlightPlan[plan.stpos]) || plan.stpos == plan.fp_cnt) return;
+    ++plan.stpos;
+    if (plan.fms_fpln_active == kRouteActive) plan.mod_stpos = plan.stpos;
+    perf.cruise_alt = std::max(perf.cruise_alt, plan.FlightPlan[plan.stpos].step_alt);
+}
+
+// Where a direct-to begins: past the turn that the aircraft has yet to fly.
+LatLon DirectToStart(const ActiveLegRecord& leg) {
+    constexpr double kOnCourse = 10;  // degrees
+    constexpr double kSlow = 150;     // kt
+    constexpr double kSlowDistance = 1.25;
+    constexpr double kSecondsAhead = 25;
+    const LatLon here{sim.plane_lat, sim.plane_lon};
+    const double bearing = GreatCircle(here.lat, here.lon, leg.to_lat, leg.to_lon).bearing;
+    const int angle = AngleBetween(sim.true_hdg, bearing);
+    if (angle <= kOnCourse) return here;
+    const double half = TurnSide(sim.true_hdg, bearing) == kTurnRight ? angle / 2.0 : -angle / 2.0;
+    const double ahead =
+        sim.ground_speed_kt < kSlow ? kSlowDistance : sim.ground_speed_kt / 3600 * kSecondsAhead;
+    return ProjectPoint(here.lat, here.lon, FoldBearing(sim.true_hdg + half), ahead);
+}
+
+void AimActiveLeg() {
+    ActiveLegRecord& leg = plan.ActiveLeg;
+    const bool direct_to = plan.ActiveLegMod.from == "DIRECT";
+    if (direct_to) leg = plan.ActiveLegMod;
+    const FlightPlanLeg& to = plan.FlightPlan[plan.stpos];
+    const bool is_flown = leg.to == to.ident && leg.to_lat == to.lat && leg.to_lon == to.lon;
+    leg.to = to.ident;
+    leg.to_lat = to.lat;
+    leg.to_lon = to.lon;
+    if (direct_to && plan.direct_to_pending == 1) {
+        const LatLon start = DirectToStart(leg);
+        leg.from_lat = start.lat;
+        leg.from_lon = start.lon;
+        leg.direct_flag = 1;
+        plan.direct_abeam_check = 1;
+    }
+    plan.direct_to_pending = 0;
+    if (leg.from != "DIRECT" || leg.direct_flag == 0) {
+        const FlightPlanLeg& from = plan.FlightPlan[std::max(PlaceBefore(plan.FlightPlan, plan.stpos), 0)];
+        // The leg being flown keeps its start also when the passed fix has been taken out of the list.
+        const bool start_is_gone =
+            is_flown && !leg.from.empty() && leg.from != "DIRECT" && leg.from != from.ident;
+        if (!start_is_gone) {
+            leg.from = from.ident;
+            leg.from_lat = from.lat;
+            leg.from_lon = from.lon;
+        }
+        leg.direct_flag = 0;
+    }
+    const DistBearing course = GreatCircle(leg.from_lat, leg.from_lon, leg.to_lat, leg.to_lon);
+    lnav.leg_len = course.dist;
+    lnav.leg_crs = FoldCourse(course.bearing - sim.mgvar);
+    leg.course = lnav.leg_crs;
+}
+
+void MoveToRunway(FlightPlanLeg& leg, const AirportData& airport, const std::string& runway) {
+    if (leg.type != "APT" || leg.ident != airport.ident) return;
+    for (int i = 1; i <= airport.runway_cnt; ++i) {
+        const RunwayData& row = std::as_const(airport.runways)[i];
+        if (row.ident != runway) continue;
+        leg.lat = row.lat;
+        leg.lon = row.lon;
+        return;
+    }
+}
+
+void PlaceEndsOnRunways() {
+    plan.ends = plan.ends_mod;
+    plan.procedures_kept = plan.procedures;
+    MoveToRunway(plan.FlightPlan[0], airports.origin_airport, plan.ends.dep_runway);
+    MoveToRunway(plan.FlightPlan[plan.fp_cnt], airports.dest_airport, plan.procedures.arr_appr_rwy);
+}
+
+void FillDefaultSpeeds() {
+    if (perf.climb_ias > 0 || perf.cruise_ias > 0 || perf.descent_ias > 0) return;
+    SetDefaultSpeeds(SpeedsCount::kNow);
+}
+
+void SettleDestination() {
+    const FlightPlanLeg& last = plan.FlightPlan[plan.fp_cnt];
+    if (last.type != "APT") return;
+    const bool changed = airports.dest_airport.ident != last.ident;
+    if (changed || plan.fms_fpln_active < kRouteActive) LoadDestinationAirport(last.ident);
+    plan.ends.dest = plan.ends_mod.dest = last.ident;
+    if (!changed) return;
+    plan.procedures = {.dep_sid = plan.procedures.dep_sid, .dep_trans = plan.procedures.dep_trans};
+    plan.procedures_kept = plan.procedures;
+}
+
+void SettleOrigin() {
+    const FlightPlanLeg& first = plan.FlightPlan[0];
+    if (first.type != "APT") return;
+    const bool changed = airports.origin_airport.ident != first.ident;
+    if (changed || plan.fms_fpln_active < kRouteActive) LoadOriginAirport(first.ident);
+    if (plan.fms_fpln_active < kRouteActive && sim.on_ground == 1) perf.fplog_mode = -1;
+    FillDefaultSpeeds();
+    if (changed) {
+        plan.ends = {.origin = first.ident, .dest = plan.ends.dest, .company_route = plan.ends.company_route};
+        plan.procedures.dep_sid = plan.procedures.dep_trans = kNotSelected;
+        plan.procedures_kept = plan.procedures;
+        RemoveAllHolds();
+    }
+    plan.ends.origin = first.ident;
+    plan.ends_mod = plan.ends;
+}
+
+constexpr int kEnteredStep = 0, kIcaoStep = -1, kRvsmStep = -2;
+
+// Above FL 400 the levels of one direction no longer lie 2000 ft apart.
+struct LevelPair {
+    double from, to;
+};
+constexpr LevelPair kHighLevels[] = {{40000, 43000}, {41000, 45000}, {43000, 47000},
+                                     {45000, 49000}, {47000, 51000}, {49000, 53000}};
+
+const LevelPair* FindHighLevel(double cruise_alt) {
+    const auto* found = std::find_if(std::begin(kHighLevels), std::end(kHighLevels),
+                                     [cruise_alt](const LevelPair& pair) { return pair.from == cruise_alt; });
+    return found == std::end(kHighLevels) ? nullptr : found;
+}
+
+void PlanStepClimb() {
+    perf.fms_step_to_alt = StepToAltitude(perf.cruise_alt, perf.fms_step_size, perf.entered_step_to_alt);
+    // The high levels stand as they are: nearly all of them lie above any maximum that the weight allows.
+    const bool is_high_level = perf.fms_step_size == kRvsmStep && FindHighLevel(perf.cruise_alt) != nullptr;
+    if (!is_high_level && perf.fms_step_to_alt > MaxAltitude() * 100.0) perf.fms_step_to_alt = 0;
+}
+
+// What follows from the cruise altitude.
+void PlanCruise() {
+    PlanStepClimb();
+    if (vnav.init_tod == 0) perf.init_cruise_alt = perf.cruise_alt;
+    if (perf.cost_index >= 0) perf.perf_factor = PerfFactor();
+}
+
+}  // namespace
+
+double StepToAltitude(double cruise_alt, int size, double entered) {
+    if (size == kEnteredStep) return entered;
+    if (size == kIcaoStep) return cruise_alt + 4000;
+    if (size != kRvsmStep) return cruise_alt + size;
+    if (const LevelPair* pair = FindHighLevel(cruise_alt)) return pair->to;
+    constexpr double kLowLevels = 41001;
+    return cruise_alt < kLowLevels ? cruise_alt + 2000 : 0;
+}
+
+void ExecuteRoute() {
+    NormalizeLegs();
+    if (plan.mod_cnt < 1 || !IsPlace(plan.FlightPlanMod[plan.mod_cnt])) return;
+    ApplyPendingEntries();
+    BeginNewRoute();
+    FillSpeeds();
+    TakeOverLegs();
+    KeepFinalApproach();
+    PromoteHolds();
+    ChooseActiveLeg();
+    AimActiveLeg();
+    PlaceEndsOnRunways();
+    SettleDestination();
+    SettleOrigin();
+    plan.fms_fpln_active = kRouteActive;
+    TakePending(perf.pending_cruise_alt, perf.cruise_alt);
+    if (perf.cruise_alt >= kLowestCruise) PlanCruise();
+    ComputeProfile(perf.cruise_alt, 0);
+    ComputeDistances(1);
+    FindBottomOfDescent(plan.stpos);
+    SetCrossAtPoint();
+    RefreshLegsForModification();
+    RebuildRouteRows();
+}
