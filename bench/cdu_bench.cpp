@@ -4,6 +4,7 @@
 
 #include "cdu/unit/cdu_format.h"
 #include "cdu/words/page.h"
+#include "fmc/procedures/end_airports.h"
 #include "fmc/procedures/select_procedures.h"
 #include "fmc/route/endpoints.h"
 #include "legs.h"

@@ -5,10 +5,6 @@
 #include <cmath>
 #include <cstring>
 
-FileBytes ReadNavdata(std::string_view name) {
-    return ReadFile(std::string("\\Velarion\\TZ900\\Navdata\\").append(name)).value_or(FileBytes{});
-}
-
 std::optional<std::string_view> NextBoundedLine(std::string_view& rest, std::size_t bound) {
     if (rest.empty()) return {};
     // The search is bounded too: a file of one endless line costs no more than one of short lines.

@@ -5,13 +5,9 @@
 #include <string_view>
 
 #include "base/text.h"
-#include "platform/files.h"
 
-// Reading the navigation files: bounded lines, fields between blanks, numbers. Inline, for the time to load
-// the world's data is spent here.
-
-/// A file of the navigation data folder, empty when it can't be read.
-FileBytes ReadNavdata(std::string_view name);
+// Reading the fields of a text file: bounded lines, fields between blanks, numbers. Inline, for the time to
+// load the world's navigation data is spent here.
 
 /// Cuts the next line off the front of `rest`, without its line end; text beyond `bound` characters is a
 /// further line. Nothing at the end.

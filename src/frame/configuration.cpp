@@ -24,7 +24,7 @@ constexpr std::string_view kFuelFile = "\\Velarion\\tz900_fuel.cfg";
 constexpr std::size_t kMaxConfigBytes = 1 << 20;
 constexpr std::size_t kMaxLine = 299;
 constexpr std::size_t kMaxFontName = 20;
-constexpr double kFeetPerNm = 6076;
+constexpr double kFileFeetPerNm = 6076;
 
 struct KeyValue {
     std::string_view key, value;
@@ -69,7 +69,7 @@ void ApplyReadRule(const ConfigKey& key) {
             break;
         }
         case ReadRule::kFeetToNm:
-            cfg.*std::get<double ConfigState::*>(key.member) /= kFeetPerNm;
+            cfg.*std::get<double ConfigState::*>(key.member) /= kFileFeetPerNm;
             break;
         case ReadRule::kArmsPauseAtTod:
             cfg.ArmPauseAtTod = 1;
@@ -153,7 +153,7 @@ std::string FileForm(const ConfigKey& key, double value) {
     if (key.read == ReadRule::kFeetToNm) {
         // To a thousandth of a foot: the way there and back must not show.
         constexpr double kSteps = 1000;
-        return FormatNumber(std::round(value * kFeetPerNm * kSteps) / kSteps);
+        return FormatNumber(std::round(value * kFileFeetPerNm * kSteps) / kSteps);
     }
     return FormatNumber(value);
 }

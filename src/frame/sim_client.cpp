@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 
+#include "base/numbers.h"
 #include "frame/key_events.h"
 #include "platform/host.h"
 #include "platform/state_lock.h"

@@ -1,8 +1,11 @@
 #include "frame/snapshot.h"
 
 #include <cmath>
-#include <numbers>
 
+#include "base/angles.h"
+#include "base/bcd.h"
+#include "base/numbers.h"
+#include "base/units.h"
 #include "frame/named_variables.h"
 #include "frame/tokens.h"
 #include "platform/host.h"
@@ -13,10 +16,6 @@
 #include "state/time_base.h"
 
 namespace {
-
-constexpr double kRadian = std::numbers::pi / 180;
-constexpr double kFeetPerMetre = 3.2808399;
-constexpr double kFpsPerKnot = 1.68781;
 
 struct PlainValue {
     int token;
@@ -120,13 +119,8 @@ int WholeToken(int token) {
 }
 
 /// Degrees in 0 to below 360.
-double Fold360(double degrees) {
-    degrees = std::fmod(degrees, 360);
-    return degrees < 0 ? degrees + 360 : degrees;
-}
-
 double RadialOf(int token) {
-    return Fold360(ReadToken(token) * 360 / 16384 + 180);
+    return FoldBearing(ReadToken(token) * 360 / 16384 + 180);
 }
 
 double CelsiusOfRankine(double rankine) {
@@ -173,29 +167,19 @@ void ReadClock() {
 // true airspeed.
 void ComputeWindAndTrack() {
     constexpr double kMinSpeed = 85, kMinHeight = 400;
-    const double off_nose = (sim.wind_dir - sim.true_hdg) * kRadian;
+    const double off_nose = (sim.wind_dir - sim.true_hdg) * kRadPerDeg;
     sim.wind_head_kt = -std::cos(off_nose) * sim.wind_kt;
     sim.wind_side_kt = std::sin(off_nose) * sim.wind_kt;
     sim.tas_kt = sim.ground_speed_kt - sim.wind_head_kt;
     if (sim.ground_speed_kt <= kMinSpeed || sim.radio_alt_ft <= kMinHeight || sim.tas_kt == 0)
         sim.drift_deg = 0;
     else
-        sim.drift_deg = std::atan(sim.wind_side_kt / sim.tas_kt) / kRadian;
-    sim.mag_track_deg = Fold360(sim.mag_hdg - sim.drift_deg);
-    sim.true_track_deg = Fold360(sim.true_hdg - sim.drift_deg);
+        sim.drift_deg = std::atan(sim.wind_side_kt / sim.tas_kt) / kRadPerDeg;
+    sim.mag_track_deg = FoldBearing(sim.mag_hdg - sim.drift_deg);
+    sim.true_track_deg = FoldBearing(sim.true_hdg - sim.drift_deg);
 }
 
 }  // namespace
-
-int DecodeBcd(double raw) {
-    if (!(raw >= 0 && raw < 4294967296.0)) return 0;
-    int value = 0, weight = 1;
-    for (auto digits = static_cast<unsigned>(raw); digits > 0; digits >>= 4) {
-        value += static_cast<int>(digits & 0xf) * weight;
-        if (weight < 10000000) weight *= 10;
-    }
-    return value;
-}
 
 void ReadMotion() {
     constexpr double kBankDeadBand = 0.035;
@@ -216,7 +200,7 @@ void ReadSnapshot() {
     const double lon = ReadToken(kTokenLon) / 781874935307.4;
     sim.plane_lon = lon > 180 ? lon - 360 : lon;
     sim.radio_alt_ft =
-        ReadToken(kTokenRadarAltitude) * kFeetPerMetre - std::sin(sim.pitch_deg * kRadian) * 40 - 17.2;
+        ReadToken(kTokenRadarAltitude) * kFeetPerMetre - std::sin(sim.pitch_deg * kRadPerDeg) * 40 - 17.2;
     sim.baro_in = sim.baro_hpa / 1013.25 * 29.92;
     sim.egt_l = CelsiusOfRankine(ReadToken(kTokenEng1Egt));
     sim.egt_r = CelsiusOfRankine(ReadToken(kTokenEng2Egt));

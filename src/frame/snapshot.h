@@ -22,6 +22,3 @@ void ReadTailValues();
 
 /// The simulation rate; generations from 10 on give it 256 times.
 void ReadSimRate();
-
-/// Reads a BCD number of up to eight digits: 0x0930 is 930.
-int DecodeBcd(double raw);

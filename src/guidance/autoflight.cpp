@@ -1,5 +1,6 @@
 #include "guidance/autoflight.h"
 
+#include "base/numbers.h"
 #include "frame/named_variables.h"
 #include "guidance/lnav.h"
 #include "platform/host.h"

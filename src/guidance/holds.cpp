@@ -4,10 +4,12 @@
 #include <array>
 #include <cmath>
 
+#include "base/angles.h"
+#include "base/numbers.h"
 #include "fmc/legs/holds.h"
 #include "fmc/legs/path.h"
+#include "fmc/legs/route_state.h"
 #include "fmc/performance/vertical_segment.h"
-#include "fmc/route/route.h"
 #include "guidance/sequencing.h"
 #include "platform/host.h"
 #include "state/lnav.h"

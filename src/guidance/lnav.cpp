@@ -2,9 +2,11 @@
 
 #include <cmath>
 
+#include "base/angles.h"
+#include "base/numbers.h"
 #include "base/text.h"
 #include "fmc/legs/holds.h"
-#include "fmc/legs/leg_list.h"
+#include "fmc/legs/leg_words.h"
 #include "fmc/legs/path.h"
 #include "fmc/performance/vertical_segment.h"
 #include "frame/key_events.h"

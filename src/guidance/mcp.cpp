@@ -4,6 +4,8 @@
 #include <cmath>
 #include <cstdlib>
 
+#include "base/angles.h"
+#include "base/numbers.h"
 #include "fmc/legs/path.h"
 #include "frame/key_events.h"
 #include "frame/named_variables.h"

@@ -2,13 +2,15 @@
 
 #include <array>
 
+#include "base/angles.h"
+#include "base/numbers.h"
 #include "base/text.h"
-#include "fmc/legs/leg_list.h"
+#include "fmc/legs/active_leg.h"
+#include "fmc/legs/leg_words.h"
 #include "fmc/legs/path.h"
 #include "fmc/performance/flight_log.h"
 #include "fmc/performance/predictions.h"
 #include "fmc/performance/vertical_segment.h"
-#include "fmc/route/route.h"
 #include "frame/key_events.h"
 #include "guidance/vnav.h"
 #include "platform/host.h"

@@ -1,5 +1,6 @@
 #include "guidance/turn_log.h"
 
+#include "base/angles.h"
 #include "base/text.h"
 #include "fmc/legs/path.h"
 #include "platform/files.h"

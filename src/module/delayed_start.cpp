@@ -1,5 +1,7 @@
 #include "module/delayed_start.h"
 
+#include "base/bcd.h"
+#include "base/numbers.h"
 #include "display/pictures/remote_bridge.h"
 #include "frame/configuration.h"
 #include "frame/crew_messages.h"

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "base/angles.h"
 #include "fmc/legs/path.h"
 #include "fmc/performance/predictions.h"
 #include "navdata/airways.h"

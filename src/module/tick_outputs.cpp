@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <numeric>
 
+#include "base/numbers.h"
 #include "display/routing/routing.h"
 #include "fmc/performance/winds.h"
 #include "frame/active_runways.h"

@@ -3,6 +3,7 @@
 #include "base/text_fields.h"
 #include "navdata/geodesy.h"
 #include "navdata/ident_index.h"
+#include "navdata/navdata_file.h"
 #include "state/nav_tables.h"
 
 namespace {

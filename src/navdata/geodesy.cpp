@@ -3,11 +3,10 @@
 #include <algorithm>
 #include <cmath>
 
+#include "base/angles.h"
 #include "base/text.h"
 
 namespace {
-
-constexpr double kPi = 3.14159265358979323846;
 
 double Sin(double deg) {
     return std::sin(deg * kRadPerDeg);

@@ -6,8 +6,6 @@
 // The sphere on which all navigation runs. Degrees, north and east positive; bearings true; nautical miles.
 
 constexpr double kEarthRadiusNm = 3437.7467707849396;
-constexpr double kRadPerDeg = 0.017453292519943295;
-constexpr double kDegPerRad = 57.29577951308232;
 
 struct DistBearing {
     double dist;

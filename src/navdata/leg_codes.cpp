@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <cmath>
 
+#include "base/angles.h"
 #include "base/text.h"
+#include "base/units.h"
 
 namespace {
 
@@ -12,13 +14,12 @@ constexpr double kClimbNmPerMinute = 3.1666;
 constexpr double kDepartureClimb = 1200, kMissedClimb = 1500;  // ft/min
 constexpr double kStartOfClimb = 0.33;                         // nm
 constexpr double kLeastRest = 0.2;                             // nm, of a climb behind its turn
-constexpr double kFeetPerNm = 6076.12;
-constexpr double kTurnBeyondCrossing = 0.019444;  // nm a degree
-constexpr int kMaxInterceptError = 7;             // degrees
-constexpr double kFarthestCrossing = 500;         // nm
-constexpr std::size_t kBoundDigits = 5;           // of an altitude window
-constexpr int kHighestAltitude = 99999;           // ft
-constexpr int kTouching = 2;                      // degrees between lines that count as one
+constexpr double kTurnBeyondCrossing = 0.019444;               // nm a degree
+constexpr int kMaxInterceptError = 7;                          // degrees
+constexpr double kFarthestCrossing = 500;                      // nm
+constexpr std::size_t kBoundDigits = 5;                        // of an altitude window
+constexpr int kHighestAltitude = 99999;                        // ft
+constexpr int kTouching = 2;                                   // degrees between lines that count as one
 
 double Folded(double degrees) {
     const double folded = std::fmod(degrees, 360);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "base/angles.h"
 #include "navdata/geodesy.h"
 
 namespace {

@@ -9,6 +9,7 @@
 #include "base/text_fields.h"
 #include "navdata/airways.h"
 #include "navdata/ident_index.h"
+#include "navdata/navdata_file.h"
 #include "platform/host.h"
 #include "state/cfg.h"
 #include "state/nav.h"

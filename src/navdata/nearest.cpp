@@ -6,6 +6,7 @@
 #include <tuple>
 #include <utility>
 
+#include "base/angles.h"
 #include "navdata/geodesy.h"
 #include "navdata/vor_autotune.h"
 #include "state/airports.h"

@@ -10,6 +10,7 @@
 #include "navdata/geodesy.h"
 #include "navdata/leg_codes.h"
 #include "navdata/magnetic_model.h"
+#include "navdata/navdata_file.h"
 #include "state/perf.h"
 
 namespace {

@@ -6,6 +6,7 @@
 #include <tuple>
 #include <utility>
 
+#include "base/bcd.h"
 #include "frame/key_events.h"
 #include "frame/tokens.h"
 #include "navdata/geodesy.h"
@@ -85,19 +86,6 @@ void Tune(const NavRadio& radio, int mode, const TunedVor& vor) {
 }
 
 }  // namespace
-
-int FrequencyToBcd(std::string_view freq) {
-    const std::size_t point = std::min(freq.find('.'), freq.size());
-    const std::string_view whole = freq.substr(0, point);
-    const std::string_view part = freq.substr(std::min(point + 1, freq.size()));
-    const auto digit = [](std::string_view text, std::size_t at) {
-        return at < text.size() && text[at] >= '0' && text[at] <= '9' ? text[at] - '0' : 0;
-    };
-    int bcd = 0;
-    for (std::size_t i = 0; i < 3; ++i) bcd = bcd * 16 + digit(whole, i);
-    for (std::size_t i = 0; i < 2; ++i) bcd = bcd * 16 + digit(part, i);
-    return bcd;
-}
 
 void AutoTuneRadios() {
     FindNearestVors();

@@ -1,11 +1,6 @@
 #pragma once
 
-#include <string_view>
-
 /// Picks two of the nine VORs nearest to the aircraft that lie ahead, along the active leg when a route is
 /// active, else along the track, and tunes the radios that are in automatic to them. A radio for which none
 /// is found keeps its VOR.
 void AutoTuneRadios();
-
-/// A frequency text as binary coded decimal of hundredths of a MHz: "113.3" gives 0x11330.
-int FrequencyToBcd(std::string_view freq);

@@ -85,7 +85,7 @@ void FillHatch(Graphics& graphics, const Brush& brush, const GraphicsPath& path)
     if (stretches.verbs.empty()) return;
     const Matrix world = graphics.world;
     graphics.world = {};
-    Stroke(graphics, GdipCreatePen1(brush.colour, 1), stretches);
+    Stroke(graphics, {.colour = brush.colour, .width = 1}, stretches);
     graphics.world = world;
 }
 
@@ -93,8 +93,6 @@ void FillHatch(Graphics& graphics, const Brush& brush, const GraphicsPath& path)
 
 void Fill(Graphics& graphics, const Brush& brush, const GraphicsPath& path) {
     if (!IsDrawable(graphics, path)) return;
-    const Argb colour = brush.hatched ? brush.back : brush.colour;
-    if (colour >> 24 != 0)
-        graphics.list->primitives.emplace_back(FillPath{RecordPath(graphics, path), colour});
+    RecordFill(graphics, path, brush.hatched ? brush.back : brush.colour);
     if (brush.hatched) FillHatch(graphics, brush, path);
 }

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 
+#include "base/angles.h"
 #include "paint/fill.h"
 #include "paint/path_builder.h"
 #include "paint/recording.h"
@@ -83,7 +83,7 @@ void GdipTranslateWorldTransform(Graphics& graphics, double dx, double dy) {
     Prepend(graphics, {1, 0, 0, 1, dx, dy});
 }
 void GdipRotateWorldTransform(Graphics& graphics, double degrees) {
-    const double angle = degrees * std::numbers::pi / 180;
+    const double angle = degrees * kRadPerDeg;
     Prepend(graphics, {std::cos(angle), std::sin(angle), -std::sin(angle), std::cos(angle), 0, 0});
 }
 

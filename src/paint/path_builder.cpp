@@ -2,11 +2,11 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
+
+#include "base/angles.h"
 
 namespace {
 
-constexpr double kDegree = std::numbers::pi / 180;
 constexpr double kQuarterArc = 0.5522847498307936;  // control length of a quarter circle, 4/3 tan(pi/8)
 
 PaintPoint At(double x, double y) {
@@ -15,11 +15,11 @@ PaintPoint At(double x, double y) {
 
 // The angle on the ellipse's circle that shows as `degrees` on the ellipse.
 double CircleAngle(double degrees, double rx, double ry) {
-    const double angle = degrees * kDegree;
+    const double angle = degrees * kRadPerDeg;
     const double c = std::cos(angle), s = std::sin(angle);
     if (std::fabs(c) < 1e-5 || std::fabs(s) < 1e-5) return angle;
     const double stretched = std::atan2(s / ry, c / rx);
-    const double turn = 2 * std::numbers::pi;
+    const double turn = 2 * kPi;
     return stretched + (std::round(angle / turn) - std::round(stretched / turn)) * turn;
 }
 
@@ -88,7 +88,7 @@ void AddArc(GraphicsPath& path, double x, double y, double width, double height,
     const double rx = width / 2, ry = height / 2, cx = x + rx, cy = y + ry;
     const double first = CircleAngle(start, rx, ry), last = CircleAngle(start + sweep, rx, ry);
     const int parts =
-        std::max(1, static_cast<int>(std::ceil(std::fabs(last - first) / (90 * kDegree) - 1e-9)));
+        std::max(1, static_cast<int>(std::ceil(std::fabs(last - first) / (90 * kRadPerDeg) - 1e-9)));
     const double step = (last - first) / parts;
     const double control = 4.0 / 3 * std::tan(step / 4);
     LineTo(path, cx + rx * std::cos(first), cy + ry * std::sin(first));

@@ -2,7 +2,7 @@
 
 #include <span>
 
-#include "paint/graphics.h"
+#include "paint/graphics_types.h"
 
 // Figures as lines and cubic curves, shared by paths, outlines and fills.
 

@@ -8,8 +8,8 @@
 #include <algorithm>
 #include <map>
 #include <mutex>
-#include <numbers>
 
+#include "base/angles.h"
 #include "paint/fonts.h"
 #include "paint/image_store.h"
 
@@ -88,7 +88,7 @@ struct Painter {
     }
 
     void ApplyAxes(const LocalAxes& axes) const {
-        cairo_rotate(cairo, axes.rotation * std::numbers::pi / 180);
+        cairo_rotate(cairo, axes.rotation * kRadPerDeg);
         cairo_matrix_t matrix;
         cairo_matrix_init(&matrix, axes.stretch, 0, axes.skew, 1, 0, 0);
         cairo_transform(cairo, &matrix);
@@ -158,7 +158,7 @@ struct Painter {
             data, CAIRO_FORMAT_ARGB32, pixels->width, pixels->height, pixels->width * 4);
         cairo_save(cairo);
         cairo_translate(cairo, image.x, image.y);
-        cairo_rotate(cairo, image.rotation * std::numbers::pi / 180);
+        cairo_rotate(cairo, image.rotation * kRadPerDeg);
         cairo_rectangle(cairo, 0, 0, image.width, image.height);
         // A picture's first pixel has its middle where the first pixel of the place has it.
         const double grow_x = image.width / static_cast<double>(pixels->width);

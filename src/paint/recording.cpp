@@ -2,7 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
+
+#include "base/angles.h"
 
 PaintPoint Map(const Matrix& m, double x, double y) {
     return {static_cast<float>(m.a * x + m.c * y + m.e), static_cast<float>(m.b * x + m.d * y + m.f)};
@@ -21,8 +22,8 @@ Growth GrowthOf(const Matrix& m) {
     if (height <= kNothing) return {height, {}};
     const double slant = (m.a * m.c + m.b * m.d) / run;
     return {height,
-            {static_cast<float>(std::atan2(m.b, m.a) * 180 / std::numbers::pi),
-             static_cast<float>(run / height), static_cast<float>(slant / height)}};
+            {static_cast<float>(std::atan2(m.b, m.a) * kDegPerRad), static_cast<float>(run / height),
+             static_cast<float>(slant / height)}};
 }
 
 PaintRange RangeOf(std::size_t first, std::size_t end) {
@@ -41,4 +42,9 @@ PaintPath RecordPath(Graphics& graphics, const GraphicsPath& path) {
     list.verbs.insert(list.verbs.end(), path.verbs.begin(), path.verbs.end());
     for (const PaintPoint& point : path.points) list.points.push_back(Map(graphics.world, point.x, point.y));
     return {RangeOf(verbs, list.verbs.size()), RangeOf(points, list.points.size()), path.winding};
+}
+
+void RecordFill(Graphics& graphics, const GraphicsPath& path, Argb colour) {
+    if (colour >> 24 == 0) return;
+    graphics.list->primitives.emplace_back(FillPath{RecordPath(graphics, path), colour});
 }

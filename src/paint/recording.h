@@ -2,7 +2,7 @@
 
 #include <cstddef>
 
-#include "paint/graphics.h"
+#include "paint/graphics_types.h"
 
 // How the drawing operations put on the list what they draw: mapped by the world transform, and only what can
 // be painted.
@@ -30,3 +30,6 @@ bool IsDrawable(const Graphics& graphics, const GraphicsPath& path);
 
 /// Puts the path, which is drawable, into the list's arrays.
 PaintPath RecordPath(Graphics& graphics, const GraphicsPath& path);
+
+/// Fills the path, which is drawable, with one colour; nothing with one that can't be seen.
+void RecordFill(Graphics& graphics, const GraphicsPath& path, Argb colour);

@@ -48,14 +48,14 @@ void DrawWithArrow(Graphics& graphics, const Pen& pen, const GraphicsPath& path)
     LineTo(head, base.x + uy * half, base.y - ux * half);
     if (!pen.end_cap.filled) {
         StrokeOnce(graphics, pen, line, pen.width);
-        return StrokeOnce(graphics, GdipCreatePen1(pen.colour, pen.width), head, pen.width);
+        return StrokeOnce(graphics, {.colour = pen.colour, .width = pen.width}, head, pen.width);
     }
     ClosePath(head);
     if (length > height) {
         line.points[count - 1] = base;
         StrokeOnce(graphics, pen, line, pen.width);
     }
-    GdipFillPath(graphics, GdipCreateSolidFill(pen.colour), head);
+    if (IsDrawable(graphics, head)) RecordFill(graphics, head, pen.colour);
 }
 
 }  // namespace

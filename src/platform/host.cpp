@@ -94,10 +94,6 @@ std::string TakeText(Operation&& operation) {
 
 }  // namespace
 
-int WholeNumber(double value) {
-    return std::fabs(value) < 2147483647.0 ? static_cast<int>(value) : 0;
-}
-
 void UseHost(const HostOperations* operations) {
     const bool usable = operations != nullptr && operations->version >= kHostOperationsVersion;
     host_in_force = usable ? operations : &kDeafHost;

@@ -7,9 +7,6 @@
 // The host's operations under their own names. One table is in force, taken from ImportTable at ModuleInit;
 // tests put a FakeHost's there. Without a table every read gives what an ignorant host would.
 
-/// A host value that should be a whole number, cut to one; 0 for what fits no 32 bits or is no number.
-int WholeNumber(double value);
-
 /// Puts the host's table into force; null takes it away.
 void UseHost(const HostOperations* operations);
 

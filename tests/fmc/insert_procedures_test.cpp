@@ -3,6 +3,7 @@
 #include <string>
 
 #include "fmc/demo_navdata.h"
+#include "fmc/legs/route_state.h"
 #include "fmc/procedures/select_procedures.h"
 #include "fmc/route/endpoints.h"
 #include "fmc/route/execute_route.h"

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "base/angles.h"
 #include "state/sim.h"
 #include "state/state_groups.h"
 

@@ -8,7 +8,6 @@
 #include "fmc/demo_navdata.h"
 #include "fmc/files/host_gps_route.h"
 #include "fmc/files/route_files.h"
-#include "fmc/route/route.h"
 #include "fmc/route_invariants.h"
 #include "platform/files.h"
 #include "state/cdu.h"

@@ -6,9 +6,8 @@
 #include <string>
 
 #include "fmc/legs/holds.h"
-#include "fmc/legs/leg_list.h"
+#include "fmc/legs/leg_words.h"
 #include "fmc/legs/route_rows.h"
-#include "fmc/route/route.h"
 #include "state/plan.h"
 
 inline std::string Idents(const GrowingList<FlightPlanLeg>& legs, int count) {

@@ -4,7 +4,6 @@
 
 #include "fmc/demo_navdata.h"
 #include "fmc/legs/insert_fix.h"
-#include "fmc/route/route.h"
 #include "fmc/route/route_operations.h"
 #include "fmc/route/route_text.h"
 #include "fmc/route_invariants.h"

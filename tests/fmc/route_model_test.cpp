@@ -2,15 +2,17 @@
 
 #include <random>
 
+#include "fmc/legs/active_leg.h"
 #include "fmc/legs/edit_legs.h"
 #include "fmc/legs/holds.h"
 #include "fmc/legs/insert_fix.h"
-#include "fmc/legs/leg_list.h"
+#include "fmc/legs/leg_words.h"
 #include "fmc/legs/route_airway.h"
 #include "fmc/legs/route_rows.h"
+#include "fmc/legs/route_state.h"
 #include "fmc/route/endpoints.h"
 #include "fmc/route/execute_route.h"
-#include "fmc/route/route.h"
+#include "fmc/route/modification.h"
 #include "fmc/route_invariants.h"
 #include "fmc/route_model.h"
 #include "navdata/parse_entry.h"

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "fmc/demo_navdata.h"
-#include "fmc/route/route.h"
 #include "state/perf.h"
 #include "state/plan.h"
 #include "state/sim.h"

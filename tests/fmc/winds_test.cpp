@@ -4,7 +4,6 @@
 
 #include <string>
 
-#include "fmc/route/route.h"
 #include "state/airports.h"
 #include "state/module_life.h"
 #include "state/perf.h"

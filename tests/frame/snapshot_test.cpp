@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "base/bcd.h"
 #include "frame/tokens.h"
 #include "state/cfg.h"
 #include "state/perf.h"

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include "base/angles.h"
 #include "state/cdu.h"
 #include "state/plan.h"
 #include "state/state_groups.h"

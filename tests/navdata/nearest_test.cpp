@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "base/bcd.h"
 #include "navdata/nav_tables.h"
 #include "navdata/vor_autotune.h"
 #include "state/airports.h"

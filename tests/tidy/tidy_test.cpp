@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <map>
 #include <regex>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -42,9 +44,40 @@ std::vector<Line> LinesOf(const fs::path& file) {
     return lines;
 }
 
-// The folder of a name such as "fmc/route.h".
-std::string FolderOf(const std::string& name) {
-    return name.substr(0, name.find('/'));
+// Each room of src/ may include what stands before it in this order, and state/; base/ knows no state.
+const std::vector<std::string> kOrder = {"base",
+                                         "platform",
+                                         "state",
+                                         "paint",
+                                         "frame",
+                                         "navdata",
+                                         "surveillance",
+                                         "fmc/legs",
+                                         "fmc/performance",
+                                         "fmc/procedures",
+                                         "fmc/route",
+                                         "fmc/files",
+                                         "guidance",
+                                         "panels",
+                                         "systems",
+                                         "sound",
+                                         "cdu/words",
+                                         "cdu/pages",
+                                         "cdu/unit",
+                                         "checklist",
+                                         "comm",
+                                         "efb",
+                                         "display/routing",
+                                         "display/formats",
+                                         "display/pictures",
+                                         "module/controls",
+                                         "module"};
+
+// The room of a name such as "fmc/legs/path.h"; the whole folder where it stands in none.
+std::string RoomOf(const std::string& name) {
+    const std::string folder = name.substr(0, name.find_last_of('/'));
+    const bool is_room = std::find(kOrder.begin(), kOrder.end(), folder) != kOrder.end();
+    return is_room ? folder : name.substr(0, name.find('/'));
 }
 
 std::string IncludedName(const std::string& line) {
@@ -52,26 +85,52 @@ std::string IncludedName(const std::string& line) {
     return line.substr(10, line.find('"', 10) - 10);
 }
 
-// Each folder of src/ may include what stands before it in this order, and state/.
-const std::vector<std::string> kOrder = {"base",      "platform", "state",  "paint",   "frame", "navdata",
-                                         "fmc",       "guidance", "panels", "systems", "sound", "cdu",
-                                         "checklist", "comm",     "efb",    "display", "module"};
-
 TEST(Tidy, IncludesPointForward) {
-    const auto place = [](const std::string& folder) {
-        return std::find(kOrder.begin(), kOrder.end(), folder) - kOrder.begin();
+    const auto place = [](const std::string& room) {
+        return std::find(kOrder.begin(), kOrder.end(), room) - kOrder.begin();
     };
     for (const fs::path& file : SourceFiles("src")) {
-        const std::string folder = FolderOf(fs::relative(file, fs::path(SourceDir()) / "src").string());
-        EXPECT_LT(place(folder), static_cast<long>(kOrder.size()))
-            << folder << ": a folder that the order lacks";
+        const std::string room = RoomOf(fs::relative(file, fs::path(SourceDir()) / "src").string());
+        EXPECT_LT(place(room), static_cast<long>(kOrder.size())) << room << ": a room that the order lacks";
         for (const Line& line : LinesOf(file)) {
-            const std::string other = FolderOf(IncludedName(line.text));
-            if (other.empty() || other == folder || other == "state") continue;
-            EXPECT_LT(place(other), place(folder)) << line.where << ": " << folder << " may not include "
-                                                   << other << "/: leave a request in state/";
+            const std::string name = IncludedName(line.text);
+            if (name.empty()) continue;
+            const std::string other = RoomOf(name);
+            if (other == room || (other == "state" && room != "base")) continue;
+            EXPECT_LT(place(other), place(room)) << line.where << ": " << room << "/ may not include "
+                                                 << other << "/: leave a request in state/";
         }
     }
+}
+
+// "fmc/legs/path" of a header or source of that pair.
+std::string PairOf(const std::string& name) {
+    return name.substr(0, name.find_last_of('.'));
+}
+
+TEST(Tidy, NoCircleOfIncludesInsideARoom) {
+    std::map<std::string, std::set<std::string>> includes;
+    for (const fs::path& file : SourceFiles("src")) {
+        const std::string name = fs::relative(file, fs::path(SourceDir()) / "src").string();
+        for (const Line& line : LinesOf(file)) {
+            const std::string other = IncludedName(line.text);
+            if (!other.empty() && PairOf(other) != PairOf(name)) includes[PairOf(name)].insert(PairOf(other));
+        }
+    }
+    // What includes nothing that is left can't stand in a circle, and is taken out in turn.
+    for (bool taken = true; taken;) {
+        taken = false;
+        for (auto at = includes.begin(); at != includes.end();) {
+            const bool is_leaf =
+                std::none_of(at->second.begin(), at->second.end(),
+                             [&](const std::string& other) { return includes.contains(other); });
+            taken |= is_leaf;
+            at = is_leaf ? includes.erase(at) : std::next(at);
+        }
+    }
+    for (const auto& [pair, others] : includes)
+        ADD_FAILURE() << "src/" << pair
+                      << ": stands in a circle of includes, or before one: split what both need";
 }
 
 TEST(Tidy, HostSeesTheModuleThroughItsBoundary) {

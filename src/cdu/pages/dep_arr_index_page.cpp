@@ -1,7 +1,6 @@
 #include "cdu/pages/dep_arr_index_page.h"
 
 #include "cdu/words/page.h"
-#include "fmc/route/route.h"
 #include "navdata/procedure_files.h"
 #include "state/airports.h"
 #include "state/plan.h"

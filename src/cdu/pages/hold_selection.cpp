@@ -2,14 +2,16 @@
 
 #include <algorithm>
 
-#include "cdu/pages/legs_page.h"
+#include "cdu/pages/legs_edit.h"
 #include "cdu/pages/select_wpt_page.h"
 #include "cdu/words/page.h"
 #include "cdu/words/shown_plan.h"
+#include "fmc/legs/active_leg.h"
 #include "fmc/legs/holds.h"
 #include "fmc/legs/insert_fix.h"
 #include "fmc/legs/leg_list.h"
-#include "fmc/route/route.h"
+#include "fmc/legs/leg_words.h"
+#include "fmc/legs/route_state.h"
 #include "frame/crew_messages.h"
 #include "navdata/parse_entry.h"
 #include "state/nav.h"

@@ -4,15 +4,17 @@
 
 #include "base/text.h"
 #include "cdu/pages/hold_selection.h"
+#include "cdu/pages/legs_edit.h"
 #include "cdu/pages/select_wpt_page.h"
 #include "cdu/words/constraint_entry.h"
 #include "cdu/words/constraint_text.h"
 #include "cdu/words/page.h"
 #include "cdu/words/shown_plan.h"
+#include "fmc/legs/active_leg.h"
 #include "fmc/legs/edit_legs.h"
 #include "fmc/legs/insert_fix.h"
-#include "fmc/legs/leg_list.h"
-#include "fmc/route/route.h"
+#include "fmc/legs/leg_words.h"
+#include "fmc/legs/route_state.h"
 #include "frame/crew_messages.h"
 #include "navdata/parse_entry.h"
 #include "state/nav.h"
@@ -287,22 +289,6 @@ void DrawLastLine(PageCall& call, int page) {
 }
 
 }  // namespace
-
-void FinishLegsEdit(PageCall& call) {
-    LegsChanged(call);
-    if (plan.direct_to_pending == 1) route_pages.LegsView = kDirectView;
-}
-
-// A fix typed over the leg that is being flown to is flown to directly.
-void InsertPickedLeg(PageCall& call, int leg, int candidate) {
-    const bool direct = plan.fms_fpln_active >= kRouteActive && leg == ShownActiveLeg();
-    InsertFixAt(leg, candidate, false);
-    if (direct) {
-        SetPendingActiveLeg(leg);
-        ConnectLegs(leg, leg, call.side);
-    }
-    FinishLegsEdit(call);
-}
 
 void LegsPage(PageCall& call) {
     int& page = call.unit.legs_index;

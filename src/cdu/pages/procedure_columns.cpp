@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "base/text.h"
-#include "fmc/route/route.h"
 #include "state/plan.h"
 
 namespace {

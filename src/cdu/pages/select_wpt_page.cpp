@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "base/text.h"
-#include "cdu/pages/legs_page.h"
+#include "cdu/pages/legs_edit.h"
 #include "cdu/words/page.h"
 #include "fmc/legs/insert_fix.h"
 #include "state/nav.h"

@@ -7,8 +7,8 @@
 #include "base/text.h"
 #include "cdu/words/page.h"
 #include "cdu/words/shown_plan.h"
-#include "fmc/legs/leg_list.h"
-#include "fmc/route/route.h"
+#include "fmc/legs/leg_words.h"
+#include "fmc/legs/route_state.h"
 #include "frame/crew_messages.h"
 #include "state/cfg.h"
 

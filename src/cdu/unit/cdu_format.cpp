@@ -4,7 +4,6 @@
 #include "cdu/unit/cdu_service.h"
 #include "cdu/unit/items.h"
 #include "cdu/words/page.h"
-#include "fmc/route/route.h"
 #include "frame/crew_messages.h"
 #include "paint/painter.h"
 #include "state/plan.h"

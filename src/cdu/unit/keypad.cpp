@@ -1,7 +1,6 @@
 #include "cdu/unit/keypad.h"
 
 #include "fmc/route/execute_route.h"
-#include "fmc/route/route.h"
 #include "state/cdu.h"
 #include "state/cfg.h"
 #include "state/perf.h"

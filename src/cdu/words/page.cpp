@@ -4,7 +4,8 @@
 
 #include "base/text.h"
 #include "fmc/legs/route_rows.h"
-#include "fmc/route/route.h"
+#include "fmc/legs/route_state.h"
+#include "fmc/route/modification.h"
 #include "frame/crew_messages.h"
 #include "paint/painter.h"
 #include "state/cfg.h"

@@ -2,9 +2,10 @@
 
 #include <algorithm>
 
-#include "fmc/legs/leg_list.h"
+#include "base/angles.h"
+#include "fmc/legs/active_leg.h"
+#include "fmc/legs/leg_words.h"
 #include "fmc/legs/path.h"
-#include "fmc/route/route.h"
 #include "navdata/geodesy.h"
 #include "navdata/magnetic_model.h"
 

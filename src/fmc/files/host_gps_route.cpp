@@ -7,6 +7,7 @@
 #include <cstring>
 #include <vector>
 
+#include "base/units.h"
 #include "fmc/files/loaded_route.h"
 #include "fmc/legs/leg_type.h"
 #include "frame/crew_messages.h"
@@ -83,7 +84,7 @@ FlightPlanLeg LegOf(const std::byte* waypoint, bool is_end) {
 }  // namespace
 
 void ImportHostGpsRoute(int side) {
-    constexpr double kFeetPerMetre = 3.2808399, kHighest = 99999;
+    constexpr double kHighest = 99999;
     const std::vector<std::byte> waypoints = CopyWaypoints();
     if (waypoints.empty()) return PostCduMessage("NO ACTIVE GPS RTE", kAdvisory, kHelpFixedList, side);
     BeginLoadedRoute();

@@ -3,13 +3,14 @@
 #include <utility>
 #include <vector>
 
+#include "fmc/legs/active_leg.h"
 #include "fmc/legs/holds.h"
-#include "fmc/legs/leg_list.h"
+#include "fmc/legs/leg_words.h"
 #include "fmc/legs/route_rows.h"
+#include "fmc/legs/route_state.h"
 #include "fmc/performance/default_speeds.h"
 #include "fmc/performance/flight_log.h"
-#include "fmc/route/endpoints.h"
-#include "fmc/route/route.h"
+#include "fmc/procedures/end_airports.h"
 #include "navdata/geodesy.h"
 #include "state/airports.h"
 #include "state/cdu.h"

@@ -2,10 +2,12 @@
 
 #include <algorithm>
 
+#include "fmc/legs/active_leg.h"
 #include "fmc/legs/holds.h"
 #include "fmc/legs/leg_list.h"
+#include "fmc/legs/leg_words.h"
 #include "fmc/legs/route_rows.h"
-#include "fmc/route/route.h"
+#include "fmc/legs/route_state.h"
 #include "navdata/geodesy.h"
 #include "navdata/leg_codes.h"
 #include "navdata/magnetic_model.h"

@@ -3,7 +3,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "fmc/legs/leg_list.h"
+#include "base/angles.h"
+#include "fmc/legs/leg_words.h"
 #include "fmc/legs/path.h"
 #include "navdata/geodesy.h"
 #include "navdata/magnetic_model.h"

@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <cmath>
 
+#include "base/angles.h"
 #include "base/text.h"
 #include "fmc/legs/leg_list.h"
+#include "fmc/legs/leg_words.h"
 #include "fmc/legs/path.h"
 #include "fmc/legs/route_rows.h"
 #include "navdata/geodesy.h"

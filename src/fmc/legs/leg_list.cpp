@@ -3,8 +3,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "fmc/legs/active_leg.h"
 #include "fmc/legs/holds.h"
-#include "fmc/route/route.h"
+#include "fmc/legs/leg_words.h"
 
 namespace {
 
@@ -24,40 +25,6 @@ void ShiftReferences(int first, int offset) {
 }
 
 }  // namespace
-
-bool IsDisco(const FlightPlanLeg& leg) {
-    return leg.ident == "DISCO";
-}
-
-bool IsThen(const FlightPlanLeg& leg) {
-    return leg.ident == "THEN";
-}
-
-bool IsVectors(const FlightPlanLeg& leg) {
-    return leg.ident == "VECTORS";
-}
-
-bool IsMissedApproach(const FlightPlanLeg& leg) {
-    return leg.via == kMissedApproach;
-}
-
-bool IsPlace(const FlightPlanLeg& leg) {
-    return !leg.ident.empty() && !IsDisco(leg) && !IsThen(leg);
-}
-
-int PlaceBefore(const GrowingList<FlightPlanLeg>& legs, int index) {
-    for (int i = index - 1; i >= 0; --i)
-        if (IsPlace(legs[i])) return i;
-    return -1;
-}
-
-int FindModLeg(const FlightPlanLeg& place, int first) {
-    for (int i = std::max(first, 1); i <= plan.mod_cnt; ++i) {
-        const FlightPlanLeg& leg = plan.FlightPlanMod[i];
-        if (leg.ident == place.ident && leg.lat == place.lat && leg.lon == place.lon) return i;
-    }
-    return 0;
-}
 
 FlightPlanLeg& OpenModLeg(int position) {
     plan.mod_cnt = std::max(plan.mod_cnt, 0);

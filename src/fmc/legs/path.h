@@ -5,20 +5,6 @@
 // The geometry of a flown path: what a turn takes, when the next leg starts, how far the aircraft is off its
 // leg. A leg is the great circle between two positions; nothing of the path is stored. Degrees, nm, knots.
 
-/// A bearing in 0 to below 360.
-double FoldBearing(double bearing);
-/// A magnetic course as it is shown and flown: 0.5 to below 360.5, so that north reads 360 and not 000.
-double FoldCourse(double course);
-
-/// The smaller difference of two bearings, 0 to 180; the second form is cut to whole degrees.
-double BearingDifference(double a, double b);
-int AngleBetween(double a, double b);
-
-constexpr int kTurnLeft = 1;
-constexpr int kTurnRight = 2;
-/// The shorter way round from one bearing to another. Exactly opposite, it is left when `from` is the lesser.
-int TurnSide(double from, double to);
-
 /// Radius (nm) of a turn at the present ground speed.
 double TurnRadiusForGroundSpeed();
 /// Radius (nm) of a turn planned for a speed (kt) at an altitude (ft).

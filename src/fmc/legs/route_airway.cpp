@@ -5,6 +5,7 @@
 
 #include "fmc/legs/leg_list.h"
 #include "fmc/legs/leg_type.h"
+#include "fmc/legs/leg_words.h"
 #include "fmc/legs/route_rows.h"
 #include "navdata/airways.h"
 #include "navdata/geodesy.h"

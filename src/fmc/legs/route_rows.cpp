@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "fmc/legs/leg_list.h"
+#include "fmc/legs/leg_words.h"
 
 namespace {
 

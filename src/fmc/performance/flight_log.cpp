@@ -3,7 +3,9 @@
 #include <array>
 #include <cmath>
 
+#include "base/angles.h"
 #include "base/text.h"
+#include "base/units.h"
 #include "fmc/performance/predictions.h"
 #include "frame/named_variables.h"
 #include "navdata/geodesy.h"
@@ -59,7 +61,6 @@ void BeginLog() {
 }
 
 double FlightPathAngle() {
-    constexpr double kFpmPerKnot = 6076.12 / 60;
     if (sim.ground_speed_kt < 1) return 0;
     return std::atan2(sim.vs_fpm, sim.ground_speed_kt * kFpmPerKnot) * kDegPerRad;
 }

@@ -4,7 +4,9 @@
 #include <array>
 #include <cmath>
 
-#include "fmc/legs/leg_list.h"
+#include "base/angles.h"
+#include "base/units.h"
+#include "fmc/legs/leg_words.h"
 #include "fmc/legs/path.h"
 #include "fmc/performance/performance_tables.h"
 #include "navdata/geodesy.h"
@@ -58,7 +60,6 @@ void Take(double value, int manual, double& speed) {
 }  // namespace
 
 double DisplayWeight(double lb) {
-    constexpr double kKgPerLb = 0.45359237;
     return cfg.WeightUnit == "KGS" ? lb * kKgPerLb : lb;
 }
 

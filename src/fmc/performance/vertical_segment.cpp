@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "fmc/legs/leg_list.h"
+#include "fmc/legs/leg_words.h"
 #include "navdata/geodesy.h"
 #include "state/perf.h"
 #include "state/plan.h"

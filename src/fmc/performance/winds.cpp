@@ -13,10 +13,11 @@
 #include <utility>
 #include <vector>
 
+#include "base/angles.h"
 #include "base/text.h"
 #include "base/text_fields.h"
-#include "fmc/legs/leg_list.h"
-#include "fmc/route/route.h"
+#include "fmc/legs/leg_words.h"
+#include "fmc/legs/route_state.h"
 #include "frame/crew_messages.h"
 #include "navdata/geodesy.h"
 #include "platform/files.h"

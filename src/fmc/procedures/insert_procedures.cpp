@@ -5,13 +5,15 @@
 #include <utility>
 
 #include "base/text.h"
+#include "fmc/legs/active_leg.h"
 #include "fmc/legs/edit_legs.h"
 #include "fmc/legs/holds.h"
 #include "fmc/legs/leg_list.h"
 #include "fmc/legs/leg_type.h"
+#include "fmc/legs/leg_words.h"
 #include "fmc/legs/route_rows.h"
+#include "fmc/legs/route_state.h"
 #include "fmc/procedures/procedure_legs.h"
-#include "fmc/route/route.h"
 #include "navdata/geodesy.h"
 #include "navdata/leg_codes.h"
 #include "state/airports.h"

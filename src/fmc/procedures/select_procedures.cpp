@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
+#include "fmc/legs/route_state.h"
+#include "fmc/procedures/end_airports.h"
 #include "fmc/procedures/insert_procedures.h"
 #include "fmc/procedures/procedure_legs.h"
-#include "fmc/route/endpoints.h"
-#include "fmc/route/route.h"
 #include "navdata/procedure_files.h"
 #include "state/airports.h"
 #include "state/plan.h"

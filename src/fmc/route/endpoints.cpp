@@ -5,8 +5,9 @@
 #include "fmc/legs/holds.h"
 #include "fmc/legs/leg_list.h"
 #include "fmc/legs/route_rows.h"
+#include "fmc/legs/route_state.h"
+#include "fmc/procedures/end_airports.h"
 #include "fmc/procedures/insert_procedures.h"
-#include "fmc/route/route.h"
 #include "navdata/airport_file.h"
 #include "navdata/procedure_files.h"
 #include "state/airports.h"
@@ -18,8 +19,6 @@
 
 namespace {
 
-constexpr int kLoaded = 1;
-
 FlightPlanLeg AirportLeg(const AirportData& airport) {
     FlightPlanLeg leg;
     leg.ident = airport.ident;
@@ -30,35 +29,11 @@ FlightPlanLeg AirportLeg(const AirportData& airport) {
     return leg;
 }
 
-int FindRunway(const AirportData& airport, std::string_view ident) {
-    for (int i = 1; i <= airport.runway_cnt; ++i)
-        if (airport.runways[i].ident == ident) return i;
-    return 0;
-}
-
-void MoveToThreshold(FlightPlanLeg& leg, const RunwayData& runway) {
-    leg.lat = runway.lat;
-    leg.lon = runway.lon;
-}
-
 void ClearLegs(GrowingList<FlightPlanLeg>& legs, int count) {
     for (int i = 0; i <= count; ++i) legs[i] = {};
 }
 
 }  // namespace
-
-int LoadOriginAirport(std::string_view ident) {
-    if (LoadAirport(ident, airports.origin_airport) != kLoaded) return 0;
-    LoadSids(airports.origin_airport);
-    return 1;
-}
-
-int LoadDestinationAirport(std::string_view ident) {
-    if (LoadAirport(ident, airports.dest_airport) != kLoaded) return 0;
-    LoadStars(airports.dest_airport);
-    LoadApproaches(airports.dest_airport);
-    return 1;
-}
 
 int EnterOrigin(std::string_view ident) {
     if (LoadOriginAirport(ident) == 0) return 0;
@@ -111,31 +86,5 @@ int EnterDestination(std::string_view ident) {
         plan.procedures = {.dep_sid = plan.procedures.dep_sid, .dep_trans = plan.procedures.dep_trans};
     }
     RebuildRouteRows();
-    return 1;
-}
-
-int SelectOriginRunway(std::string_view runway) {
-    const int place = FindRunway(airports.origin_airport, runway);
-    if (place == 0) return 0;
-    const RunwayData& chosen = airports.origin_airport.runways[place];
-    plan.ends_mod.dep_runway = runway;
-    plan.ends_mod.fms_dep_rwy_pos = place;
-    if (plan.fms_fpln_active >= kRouteActive) {
-        OpenModification();
-        return 1;
-    }
-    plan.ends.dep_runway = runway;
-    plan.ends.fms_dep_rwy_pos = place;
-    MoveToThreshold(plan.FlightPlan[0], chosen);
-    MoveToThreshold(plan.FlightPlanMod[0], chosen);
-    return 1;
-}
-
-int SelectDestinationRunway(std::string_view runway) {
-    const int place = FindRunway(airports.dest_airport, runway);
-    if (place == 0) return 0;
-    plan.procedures.arr_appr_rwy = runway;
-    plan.procedures.fms_dest_rwy_pos = place;
-    if (plan.fms_fpln_active < kRouteActive) plan.procedures_kept = plan.procedures;
     return 1;
 }

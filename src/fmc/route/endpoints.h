@@ -4,11 +4,6 @@
 
 // The two ends of the route, as the RTE page enters them.
 
-/// Fills the slot of the origin or the destination, its departures or its arrivals and approaches with it. 1,
-/// or 0 when the airport isn't in the database (nothing changes).
-int LoadOriginAirport(std::string_view ident);
-int LoadDestinationAirport(std::string_view ident);
-
 /// Starts a new route at an airport: both leg lists begin there, everything selected or planned before is
 /// gone, the state is 0. 1, or 0 when the airport isn't in the database (nothing changes).
 int EnterOrigin(std::string_view ident);
@@ -16,11 +11,3 @@ int EnterOrigin(std::string_view ident);
 /// Makes an airport the last leg of FlightPlanMod; arrival selections go. In state 3 a modification is opened
 /// and the old arrival's legs are removed. 1, or 0 when the airport isn't in the database.
 int EnterDestination(std::string_view ident);
-
-/// Selects a runway of the origin ("16L"); 0 when it has none of that name. Below state 3 the first leg of
-/// both lists moves to its threshold; afterwards it is a modification, and EXEC moves the leg.
-int SelectOriginRunway(std::string_view runway);
-
-/// Selects a runway of the destination for the working copy; EXEC puts the last leg on its threshold. 0 when
-/// it has none of that name.
-int SelectDestinationRunway(std::string_view runway);

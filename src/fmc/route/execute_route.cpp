@@ -5,16 +5,17 @@
 #include <iterator>
 #include <utility>
 
+#include "base/angles.h"
 #include "fmc/legs/edit_legs.h"
 #include "fmc/legs/holds.h"
-#include "fmc/legs/leg_list.h"
+#include "fmc/legs/leg_words.h"
 #include "fmc/legs/path.h"
 #include "fmc/legs/route_rows.h"
 #include "fmc/performance/default_speeds.h"
 #include "fmc/performance/predictions.h"
 #include "fmc/performance/vertical_segment.h"
-#include "fmc/route/endpoints.h"
-#include "fmc/route/route.h"
+#include "fmc/procedures/end_airports.h"
+#include "fmc/route/modification.h"
 #include "navdata/geodesy.h"
 #include "navdata/magnetic_model.h"
 #include "state/airports.h"

@@ -12,11 +12,11 @@
 #include "fmc/legs/edit_legs.h"
 #include "fmc/legs/holds.h"
 #include "fmc/legs/insert_fix.h"
-#include "fmc/legs/leg_list.h"
 #include "fmc/legs/route_airway.h"
 #include "fmc/legs/route_rows.h"
+#include "fmc/legs/route_state.h"
 #include "fmc/route/execute_route.h"
-#include "fmc/route/route.h"
+#include "fmc/route/modification.h"
 #include "state/nav.h"
 #include "state/plan.h"
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/numbers.h"
 #include "frame/cues.h"
 #include "module/controls/control_table.h"
 #include "platform/host.h"

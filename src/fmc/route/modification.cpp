@@ -1,37 +1,17 @@
-#include "fmc/route/route.h"
-
-#include <algorithm>
-#include <utility>
+#include "fmc/route/modification.h"
 
 #include "fmc/legs/holds.h"
-#include "fmc/legs/leg_list.h"
 #include "fmc/legs/route_rows.h"
+#include "fmc/procedures/end_airports.h"
 #include "fmc/procedures/procedure_legs.h"
-#include "fmc/route/endpoints.h"
-#include "frame/fuel_loader.h"
-#include "frame/key_events.h"
-#include "platform/host.h"
 #include "state/airports.h"
 #include "state/cdu.h"
-#include "state/cfg.h"
 #include "state/lnav.h"
 #include "state/perf.h"
 #include "state/plan.h"
-#include "state/sim.h"
 #include "state/vnav.h"
 
 namespace {
-
-// What loading a route does to an aircraft at the gate.
-void PrepareAircraftForRoute() {
-    constexpr double kStanding = 5;
-    constexpr double kLowestCruise = 1000;
-    if (sim.ground_speed_kt >= kStanding) return;
-    if (cfg.LoadFuelonFlightPlanLoad == 1 && perf.planned_fuel > 0)
-        LoadTotalFuel(std::exchange(perf.planned_fuel, 0));
-    if (cfg.SetMCPCruiseAltonFlightPlanLoad == 1 && perf.pending_cruise_alt >= kLowestCruise)
-        SendKeyEvent(kKeyAltitudeSet, static_cast<int>(std::min(perf.pending_cruise_alt, 99999.0)));
-}
 
 void ClearPendingEntries() {
     const PerfState fresh;
@@ -55,49 +35,7 @@ void BringBackEnds() {
     if (airports.dest_airport.ident != plan.ends.dest) LoadDestinationAirport(plan.ends.dest);
 }
 
-// A direct-to whose fix has been passed in the meantime is none any more.
-void MovePendingActiveLeg(int leg) {
-    if (leg != plan.pending_stpos && plan.direct_to_pending == 1) {
-        plan.direct_to_pending = 0;
-        plan.ActiveLegMod = plan.ActiveLeg;
-    }
-    SetPendingActiveLeg(leg);
-}
-
 }  // namespace
-
-int PendingActiveLeg() {
-    return plan.pending_stpos >= 1 ? plan.pending_stpos : plan.stpos;
-}
-
-void SetPendingActiveLeg(int leg) {
-    plan.mod_stpos = leg;
-    plan.pending_stpos = leg;
-}
-
-void AdvanceRouteState() {
-    switch (plan.fms_fpln_active) {
-        case kRouteNone:
-        case kRouteEntered:
-        case kRouteActivated:
-            ++plan.fms_fpln_active;
-            break;
-        case kRouteActive:
-            plan.fms_fpln_active = kRouteModified;
-            SetPendingActiveLeg(PendingActiveLeg());
-            break;
-        case kRouteModified:
-            plan.fms_fpln_active = kRouteActive;
-            break;
-        default:
-            break;
-    }
-    PrepareAircraftForRoute();
-}
-
-void OpenModification() {
-    if (plan.fms_fpln_active == kRouteNone || plan.fms_fpln_active == kRouteActive) AdvanceRouteState();
-}
 
 void RefreshLegsForModification() {
     for (int i = plan.fp_cnt + 1; i <= plan.mod_cnt; ++i) plan.FlightPlanMod[i] = {};
@@ -151,21 +89,4 @@ void ClearFlightPlan() {
     lnav.holding = lnav.hold_point = lnav.hold_exit = 0;
     airports.origin_airport = {};
     airports.dest_airport = {};
-}
-
-void FollowSequencing() {
-    if (plan.fms_fpln_active == kRouteActive) {
-        plan.mod_stpos = plan.stpos;
-        plan.pending_stpos = 0;
-        return;
-    }
-    if (plan.fms_fpln_active != kRouteModified || plan.stpos == kNoPlan) return;
-    if (const int leg = FindModLeg(plan.FlightPlan[plan.stpos], plan.pending_stpos); leg > 0) {
-        MovePendingActiveLeg(leg);
-        return;
-    }
-    // The leg now flown to has been taken out, but the pending one may have been passed.
-    const int passed = PlaceBefore(plan.FlightPlan, plan.stpos);
-    if (passed > 0 && FindModLeg(plan.FlightPlan[passed], plan.pending_stpos) == plan.mod_stpos)
-        MovePendingActiveLeg(std::min(plan.mod_stpos + 1, plan.mod_cnt));
 }

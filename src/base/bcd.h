@@ -1,0 +1,11 @@
+#pragma once
+
+#include <string_view>
+
+// Binary coded decimals, as the host has the frequencies of its radios.
+
+/// Reads up to eight digits: 0x0930 is 930.
+int DecodeBcd(double raw);
+
+/// A frequency text in hundredths of a MHz: "113.3" gives 0x11330.
+int FrequencyToBcd(std::string_view freq);

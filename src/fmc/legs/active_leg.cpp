@@ -1,0 +1,45 @@
+#include "fmc/legs/active_leg.h"
+
+#include <algorithm>
+
+#include "fmc/legs/leg_words.h"
+#include "state/plan.h"
+
+namespace {
+
+// A direct-to whose fix has been passed in the meantime is none any more.
+void MovePendingActiveLeg(int leg) {
+    if (leg != plan.pending_stpos && plan.direct_to_pending == 1) {
+        plan.direct_to_pending = 0;
+        plan.ActiveLegMod = plan.ActiveLeg;
+    }
+    SetPendingActiveLeg(leg);
+}
+
+}  // namespace
+
+int PendingActiveLeg() {
+    return plan.pending_stpos >= 1 ? plan.pending_stpos : plan.stpos;
+}
+
+void SetPendingActiveLeg(int leg) {
+    plan.mod_stpos = leg;
+    plan.pending_stpos = leg;
+}
+
+void FollowSequencing() {
+    if (plan.fms_fpln_active == kRouteActive) {
+        plan.mod_stpos = plan.stpos;
+        plan.pending_stpos = 0;
+        return;
+    }
+    if (plan.fms_fpln_active != kRouteModified || plan.stpos == kNoPlan) return;
+    if (const int leg = FindModLeg(plan.FlightPlan[plan.stpos], plan.pending_stpos); leg > 0) {
+        MovePendingActiveLeg(leg);
+        return;
+    }
+    // The leg now flown to has been taken out, but the pending one may have been passed.
+    const int passed = PlaceBefore(plan.FlightPlan, plan.stpos);
+    if (passed > 0 && FindModLeg(plan.FlightPlan[passed], plan.pending_stpos) == plan.mod_stpos)
+        MovePendingActiveLeg(std::min(plan.mod_stpos + 1, plan.mod_cnt));
+}

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "state/plan.h"
+
+// The life of the route: entered, activated, executed, modified, erased, thrown away. The legs that are flown
+// stand in plan.FlightPlan; every edit works on plan.FlightPlanMod, and EXEC (execute_route.h) takes it over.
+
+/// Makes FlightPlanMod a copy of FlightPlan, without `ata` and `mod_flag`; the TO leg and the bottom of
+/// descent follow, holds that exist in the working copy only are dropped.
+void RefreshLegsForModification();
+
+/// Throws the modification away: selections, pending values, holds and legs are again those of the active
+/// route, and the state is 3. Below state 3 there is nothing to go back to, and nothing happens.
+void EraseModification();
+
+/// Throws all plan data away after a flight; the burn defaults are set again.
+void ClearFlightPlan();
