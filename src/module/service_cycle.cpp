@@ -11,7 +11,7 @@
 #include "frame/named_variables.h"
 #include "frame/snapshot.h"
 #include "frame/tokens.h"
-#include "module/controls/control_table.h"
+#include "module/controls/operate.h"
 #include "module/delayed_start.h"
 #include "module/main_update.h"
 #include "module/tick_outputs.h"

@@ -4,7 +4,7 @@
 
 #include "frame/tokens.h"
 #include "lamp_cases.h"
-#include "module/controls/control_table.h"
+#include "module/controls/operate.h"
 #include "state/cfg.h"
 #include "state/cockpit.h"
 #include "state/displays.h"

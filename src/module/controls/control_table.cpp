@@ -2,7 +2,6 @@
 
 #include <initializer_list>
 
-#include "module/controls/operate.h"
 #include "module/controls/panels.h"
 #include "state/cockpit.h"
 #include "state/module_life.h"
@@ -90,11 +89,4 @@ void WriteControlVariables() {
             if (control.shadow != nullptr && !models_own) WriteNamedVar(control.variable, *control.shadow);
         }
     for (const PanelLamp& lamp : kLamps) WriteNamedVar(lamp.variable, *lamp.lit);
-}
-
-void PollControls(int phase) {
-    const unsigned now = 1u << phase;
-    for (const PollSet& set : kSets)
-        if ((set.phases & now) != 0)
-            for (const Control& control : set.controls) PollControl(control);
 }

@@ -29,6 +29,3 @@ void ShowShadow(const int* shadow);
 /// Writes each shadow and panel lamp into its named variable, so that the model agrees with it. What the
 /// model knows better is left out.
 void WriteControlVariables();
-
-/// Looks for clicks in the virtual cockpit: the sets that are due at a phase, 0 to 17.
-void PollControls(int phase);

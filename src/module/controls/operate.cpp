@@ -134,3 +134,10 @@ void PollControl(const Control& control) {
             break;
     }
 }
+
+void PollControls(int phase) {
+    const unsigned now = 1u << phase;
+    for (const PollSet& set : PollSets())
+        if ((set.phases & now) != 0)
+            for (const Control& control : set.controls) PollControl(control);
+}

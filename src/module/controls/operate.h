@@ -12,3 +12,6 @@ void ClickControl(const Control& control, std::uint32_t mouse_flag);
 
 /// Looks whether the model has moved the control and does what a click does; what is refused springs back.
 void PollControl(const Control& control);
+
+/// Looks for clicks in the virtual cockpit: the sets that are due at a phase, 0 to 17.
+void PollControls(int phase);
