@@ -76,17 +76,6 @@ bool MakePrivateRoot(const std::string& demo_root, std::string& root, std::strin
     return true;
 }
 
-bool AppendConfigLines(const fs::path& velarion, const std::vector<std::string>& lines, std::string& error) {
-    if (lines.empty()) return true;
-    fs::path file = FindInFolder(velarion, "tz900.cfg");
-    if (file.empty()) file = velarion / "tz900.cfg";
-    std::ofstream out(file, std::ios::app);
-    out << '\n';
-    for (const std::string& line : lines) out << line << '\n';
-    if (!out) error = file.string() + " can't be written";
-    return static_cast<bool>(out);
-}
-
 std::vector<AirframeTitle> AirframeTitles(const std::string& root) {
     std::vector<fs::path> folders;
     std::error_code failed;

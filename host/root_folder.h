@@ -20,10 +20,6 @@ std::filesystem::path FindNavdata(const std::filesystem::path& velarion);
 /// Copies the demonstration root into a fresh temporary folder.
 bool MakePrivateRoot(const std::string& demo_root, std::string& root, std::string& error);
 
-/// Adds lines to tz900.cfg; a later line of a key counts.
-bool AppendConfigLines(const std::filesystem::path& velarion, const std::vector<std::string>& lines,
-                       std::string& error);
-
 struct AirframeTitle {
     std::string title;
     std::string atc_id;

@@ -145,7 +145,6 @@ bool PrepareSession(Session& session, std::string& error) {
         error = settings.navdata + " is no folder";
         return false;
     }
-    if (!AppendConfigLines(velarion, settings.cfg_lines, error)) return false;
     const std::vector<AirframeTitle> titles = AirframeTitles(settings.root);
     const auto found = std::find_if(titles.begin(), titles.end(), [&](const AirframeTitle& airframe) {
         return settings.title.empty() || airframe.title == settings.title;
@@ -158,6 +157,8 @@ bool PrepareSession(Session& session, std::string& error) {
     world.root = settings.root;
     world.app_data = settings.root;
     world.navdata = settings.navdata;
+    world.config_lines.clear();
+    for (const std::string& line : settings.cfg_lines) world.config_lines += line + '\n';
     if (!settings.terrain_chosen) UseModelTerrain(AirportsFile(settings));
     if (found != titles.end()) {
         SetCalcText("(A:TITLE,string)", found->title);

@@ -20,8 +20,8 @@ struct SessionSettings {
     std::string demo_root;    // where the demonstration root lies
     std::string navdata;      // empty = the one under the root
     std::string title;        // empty = the first aircraft under the root
-    std::vector<std::string> cfg_lines;
-    int machine_date = 20261201;  // YYYYMMDD
+    std::vector<std::string> cfg_lines;  // of tz900.cfg, read behind those of the file, which stays as it is
+    int machine_date = 20261201;         // YYYYMMDD
     bool placed = false;
     Placement placement = {};     // with `placed`, else the demonstration's stand
     bool fdm = false;             // the aircraft moves by itself and AutoflightLogic runs

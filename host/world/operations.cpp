@@ -190,6 +190,7 @@ constexpr HostOperations kOperations = {
     .close_sound_device = CloseSoundDevice,
     .paints_in_line = [] { return world.paints_in_line ? 1 : 0; },
     .shared_name_space = [](char* text, int size) { return CopyText(SharedNames(), text, size); },
+    .config_lines = [] { return world.config_lines.c_str(); },
 };
 
 }  // namespace

@@ -91,7 +91,8 @@ struct World {
     // machine
     std::string root;
     std::string app_data;
-    std::string navdata;  // folder to use as Navdata, empty = the one under the root
+    std::string navdata;       // folder to use as Navdata, empty = the one under the root
+    std::string config_lines;  // each with its line feed, read behind those of tz900.cfg
     int machine_date = 20261201;
     bool swallow_keys = false;
     bool paints_in_line = true;  // no workers: scenarios paint in their own time

@@ -11,6 +11,7 @@
 #include "frame/fuel_loader.h"
 #include "paint/fonts.h"
 #include "platform/files.h"
+#include "platform/host.h"
 #include "state/cfg.h"
 #include "state/cockpit.h"
 #include "state/perf.h"
@@ -172,6 +173,17 @@ bool WriteFuelFile() {
     return WriteFile(kFuelFile, text, FileRoot::kAppData);
 }
 
+void ApplyLines(std::string_view text) {
+    KeyValue pair;
+    while (NextKeyValue(text, pair)) {
+        const auto same_name = [&](const ConfigKey& key) { return EqualIgnoringCase(key.name, pair.key); };
+        const auto key = std::ranges::find_if(ConfigKeys(), same_name);
+        if (key == ConfigKeys().end()) continue;
+        std::visit([&](auto member) { StoreText(pair.value, cfg.*member); }, key->member);
+        ApplyReadRule(*key);
+    }
+}
+
 // The pairs that the crew may edit later start with the values of the file.
 void SeedSpeedRestrictions() {
     perf.clb_spd_trans_alt = cfg.ClbTransAltRest;
@@ -188,19 +200,9 @@ void SeedSpeedRestrictions() {
 
 void ReadConfig() {
     cfg.config_read = 1;
-    if (const auto file = ReadFile(kConfigFile, FileRoot::kSimulator, kMaxConfigBytes)) {
-        std::string_view rest = file->Text();
-        KeyValue pair;
-        while (NextKeyValue(rest, pair)) {
-            const auto same_name = [&](const ConfigKey& key) {
-                return EqualIgnoringCase(key.name, pair.key);
-            };
-            const auto key = std::ranges::find_if(ConfigKeys(), same_name);
-            if (key == ConfigKeys().end()) continue;
-            std::visit([&](auto member) { StoreText(pair.value, cfg.*member); }, key->member);
-            ApplyReadRule(*key);
-        }
-    }
+    if (const auto file = ReadFile(kConfigFile, FileRoot::kSimulator, kMaxConfigBytes))
+        ApplyLines(file->Text());
+    ApplyLines(Host().config_lines());
     SeedSpeedRestrictions();
     cockpit.battery_button = cfg.Battery;
     cockpit.TZ_OH_PFC_G_Switch = cfg.PfcSwitch == kPfcDisconnected ? 1 : 0;

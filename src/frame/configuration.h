@@ -1,8 +1,8 @@
 #pragma once
 
-/// Reads \Velarion\tz900.cfg into `cfg`; a missing file leaves the defaults. Lines "key=value", keys in any
-/// case, ";" comments, 299 characters a line at most (the rest of a longer one is dropped); unknown keys are
-/// passed over, a later line of a key wins, a value that is no number counts as 0.
+/// Reads \Velarion\tz900.cfg into `cfg`, then the host's own lines; a missing file leaves the defaults. Lines
+/// "key=value", keys in any case, ";" comments, 299 characters a line at most (the rest of a longer one is
+/// dropped); unknown keys are passed over, a later line of a key wins, a value that is no number counts as 0.
 void ReadConfig();
 
 /// Writes tz900.cfg, each key by its test, then the fuel file with the present quantities. False when one of

@@ -78,6 +78,7 @@ constexpr HostOperations kDeafHost = {
             if (size > 0) *text = '\0';
             return 0;
         },
+    .config_lines = [] { return ""; },
 };
 
 const HostOperations* host_in_force = &kDeafHost;

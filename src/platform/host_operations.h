@@ -96,9 +96,13 @@ struct HostOperations {
     // machine: what stands for "Global\" in the names that programs share, "/" or "/" and a beginning of
     // names; empty = nothing can be shared. Hosts with different ones don't meet.
     int (*shared_name_space)(char* text, int size);
+
+    // machine: further lines of tz900.cfg, read behind the file's whenever it is; never null, stays as it is
+    // while the module is loaded. What the system saves then goes to the file, these values too
+    const char* (*config_lines)();
 };
 
-constexpr uint32_t kHostOperationsVersion = 2;
+constexpr uint32_t kHostOperationsVersion = 3;
 
 /// The flight plan of the host's own GPS, as bind_shared_pointer gives it: byte offsets, nothing aligned.
 constexpr const char* kGpsRouteName = "FS2002 GPS DATA";

@@ -261,6 +261,7 @@ constexpr HostOperations kOperations = {
         [](char* text, int size) {
             return FillText(Fails("shared_name_space") ? "" : fake->shared_name_space, text, size);
         },
+    .config_lines = [] { return Fails("config_lines") ? "" : fake->config_lines.c_str(); },
 };
 
 }  // namespace

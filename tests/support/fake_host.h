@@ -78,6 +78,7 @@ class FakeHost {
     bool sound_device_open = false;
     bool paints_in_line = true;
     std::string shared_name_space;  // empty = no shared objects
+    std::string config_lines;       // read behind those of tz900.cfg
 
     std::filesystem::path root, app_data, navdata;  // navdata empty = under the root
     /// Writes a file below the root (name with "/"), with its folders.

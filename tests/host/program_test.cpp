@@ -1,0 +1,104 @@
+// The program itself, run as its users run it: what it leaves behind.
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <csignal>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "support/paths.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string TextOf(const fs::path& file) {
+    std::ostringstream text;
+    text << std::ifstream(file).rdbuf();
+    return text.str();
+}
+
+/// A folder that goes with the test; `tz900` runs with its temporary files in tmp/ and what it prints in out.
+struct Workplace {
+    fs::path folder;
+    Workplace() {
+        std::string name = (fs::temp_directory_path() / "tz900_test_XXXXXX").string();
+        if (mkdtemp(name.data()) == nullptr) std::abort();
+        folder = name;
+        fs::create_directories(folder / "tmp");
+    }
+    ~Workplace() { fs::remove_all(folder); }
+
+    fs::path Put(const std::string& name, const std::string& text) const {
+        fs::create_directories((folder / name).parent_path());
+        std::ofstream(folder / name) << text;
+        return folder / name;
+    }
+    bool TemporaryIsEmpty() const { return fs::is_empty(folder / "tmp"); }
+    std::string Printed() const { return TextOf(folder / "out"); }
+
+    pid_t Start(std::vector<std::string> words) const {
+        words.insert(words.begin(), BinaryDir() + "/tz900");
+        std::vector<char*> arguments;
+        for (std::string& word : words) arguments.push_back(word.data());
+        arguments.push_back(nullptr);
+        const pid_t child = fork();
+        if (child != 0) return child;
+        const int out = open((folder / "out").c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
+        dup2(out, STDOUT_FILENO);
+        dup2(out, STDERR_FILENO);
+        setenv("TMPDIR", (folder / "tmp").c_str(), 1);
+        execv(arguments[0], arguments.data());
+        _exit(127);
+    }
+    static bool IsRunning(pid_t child) {
+        siginfo_t ended = {};
+        waitid(P_PID, static_cast<id_t>(child), &ended, WEXITED | WNOHANG | WNOWAIT);
+        return ended.si_pid == 0;
+    }
+    /// The exit status, or 1000 and the number of the signal that killed it.
+    static int WaitFor(pid_t child) {
+        int status = 0;
+        waitpid(child, &status, 0);
+        return WIFEXITED(status) ? WEXITSTATUS(status) : 1000 + WTERMSIG(status);
+    }
+    int Run(const std::vector<std::string>& words) const { return WaitFor(Start(words)); }
+};
+
+TEST(Program, ConfigurationLinesOverlayTheFile) {
+    const Workplace place;
+    const fs::path root = place.folder / "root", file = root / "Velarion/tz900.cfg";
+    fs::copy(SourceDir() + "/data/root", root, fs::copy_options::recursive);
+    const std::string before = TextOf(file);
+    const auto run = [&](const std::string& lines, const std::string& seconds) {
+        const fs::path scenario =
+            place.Put("case.scn", "root " + root.string() + "\n" + lines + "start\nrun " + seconds +
+                                      "\nget AccelHt TransAlt WeightUnit\n");
+        EXPECT_EQ(place.Run({"run", scenario}), 0) << place.Printed();
+        return place.Printed();
+    };
+    const std::string plain = run("", "1");
+    const std::string overlaid = "AccelHt = 1700\nTransAlt = 9000\nWeightUnit = LBS\n";
+    EXPECT_NE(plain, overlaid);
+    EXPECT_EQ(run("cfg TransAlt=8000\ncfg AccelHt=1700\ncfg TransAlt=9000\n", "1"), overlaid);
+    EXPECT_EQ(TextOf(file), before);
+    EXPECT_EQ(run("", "1"), plain);
+
+    // Stored fuel in another unit has the system itself save its configuration, with what is in force.
+    place.Put("root/Velarion/tz900_fuel.cfg", "[Config]\nUnits=1\n");
+    const std::string saved = "AccelHt = 1700\nTransAlt = 9000\nWeightUnit = KGS\n";
+    EXPECT_EQ(run("cfg AccelHt=1700\ncfg TransAlt=9000\ncfg LoadFuelonAircraftLoad=1\n", "6"), saved);
+    EXPECT_NE(TextOf(file), before);
+    EXPECT_EQ(run("", "1"), saved);
+}
+
+}  // namespace
