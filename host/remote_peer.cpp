@@ -1,18 +1,17 @@
 #include "host/remote_peer.h"
 
 #include <fcntl.h>
-#include <signal.h>
 #include <sys/mman.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <atomic>
-#include <cerrno>
 #include <cstdlib>
 #include <ctime>
 #include <filesystem>
 #include <system_error>
 
+#include "host/process.h"
 #include "host/world/world.h"
 
 namespace host {
@@ -43,8 +42,7 @@ void RemoveNamesOfTheDead() {
         std::string name = entry.path().filename();
         if (name.starts_with(kSemaphore)) name.erase(0, kSemaphore.size());
         if (!name.starts_with(kPrivatePrefix)) continue;
-        const auto process = static_cast<pid_t>(std::atol(name.c_str() + kPrivatePrefix.size()));
-        if (process > 0 && kill(process, 0) != 0 && errno == ESRCH)
+        if (IsProcessGone(std::atoi(name.c_str() + kPrivatePrefix.size())))
             std::filesystem::remove(entry.path(), error);
     }
 }

@@ -1,9 +1,14 @@
 #include "host/root_folder.h"
 
-#include <cstdlib>
-#include <fstream>
+#include <unistd.h>
 
 #include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <string_view>
+
+#include "host/process.h"
 
 namespace host {
 namespace {
@@ -28,6 +33,20 @@ bool TakeValue(const std::string& line, const std::string& key, std::string& val
     if (!SameName(trim(line.substr(0, equals)), key)) return false;
     value = trim(line.substr(equals + 1));
     return true;
+}
+
+constexpr std::string_view kPrivatePrefix = "tz900-root-";  // the process id follows, and a hyphen
+
+void RemoveRootsOfTheDead(const fs::path& temporary) {
+    std::error_code failed, ignored;
+    for (fs::directory_iterator entry(temporary, failed), end; !failed && entry != end;
+         entry.increment(failed)) {
+        const std::string name = entry->path().filename();
+        int process = 0;
+        if (name.starts_with(kPrivatePrefix) &&
+            std::sscanf(name.c_str() + kPrivatePrefix.size(), "%d-", &process) == 1 && IsProcessGone(process))
+            fs::remove_all(entry->path(), ignored);
+    }
 }
 
 }  // namespace
@@ -62,14 +81,17 @@ bool MakePrivateRoot(const std::string& demo_root, std::string& root, std::strin
         error = "the demonstration root " + demo_root + " is missing; name another with `root`";
         return false;
     }
-    std::string name = (fs::temp_directory_path() / "tz900-XXXXXX").string();
-    if (mkdtemp(name.data()) == nullptr) {
+    const fs::path temporary = fs::temp_directory_path(failed);
+    RemoveRootsOfTheDead(temporary);
+    std::string name = temporary / (std::string(kPrivatePrefix) + std::to_string(getpid()) + "-XXXXXX");
+    if (failed || mkdtemp(name.data()) == nullptr) {
         error = "no temporary folder can be made";
         return false;
     }
     fs::copy(demo_root, name, fs::copy_options::recursive, failed);
     if (failed) {
         error = "the demonstration root can't be copied: " + failed.message();
+        fs::remove_all(name, failed);
         return false;
     }
     root = name;

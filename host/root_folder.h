@@ -17,7 +17,8 @@ std::filesystem::path FindUnderRoot(const std::string& root, const std::string& 
 /// The navigation data folder of a `Velarion` folder, whether or not it exists.
 std::filesystem::path FindNavdata(const std::filesystem::path& velarion);
 
-/// Copies the demonstration root into a fresh temporary folder.
+/// Copies the demonstration root into a fresh temporary folder, and removes those of processes that were
+/// killed.
 bool MakePrivateRoot(const std::string& demo_root, std::string& root, std::string& error);
 
 struct AirframeTitle {

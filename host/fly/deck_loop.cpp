@@ -12,6 +12,7 @@
 #include "host/flightdeck/deck.h"
 #include "host/flightdeck/values.h"
 #include "host/inspection.h"
+#include "host/process.h"
 #include "host/screens.h"
 #include "host/world/world.h"
 
@@ -84,8 +85,8 @@ void MakeCall(Session& session, bool paused_frame) {
 
 }  // namespace
 
-bool RunFlightDeck(Session& session, const FlyOptions& options, const volatile std::sig_atomic_t& interrupted,
-                   const std::function<void()>& each_second, std::string& error) {
+bool RunFlightDeck(Session& session, const FlyOptions& options, const std::function<void()>& each_second,
+                   std::string& error) {
     const DeckSettings settings = SettingsOf(session, options);
     std::atomic<bool> in_2d = IsMainPanelShown();
     FlightDeck deck(settings, PicturesOf(*session.linkage->inspection, in_2d));
@@ -100,7 +101,7 @@ bool RunFlightDeck(Session& session, const FlyOptions& options, const volatile s
     PressQueue presses;
     double ticks_due = 0;
     auto next = Clock::now();
-    for (int period = 0; interrupted == 0; ++period) {
+    for (int period = 0; EndSignal() == 0; ++period) {
         TakeCommands(session, deck, presses);
         if (world.paused) MakeCall(session, true);
         for (ticks_due += world.paused ? 0 : world.sim_rate; ticks_due >= 1 && !world.paused; --ticks_due) {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <csignal>
 #include <functional>
 #include <string>
 
@@ -9,10 +8,10 @@
 
 namespace host {
 
-/// Serves the flight deck and runs the session in real time, times the world's rate, until `interrupted`:
-/// workers paint, commands of browsers are carried out between ticks, `each_second` is called once a second
-/// of flight. False with the reason when the flight deck can't open.
-bool RunFlightDeck(Session& session, const FlyOptions& options, const volatile std::sig_atomic_t& interrupted,
-                   const std::function<void()>& each_second, std::string& error);
+/// Serves the flight deck and runs the session in real time, times the world's rate, until a signal
+/// ends it: workers paint, commands of browsers are carried out between ticks, `each_second` is called once a
+/// second of flight. False with the reason when the flight deck can't open.
+bool RunFlightDeck(Session& session, const FlyOptions& options, const std::function<void()>& each_second,
+                   std::string& error);
 
 }  // namespace host

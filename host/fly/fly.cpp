@@ -2,7 +2,6 @@
 
 #include <chrono>
 #include <cmath>
-#include <csignal>
 #include <cstdio>
 #include <numbers>
 
@@ -10,6 +9,7 @@
 #include "host/fly/pilot.h"
 #include "host/fly/start.h"
 #include "host/inspection.h"
+#include "host/process.h"
 #include "host/world/terrain.h"
 #include "host/world/world.h"
 
@@ -18,8 +18,6 @@ namespace {
 
 constexpr const char* kDemonstrationRoute = "KSEA/16L ALDER J1 RBL J1 AVE J1 FIM KLAX/24R";
 constexpr double kMaxHours = 24;
-
-volatile std::sig_atomic_t interrupted = 0;
 
 struct Log {
     int fixes = 0;
@@ -99,7 +97,7 @@ void StepRoute(Session& session, RouteFlight& route) {
 }
 
 void FlyHeadless(Session& session, RouteFlight& route) {
-    while (interrupted == 0 && !route.arrived && world.seconds < kMaxHours * 3600) {
+    while (EndSignal() == 0 && !route.arrived && world.seconds < kMaxHours * 3600) {
         TickSession(session, world.paused);
         if (world.ticks % 18 == 0) StepRoute(session, route);
     }
@@ -117,6 +115,7 @@ void PrintEnd(const RouteFlight& route, double wall_seconds) {
 int Fly(const FlyOptions& given) {
     FlyOptions options = given;
     if (options.route.empty()) options.route = kDemonstrationRoute;
+    HoldEndSignals();
     world = World{};
     Session session;
     Recorder recorder;
@@ -128,8 +127,6 @@ int Fly(const FlyOptions& given) {
         StopSession(session);
         return 2;
     }
-    std::signal(SIGINT, [](int) { interrupted = 1; });
-    std::signal(SIGTERM, [](int) { interrupted = 1; });
 
     RouteFlight route;
     route.arrived = options.cold;  // there is none
@@ -141,7 +138,7 @@ int Fly(const FlyOptions& given) {
     if (options.headless)
         FlyHeadless(session, route);
     else
-        good = RunFlightDeck(session, options, interrupted, each_second, error);
+        good = RunFlightDeck(session, options, each_second, error);
     const double wall = std::chrono::duration<double>(std::chrono::steady_clock::now() - began).count();
     if (!good) std::fprintf(stderr, "tz900 fly: %s\n", error.c_str());
     if (good && !options.cold) PrintEnd(route, wall);

@@ -5,6 +5,7 @@
 #include <iostream>
 #include <sstream>
 
+#include "host/process.h"
 #include "host/scenario/commands.h"
 #include "host/world/world.h"
 
@@ -96,14 +97,17 @@ int RunScenario(Scenario& scenario, std::istream& in, const std::string& file_na
             scenario.out.flush();
             errors << file_name << ':' << scenario.line << ": " << error.text << '\n';
             return 2;
+        } catch (const Interruption&) {
+            break;
         }
+        if (EndSignal() != 0) break;
     }
+    if (EndSignal() != 0) return 128 + EndSignal();
     return scenario.failed_expectations > 0 ? 1 : 0;
 }
 
 int RunScenarioFiles(const std::vector<std::string>& files, const std::string& demo_root) {
-    int status = 0;
-    std::optional<Scenario> scenario;
+    std::vector<std::string> texts;
     for (const std::string& file : files) {
         std::ostringstream text;
         if (file == "-") {
@@ -112,21 +116,25 @@ int RunScenarioFiles(const std::vector<std::string>& files, const std::string& d
             std::ifstream in(file);
             if (!in) {
                 std::cerr << file << ": can't be read\n";
-                status = 2;
-                break;
+                return 2;
             }
             text << in.rdbuf();
         }
-        if (!scenario || StartsOfItself(text.str())) {
+        texts.push_back(text.str());
+    }
+    HoldEndSignals();
+    int status = 0;
+    std::optional<Scenario> scenario;
+    for (std::size_t i = 0; i < files.size() && status < 2; ++i) {
+        if (!scenario || StartsOfItself(texts[i])) {
             if (scenario) StopSession(scenario->session);
             world = World{};
             flight = Flight{};
             scenario.emplace(Session{}, std::cout);
             scenario->session.settings.demo_root = demo_root;
         }
-        std::istringstream lines(text.str());
-        status = std::max(status, RunScenario(*scenario, lines, file, std::cerr));
-        if (status == 2) break;
+        std::istringstream lines(texts[i]);
+        status = std::max(status, RunScenario(*scenario, lines, files[i], std::cerr));
     }
     if (scenario) StopSession(scenario->session);
     std::cout.flush();

@@ -31,6 +31,9 @@ struct CommandError {
     std::string text;
 };
 
+/// Thrown between two calls of the module when a signal asks the process to end.
+struct Interruption {};
+
 struct Command {
     std::string_view name;
     std::string_view usage;  // the words behind the name
@@ -48,10 +51,11 @@ const std::vector<Command>& Commands();
 std::string ValueOfName(Scenario& scenario, const Word& name);
 
 /// Runs one stream of commands. Exit status: 0 everything held, 1 an expectation failed, 2 a command was
-/// wrong.
+/// wrong, 128 and its number when a signal ended the run.
 int RunScenario(Scenario& scenario, std::istream& in, const std::string& file_name, std::ostream& errors);
 
-/// `tz900 run FILE...`: the files in turn, "-" for standard input, each with a session of its own.
+/// `tz900 run FILE...`: the files in turn, "-" for standard input, each with a session of its own. All are
+/// read before the first is run.
 int RunScenarioFiles(const std::vector<std::string>& files, const std::string& demo_root);
 
 /// The commands with their examples, for `tz900 run --help`.

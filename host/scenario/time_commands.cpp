@@ -1,5 +1,6 @@
 #include <cmath>
 
+#include "host/process.h"
 #include "host/scenario/commands.h"
 #include "host/scenario/conditions.h"
 #include "host/screens.h"
@@ -59,6 +60,7 @@ void Paint(Scenario& scenario, const std::vector<Word>& words) {
 }  // namespace
 
 void TickScenario(Scenario& scenario, bool paused_frame) {
+    if (EndSignal() != 0) throw Interruption{};
     TickSession(scenario.session, paused_frame);
     if (scenario.paint_every > 0 && ++scenario.calls_since_paint >= scenario.paint_every) {
         scenario.calls_since_paint = 0;

@@ -101,4 +101,31 @@ TEST(Program, ConfigurationLinesOverlayTheFile) {
     EXPECT_EQ(run("", "1"), saved);
 }
 
+TEST(Program, LeavesNothingInTheTemporaryFolder) {
+    const Workplace place;
+    const std::string endless = place.Put("endless.scn", "start\nrun 5000000\n");
+    const std::string first = place.Put("first.scn", "start\n");
+    const struct {
+        std::vector<std::string> words;
+        int signal, status;
+    } kCases[] = {
+        {{"run", endless}, SIGTERM, 128 + SIGTERM},    {{"run", first, endless}, SIGINT, 128 + SIGINT},
+        {{"fly", "--port", "0", "--cold"}, SIGHUP, 0}, {{"fly", "--port", "0"}, SIGTERM, 0},
+        {{"run", endless}, SIGKILL, 1000 + SIGKILL},
+    };
+    for (const auto& row : kCases) {
+        const pid_t child = place.Start(row.words);
+        while (place.TemporaryIsEmpty() && place.IsRunning(child))
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        kill(child, row.signal);
+        EXPECT_EQ(place.WaitFor(child), row.status) << row.words[0] << ' ' << place.Printed();
+        EXPECT_EQ(place.TemporaryIsEmpty(), row.signal != SIGKILL);
+    }
+    // What a killed one left goes with the next start, what others keep there doesn't.
+    const std::string others[] = {"tz900-root-" + std::to_string(getpid()) + "-abcdef/x", "tz900-notes/x"};
+    for (const std::string& name : others) place.Put("tmp/" + name, "");
+    EXPECT_EQ(place.Run({"run", first}), 0) << place.Printed();
+    EXPECT_EQ(std::distance(fs::directory_iterator(place.folder / "tmp"), {}), 2);
+}
+
 }  // namespace
