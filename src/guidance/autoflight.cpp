@@ -7,6 +7,7 @@
 #include "state/autoflight.h"
 #include "state/cfg.h"
 #include "state/cockpit.h"
+#include "state/leg_words.h"
 #include "state/lnav.h"
 #include "state/plan.h"
 #include "state/vnav.h"
@@ -112,7 +113,7 @@ double VnavPathAngle() {
 }
 
 double LnavHeading() {
-    if (plan.fms_fpln_active < kRouteActive || plan.stpos == kNoPlan) return kNoValue;
+    if (!IsRouteActive() || plan.stpos == kNoPlan) return kNoValue;
     return IsHoldPatternFlown() ? lnav.hold_hdg : lnav.fms_hdg;
 }
 

@@ -12,6 +12,7 @@
 #include "fmc/performance/vertical_segment.h"
 #include "guidance/sequencing.h"
 #include "platform/host.h"
+#include "state/leg_words.h"
 #include "state/lnav.h"
 #include "state/plan.h"
 #include "state/sim.h"
@@ -152,7 +153,7 @@ void HoldUpdate() {
         if (lnav.holding == 1) StopHolding();
         return;
     }
-    if (lnav.holding == 1 && lnav.hold_exit == kExitHold && plan.fms_fpln_active == kRouteActive) {
+    if (lnav.holding == 1 && lnav.hold_exit == kExitHold && IsRouteSettled()) {
         LeaveHold(index);
         return;
     }
@@ -161,7 +162,7 @@ void HoldUpdate() {
 }
 
 void ExitHold() {
-    if (plan.fms_fpln_active == kRouteActive) AdvanceRouteState();
+    if (IsRouteSettled()) AdvanceRouteState();
 }
 
 void NextHold(int side) {

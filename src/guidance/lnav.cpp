@@ -6,7 +6,6 @@
 #include "base/numbers.h"
 #include "base/text.h"
 #include "fmc/legs/holds.h"
-#include "fmc/legs/leg_words.h"
 #include "fmc/legs/path.h"
 #include "fmc/performance/vertical_segment.h"
 #include "frame/key_events.h"
@@ -16,6 +15,7 @@
 #include "guidance/turn_log.h"
 #include "platform/host.h"
 #include "state/cfg.h"
+#include "state/leg_words.h"
 #include "state/lnav.h"
 #include "state/plan.h"
 #include "state/sim.h"
@@ -38,7 +38,7 @@ bool IsAirborne() {
 }
 
 bool IsMissedApproachPoint() {
-    return ToLeg().appr_wpt_type == "MAP";
+    return IsMissedPoint(ToLeg());
 }
 
 double TrueHeading() {
@@ -80,7 +80,7 @@ bool RequestForcedSequence() {
     }
     const bool after_activation = plan.direct_abeam_check == 1 && plan.stpos == 1;
     plan.direct_abeam_check = 0;
-    const bool in_flight = IsAirborne() && plan.fms_fpln_active >= kRouteActive && sim.ground_speed_kt > 100;
+    const bool in_flight = IsAirborne() && IsRouteActive() && sim.ground_speed_kt > 100;
     if ((in_flight || after_activation) && IsTargetFixPassed()) lnav.wpt_dist = kSequenceNow;
     return overflown;
 }

@@ -6,7 +6,6 @@
 #include "base/numbers.h"
 #include "base/text.h"
 #include "fmc/legs/active_leg.h"
-#include "fmc/legs/leg_words.h"
 #include "fmc/legs/path.h"
 #include "fmc/performance/flight_log.h"
 #include "fmc/performance/predictions.h"
@@ -15,6 +14,7 @@
 #include "guidance/vnav.h"
 #include "platform/host.h"
 #include "state/cfg.h"
+#include "state/leg_words.h"
 #include "state/lnav.h"
 #include "state/perf.h"
 #include "state/plan.h"
@@ -42,8 +42,8 @@ void LookAtStepClimb(const FlightPlanLeg& passed) {
 
 // A passed fix no longer constrains.
 void ClearConstraint(FlightPlanLeg& passed) {
-    passed.restr_code = 0;
-    passed.restr_type = 0;
+    passed.restr_code = kFree;
+    passed.restr_type = kAt;
 }
 
 void ActivateLeg(int to, const FlightPlanLeg& from) {

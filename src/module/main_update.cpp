@@ -10,6 +10,7 @@
 #include "navdata/nearest.h"
 #include "platform/host.h"
 #include "state/cfg.h"
+#include "state/leg_words.h"
 #include "state/module_life.h"
 #include "state/nav.h"
 #include "state/perf.h"
@@ -68,8 +69,7 @@ void ActAtTopOfDescent() {
 
 void ActNearDestination() {
     // A distance of 0 is one that isn't known yet.
-    const bool near = plan.fms_fpln_active >= kRouteActive && perf.dist_to_dest > 0 &&
-                      perf.dist_to_dest < cfg.PauseAtDistFromDest;
+    const bool near = IsRouteActive() && perf.dist_to_dest > 0 && perf.dist_to_dest < cfg.PauseAtDistFromDest;
     if (!near) {
         module_life.dest_pause_done = module_life.dest_rate_done = 0;
         return;

@@ -19,17 +19,16 @@
 #include "state/cfg.h"
 #include "state/cockpit.h"
 #include "state/displays.h"
-#include "state/electrical.h"
+#include "state/leg_words.h"
 #include "state/module_life.h"
 #include "state/perf.h"
 #include "state/plan.h"
+#include "state/power_words.h"
 #include "state/sim.h"
 #include "state/time_base.h"
 #include "systems/systems.h"
 
 namespace {
-
-constexpr int kBatteryAlone = 5;  // of power_level
 
 void UpdateSpeedTrend() {
     AutoflightState& a = autoflight;
@@ -46,7 +45,7 @@ void UpdateSpeedTrend() {
 
 // The runways of the air traffic at the nearer end of the route.
 void RefreshActiveRunways() {
-    if (cfg.DispAiActiveRwys != 1 || plan.fms_fpln_active < kRouteActive) return;
+    if (cfg.DispAiActiveRwys != 1 || !IsRouteActive()) return;
     const AirportData& origin = airports.origin_airport;
     const AirportData& dest = airports.dest_airport;
     const auto distance = [](const AirportData& airport) {
@@ -84,7 +83,7 @@ void StepSecond(int phase) {
         StepEnvironmentTimers();
         StepWindUplink();
         SystemsSecond(1);
-        if (electrical.power_level > kBatteryAlone) RepairInboardModes(cockpit.TZ_MAIN_PFD_MFD_L_Switch);
+        if (IsPoweredBeyondBattery()) RepairInboardModes(cockpit.TZ_MAIN_PFD_MFD_L_Switch);
     }
     if (phase == 5) SystemsSecond(2);
     if (phase == 11) SystemsSecond(3);
@@ -92,7 +91,7 @@ void StepSecond(int phase) {
 
 void UpdateExecLamps() {
     cockpit.autobrake_switch = WholeNumber(ReadNamedVar(NamedVar("auto_brake_switch")));
-    const int lit = plan.fms_fpln_active == kRouteActivated || plan.fms_fpln_active == kRouteModified ? 1 : 0;
+    const int lit = AwaitsExec() ? 1 : 0;
     WriteNamedVar(NamedVar("TZ_FMC_EXEC_L_Annun"), lit);
     WriteNamedVar(NamedVar("TZ_FMC_EXEC_R_Annun"), lit);
 }

@@ -11,6 +11,7 @@
 #include "frame/tokens.h"
 #include "navdata/geodesy.h"
 #include "platform/host.h"
+#include "state/leg_words.h"
 #include "state/nearest.h"
 #include "state/plan.h"
 #include "state/sim.h"
@@ -57,11 +58,11 @@ void FindNearestVors() {
 
 void PickRadios() {
     constexpr double kAheadDeg = 91;
-    const bool on_route = plan.fms_fpln_active >= kRouteActive && plan.stpos >= 1 && plan.stpos != kNoPlan;
+    const bool on_route = IsRouteActive() && plan.stpos >= 1 && plan.stpos != kNoPlan;
     double course = sim.true_track_deg, lat = sim.plane_lat, lon = sim.plane_lon;
     if (on_route) {
         int before = plan.stpos - 1;
-        while (before > 0 && std::as_const(plan.FlightPlan)[before].ident == "DISCO") --before;
+        while (before > 0 && IsDisco(std::as_const(plan.FlightPlan)[before])) --before;
         const FlightPlanLeg& from = std::as_const(plan.FlightPlan)[before];
         const FlightPlanLeg& to = std::as_const(plan.FlightPlan)[plan.stpos];
         lat = from.lat;

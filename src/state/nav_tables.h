@@ -8,6 +8,7 @@
 
 #include "platform/files.h"
 #include "state/growing_list.h"
+#include "state/leg_words.h"
 #include "state/variable.h"
 
 // The navigation database in memory. A row of a big table is views into its file's text, which stays here as

@@ -24,7 +24,7 @@ struct FlightPlanLeg {
     double alt = kNone;    // predicted altitude
     double alt_restr = kNone;
     double block_above = kNone, block_below = kNone;
-    int restr_code = 0;  // what is constrained: 0 none, 1 altitude, 2 speed, 3 both
+    int restr_code = 0;  // what is constrained: 1 altitude, 2 speed, 3 both; 0 nothing
     int restr_type = 0;  // how: 0 at, 1 at or above, 2 at or below, 3 between
     double ias_restr = kNone;
     double mach_restr = kNone;
@@ -111,15 +111,6 @@ struct ProcedureSelections {
     FlightPlanLeg shared_leg = {};  // the approach's first leg stands in its place; no ident = none
 };
 
-/// Of fms_fpln_active.
-enum RouteStatus {
-    kRouteNone = 0,
-    kRouteEntered = 1,
-    kRouteActivated = 2,  // waits for EXEC
-    kRouteActive = 3,
-    kRouteModified = 4  // active, and a modification waits for EXEC
-};
-
 /// The route. FlightPlan is what is flown, FlightPlanMod is what the pages edit; only fmc/ changes either.
 struct PlanState {
     std::string fms_fltno;                  // flight number, at most 10 characters; empty = none
@@ -138,7 +129,7 @@ struct PlanState {
     int hold_cnt = 0;
     GrowingList<HoldRecord> executed_holds;  // as EXEC left them: what ERASE brings back
     int executed_hold_cnt = 0;
-    int fms_fpln_active = kRouteNone;
+    int fms_fpln_active = 0;  // a RouteStatus
     GrowingList<PositionReport> PositionReports;
     int position_report_cnt = 0;
     int new_route = 0;            // first activation of a newly entered route

@@ -3,24 +3,25 @@
 #include "frame/lamps.h"
 #include "state/cockpit.h"
 #include "state/electrical.h"
+#include "state/power_words.h"
 
 namespace {
 
 bool PackIsOff(int button) {
     const int shed = electrical.load_shed_level;
-    return electrical.ac_bus_powered == 1 && (button == 0 || shed == 1 || shed == 2);
+    return IsAcBusPowered() && (button == 0 || shed == 1 || shed == 2);
 }
 
 bool TrimAirIsOff(int button) {
-    return electrical.ac_bus_powered == 1 && button == 0;
+    return IsAcBusPowered() && button == 0;
 }
 
 bool IsManual(int button) {
-    return electrical.power_level >= 5 && button == 0;
+    return IsBatteryBusAlive() && button == 0;
 }
 
 bool HeatIsInoperative(int button) {
-    return button == 0 || electrical.ac_bus_powered == 0 || electrical.load_shed_level == 1;
+    return button == 0 || !IsAcBusPowered() || electrical.load_shed_level == 1;
 }
 
 constexpr Lamp kLamps[] = {

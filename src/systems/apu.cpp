@@ -7,6 +7,7 @@
 #include "frame/named_variables.h"
 #include "state/cockpit.h"
 #include "state/electrical.h"
+#include "state/power_words.h"
 #include "state/sim.h"
 
 namespace {
@@ -41,8 +42,7 @@ void SetSelector(int position) {
 
 void ShowFault() {
     if (cockpit.apu_switch == kOff) electrical.apu_fault_timer = 0;
-    ShowLamp(NamedVar("TZ_OH_Annun_FAULT_APU"),
-             electrical.apu_fault_timer > 0 && electrical.power_level >= 5);
+    ShowLamp(NamedVar("TZ_OH_Annun_FAULT_APU"), electrical.apu_fault_timer > 0 && IsBatteryBusAlive());
     if (electrical.apu_fault_timer > 0) --electrical.apu_fault_timer;
 }
 

@@ -10,6 +10,7 @@
 #include "state/cfg.h"
 #include "state/cockpit.h"
 #include "state/electrical.h"
+#include "state/power_words.h"
 
 namespace {
 
@@ -37,7 +38,7 @@ void StepBattery() {
     double& volts = electrical.batt_volts;
     const double step = kFullBatteryVolts / (std::max(cfg.BatteryDrainSecs, 1) * kTicksPerSecond);
     // The last step ends exactly: what the sums round off must not cost a tick.
-    if (electrical.ac_bus_powered == 0) {
+    if (!IsAcBusPowered()) {
         if (volts > 0 && cockpit.battery_button == 1) {
             volts = volts > 1.5 * step ? volts - step : 0;
             if (volts == 0) SwitchHostBattery(false);
@@ -65,7 +66,7 @@ void FollowHostBattery() {
 }
 
 void TestBattery(int) {
-    if (electrical.power_level <= 4) return;
+    if (!IsBatteryBusAlive()) return;
     electrical.battery_test_ticks = kTestTicks;
     const double volts = electrical.batt_volts;
     const bool high = volts > kHighVolts, medium = !high && volts > kMediumVolts;

@@ -10,6 +10,7 @@
 #include "state/cockpit.h"
 #include "state/displays.h"
 #include "state/electrical.h"
+#include "state/power_words.h"
 #include "state/sim.h"
 #include "state/time_base.h"
 #include "systems/battery.h"
@@ -17,8 +18,8 @@
 namespace {
 
 // What each source gives to the sum.
-constexpr int kBattery = 5, kRat = 10, kExternal = 180, kGenerator = 250, kApuGenerator = 450;
-constexpr int kBusLevel = 10, kMostPower = 1000;
+constexpr int kRat = 10, kExternal = 180, kGenerator = 250, kApuGenerator = 450;
+constexpr int kMostPower = 1000;
 constexpr int kSystemsOnSeed = 255;
 constexpr double kGeneratorN2 = 50;  // percent
 constexpr double kRatSpeed = 80;     // kt
@@ -51,7 +52,7 @@ void CountDisplayStartUp() {
         count(displays.du_lwr_startup_cnt, 60);
         count(displays.du_cib_startup_cnt, 90);
     }
-    if (electrical.power_level > kBattery) count(displays.du_pfd_ah_startup_cnt, 10);
+    if (IsPoweredBeyondBattery()) count(displays.du_pfd_ah_startup_cnt, 10);
     WriteNamedVar(NamedVar("capt_inb_startup_cnt"), displays.du_cib_startup_cnt);
 }
 
@@ -99,7 +100,7 @@ int CountGenerators() {
 void RestartDisplays(bool external_power_now) {
     const bool source_on_line =
         CountGenerators() > 0 || electrical.ram_air_turb == 1 || electrical.apu_gen_pwr == 1;
-    const bool power_up = electrical.power_level < kBusLevel && source_on_line;
+    const bool power_up = electrical.power_level < kAcBusPower && source_on_line;
     if (!power_up && !external_power_now) return;
     displays.du_lwr_startup_cnt = 50;
     displays.du_cib_startup_cnt = 90;
@@ -108,13 +109,13 @@ void RestartDisplays(bool external_power_now) {
 
 void SumSources() {
     const ElectricalState& e = electrical;
-    const int sum = kBattery * e.batt_pwr + kRat * e.ram_air_turb + kApuGenerator * e.apu_gen_pwr +
+    const int sum = kBatteryPower * e.batt_pwr + kRat * e.ram_air_turb + kApuGenerator * e.apu_gen_pwr +
                     kExternal * e.ext_ac_pwr + kGenerator * e.running_gens;
     electrical.power_level = std::min(sum, kMostPower);
 }
 
 void PowerBuses() {
-    if (electrical.power_level < kBusLevel) {
+    if (electrical.power_level < kAcBusPower) {
         if (electrical.ac_bus_powered == 1)
             for (const int loop : {kLoopQuiet, kLoopLoud}) StopLoop(loop);
         electrical.ac_bus_powered = 0;
@@ -137,7 +138,7 @@ double SecondsSinceStart() {
 void DeployRat() {
     if (SecondsSinceStart() <= kRatAfterSeconds) return;
     const int others = electrical.power_level - kRat * electrical.ram_air_turb;
-    const bool needed = others < kBusLevel && sim.on_ground == 0 && sim.ias_kt > kRatSpeed;
+    const bool needed = others < kAcBusPower && sim.on_ground == 0 && sim.ias_kt > kRatSpeed;
     electrical.ram_air_turb = needed ? 1 : 0;
     if (!needed || cockpit.rat_unlocked == 1) return;
     cockpit.rat_unlocked = 1;
@@ -146,7 +147,7 @@ void DeployRat() {
 
 void DarkenDisplays() {
     if (electrical.power_level == 0) displays.du_lwr_startup_cnt = displays.du_cib_startup_cnt = 0;
-    if (electrical.power_level < kBusLevel) displays.du_pfd_ah_startup_cnt = 0;
+    if (electrical.power_level < kAcBusPower) displays.du_pfd_ah_startup_cnt = 0;
 }
 
 void FollowHostBatteryOnce() {
@@ -170,13 +171,12 @@ void SwitchCabinBuses() {
 
 int LoadShedLevel() {
     constexpr int kNorm = 1;  // of the start selectors
-    constexpr int kUnrestricted = 500;
     const int stopped = (sim.n2_l < kGeneratorN2 ? 1 : 0) + (sim.n2_r < kGeneratorN2 ? 1 : 0);
     const bool starting =
         cockpit.TZ_OH_ENG_L_START_Switch != kNorm || cockpit.TZ_OH_ENG_R_START_Switch != kNorm;
     if (stopped == 2 && starting) return 1;
     if (stopped == 1 && starting) return 2;
-    return stopped == 0 && electrical.power_level < kUnrestricted ? 3 : 0;
+    return stopped == 0 && !IsPowerUnrestricted() ? 3 : 0;
 }
 
 }  // namespace

@@ -15,6 +15,7 @@
 #include "guidance/lnav.h"
 #include "state/cdu.h"
 #include "state/displays.h"
+#include "state/leg_words.h"
 #include "state/lnav.h"
 #include "state/side.h"
 #include "state/sim.h"

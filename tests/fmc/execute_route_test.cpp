@@ -12,6 +12,7 @@
 #include "fmc/route/modification.h"
 #include "fmc/route_model.h"
 #include "navdata/parse_entry.h"
+#include "state/leg_words.h"
 #include "state/lnav.h"
 #include "state/perf.h"
 #include "state/plan.h"

@@ -12,6 +12,7 @@
 #include "platform/files.h"
 #include "state/cdu.h"
 #include "state/cfg.h"
+#include "state/leg_words.h"
 #include "state/perf.h"
 #include "state/side.h"
 

@@ -18,6 +18,7 @@
 #include "platform/files.h"
 #include "state/airports.h"
 #include "state/cfg.h"
+#include "state/leg_words.h"
 #include "state/perf.h"
 #include "state/plan.h"
 #include "state/route_files.h"

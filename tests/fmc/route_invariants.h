@@ -6,8 +6,8 @@
 #include <string>
 
 #include "fmc/legs/holds.h"
-#include "fmc/legs/leg_words.h"
 #include "fmc/legs/route_rows.h"
+#include "state/leg_words.h"
 #include "state/plan.h"
 
 inline std::string Idents(const GrowingList<FlightPlanLeg>& legs, int count) {

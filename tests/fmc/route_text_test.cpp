@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "fmc/demo_navdata.h"
+#include "state/leg_words.h"
 #include "state/perf.h"
 #include "state/plan.h"
 #include "state/sim.h"

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "state/airports.h"
+#include "state/leg_words.h"
 #include "state/module_life.h"
 #include "state/perf.h"
 #include "state/sim.h"

@@ -3,6 +3,7 @@
 #include "cdu/words/page.h"
 #include "navdata/procedure_files.h"
 #include "state/airports.h"
+#include "state/leg_words.h"
 #include "state/plan.h"
 
 namespace {
@@ -37,7 +38,7 @@ void DepArrIndexPage(PageCall& call) {
     Title(call, 95, "DEP/ARR  INDEX");
     PageText(call, 225, 25, "1/1", kWhite, kLabelSize);
     PageText(call, 122, 35, "RTE 1", kCyan, kLabelSize);
-    if (plan.fms_fpln_active >= kRouteModified) PageText(call, 150, 35, "(ACT)", kCyan, kLabelSize);
+    if (IsRouteModified()) PageText(call, 150, 35, "(ACT)", kCyan, kLabelSize);
     if (plan.ends_mod.origin != kNotSelected) {
         LeftData(call, 1, "<DEP");
         PageText(call, kMiddle, DataY(1), plan.ends_mod.origin);

@@ -7,13 +7,14 @@
 #include "cdu/words/page.h"
 #include "cdu/words/shown_plan.h"
 #include "fmc/legs/active_leg.h"
+#include "fmc/legs/find_leg.h"
 #include "fmc/legs/holds.h"
 #include "fmc/legs/insert_fix.h"
 #include "fmc/legs/leg_list.h"
-#include "fmc/legs/leg_words.h"
 #include "fmc/legs/route_state.h"
 #include "frame/crew_messages.h"
 #include "navdata/parse_entry.h"
+#include "state/leg_words.h"
 #include "state/nav.h"
 #include "state/sim.h"
 
@@ -25,13 +26,13 @@ constexpr std::string_view kHoldAt = "HOLD AT ";
 bool CanHoldAt(int leg) {
     const GrowingList<FlightPlanLeg>& legs = plan.FlightPlanMod;
     const bool has_place = leg < plan.mod_cnt && IsPlace(legs[leg]);
-    return plan.hold_cnt < kMostHolds && has_place && legs[leg].via != "HOLD" && legs[leg + 1].via != "HOLD";
+    return plan.hold_cnt < kMostHolds && has_place && !IsHoldLeg(legs[leg]) && !IsHoldLeg(legs[leg + 1]);
 }
 
 // A hold has a leg of its own behind the fix at which it is flown.
 void PlaceHold(PageCall& call, int leg) {
-    plan.FlightPlanMod[leg].via = "HOLD";
-    plan.FlightPlanMod[leg].via_type = "HOLD";
+    plan.FlightPlanMod[leg].via = kHoldVia;
+    plan.FlightPlanMod[leg].via_type = kHoldViaType;
     MarkHold(leg, false, std::max(0, PlaceBefore(plan.FlightPlanMod, leg - 1)));
     route_pages.LegsView = kNormalView;
     route_pages.HoldSelectIndex = 0;
@@ -81,8 +82,8 @@ void HoldAtPresentPosition(PageCall& call) {
     if (plan.hold_cnt >= kMostHolds) return Refuse(call, "INVALID ENTRY", kHelpNotAllowed);
     EnsureEnds();
     const int leg = FirstShownLeg();
-    const bool flying = plan.fms_fpln_active >= kRouteActive;
-    if (plan.fms_fpln_active == kRouteActive) AdvanceRouteState();
+    const bool flying = IsRouteActive();
+    if (IsRouteSettled()) AdvanceRouteState();
     FlightPlanLeg& hold = OpenModLeg(leg);
     hold.ident = "HOLD PPOS";
     hold.lat = sim.plane_lat;

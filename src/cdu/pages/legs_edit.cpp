@@ -5,6 +5,7 @@
 #include "fmc/legs/active_leg.h"
 #include "fmc/legs/edit_legs.h"
 #include "fmc/legs/insert_fix.h"
+#include "state/leg_words.h"
 #include "state/plan.h"
 
 void FinishLegsEdit(PageCall& call) {
@@ -14,7 +15,7 @@ void FinishLegsEdit(PageCall& call) {
 
 // A fix typed over the leg that is being flown to is flown to directly.
 void InsertPickedLeg(PageCall& call, int leg, int candidate) {
-    const bool direct = plan.fms_fpln_active >= kRouteActive && leg == ShownActiveLeg();
+    const bool direct = IsRouteActive() && leg == ShownActiveLeg();
     InsertFixAt(leg, candidate, false);
     if (direct) {
         SetPendingActiveLeg(leg);

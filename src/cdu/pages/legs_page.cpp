@@ -13,10 +13,10 @@
 #include "fmc/legs/active_leg.h"
 #include "fmc/legs/edit_legs.h"
 #include "fmc/legs/insert_fix.h"
-#include "fmc/legs/leg_words.h"
 #include "fmc/legs/route_state.h"
 #include "frame/crew_messages.h"
 #include "navdata/parse_entry.h"
+#include "state/leg_words.h"
 #include "state/nav.h"
 #include "state/nd.h"
 
@@ -46,7 +46,7 @@ void EnterFix(PageCall& call, int leg) {
 }
 
 int FindFollowing(int leg, const std::string& ident) {
-    const bool active = plan.fms_fpln_active >= kRouteActive && leg == ShownActiveLeg();
+    const bool active = IsRouteActive() && leg == ShownActiveLeg();
     for (int i = active ? leg : leg + 1; i <= plan.mod_cnt; ++i)
         if (plan.FlightPlanMod[i].ident == ident) return i;
     return 0;
@@ -118,13 +118,13 @@ void OnConstraint(PageCall& call, int leg) {
     }
     const FlightPlanLeg& shown = ShownLeg(leg);
     if (IsDelete(call)) {
-        if (shown.restr_code == 0) return RefuseDelete(call);
+        if (shown.restr_code == kFree) return RefuseDelete(call);
         OpenModification();
         RemoveConstraint(leg);
         return call.unit.ScratchMessage.clear();
     }
     if (Entry(call).empty()) {
-        if (shown.restr_code > 0) CopyDown(call, ConstraintText(shown));
+        if (shown.restr_code != kFree) CopyDown(call, ConstraintText(shown));
         return;
     }
     const auto entry = ParseConstraint(Entry(call));
@@ -148,7 +148,7 @@ void OnDirectEntry(PageCall& call) {
     if (const int leg = route_pages.DirectSelectIndex) {
         route_pages.DirectSelectIndex = 0;
         if (leg > plan.mod_cnt || !IsPlace(plan.FlightPlanMod[leg])) return;
-        if (plan.fms_fpln_active == kRouteActive) AdvanceRouteState();
+        if (IsRouteSettled()) AdvanceRouteState();
         SetInterceptCourse(leg);
         ConnectLegs(PendingActiveLeg(), leg, call.side);
         return FinishLegsEdit(call);
@@ -194,7 +194,7 @@ void DrawLabel(PageCall& call, int line, int leg) {
     const double y = LabelY(line);
     if (leg > ShownActiveLeg() && (IsDisco(before) || IsThen(before)))
         return FittedText(call, 34, y, kFaceRight, "----------- ROUTE DISCONTINUITY  -----------");
-    if (shown.via == "HOLD") return PageText(call, 40, y, "HOLD AT", kWhite, kLabelSize);
+    if (IsHoldLeg(shown)) return PageText(call, 40, y, "HOLD AT", kWhite, kLabelSize);
     const ShownTrack track = TrackToLeg(leg);
     if (!track.known) return;
     PageText(call, 40, y, Format("%03.0f%s", track.course, kDegree), kWhite, kTrackSize);
@@ -207,7 +207,7 @@ void DrawIdent(PageCall& call, int line, int leg) {
     const FlightPlanLeg& shown = ShownLeg(leg);
     if (IsDisco(shown) || IsThen(shown)) return LeftBoxes(call, line, 5);
     const std::string ident = Format("%-5s", shown.ident.c_str());
-    if (plan.fms_fpln_active == kRouteModified && shown.mod_flag > 0)
+    if (IsRouteModified() && shown.mod_flag > 0)
         HighlightedLeft(call, line, ident);
     else
         LeftData(call, line, ident, leg == ShownActiveLeg() ? kMagenta : kWhite);
@@ -262,8 +262,7 @@ void DrawViewLine(PageCall& call) {
             EntryBoxes(call, 218, y, 4);
     } else if (route_pages.LegsView == kHoldView) {
         FittedText(call, 34, y, kFaceRight, "------------------- HOLD AT  ------------------");
-        if (route_pages.HoldSelectIndex == 0 && plan.fms_fpln_active < kRouteModified)
-            EntryBoxes(call, 37, DataY(6), 5);
+        if (route_pages.HoldSelectIndex == 0 && !IsRouteModified()) EntryBoxes(call, 37, DataY(6), 5);
     } else {
         DashLine(call);
     }
@@ -303,7 +302,7 @@ void LegsPage(PageCall& call) {
         OnConstraint(call, first + right - 1);
 
     page = std::min(page, PageCount());
-    Title(call, 115, "RTE 1 LEGS", plan.fms_fpln_active >= kRouteActive ? kMapGreen : kWhite);
+    Title(call, 115, "RTE 1 LEGS", IsRouteActive() ? kMapGreen : kWhite);
     RouteStatusMark(call, 90);
     PageCounter(call, page, PageCount());
     DrawLegs(call, FirstShownLeg() + (page - 1) * kLegsPerPage);

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/text.h"
+#include "state/leg_words.h"
 #include "state/plan.h"
 
 namespace {
@@ -10,7 +11,7 @@ namespace {
 constexpr double kLeftMarkX = 110, kRightMarkX = 155;
 
 const char* Mark() {
-    return plan.fms_fpln_active == kRouteActive ? "<ACT>" : "<SEL>";
+    return IsRouteSettled() ? "<ACT>" : "<SEL>";
 }
 
 const ProcedureItem* ItemOn(const ProcedureColumn& column, int page, int row) {
@@ -41,7 +42,7 @@ void AddItems(ProcedureColumn& column, const std::vector<std::string>& names, in
 void DrawProcedureColumns(PageCall& call, const ProcedureColumn& left, const ProcedureColumn& right,
                           int page) {
     PageText(call, 122, LabelY(1), "RTE 1", kCyan, kLabelSize);
-    if (plan.fms_fpln_active >= kRouteActive) PageText(call, 150, LabelY(1), "(ACT)", kCyan, kLabelSize);
+    if (IsRouteActive()) PageText(call, 150, LabelY(1), "(ACT)", kCyan, kLabelSize);
     for (int row = 1; row <= kProcedureRows; ++row) {
         if (const ProcedureItem* item = ItemOn(left, page, row)) {
             LeftLabel(call, row, item->label);

@@ -6,12 +6,12 @@
 #include "base/text.h"
 #include "cdu/words/page.h"
 #include "cdu/words/shown_plan.h"
-#include "fmc/legs/leg_words.h"
 #include "fmc/legs/route_state.h"
 #include "fmc/performance/predictions.h"
 #include "fmc/performance/winds.h"
 #include "frame/crew_messages.h"
 #include "state/cfg.h"
+#include "state/leg_words.h"
 #include "state/lnav.h"
 #include "state/perf.h"
 #include "state/sim.h"
@@ -64,7 +64,7 @@ bool HasWinds(const FlightPlanLeg& leg) {
 
 void OpenWinds(PageCall& call, int leg) {
     if (leg > ShownCount() || !IsPlace(ShownLeg(leg))) return;
-    if (plan.fms_fpln_active == kRouteActive) AdvanceRouteState();
+    if (IsRouteSettled()) AdvanceRouteState();
     call.unit.wind_leg = leg;
     GoToPage(call.side, kPageWind);
 }
@@ -122,7 +122,7 @@ void RteDataPage(PageCall& call) {
     else if (right > 0)
         OpenWinds(call, first + right - 1);
 
-    Title(call, 115, "RTE 1 DATA", plan.fms_fpln_active >= kRouteActive ? kMapGreen : kWhite);
+    Title(call, 115, "RTE 1 DATA", IsRouteActive() ? kMapGreen : kWhite);
     RouteStatusMark(call, 90);
     PageText(call, 230, 23, Format("%d/%d", page, PageCount()), kWhite, kLabelSize);
     PageText(call, 40, LabelY(1), "ETA", kCyan, kLabelSize);

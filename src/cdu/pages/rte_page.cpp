@@ -8,7 +8,6 @@
 #include "fmc/files/route_files.h"
 #include "fmc/legs/edit_legs.h"
 #include "fmc/legs/insert_fix.h"
-#include "fmc/legs/leg_words.h"
 #include "fmc/legs/route_airway.h"
 #include "fmc/legs/route_rows.h"
 #include "fmc/legs/route_state.h"
@@ -19,6 +18,7 @@
 #include "navdata/nearest.h"
 #include "navdata/parse_entry.h"
 #include "state/airports.h"
+#include "state/leg_words.h"
 #include "state/nav.h"
 #include "state/route_files.h"
 
@@ -38,7 +38,7 @@ bool HasOrigin() {
 void DrawEnd(PageCall& call, int line, const std::string& active, const std::string& modified) {
     const bool left = LeftLine(line) > 0;
     const int row = LineRow(line);
-    const bool in_mod = plan.fms_fpln_active == kRouteModified;
+    const bool in_mod = IsRouteModified();
     const std::string& value = in_mod ? modified : active;
     if (value == kNotSelected)
         left ? LeftBoxes(call, row, 4) : RightBoxes(call, row, 4);
@@ -96,7 +96,7 @@ void OnCompanyRoute(PageCall& call) {
     const int file = FindRouteFile(Entry(call));
     if (file == 0 || LoadCompanyRoute(route_files.RouteFiles[file]) == 0)
         return Refuse(call, "NOT IN DATABASE", kHelpCompanyRoute);
-    plan.fms_fpln_active = plan.fms_fpln_active < kRouteActive ? kRouteEntered : kRouteModified;
+    plan.fms_fpln_active = !IsRouteActive() ? kRouteEntered : kRouteModified;
     ClearEntry(call);
 }
 
@@ -130,7 +130,7 @@ void DrawEnds(PageCall& call) {
     DrawEnd(call, kR1, plan.ends.dest, plan.ends_mod.dest);
     if (HasOrigin()) {
         LeftLabel(call, 2, "RUNWAY");
-        const bool in_mod = plan.fms_fpln_active == kRouteModified;
+        const bool in_mod = IsRouteModified();
         const std::string& runway = in_mod ? plan.ends_mod.dep_runway : plan.ends.dep_runway;
         const std::string shown = runway == kNotSelected ? "-----" : Format("RW%s", runway.c_str());
         if (in_mod && runway != kNotSelected)
@@ -149,7 +149,7 @@ void DrawEnds(PageCall& call) {
     RightLabel(call, 3, "CO ROUTE");
     EntryFrame(call, 151, static_cast<int>(DataY(3)), 100);
     const std::string& company_route =
-        plan.fms_fpln_active == kRouteModified ? plan.ends_mod.company_route : plan.ends.company_route;
+        IsRouteModified() ? plan.ends_mod.company_route : plan.ends.company_route;
     if (!company_route.empty()) RightData(call, 3, Format("%14.14s", company_route.c_str()));
     LeftLabel(call, 5, "ROUTE");
     LeftData(call, 5, "<PRINT");
@@ -207,7 +207,7 @@ int ConnectFrom(int row) {
 
 // A new row along the airway of the row before shows nothing until it has an end: its legs join that row.
 bool ContinuesAirway(int row) {
-    if (row <= plan.route_cnt || plan.Route[row - 1].via_type != "AWY") return false;
+    if (row <= plan.route_cnt || plan.Route[row - 1].via_type != kAirwayViaType) return false;
     const int fix = FindRouteFix(row - 1, false);
     return fix > 0 && fix < plan.mod_cnt && IsThen(plan.FlightPlanMod[fix + 1]);
 }
@@ -238,7 +238,7 @@ void OnTo(PageCall& call, int row) {
         return LegsChanged(call);
     }
     if (ContinuesAirway(row)) return OnAirwayEnd(call, row, plan.Route[row - 1].via, true);
-    if (shown.via_type == "AWY") return OnAirwayEnd(call, row, shown.via, shown.to.empty());
+    if (shown.via_type == kAirwayViaType) return OnAirwayEnd(call, row, shown.via, shown.to.empty());
     ParseEntry(Entry(call));
     if (nav.entry_cnt == 0) return Refuse(call, "NOT IN DATABASE", kHelpRoute);
     if (nav.entry_cnt > 1) return OpenSelectWpt(call, row);
@@ -309,7 +309,7 @@ void RtePage(PageCall& call) {
     else if (row > 0)
         OnRow(call, first_row + row - 1);
 
-    Title(call, 132, "RTE 1", plan.fms_fpln_active == kRouteActive ? kMapGreen : kWhite);
+    Title(call, 132, "RTE 1", IsRouteSettled() ? kMapGreen : kWhite);
     RouteStatusMark(call, 110);
     PageCounter(call, index, PageCount());
     if (index == 1)

@@ -7,10 +7,10 @@
 #include "base/text.h"
 #include "cdu/words/page.h"
 #include "cdu/words/shown_plan.h"
-#include "fmc/legs/leg_words.h"
 #include "fmc/legs/route_state.h"
 #include "frame/crew_messages.h"
 #include "state/cfg.h"
+#include "state/leg_words.h"
 
 namespace {
 

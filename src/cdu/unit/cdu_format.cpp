@@ -6,6 +6,7 @@
 #include "cdu/words/page.h"
 #include "frame/crew_messages.h"
 #include "paint/painter.h"
+#include "state/leg_words.h"
 #include "state/plan.h"
 #include "state/sim.h"
 
@@ -68,7 +69,7 @@ void DrawSoftKey(Graphics& graphics, const CduState& unit, const SoftKey& key) {
 
 // Lit while something waits for EXEC.
 void DrawExecLamp(Graphics& graphics) {
-    const bool lit = plan.fms_fpln_active == kRouteActivated || plan.fms_fpln_active == kRouteModified;
+    const bool lit = AwaitsExec();
     FilledBox(graphics, 249, 226, 28, 8, lit ? kMapGreen : kBlack);
 }
 

@@ -3,6 +3,7 @@
 #include "fmc/route/execute_route.h"
 #include "state/cdu.h"
 #include "state/cfg.h"
+#include "state/leg_words.h"
 #include "state/perf.h"
 #include "state/plan.h"
 #include "state/side.h"
@@ -86,7 +87,7 @@ void OnClear(int side) {
 }
 
 void OnExec(int side) {
-    if (plan.fms_fpln_active != kRouteActivated && plan.fms_fpln_active != kRouteModified) return;
+    if (!AwaitsExec()) return;
     if (plan.fms_fpln_active == kRouteActivated) CommitTakeoffValues(side);
     ExecuteRoute();
     LeaveLegsView();

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "base/text.h"
+#include "state/leg_words.h"
 #include "state/perf.h"
 #include "state/plan.h"
 #include "state/vnav.h"
@@ -92,18 +93,14 @@ bool TakeWindow(const Token& a, const Token& b, bool flight_level, ConstraintEnt
 
 bool IsOnDescent(int leg) {
     const FlightPlanLeg& at = plan.FlightPlanMod[leg];
-    const bool of_arrival = at.via_type == "STAR" || at.via_type == "APPR";
+    const bool of_arrival = at.via_type == kStarViaType || at.via_type == kApproachViaType;
     return of_arrival || (vnav.tod_stpos > 0 && leg >= vnav.tod_stpos);
 }
 
-bool HasAltitude(const FlightPlanLeg& leg) {
-    return leg.restr_code == 1 || leg.restr_code == 3;
-}
-
 void SetCode(FlightPlanLeg& leg) {
-    const bool altitude = leg.alt_restr > 0 || leg.restr_type == 3;
+    const bool altitude = leg.alt_restr > 0 || leg.restr_type == kBetween;
     const bool speed = leg.ias_restr > 0 || leg.mach_restr > 0;
-    leg.restr_code = (altitude ? 1 : 0) + (speed ? 2 : 0);
+    leg.restr_code = (altitude ? kAltitudeRestr : kFree) | (speed ? kSpeedRestr : kFree);
 }
 
 // Legs behind that carried the leg's old altitude follow it, until one differs.
@@ -112,7 +109,7 @@ void Propagate(int leg, double old_altitude) {
     if (old_altitude <= 0 || altitude >= perf.cruise_alt || !IsOnDescent(leg)) return;
     for (int i = leg + 1; i < plan.mod_cnt; ++i) {
         FlightPlanLeg& next = plan.FlightPlanMod[i];
-        if (!HasAltitude(next) || next.restr_type == 3 || next.alt_restr != old_altitude) return;
+        if (!HasAltitudeRestr(next) || next.restr_type == kBetween || next.alt_restr != old_altitude) return;
         next.alt_restr = altitude;
         next.mod_flag = kCrewEntered;
     }
@@ -142,13 +139,13 @@ std::optional<ConstraintEntry> ParseConstraint(std::string_view text) {
 
 void StoreConstraint(int leg, const ConstraintEntry& entry) {
     FlightPlanLeg& at = plan.FlightPlanMod[leg];
-    const double old_altitude = HasAltitude(at) && at.restr_type != 3 ? at.alt_restr : 0;
+    const double old_altitude = HasAltitudeRestr(at) && at.restr_type != kBetween ? at.alt_restr : 0;
     if (entry.speed > 0) at.ias_restr = entry.speed;
-    if (entry.alt_type == 3) {
+    if (entry.alt_type == kBetween) {
         at.alt_restr = 0;
         at.block_above = entry.above;
         at.block_below = entry.below;
-        at.restr_type = 3;
+        at.restr_type = kBetween;
     } else if (entry.alt > 0) {
         at.alt_restr = entry.alt;
         at.block_above = at.block_below = kNone;
@@ -157,7 +154,7 @@ void StoreConstraint(int leg, const ConstraintEntry& entry) {
             perf.fms_step_to_alt = perf.entered_step_to_alt = entry.alt;
             perf.fms_step_size = 0;
         }
-        if (entry.alt_type != 2) Propagate(leg, old_altitude);
+        if (entry.alt_type != kAtOrBelow) Propagate(leg, old_altitude);
     }
     SetCode(at);
     at.mod_flag = kCrewEntered;
@@ -165,9 +162,10 @@ void StoreConstraint(int leg, const ConstraintEntry& entry) {
 
 bool RemoveConstraint(int leg) {
     FlightPlanLeg& at = plan.FlightPlanMod[leg];
-    if (at.restr_code == 0) return false;
+    if (at.restr_code == kFree) return false;
     at.alt_restr = at.block_above = at.block_below = at.ias_restr = at.mach_restr = kNone;
-    at.restr_code = at.restr_type = 0;
+    at.restr_code = kFree;
+    at.restr_type = kAt;
     at.mod_flag = kCrewEntered;
     return true;
 }

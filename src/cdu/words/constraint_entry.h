@@ -8,7 +8,7 @@
 struct ConstraintEntry {
     int speed = 0;             // kt, 100 to 400; 0 = none
     int alt = 0;               // ft, 1 to 50000; 0 = none
-    int alt_type = 0;          // 0 at, 1 at or above, 2 at or below, 3 between
+    int alt_type = 0;          // a RestrType
     int above = 0, below = 0;  // ft, the window of alt_type 3: at or above, at or below
 };
 

@@ -2,10 +2,7 @@
 
 #include "base/text.h"
 #include "state/cfg.h"
-
-bool HasWindow(const FlightPlanLeg& leg) {
-    return leg.restr_code != 0 && leg.alt_restr <= 0 && leg.block_above > 0;
-}
+#include "state/leg_words.h"
 
 std::string AltitudeText(double altitude) {
     return altitude > cfg.TransAlt ? Format("FL%03.0f", altitude / 100) : Format("%5.0f", altitude);
@@ -18,9 +15,11 @@ std::string SpeedText(const FlightPlanLeg& leg) {
 
 std::string ConstraintAltitude(const FlightPlanLeg& leg) {
     if (HasWindow(leg)) return Format("%-3.0fA%-3.0fB", leg.block_above / 100, leg.block_below / 100);
-    const bool constrained = (leg.restr_code == 1 || leg.restr_code == 3) && leg.alt_restr > 0;
+    const bool constrained = HasAltitudeRestr(leg) && leg.alt_restr > 0;
     if (!constrained) return {};
-    return AltitudeText(leg.alt_restr) + (leg.restr_type == 1 ? "A" : leg.restr_type == 2 ? "B" : "");
+    return AltitudeText(leg.alt_restr) + (leg.restr_type == kAtOrAbove   ? "A"
+                                          : leg.restr_type == kAtOrBelow ? "B"
+                                                                         : "");
 }
 
 std::string ConstraintText(const FlightPlanLeg& leg) {

@@ -6,9 +6,6 @@
 
 // The constraint of a leg as LEGS shows it.
 
-/// Whether the leg's altitude constraint is a window. A departure's window bears the type of "at".
-bool HasWindow(const FlightPlanLeg& leg);
-
 /// "FL350" above the transition altitude, else feet in five columns.
 std::string AltitudeText(double altitude);
 

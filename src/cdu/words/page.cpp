@@ -9,6 +9,7 @@
 #include "frame/crew_messages.h"
 #include "paint/painter.h"
 #include "state/cfg.h"
+#include "state/leg_words.h"
 #include "state/plan.h"
 
 namespace {
@@ -81,7 +82,7 @@ void LegsChanged(PageCall& call) {
 }
 
 bool TakeErase(PageCall& call) {
-    if (call.line != kL6 || plan.fms_fpln_active != kRouteModified) return false;
+    if (call.line != kL6 || !IsRouteModified()) return false;
     EraseModification();
     ClearEntry(call);
     return true;
@@ -143,8 +144,8 @@ void Title(PageCall& call, double x, std::string_view text, Rgb colour) {
 }
 
 void RouteStatusMark(PageCall& call, double x) {
-    if (plan.fms_fpln_active == kRouteActive) PageText(call, x, 25, "ACT", kMagenta);
-    if (plan.fms_fpln_active == kRouteModified) HighlightedText(call, x, 25, "MOD");
+    if (IsRouteSettled()) PageText(call, x, 25, "ACT", kMagenta);
+    if (IsRouteModified()) HighlightedText(call, x, 25, "MOD");
 }
 
 void PageCounter(PageCall& call, int index, int count) {
@@ -203,7 +204,7 @@ void EntryFrame(PageCall& call, int x, int y, int width) {
 }
 
 void ErasePrompt(PageCall& call, std::string_view otherwise) {
-    LeftData(call, 6, plan.fms_fpln_active == kRouteModified ? "<ERASE" : otherwise);
+    LeftData(call, 6, IsRouteModified() ? "<ERASE" : otherwise);
 }
 
 void DashLine(PageCall& call) {

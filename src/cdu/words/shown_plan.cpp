@@ -4,15 +4,16 @@
 
 #include "base/angles.h"
 #include "fmc/legs/active_leg.h"
-#include "fmc/legs/leg_words.h"
+#include "fmc/legs/find_leg.h"
 #include "fmc/legs/path.h"
 #include "navdata/geodesy.h"
 #include "navdata/magnetic_model.h"
+#include "state/leg_words.h"
 
 namespace {
 
 const GrowingList<FlightPlanLeg>& ShownList() {
-    return plan.fms_fpln_active == kRouteActive ? plan.FlightPlan : plan.FlightPlanMod;
+    return IsRouteSettled() ? plan.FlightPlan : plan.FlightPlanMod;
 }
 
 }  // namespace
@@ -22,12 +23,12 @@ const FlightPlanLeg& ShownLeg(int index) {
 }
 
 int ShownCount() {
-    return plan.fms_fpln_active == kRouteActive ? plan.fp_cnt : plan.mod_cnt;
+    return IsRouteSettled() ? plan.fp_cnt : plan.mod_cnt;
 }
 
 int ShownActiveLeg() {
-    if (plan.fms_fpln_active < kRouteActive) return 0;
-    const int leg = plan.fms_fpln_active == kRouteActive ? plan.stpos : PendingActiveLeg();
+    if (!IsRouteActive()) return 0;
+    const int leg = IsRouteSettled() ? plan.stpos : PendingActiveLeg();
     return leg == kNoPlan ? 0 : leg;
 }
 

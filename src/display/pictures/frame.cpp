@@ -4,14 +4,12 @@
 #include "display/routing/routing.h"
 #include "paint/graphics.h"
 #include "state/displays.h"
-#include "state/electrical.h"
+#include "state/power_words.h"
 
 namespace {
 
 // Alpha 0: the host's blank screen shows through.
 constexpr Argb kDark = 0x0072bd61;
-constexpr int kFirstLevel = 15, kSecondLevel = 180;
-constexpr int kBatteryAlone = 5;  // lights no unit, however long it lasts
 
 bool MayPaint(ShownIn shown_in) {
     const bool in_2d = displays.cockpit_2d_active == 1;
@@ -19,17 +17,16 @@ bool MayPaint(ShownIn shown_in) {
 }
 
 bool UnitIsPowered(int unit) {
-    const int power = electrical.power_level;
     switch (unit) {
         case 1:
-            return power >= kFirstLevel;
+            return AreFirstUnitsPowered();
         case 2:
-            return power > kBatteryAlone && displays.du_cib_startup_cnt >= 90;
+            return IsPoweredBeyondBattery() && displays.du_cib_startup_cnt >= 90;
         case 3:
         case 4:
-            return power >= kSecondLevel;
+            return AreAllBusesAlive();
         case 5:
-            return power > kBatteryAlone && displays.du_lwr_startup_cnt >= 60;
+            return IsPoweredBeyondBattery() && displays.du_lwr_startup_cnt >= 60;
         default:
             return false;
     }
@@ -49,11 +46,11 @@ bool ComposeFrame(const PaintedGauge& gauge, DrawList& list) {
             break;
         case Painting::kStandby:
             GdipGraphicsClear(graphics, kDark);
-            if (electrical.power_level >= kFirstLevel) DrawStandbyPfd(graphics);
+            if (AreFirstUnitsPowered()) DrawStandbyPfd(graphics);
             break;
         case Painting::kHud:
             GdipGraphicsClear(graphics, 0);
-            if (electrical.power_level >= kFirstLevel) DrawHud(graphics);
+            if (AreFirstUnitsPowered()) DrawHud(graphics);
             break;
         case Painting::kEfb:
             DrawEfb(graphics, gauge.unit);

@@ -14,6 +14,7 @@
 #include "navdata/airport_file.h"
 #include "platform/host.h"
 #include "state/cdu.h"
+#include "state/leg_words.h"
 #include "state/perf.h"
 #include "state/plan.h"
 #include "state/route_files.h"
@@ -73,10 +74,10 @@ FlightPlanLeg LegOf(const std::byte* waypoint, bool is_end) {
     leg.lon = Longitude(waypoint);
     AirportData airport;
     if (is_end && LoadAirport(leg.ident, airport) == 1) {
-        leg.type = "APT";
+        leg.type = kAirportLegType;
         return leg;
     }
-    leg.via = "DIRECT";
+    leg.via = kDirectVia;
     LookUpLegType(leg);
     return leg;
 }

@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "fmc/legs/active_leg.h"
+#include "fmc/legs/find_leg.h"
 #include "fmc/legs/holds.h"
-#include "fmc/legs/leg_words.h"
 #include "fmc/legs/route_rows.h"
 #include "fmc/legs/route_state.h"
 #include "fmc/performance/default_speeds.h"
@@ -15,6 +15,7 @@
 #include "state/airports.h"
 #include "state/cdu.h"
 #include "state/cfg.h"
+#include "state/leg_words.h"
 #include "state/perf.h"
 #include "state/plan.h"
 #include "state/procedure_lists.h"
@@ -23,10 +24,6 @@
 namespace {
 
 constexpr int kNoCostIndex = -1;
-
-bool IsActive() {
-    return plan.fms_fpln_active >= kRouteActive;
-}
 
 // The leg flown before a hold's; a hold has a leg of its own behind its fix, so that a namesake isn't it.
 int LegBeforeHold(int leg) {
@@ -58,25 +55,25 @@ AirportData UnknownAirport(const FlightPlanLeg& leg) {
 
 void TakeOrigin() {
     FlightPlanLeg& first = plan.FlightPlanMod[0];
-    if (first.type != "APT") return;
+    if (!IsAirport(first)) return;
     plan.ends_mod.dep_runway = kNotSelected;
     plan.ends_mod.fms_dep_rwy_pos = 0;
     plan.ends.origin = plan.ends_mod.origin = first.ident;
-    if (!IsActive()) plan.ends = plan.ends_mod;
+    if (!IsRouteActive()) plan.ends = plan.ends_mod;
     plan.procedures.dep_sid = plan.procedures.dep_trans = kNotSelected;
     if (LoadOriginAirport(first.ident) == 1)
         first.alt = first.alt_restr = airports.origin_airport.elevation_ft;
     else
         airports.origin_airport = UnknownAirport(first);
-    SetDefaultSpeeds(IsActive() ? SpeedsCount::kWithExec : SpeedsCount::kNow);
+    SetDefaultSpeeds(IsRouteActive() ? SpeedsCount::kWithExec : SpeedsCount::kNow);
 }
 
 void TakeDestination(std::string_view company_route) {
     const FlightPlanLeg& last = plan.FlightPlanMod[plan.mod_cnt];
-    if (last.type != "APT") return;
+    if (!IsAirport(last)) return;
     plan.ends_mod.dest = last.ident;
     plan.ends_mod.company_route = company_route;
-    if (!IsActive()) plan.ends = plan.ends_mod;
+    if (!IsRouteActive()) plan.ends = plan.ends_mod;
     plan.procedures = {.dep_sid = plan.procedures.dep_sid, .dep_trans = plan.procedures.dep_trans};
     if (LoadDestinationAirport(last.ident) == 0) airports.dest_airport = UnknownAirport(last);
 }
@@ -98,7 +95,7 @@ void BeginLoadedRoute() {
     if (cfg.CostIndex > kNoCostIndex) PlanCostIndex(cfg.CostIndex);
     LeaveLegsView();
     route_pages.PendingSelectRow = 0;
-    if (IsActive()) SetPendingActiveLeg(1);  // the leg flown to isn't in the working copy any more
+    if (IsRouteActive()) SetPendingActiveLeg(1);  // the leg flown to isn't in the working copy any more
     RebuildRouteRows();
 }
 
@@ -110,7 +107,7 @@ void MarkLoadedRouteNew() {
 void PlanCostIndex(double index) {
     constexpr int kMost = 999;
     if (index < kNoCostIndex || index > kMost) return;
-    (IsActive() ? perf.pending_cost_index : perf.cost_index) = static_cast<int>(index);
+    (IsRouteActive() ? perf.pending_cost_index : perf.cost_index) = static_cast<int>(index);
 }
 
 void AddLoadedLeg(FlightPlanLeg leg) {
@@ -122,14 +119,13 @@ void AddLoadedLeg(FlightPlanLeg leg) {
 }
 
 void FinishLoadedRoute(std::string_view company_route) {
-    if (plan.fms_fpln_active != kRouteActivated && plan.fms_fpln_active != kRouteModified)
-        AdvanceRouteState();
+    if (!AwaitsExec()) AdvanceRouteState();
     if (plan.mod_cnt < 0) return;
     MakeStoredHolds();
     RebuildRouteRows();
     FlightLogStep(false);
     TakeOrigin();
     TakeDestination(company_route);
-    if (!IsActive()) plan.procedures_kept = plan.procedures;
+    if (!IsRouteActive()) plan.procedures_kept = plan.procedures;
     if (sim.on_ground == 1) perf.fplog_mode = -1;
 }

@@ -12,9 +12,9 @@
 #include "fmc/files/plan_files.h"
 #include "fmc/files/route_folder.h"
 #include "fmc/legs/leg_type.h"
-#include "fmc/legs/leg_words.h"
 #include "fmc/legs/route_state.h"
 #include "state/cfg.h"
+#include "state/leg_words.h"
 #include "state/perf.h"
 #include "state/plan.h"
 #include "state/route_files.h"
@@ -119,7 +119,7 @@ using Leg = FlightPlanLeg;
 constexpr Column kVia = {
     12,
     [](Leg& leg, std::string_view token) {
-        leg.via = token == kMissedInFile ? std::string(kMissedApproach) : ReadText(token);
+        leg.via = token == kMissedInFile ? std::string(kMissedVia) : ReadText(token);
     },
     [](const Leg& leg) { return IsMissedApproach(leg) ? std::string(kMissedInFile) : WriteText(leg.via); }};
 constexpr Column kViaType = {
@@ -190,8 +190,8 @@ FlightPlanLeg LegOf(const Row& row) {
         leg.block_above = ReadNumber(row[kRestriction].substr(0, kLimit));
         leg.block_below = ReadNumber(row[kRestriction].substr(kLimit));
         leg.alt_restr = 0;
-        leg.restr_code = 1;
-        leg.restr_type = 0;
+        leg.restr_code = kAltitudeRestr;
+        leg.restr_type = kAt;
     }
     return leg;
 }
@@ -246,14 +246,14 @@ class RouteReader {
     void ReadRow(std::string_view line) {
         FlightPlanLeg leg = LegOf(SplitRow(line));
         if (IsLeftOut(leg)) return;
-        if (leg.freq.empty() && leg.type != "APT" && IsPlace(leg)) LookUpLegType(leg);
+        if (leg.freq.empty() && !IsAirport(leg) && IsPlace(leg)) LookUpLegType(leg);
         AddLoadedLeg(std::move(leg));
     }
 
     // The hold that ends a missed approach goes with it.
     bool IsLeftOut(const FlightPlanLeg& leg) {
         const bool is_missed = IsMissedApproach(leg);
-        missed_ = is_missed || (missed_ && leg.via == "HOLD" && leg.via_type == "APPR");
+        missed_ = is_missed || (missed_ && IsHoldLeg(leg) && leg.via_type == kApproachViaType);
         return missed_ && cfg.IncludeMissedApproach == 0;
     }
 
@@ -313,7 +313,7 @@ int LoadCompanyRoute(std::string_view given) {
         is_plan ? ReadFile(kConvertedFile, FileRoot::kSimulator, kMaxRouteFileBytes) : ReadRouteFile(name);
     BeginLoadedRoute();
     if (!file) {
-        if (plan.fms_fpln_active == kRouteActive) AdvanceRouteState();
+        if (IsRouteSettled()) AdvanceRouteState();
         return 0;
     }
     std::string_view rest = file->Text();

@@ -2,7 +2,8 @@
 
 #include <algorithm>
 
-#include "fmc/legs/leg_words.h"
+#include "fmc/legs/find_leg.h"
+#include "state/leg_words.h"
 #include "state/plan.h"
 
 namespace {
@@ -28,12 +29,12 @@ void SetPendingActiveLeg(int leg) {
 }
 
 void FollowSequencing() {
-    if (plan.fms_fpln_active == kRouteActive) {
+    if (IsRouteSettled()) {
         plan.mod_stpos = plan.stpos;
         plan.pending_stpos = 0;
         return;
     }
-    if (plan.fms_fpln_active != kRouteModified || plan.stpos == kNoPlan) return;
+    if (!IsRouteModified() || plan.stpos == kNoPlan) return;
     if (const int leg = FindModLeg(plan.FlightPlan[plan.stpos], plan.pending_stpos); leg > 0) {
         MovePendingActiveLeg(leg);
         return;

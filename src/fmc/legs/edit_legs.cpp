@@ -3,30 +3,23 @@
 #include <algorithm>
 
 #include "fmc/legs/active_leg.h"
+#include "fmc/legs/find_leg.h"
 #include "fmc/legs/holds.h"
 #include "fmc/legs/leg_list.h"
-#include "fmc/legs/leg_words.h"
 #include "fmc/legs/route_rows.h"
 #include "fmc/legs/route_state.h"
 #include "navdata/geodesy.h"
 #include "navdata/leg_codes.h"
 #include "navdata/magnetic_model.h"
 #include "state/airports.h"
+#include "state/leg_words.h"
 #include "state/perf.h"
 #include "state/sim.h"
 
 namespace {
 
 void OpenModificationOfActiveRoute() {
-    if (plan.fms_fpln_active == kRouteActive) AdvanceRouteState();
-}
-
-bool IsDirect(const FlightPlanLeg& leg) {
-    return leg.via.empty() || leg.via == "DIRECT";
-}
-
-bool IsOfSid(const FlightPlanLeg& leg) {
-    return leg.via_type == "SID" || leg.via_type == "SIDSTAR";
+    if (IsRouteSettled()) AdvanceRouteState();
 }
 
 bool IsOfBlock(const FlightPlanLeg& leg, const FlightPlanLeg& block) {
@@ -66,8 +59,7 @@ void GoDirectTo(int leg) {
 
 void ConnectLegs(int from, int to, int) {
     if (from < 0 || to < from || to > plan.mod_cnt) return;
-    const bool direct_to =
-        plan.fms_fpln_active >= kRouteActive && from == PendingActiveLeg() && IsPlace(plan.FlightPlanMod[to]);
+    const bool direct_to = IsRouteActive() && from == PendingActiveLeg() && IsPlace(plan.FlightPlanMod[to]);
     if (to == from && !direct_to) return;
     if (direct_to)
         StartDirectTo(to);
@@ -87,7 +79,7 @@ void DeleteLegWithDiscontinuity(int leg, bool reconnect, int) {
         MergeNeighbourDiscos();
     } else {
         legs[leg] = {};
-        legs[leg].ident = "DISCO";
+        legs[leg].ident = kDiscoIdent;
         legs[leg].mod_flag = 1;
     }
     RebuildRouteRows();
@@ -114,7 +106,7 @@ int RemoveViaRow(int row) {
     if (IsThen(end)) {
         RemoveModLegs(legs.last, 1);
     } else {
-        end.via = "DIRECT";
+        end.via = kDirectVia;
         end.via_type.clear();
         end.mod_flag = 1;
         RemoveModLegs(legs.first, legs.last - legs.first);
@@ -154,8 +146,8 @@ void RecomputeCodedLeg(int index) {
                        .climb_speed = perf.climb_ias > 0 ? perf.climb_ias : 250,
                        .role = leg.appr_wpt_type};
     LatLon end;
-    const int failed =
-        leg.via_type == "APPR" ? ComputeApproachLeg(code, input, end) : ComputeDepartureLeg(code, input, end);
+    const int failed = leg.via_type == kApproachViaType ? ComputeApproachLeg(code, input, end)
+                                                        : ComputeDepartureLeg(code, input, end);
     if (failed != 0) return;
     leg.lat = end.lat;
     leg.lon = end.lon;

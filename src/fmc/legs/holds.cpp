@@ -4,11 +4,12 @@
 #include <utility>
 
 #include "base/angles.h"
-#include "fmc/legs/leg_words.h"
+#include "fmc/legs/find_leg.h"
 #include "fmc/legs/path.h"
 #include "navdata/geodesy.h"
 #include "navdata/magnetic_model.h"
 #include "state/cdu.h"
+#include "state/leg_words.h"
 #include "state/lnav.h"
 
 namespace {

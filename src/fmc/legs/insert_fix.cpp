@@ -5,12 +5,13 @@
 
 #include "base/angles.h"
 #include "base/text.h"
+#include "fmc/legs/find_leg.h"
 #include "fmc/legs/leg_list.h"
-#include "fmc/legs/leg_words.h"
 #include "fmc/legs/path.h"
 #include "fmc/legs/route_rows.h"
 #include "navdata/geodesy.h"
 #include "navdata/magnetic_model.h"
+#include "state/leg_words.h"
 
 namespace {
 
@@ -41,7 +42,7 @@ FlightPlanLeg DirectLeg(std::string ident, double lat, double lon) {
     leg.lat = lat;
     leg.lon = lon;
     leg.type = "WPT";
-    leg.via = "DIRECT";
+    leg.via = kDirectVia;
     leg.mod_flag = 1;
     return leg;
 }

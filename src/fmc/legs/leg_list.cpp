@@ -5,12 +5,12 @@
 
 #include "fmc/legs/active_leg.h"
 #include "fmc/legs/holds.h"
-#include "fmc/legs/leg_words.h"
+#include "state/leg_words.h"
 
 namespace {
 
 bool HasActiveLeg() {
-    return plan.fms_fpln_active >= kRouteActive && PendingActiveLeg() != kNoPlan;
+    return IsRouteActive() && PendingActiveLeg() != kNoPlan;
 }
 
 // Moves what points at legs from `first` on by `offset` places.
@@ -45,7 +45,7 @@ void OpenDisco(int position) {
     GrowingList<FlightPlanLeg>& legs = plan.FlightPlanMod;
     if (position < 1 || position > plan.mod_cnt) return;
     if (IsDisco(legs[position]) || IsDisco(legs[position - 1])) return;
-    OpenModLeg(position).ident = "DISCO";
+    OpenModLeg(position).ident = kDiscoIdent;
 }
 
 void RemoveModLegs(int first, int count) {

@@ -5,10 +5,10 @@
 
 #include "fmc/legs/leg_list.h"
 #include "fmc/legs/leg_type.h"
-#include "fmc/legs/leg_words.h"
 #include "fmc/legs/route_rows.h"
 #include "navdata/airways.h"
 #include "navdata/geodesy.h"
+#include "state/leg_words.h"
 #include "state/nav.h"
 
 namespace {
@@ -67,7 +67,7 @@ void LoadAirwayTowards(std::string_view name, int fix, std::string_view end) {
         leg.lat = record.lat;
         leg.lon = record.lon;
         leg.via = name;
-        leg.via_type = "AWY";
+        leg.via_type = kAirwayViaType;
         leg.mod_flag = 1;
         LookUpLegType(leg);
     }
@@ -105,9 +105,9 @@ void InsertAirwayPlaceholder(int index, std::string_view airway) {
     EnsureEnds();
     if (index < 1 || index > plan.mod_cnt) return;
     FlightPlanLeg& leg = OpenModLeg(index);
-    leg.ident = "THEN";
+    leg.ident = kThenIdent;
     leg.type = "OAWY";
     leg.via = airway;
-    leg.via_type = "AWY";
+    leg.via_type = kAirwayViaType;
     RebuildRouteRows();
 }

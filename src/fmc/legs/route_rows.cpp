@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "fmc/legs/leg_words.h"
+#include "state/leg_words.h"
 
 namespace {
 
@@ -12,7 +12,7 @@ void WalkRows(Visit visit) {
     std::string_view running;
     for (int i = 1; i < plan.mod_cnt; ++i) {
         const FlightPlanLeg& leg = plan.FlightPlanMod[i];
-        const bool direct = leg.via.empty() || leg.via == "DIRECT";
+        const bool direct = IsDirect(leg);
         const bool opens = direct || leg.via != running;
         running = direct ? "DIRECT" : std::string_view(leg.via);
         visit(i, leg, opens);
@@ -27,7 +27,7 @@ void RebuildRouteRows() {
     WalkRows([](int, const FlightPlanLeg& leg, bool opens) {
         RouteRow& row = plan.Route[opens ? ++plan.route_cnt : plan.route_cnt];
         if (opens) {
-            const bool direct = leg.via.empty() || leg.via == "DIRECT";
+            const bool direct = IsDirect(leg);
             row.via = direct ? "DIRECT" : leg.via;
             row.via_type = direct ? "" : leg.via_type;
         }

@@ -8,6 +8,7 @@
 #include "frame/key_events.h"
 #include "platform/host.h"
 #include "state/cfg.h"
+#include "state/leg_words.h"
 #include "state/perf.h"
 #include "state/plan.h"
 #include "state/sim.h"
@@ -48,5 +49,5 @@ void AdvanceRouteState() {
 }
 
 void OpenModification() {
-    if (plan.fms_fpln_active == kRouteNone || plan.fms_fpln_active == kRouteActive) AdvanceRouteState();
+    if (plan.fms_fpln_active == kRouteNone || IsRouteSettled()) AdvanceRouteState();
 }

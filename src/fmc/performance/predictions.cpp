@@ -6,7 +6,7 @@
 
 #include "base/angles.h"
 #include "base/units.h"
-#include "fmc/legs/leg_words.h"
+#include "fmc/legs/find_leg.h"
 #include "fmc/legs/path.h"
 #include "fmc/performance/performance_tables.h"
 #include "navdata/geodesy.h"
@@ -14,6 +14,7 @@
 #include "state/airports.h"
 #include "state/cfg.h"
 #include "state/identity.h"
+#include "state/leg_words.h"
 #include "state/perf.h"
 #include "state/plan.h"
 #include "state/sim.h"

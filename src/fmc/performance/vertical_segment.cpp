@@ -2,19 +2,13 @@
 
 #include <algorithm>
 
-#include "fmc/legs/leg_words.h"
 #include "navdata/geodesy.h"
+#include "state/leg_words.h"
 #include "state/perf.h"
 #include "state/plan.h"
 #include "state/vnav.h"
 
 namespace {
-
-enum RestrictionType { kAt = 0, kAtOrAbove = 1, kAtOrBelow = 2, kBetween = 3 };
-
-bool HasAltitudeConstraint(const FlightPlanLeg& leg) {
-    return leg.restr_code == 1 || leg.restr_code == 3;
-}
 
 // The altitude of a constraint: of a window the limit that binds.
 double ConstraintAltitude(const FlightPlanLeg& leg, double window_limit) {
@@ -27,7 +21,7 @@ int ProlongSegment(int start) {
     const double altitude = FlightPlanLegAt(start).alt_restr;
     for (int i = start + 1; i <= plan.fp_cnt; ++i) {
         const FlightPlanLeg& leg = FlightPlanLegAt(i);
-        if (IsMissedApproach(leg) || !HasAltitudeConstraint(leg)) continue;
+        if (IsMissedApproach(leg) || !HasAltitudeRestr(leg)) continue;
         const bool met = leg.restr_type == kBetween
                              ? leg.block_above <= altitude
                              : leg.restr_type != kAtOrBelow && leg.alt_restr == altitude;
@@ -54,7 +48,7 @@ double NextRestriction(bool (*binds)(const FlightPlanLeg&), double FlightPlanLeg
     if (plan.stpos == kNoPlan) return 0;
     for (int i = plan.stpos; i <= plan.fp_cnt; ++i) {
         const FlightPlanLeg& leg = FlightPlanLegAt(i);
-        if (IsMissedApproach(leg) || !HasAltitudeConstraint(leg) || !binds(leg)) continue;
+        if (IsMissedApproach(leg) || !HasAltitudeRestr(leg) || !binds(leg)) continue;
         return ConstraintAltitude(leg, leg.*window_limit);
     }
     return 0;
@@ -67,15 +61,15 @@ void FindBottomOfDescent(int first) {
     vnav.bod_pos = plan.fp_cnt;
     for (int i = first; i <= plan.fp_cnt; ++i) {
         const FlightPlanLeg& leg = FlightPlanLegAt(i);
-        if (IsMissedApproach(leg) || !HasAltitudeConstraint(leg)) continue;
-        const RestrictionType other = vnav.toc == 0 ? kAtOrBelow : kAtOrAbove;
+        if (IsMissedApproach(leg) || !HasAltitudeRestr(leg)) continue;
+        const RestrType other = vnav.toc == 0 ? kAtOrBelow : kAtOrAbove;
         if (leg.restr_type != kAt && leg.restr_type != other) continue;
         vnav.bod_pos = leg.restr_type == kAtOrAbove ? ProlongSegment(i) : i;
         break;
     }
     if (vnav.tod != 1 || vnav.bod_pos == before) return;
     const FlightPlanLeg& to = FlightPlanLegAt(plan.stpos);
-    if (HasAltitudeConstraint(to)) {
+    if (HasAltitudeRestr(to)) {
         vnav.last_tod_pos = plan.stpos;
         vnav.last_tod_elev = ConstraintAltitude(to, to.block_above);
     }
@@ -89,8 +83,8 @@ void SetCrossAtPoint() {
     const FlightPlanLeg& bottom = FlightPlanLegAt(vnav.bod_pos);
     const double lower_limit = std::min(bottom.block_above, bottom.block_below);
     if (vnav.toc == 0 && vnav.tod == 0) {
-        const bool levels_off = vnav.bod_pos <= vnav.toc_stpos && HasAltitudeConstraint(bottom) &&
-                                bottom.restr_type != kAtOrAbove;
+        const bool levels_off =
+            vnav.bod_pos <= vnav.toc_stpos && HasAltitudeRestr(bottom) && bottom.restr_type != kAtOrAbove;
         vnav.cross_at_lat = levels_off ? bottom.lat : vnav.toc_lat;
         vnav.cross_at_lon = levels_off ? bottom.lon : vnav.toc_lon;
         if (levels_off) vnav.cross_at_elev = ConstraintAltitude(bottom, lower_limit);
@@ -99,7 +93,7 @@ void SetCrossAtPoint() {
     vnav.cross_at_lat = bottom.lat;
     vnav.cross_at_lon = bottom.lon;
     if (vnav.tod == 0) return;
-    if (HasAltitudeConstraint(bottom))
+    if (HasAltitudeRestr(bottom))
         vnav.cross_at_elev = ConstraintAltitude(bottom, lower_limit);
     else
         vnav.cross_at_elev = bottom.alt != kNone ? bottom.alt : bottom.alt_restr;

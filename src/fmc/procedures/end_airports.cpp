@@ -6,6 +6,7 @@
 #include "navdata/airport_file.h"
 #include "navdata/procedure_files.h"
 #include "state/airports.h"
+#include "state/leg_words.h"
 #include "state/plan.h"
 
 namespace {
@@ -44,7 +45,7 @@ int SelectOriginRunway(std::string_view runway) {
     const RunwayData& chosen = airports.origin_airport.runways[place];
     plan.ends_mod.dep_runway = runway;
     plan.ends_mod.fms_dep_rwy_pos = place;
-    if (plan.fms_fpln_active >= kRouteActive) {
+    if (IsRouteActive()) {
         OpenModification();
         return 1;
     }
@@ -60,6 +61,6 @@ int SelectDestinationRunway(std::string_view runway) {
     if (place == 0) return 0;
     plan.procedures.arr_appr_rwy = runway;
     plan.procedures.fms_dest_rwy_pos = place;
-    if (plan.fms_fpln_active < kRouteActive) plan.procedures_kept = plan.procedures;
+    if (!IsRouteActive()) plan.procedures_kept = plan.procedures;
     return 1;
 }

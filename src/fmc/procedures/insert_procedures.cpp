@@ -7,10 +7,10 @@
 #include "base/text.h"
 #include "fmc/legs/active_leg.h"
 #include "fmc/legs/edit_legs.h"
+#include "fmc/legs/find_leg.h"
 #include "fmc/legs/holds.h"
 #include "fmc/legs/leg_list.h"
 #include "fmc/legs/leg_type.h"
-#include "fmc/legs/leg_words.h"
 #include "fmc/legs/route_rows.h"
 #include "fmc/legs/route_state.h"
 #include "fmc/procedures/procedure_legs.h"
@@ -18,6 +18,7 @@
 #include "navdata/leg_codes.h"
 #include "state/airports.h"
 #include "state/cfg.h"
+#include "state/leg_words.h"
 #include "state/plan.h"
 #include "state/procedure_lists.h"
 #include "state/sim.h"
@@ -43,8 +44,8 @@ bool TakeWindow(std::string_view token, Kind kind, FlightPlanLeg& leg) {
     leg.block_above = LeadingInt(token.substr(0, 5));
     leg.block_below = LeadingInt(token.substr(5, 5));
     leg.alt_restr = 0;
-    leg.restr_code = leg.restr_code >= 2 ? 3 : 1;
-    leg.restr_type = kind == Kind::kStar ? 3 : 0;
+    leg.restr_code |= kAltitudeRestr;
+    leg.restr_type = kind == Kind::kStar ? kBetween : kAt;
     return true;
 }
 
@@ -58,11 +59,11 @@ void TakeAltitude(std::string_view token, Kind kind, FlightPlanLeg& leg) {
     const int altitude = AltitudeOfToken(token);
     if (!Counts(altitude, kind)) return;
     leg.alt_restr = altitude;
-    leg.restr_code = leg.restr_code >= 2 ? 3 : 1;
+    leg.restr_code |= kAltitudeRestr;
     const std::string_view behind = token.substr(std::min(token.size(), kind == Kind::kApproach ? 1UL : 4UL));
     const bool above = behind.find('+') != std::string_view::npos;
     const bool below = behind.find('-') != std::string_view::npos;
-    leg.restr_type = above ? 1 : below ? 2 : 0;
+    leg.restr_type = above ? kAtOrAbove : below ? kAtOrBelow : kAt;
 }
 
 FlightPlanLeg LegOf(const ProcedureLeg& from) {
@@ -93,7 +94,7 @@ std::string RunwayText(const std::string& runway) {
 FlightPlanLeg ArrivalLeg(int record) {
     const ProcedureLeg& from = procedure_lists.ArrivalLegs[record];
     FlightPlanLeg leg = LegOf(from);
-    leg.via_type = "STAR";
+    leg.via_type = kStarViaType;
     leg.via = plan.procedures.arr_star;
     leg.rwy = RunwayText(plan.procedures.arr_appr_rwy);
     TakeAltitude(from.alt_token, Kind::kStar, leg);
@@ -101,8 +102,8 @@ FlightPlanLeg ArrivalLeg(int record) {
 }
 
 bool IsSameFix(const FlightPlanLeg& a, const FlightPlanLeg& b) {
-    return a.ident == b.ident && IsPlace(a) && a.vector.empty() && b.vector.empty() && b.via != "HOLD" &&
-           a.via != "HOLD";
+    return a.ident == b.ident && IsPlace(a) && a.vector.empty() && b.vector.empty() && !IsHoldLeg(b) &&
+           !IsHoldLeg(a);
 }
 
 // --- the ends
@@ -111,12 +112,12 @@ void PutOrigin() {
     FlightPlanLeg& first = plan.FlightPlanMod[0];
     const AirportData& origin = airports.origin_airport;
     if (origin.ident.empty()) return;
-    if (first.type != "APT" || first.ident != origin.ident) {
+    if (!IsAirport(first) || first.ident != origin.ident) {
         first = {};
         first.alt = origin.elevation_ft;
     }
     first.ident = origin.ident;
-    first.type = "APT";
+    first.type = kAirportLegType;
     first.lat = origin.lat;
     first.lon = origin.lon;
     for (int i = 1; i <= origin.runway_cnt; ++i) {
@@ -130,7 +131,7 @@ FlightPlanLeg DestinationLeg() {
     FlightPlanLeg leg;
     const AirportData& dest = airports.dest_airport;
     leg.ident = dest.ident;
-    leg.type = "APT";
+    leg.type = kAirportLegType;
     leg.lat = dest.lat;
     leg.lon = dest.lon;
     leg.alt = dest.elevation_ft;
@@ -140,7 +141,7 @@ FlightPlanLeg DestinationLeg() {
 void EnsureDestination() {
     EnsureEnds();
     FlightPlanLeg& last = plan.FlightPlanMod[plan.mod_cnt];
-    if (last.type == "APT") return;
+    if (IsAirport(last)) return;
     if (last.ident.empty())
         last = DestinationLeg();
     else
@@ -150,7 +151,8 @@ void EnsureDestination() {
 // --- taking a procedure out
 
 bool IsOfApproach(const FlightPlanLeg& leg) {
-    return leg.appr_wpt_type.starts_with("IAF") || leg.appr_wpt_type == "FAF" || leg.via_type == "APPR";
+    return leg.appr_wpt_type.starts_with(kInitialFix) || leg.appr_wpt_type == kFinalFix ||
+           leg.via_type == kApproachViaType;
 }
 
 // The shared leg of two procedures has what the departure says of it; this one knows what the arrival says.
@@ -171,7 +173,7 @@ void RemoveProcedure(std::string_view via_type, std::string_view other) {
                       (IsDisco(plan.FlightPlanMod[i - 1]) && plan.FlightPlanMod[i - 2].via_type == via_type));
         } else if (within && IsDisco(leg)) {
             RemoveModLegs(i, 1);
-        } else if (leg.via_type == "SIDSTAR") {
+        } else if (leg.via_type == kSidStarViaType) {
             if (other == "STAR" && BeginsArrival(leg)) {
                 const int hold = leg.hold_pos;
                 leg = ArrivalLeg(1);
@@ -221,7 +223,7 @@ void ShareWithApproach(int last) {
     if (last < 1 || first > plan.mod_cnt || !IsDisco(legs[last + 1])) return;
     if (!IsOfApproach(legs[first]) || !IsSameFix(legs[last], legs[first])) return;
     plan.procedures.shared_leg = legs[last];
-    if (legs[first].via == "DIRECT") legs[first].via = ApproachVia();
+    if (legs[first].via == kDirectVia) legs[first].via = ApproachVia();
     RemoveModLegs(last, 2);
 }
 
@@ -239,7 +241,7 @@ void RemoveApproachLegs() {
 int RemoveApproach() {
     RemoveApproachLegs();
     int end = plan.mod_cnt;
-    while (end > 0 && (IsDisco(plan.FlightPlanMod[end]) || plan.FlightPlanMod[end].type == "APT")) --end;
+    while (end > 0 && (IsDisco(plan.FlightPlanMod[end]) || IsAirport(plan.FlightPlanMod[end]))) --end;
     RemoveModLegs(end + 1, plan.mod_cnt - end);
     return end;
 }
@@ -248,7 +250,7 @@ int RemoveApproach() {
 
 FlightPlanLeg FlownLeg() {
     const int active = PendingActiveLeg();
-    if (plan.fms_fpln_active < kRouteActive || active < 1 || active > plan.mod_cnt) return {};
+    if (!IsRouteActive() || active < 1 || active > plan.mod_cnt) return {};
     return plan.FlightPlanMod[active];
 }
 
@@ -277,7 +279,7 @@ bool LeadsTo(const ActiveLegRecord& leg, const FlightPlanLeg& fix) {
 
 // A direct-to ends with its fix.
 void RefreshActiveLeg() {
-    if (plan.fms_fpln_active < kRouteActive) return;
+    if (!IsRouteActive()) return;
     const int to = FirstPlace(PendingActiveLeg());
     if (to < 1 || to > plan.mod_cnt) return;
     if (to != PendingActiveLeg()) SetPendingActiveLeg(to);
@@ -323,7 +325,7 @@ void SetMissedAltitude(FlightPlanLeg& leg, const FlightPlanLeg& leg_before, int 
     if (record < procedure_lists.approach_leg_cnt && after > altitude) altitude += (after - altitude) / 2;
     if (altitude <= 0) return;
     leg.alt_restr = leg.alt = altitude;
-    leg.restr_code = leg.restr_code > 1 ? 3 : 1;
+    leg.restr_code |= kAltitudeRestr;
 }
 
 bool RepeatsLegBefore(int record) {
@@ -336,15 +338,16 @@ bool RepeatsLegBefore(int record) {
 FlightPlanLeg ApproachLeg(int record, const FlightPlanLeg& leg_before, bool missed) {
     const ProcedureLeg& from = procedure_lists.ApproachLegs[record];
     FlightPlanLeg leg = LegOf(from);
-    leg.via_type = "APPR";
-    leg.via = missed ? kMissedApproach : IsDisco(leg_before) ? "DIRECT" : procedure_lists.approach_via;
+    leg.via_type = kApproachViaType;
+    leg.via = missed ? kMissedVia : IsDisco(leg_before) ? "DIRECT" : procedure_lists.approach_via;
     leg.rwy = RunwayText(plan.procedures.arr_appr_rwy);
     if (from.applies_to != "---") leg.appr_wpt_type = from.applies_to;
     leg.ias_restr = ApproachSpeed(leg.appr_wpt_type);
-    leg.restr_code = 2;
-    if (missed || leg.appr_wpt_type == "MAP") leg.flyover = 1;
+    leg.restr_code = kSpeedRestr;
+    if (missed || IsMissedPoint(leg)) leg.flyover = 1;
     TakeAltitude(from.alt_token, Kind::kApproach, leg);
-    if (missed && leg.alt_restr <= 0 && leg.restr_code == 2) SetMissedAltitude(leg, leg_before, record);
+    if (missed && leg.alt_restr <= 0 && leg.restr_code == kSpeedRestr)
+        SetMissedAltitude(leg, leg_before, record);
     return leg;
 }
 
@@ -369,7 +372,7 @@ void WriteApproachLegs(int end) {
         RemoveHold(end);
         position = end;
     } else {
-        OpenModLeg(position++).ident = "DISCO";
+        OpenModLeg(position++).ident = kDiscoIdent;
     }
     bool missed = false;
     for (int record = 1; record <= lists.approach_leg_cnt; ++record) {
@@ -377,8 +380,8 @@ void WriteApproachLegs(int end) {
         const FlightPlanLeg before = plan.FlightPlanMod[position - 1];
         FlightPlanLeg leg = ApproachLeg(record, before, missed);
         const bool is_hold = missed && record == lists.approach_leg_cnt && RepeatsLegBefore(record);
-        if (is_hold) leg.via = "HOLD";
-        const bool is_map = leg.appr_wpt_type == "MAP";
+        if (is_hold) leg.via = kHoldVia;
+        const bool is_map = IsMissedPoint(leg);
         FlightPlanLeg& slot = reuse && record == 1 ? plan.FlightPlanMod[position] : OpenModLeg(position);
         slot = std::move(leg);
         if (is_hold) MarkHold(position, false, std::max(0, PlaceBefore(plan.FlightPlanMod, position - 1)));
@@ -401,7 +404,7 @@ void InsertDeparture() {
     for (int i = 1; i <= lists.departure_leg_cnt; ++i) {
         const ProcedureLeg& from = lists.DepartureLegs[i];
         FlightPlanLeg leg = LegOf(from);
-        leg.via_type = "SID";
+        leg.via_type = kSidViaType;
         leg.via = plan.procedures.dep_sid;
         leg.rwy = RunwayText(plan.ends_mod.dep_runway);
         TakeAltitude(from.alt_token, Kind::kSid, leg);
@@ -411,9 +414,9 @@ void InsertDeparture() {
     const int last = position - 1;
     if (last >= 1 && position < plan.mod_cnt &&
         IsSameFix(plan.FlightPlanMod[last], plan.FlightPlanMod[position])) {
-        const bool of_star = plan.FlightPlanMod[position].via_type == "STAR";
+        const bool of_star = plan.FlightPlanMod[position].via_type == kStarViaType;
         RemoveModLegs(position, 1);
-        if (of_star) plan.FlightPlanMod[last].via_type = "SIDSTAR";
+        if (of_star) plan.FlightPlanMod[last].via_type = kSidStarViaType;
     }
     if (from_start)
         SetPendingActiveLeg(FirstPlace(1));
@@ -432,15 +435,14 @@ void InsertArrival() {
     EnsureDestination();
     const int approach = FirstApproachLeg();
     int point = approach > 0 ? approach - 1 : plan.mod_cnt;
-    while (point > 0 && (plan.FlightPlanMod[point].type == "APT" || IsDisco(plan.FlightPlanMod[point])))
-        --point;
+    while (point > 0 && (IsAirport(plan.FlightPlanMod[point]) || IsDisco(plan.FlightPlanMod[point]))) --point;
     const ProcedureLists& lists = procedure_lists;
     int position = point + 1;
     for (int i = 1; i <= lists.arrival_leg_cnt; ++i) {
         FlightPlanLeg leg = ArrivalLeg(i);
         FlightPlanLeg& before = plan.FlightPlanMod[position - 1];
         if (position > 1 && IsSameFix(before, leg)) {
-            if (before.via_type == "SID") before.via_type = "SIDSTAR";
+            if (before.via_type == kSidViaType) before.via_type = kSidStarViaType;
             continue;
         }
         OpenModLeg(position++) = std::move(leg);
@@ -448,7 +450,7 @@ void InsertArrival() {
     ShareWithApproach(position - 1);
     if (from_start)
         SetPendingActiveLeg(FirstPlace(1));
-    else if (flown.type != "APT" || had_arrival)
+    else if (!IsAirport(flown) || had_arrival)
         StayOn(flown);
     Finish();
 }
@@ -456,12 +458,12 @@ void InsertArrival() {
 void InsertApproach() {
     EnsureEnds();
     const FlightPlanLeg flown = FlownLeg();
-    const bool past_route = !flown.ident.empty() && (flown.type == "APT" || IsOfApproach(flown));
+    const bool past_route = !flown.ident.empty() && (IsAirport(flown) || IsOfApproach(flown));
     const int end = RemoveApproach();
     if (procedure_lists.approach_leg_cnt > 0) WriteApproachLegs(end);
     FlightPlanLeg& dest = OpenModLeg(plan.mod_cnt + 1);
     dest = DestinationOnRunway();
-    const bool to_destination = flown.type == "APT";
+    const bool to_destination = IsAirport(flown);
     if ((to_destination || !StayOn(flown)) && past_route) {
         const int to = FirstPlace(end + 1);
         if (to_destination && procedure_lists.approach_leg_cnt > 0)

@@ -8,6 +8,7 @@
 #include "fmc/procedures/procedure_legs.h"
 #include "navdata/procedure_files.h"
 #include "state/airports.h"
+#include "state/leg_words.h"
 #include "state/plan.h"
 #include "state/procedure_lists.h"
 #include "state/side.h"
@@ -89,7 +90,7 @@ std::string At(const Names& names, int index) {
 
 // Before EXEC there is nothing that ERASE could bring back.
 void KeepBelowActive() {
-    if (plan.fms_fpln_active < kRouteActive) plan.procedures_kept = plan.procedures;
+    if (!IsRouteActive()) plan.procedures_kept = plan.procedures;
 }
 
 void WriteDeparture() {

@@ -11,6 +11,7 @@
 #include "navdata/airport_file.h"
 #include "navdata/procedure_files.h"
 #include "state/airports.h"
+#include "state/leg_words.h"
 #include "state/lnav.h"
 #include "state/perf.h"
 #include "state/plan.h"
@@ -24,7 +25,7 @@ FlightPlanLeg AirportLeg(const AirportData& airport) {
     leg.ident = airport.ident;
     leg.lat = airport.lat;
     leg.lon = airport.lon;
-    leg.type = "APT";
+    leg.type = kAirportLegType;
     leg.alt = airport.elevation_ft;
     return leg;
 }
@@ -67,14 +68,14 @@ int EnterOrigin(std::string_view ident) {
 int EnterDestination(std::string_view ident) {
     if (LoadDestinationAirport(ident) == 0) return 0;
     EnsureEnds();
-    if (plan.fms_fpln_active != kRouteModified) RemoveArrivalAndApproach();
-    if (plan.fms_fpln_active == kRouteActive) AdvanceRouteState();
+    if (!IsRouteModified()) RemoveArrivalAndApproach();
+    if (IsRouteSettled()) AdvanceRouteState();
     RemoveHold(plan.mod_cnt);
     FlightPlanLeg& last = plan.FlightPlanMod[plan.mod_cnt];
     last = AirportLeg(airports.dest_airport);
-    last.mod_flag = plan.fms_fpln_active == kRouteModified;
+    last.mod_flag = IsRouteModified();
     plan.ends_mod.dest = airports.dest_airport.ident;
-    if (plan.fms_fpln_active < kRouteActive) {
+    if (!IsRouteActive()) {
         plan.ends.dest = plan.ends_mod.dest;
         plan.procedures_kept =
             plan.procedures = {.dep_sid = plan.procedures.dep_sid, .dep_trans = plan.procedures.dep_trans};

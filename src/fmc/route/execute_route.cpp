@@ -7,8 +7,8 @@
 
 #include "base/angles.h"
 #include "fmc/legs/edit_legs.h"
+#include "fmc/legs/find_leg.h"
 #include "fmc/legs/holds.h"
-#include "fmc/legs/leg_words.h"
 #include "fmc/legs/path.h"
 #include "fmc/legs/route_rows.h"
 #include "fmc/performance/default_speeds.h"
@@ -20,6 +20,7 @@
 #include "navdata/magnetic_model.h"
 #include "state/airports.h"
 #include "state/cfg.h"
+#include "state/leg_words.h"
 #include "state/lnav.h"
 #include "state/perf.h"
 #include "state/plan.h"
@@ -56,7 +57,7 @@ void ApplyPendingEntries() {
 void BeginNewRoute() {
     if (plan.new_route == 0) return;
     plan.new_route = 0;
-    if (plan.fms_fpln_active < kRouteActive) perf.cruise_alt = 0;
+    if (!IsRouteActive()) perf.cruise_alt = 0;
     plan.stpos = 1;
     plan.pending_stpos = 0;
     plan.ActiveLeg = plan.ActiveLegMod = {};
@@ -93,7 +94,7 @@ void TakeOverLegs() {
 void KeepFinalApproach() {
     for (int i = 1; i <= plan.fp_cnt; ++i) {
         const FlightPlanLeg& map = plan.FlightPlan[i];
-        if (map.appr_wpt_type != "MAP") continue;
+        if (!IsMissedPoint(map)) continue;
         const FlightPlanLeg& before = plan.FlightPlan[std::max(PlaceBefore(plan.FlightPlan, i), 0)];
         const double course = GreatCircle(before.lat, before.lon, map.lat, map.lon).bearing;
         plan.final_appr_crs = FoldBearing(course - MagVarAt(map.lat, map.lon));
@@ -111,7 +112,7 @@ void ChooseActiveLeg() {
     plan.stpos = std::clamp(plan.stpos, 1, plan.fp_cnt);
     if (!IsDisco(plan.FlightPlan[plan.stpos]) || plan.stpos == plan.fp_cnt) return;
     ++plan.stpos;
-    if (plan.fms_fpln_active == kRouteActive) plan.mod_stpos = plan.stpos;
+    if (IsRouteSettled()) plan.mod_stpos = plan.stpos;
     perf.cruise_alt = std::max(perf.cruise_alt, plan.FlightPlan[plan.stpos].step_alt);
 }
 
@@ -167,7 +168,7 @@ void AimActiveLeg() {
 }
 
 void MoveToRunway(FlightPlanLeg& leg, const AirportData& airport, const std::string& runway) {
-    if (leg.type != "APT" || leg.ident != airport.ident) return;
+    if (!IsAirport(leg) || leg.ident != airport.ident) return;
     for (int i = 1; i <= airport.runway_cnt; ++i) {
         const RunwayData& row = std::as_const(airport.runways)[i];
         if (row.ident != runway) continue;
@@ -191,9 +192,9 @@ void FillDefaultSpeeds() {
 
 void SettleDestination() {
     const FlightPlanLeg& last = plan.FlightPlan[plan.fp_cnt];
-    if (last.type != "APT") return;
+    if (!IsAirport(last)) return;
     const bool changed = airports.dest_airport.ident != last.ident;
-    if (changed || plan.fms_fpln_active < kRouteActive) LoadDestinationAirport(last.ident);
+    if (changed || !IsRouteActive()) LoadDestinationAirport(last.ident);
     plan.ends.dest = plan.ends_mod.dest = last.ident;
     if (!changed) return;
     plan.procedures = {.dep_sid = plan.procedures.dep_sid, .dep_trans = plan.procedures.dep_trans};
@@ -202,10 +203,10 @@ void SettleDestination() {
 
 void SettleOrigin() {
     const FlightPlanLeg& first = plan.FlightPlan[0];
-    if (first.type != "APT") return;
+    if (!IsAirport(first)) return;
     const bool changed = airports.origin_airport.ident != first.ident;
-    if (changed || plan.fms_fpln_active < kRouteActive) LoadOriginAirport(first.ident);
-    if (plan.fms_fpln_active < kRouteActive && sim.on_ground == 1) perf.fplog_mode = -1;
+    if (changed || !IsRouteActive()) LoadOriginAirport(first.ident);
+    if (!IsRouteActive() && sim.on_ground == 1) perf.fplog_mode = -1;
     FillDefaultSpeeds();
     if (changed) {
         plan.ends = {.origin = first.ident, .dest = plan.ends.dest, .company_route = plan.ends.company_route};

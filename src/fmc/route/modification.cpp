@@ -6,6 +6,7 @@
 #include "fmc/procedures/procedure_legs.h"
 #include "state/airports.h"
 #include "state/cdu.h"
+#include "state/leg_words.h"
 #include "state/lnav.h"
 #include "state/perf.h"
 #include "state/plan.h"
@@ -28,7 +29,7 @@ void ClearPendingEntries() {
 
 void BringBackEnds() {
     // A stored route that was loaded has its origin shown at once.
-    if (plan.FlightPlan[0].type == "APT") plan.ends.origin = plan.FlightPlan[0].ident;
+    if (IsAirport(plan.FlightPlan[0])) plan.ends.origin = plan.FlightPlan[0].ident;
     plan.ends_mod = plan.ends;
     plan.procedures = plan.procedures_kept;
     if (airports.origin_airport.ident != plan.ends.origin) LoadOriginAirport(plan.ends.origin);
@@ -47,7 +48,7 @@ void RefreshLegsForModification() {
     }
     plan.mod_cnt = plan.fp_cnt;
     plan.mod_stpos = plan.stpos;
-    plan.pending_stpos = plan.fms_fpln_active == kRouteModified ? plan.stpos : 0;
+    plan.pending_stpos = IsRouteModified() ? plan.stpos : 0;
     plan.mod_bod_pos = vnav.bod_pos;
     plan.ActiveLegMod = plan.ActiveLeg;
     plan.direct_to_pending = 0;
@@ -55,7 +56,7 @@ void RefreshLegsForModification() {
 }
 
 void EraseModification() {
-    if (plan.fms_fpln_active < kRouteActive) return;
+    if (!IsRouteActive()) return;
     BringBackEnds();
     ClearPendingEntries();
     plan.new_route = 0;

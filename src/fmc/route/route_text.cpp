@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "base/text_fields.h"
+#include "fmc/legs/find_leg.h"
 #include "fmc/legs/insert_fix.h"
-#include "fmc/legs/leg_words.h"
 #include "fmc/legs/route_airway.h"
 #include "fmc/legs/route_rows.h"
 #include "fmc/legs/route_state.h"
@@ -20,6 +20,7 @@
 #include "navdata/geodesy.h"
 #include "navdata/parse_entry.h"
 #include "state/airports.h"
+#include "state/leg_words.h"
 #include "state/lnav.h"
 #include "state/perf.h"
 #include "state/plan.h"

@@ -1,26 +1,8 @@
-#include "fmc/legs/leg_words.h"
+#include "fmc/legs/find_leg.h"
 
 #include <algorithm>
 
-bool IsDisco(const FlightPlanLeg& leg) {
-    return leg.ident == "DISCO";
-}
-
-bool IsThen(const FlightPlanLeg& leg) {
-    return leg.ident == "THEN";
-}
-
-bool IsVectors(const FlightPlanLeg& leg) {
-    return leg.ident == "VECTORS";
-}
-
-bool IsMissedApproach(const FlightPlanLeg& leg) {
-    return leg.via == kMissedApproach;
-}
-
-bool IsPlace(const FlightPlanLeg& leg) {
-    return !leg.ident.empty() && !IsDisco(leg) && !IsThen(leg);
-}
+#include "state/leg_words.h"
 
 int PlaceBefore(const GrowingList<FlightPlanLeg>& legs, int index) {
     for (int i = index - 1; i >= 0; --i)
