@@ -174,3 +174,16 @@ void UpdateFlapSpeedRow() {
     weights.flap_speed_row = static_cast<int>(nearest - weights.flap_speeds.begin());
     weights.flap_speed_ref_weight = weight;
 }
+
+void IdentifyLateAircraft() {
+    constexpr int kMaxAttempts = 10;
+    if (identity.aircraft_identified == 1 || identity.identify_attempts >= kMaxAttempts) return;
+    ++identity.identify_attempts;
+    ReadAircraftTitle();
+    ScanAircraftCfg();
+}
+
+void ChooseTakeoffFlaps() {
+    if (identity.aircraft_model == "900-9" || identity.aircraft_model == "900-10")
+        perf.takeoff_flap_list = ",5,10,15,17,18,20,";
+}

@@ -21,3 +21,9 @@ void UpdateWeights();
 
 /// Chooses the row of flap speeds for the present weight. It moves with a loss of at least 1000 lb only.
 void UpdateFlapSpeedRow();
+
+/// Tries again to identify an aircraft that wasn't at its connection, at most ten times in a module life.
+void IdentifyLateAircraft();
+
+/// Chooses the takeoff flap settings that the variant has.
+void ChooseTakeoffFlaps();

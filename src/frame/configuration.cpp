@@ -9,6 +9,7 @@
 
 #include "base/text.h"
 #include "frame/fuel_loader.h"
+#include "frame/tokens.h"
 #include "paint/fonts.h"
 #include "platform/files.h"
 #include "platform/host.h"
@@ -240,4 +241,8 @@ void LoadStoredFuel() {
         WriteConfig();
     }
     if (left_lb > 0 || right_lb > 0 || centre_lb > 0) LoadFuel(left_lb, right_lb, centre_lb);
+}
+
+void LoadFuelAtStart() {
+    if (cfg.LoadFuelonAircraftLoad == 1 && ReadToken(kTokenOnGround) != 0) LoadStoredFuel();
 }

@@ -12,3 +12,6 @@ bool WriteConfig();
 /// Reads tz900_fuel.cfg of the application data folder into the host's tanks. A missing file or an unknown
 /// fuel weight leaves the tanks as they are. A unit in the file that differs from WeightUnit wins over it.
 void LoadStoredFuel();
+
+/// The same when the aircraft loads on the ground and the setting LoadFuelonAircraftLoad wants it.
+void LoadFuelAtStart();

@@ -146,8 +146,7 @@ void ReadRadios() {
     const int extension = WholeToken(kTokenAdf1FreqExtended);
     sim.adf1_freq =
         DecodeBcd(ReadToken(kTokenAdf1Freq)) + (extension >> 8 & 0xf) * 1000 + (extension & 0xf) * 0.1;
-    sim.nav1_freq = DecodeBcd(ReadToken(kTokenNav1Freq)) + 10000;
-    sim.nav2_freq = DecodeBcd(ReadToken(kTokenNav2Freq)) + 10000;
+    ReadNavFrequencies();
     sim.nav1_radial = RadialOf(kTokenNav1Radial);
     sim.nav2_radial = RadialOf(kTokenNav2Radial);
     sim.transponder_code = DecodeBcd(ReadToken(kTokenTransponder));
@@ -268,4 +267,13 @@ void ReadTailValues() {
 void ReadSimRate() {
     const double raw = ReadToken(kTokenSimRate);
     sim.sim_rate = cfg.simver >= 10 ? raw / 256 : raw;
+}
+
+void ReadNavFrequencies() {
+    sim.nav1_freq = DecodeBcd(ReadToken(kTokenNav1Freq)) + 10000;
+    sim.nav2_freq = DecodeBcd(ReadToken(kTokenNav2Freq)) + 10000;
+}
+
+void ReadFreeAddressSpace() {
+    if (cfg.VASdisplay == 1) sim.free_address_gb = Host().free_address_space();
 }

@@ -22,3 +22,9 @@ void ReadTailValues();
 
 /// The simulation rate; generations from 10 on give it 256 times.
 void ReadSimRate();
+
+/// The frequencies of the two navigation radios.
+void ReadNavFrequencies();
+
+/// With the setting VASdisplay, the address space that the process has left.
+void ReadFreeAddressSpace();

@@ -1,7 +1,9 @@
 #include "guidance/autoflight.h"
 
 #include "base/numbers.h"
+#include "frame/key_events.h"
 #include "frame/named_variables.h"
+#include "frame/tokens.h"
 #include "guidance/lnav.h"
 #include "platform/host.h"
 #include "state/autoflight.h"
@@ -10,6 +12,7 @@
 #include "state/leg_words.h"
 #include "state/lnav.h"
 #include "state/plan.h"
+#include "state/sim.h"
 #include "state/vnav.h"
 
 namespace {
@@ -152,4 +155,10 @@ void StepAutoflightTimers() {
     for (int* timer : {&autoflight.ap_status_timer, &autoflight.fma_roll_timer, &autoflight.fma_pitch_timer,
                        &autoflight.fma_at_timer})
         if (*timer > 0) --*timer;
+}
+
+void FollowAutothrottleArm() {
+    const int armed = ReadToken(kTokenAutothrottleArm) != 0 ? 1 : 0;
+    if (cfg.RealismMode == 1 && sim.host_at_armed == 1 && armed == 0) SendKeyEvent(kKeyAutothrottleDisarm, 0);
+    sim.host_at_armed = armed;
 }

@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "fmc/files/route_files.h"
+#include "fmc/performance/winds.h"
 #include "frame/aircraft.h"
 #include "frame/configuration.h"
 #include "frame/key_hook.h"
@@ -25,6 +26,7 @@
 #include "state/sound.h"
 #include "state/state_groups.h"
 #include "state/time_base.h"
+#include "surveillance/traffic.h"
 
 namespace {
 
@@ -58,8 +60,7 @@ void Teardown() {
 }
 
 void PreInitialize() {
-    module_life.tcas_targets_variable = Host().bind_shared_pointer("tcas_targets");
-    module_life.tcas_count_variable = Host().bind_shared_pointer("tcas_target_cnt");
+    BindTraffic();
     EnsureRegistered();
     if (cfg.config_read == 0) {
         ReadConfig();
@@ -90,9 +91,7 @@ void ModuleInit() {
     Host().set_timer_period(kTimerPeriodMs);
     time_base.startup_msg_ticks = 0;
     sound.dsound_ok = Host().open_sound_device();
-    module_life.ActiveSkyFolder = AppDataFolder() + "\\Hifi\\AS_P3Dv4\\Weather";
-    const std::string weather_module = RootFolder() + "\\as_srv\\as_connect_64.dll";
-    module_life.activesky_loaded = Host().is_library_loaded(weather_module.c_str());
+    FindWeatherProgram();
     OpenSimClient();
     ReserveContainers();
 }

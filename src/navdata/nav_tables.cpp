@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "base/text_fields.h"
+#include "frame/crew_messages.h"
 #include "navdata/airways.h"
 #include "navdata/ident_index.h"
 #include "navdata/navdata_file.h"
@@ -206,4 +207,9 @@ void CheckNavdataDates() {
         nav.navdata_out_of_date = !valid && cfg.CheckNavdataStatus == 1;
         return;
     }
+}
+
+void TellNavdataOutOfDate() {
+    if (nav.navdata_out_of_date == 1)
+        PostCduMessage("NAV DATA OUT OF DATE", kAdvisory, kHelpNavdataDate, kBothSides);
 }

@@ -10,3 +10,6 @@ void LoadNavTables();
 /// sets `nav.navdata_out_of_date` when the date of the machine's clock lies outside and
 /// `cfg.CheckNavdataStatus` is 1. Without such a line the texts stay empty and nothing is set.
 void CheckNavdataDates();
+
+/// Tells the crew when the navigation data are out of date.
+void TellNavdataOutOfDate();

@@ -60,6 +60,7 @@ constexpr Variable kRows[] = {
     {"chart_dest_airport", &airports.chart_dest_airport},
     {"tablet_to_airport", &airports.tablet_to_airport},
     {"tablet_ldg_airport", &airports.tablet_ldg_airport},
+    {"ai_runways", &airports.ai_runways},
 };
 }  // namespace
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <span>
 #include <string>
 
@@ -45,6 +46,9 @@ struct AirportSlots {
     AirportData tablet_to_airport, tablet_ldg_airport;
     std::string elevation_text;  // of the last load, for the performance pages
     int loading = 0;             // a load is running; a further one is refused
+    // runways of the air traffic at the nearer end of the route: two for takeoff, two for landing; empty =
+    // none
+    std::array<std::string, 4> ai_runways;
 };
 
 extern AirportSlots airports;

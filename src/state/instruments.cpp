@@ -10,7 +10,7 @@ constexpr Variable kRows[] = {
     {"minimums_baro", &instruments.minimums_baro},     {"minimums_value", &instruments.minimums_value},
     {"minimums_mode", &instruments.minimums_mode},     {"hud_declutter", &instruments.hud_declutter},
     {"stby_brightness", &instruments.stby_brightness}, {"stby_app_mode", &instruments.stby_app_mode},
-    {"stby_baro_in", &instruments.stby_baro_in},
+    {"stby_baro_in", &instruments.stby_baro_in},       {"dh_set", &instruments.dh_set},
 };
 }  // namespace
 

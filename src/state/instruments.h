@@ -18,6 +18,7 @@ struct InstrumentState {
     int minimums_baro = 0;       // 1 by the barometric altitude, 0 by the radio altitude
     int minimums_value = 200;    // ft
     int minimums_mode = 0;       // 0 shown, 1 alerting, 2 hidden
+    int dh_set = 0;              // the host's decision height has read 200
     int hud_declutter = 0;       // no tapes and no compass rose
     double stby_brightness = 1;  // 0 to 1
     int stby_app_mode = 0;       // 0, or 2 = approach

@@ -20,6 +20,7 @@
 #include "state/nav_tables.h"
 #include "state/nd.h"
 #include "state/nearest.h"
+#include "state/pause_points.h"
 #include "state/perf.h"
 #include "state/placement.h"
 #include "state/plan.h"
@@ -31,6 +32,7 @@
 #include "state/sim.h"
 #include "state/sound.h"
 #include "state/time_base.h"
+#include "state/traffic.h"
 #include "state/vnav.h"
 #include "state/weights.h"
 #include "state/winds.h"
@@ -57,6 +59,7 @@ constexpr StateGroup kGroups[] = {
     {"sim", Reset<&sim>, &kSimVariables},
     {"nav_tables", Reset<&nav_tables>, &kNavTableVariables},
     {"nav", Reset<&nav>, &kNavVariables},
+    {"traffic", Reset<&traffic>, &kTrafficVariables},
     {"nearest", Reset<&nearest>, &kNearestVariables},
     {"airports", Reset<&airports>, &kAirportVariables},
     {"plan", Reset<&plan>, &kPlanVariables},
@@ -67,6 +70,7 @@ constexpr StateGroup kGroups[] = {
     {"flight_log", Reset<&flight_log>, &kFlightLogVariables},
     {"vnav", Reset<&vnav>, &kVnavVariables},
     {"lnav", Reset<&lnav>, &kLnavVariables},
+    {"pause_points", Reset<&pause_points>, &kPausePointVariables},
     {"autoflight", Reset<&autoflight>, &kAutoflightVariables},
     {"sound", Reset<&sound>, &kSoundVariables},
     {"cdu", Reset<&cdu>, &kCduVariables},

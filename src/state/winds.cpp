@@ -22,6 +22,8 @@ constexpr Variable kRows[] = {
     {"wind_uplink_timer", &winds.wind_uplink_timer},
     {"wind_uplink_pending", &winds.wind_uplink_pending},
     {"wind_uplink_side", &winds.wind_uplink_side},
+    {"activesky_loaded", &winds.activesky_loaded},
+    {"ActiveSkyFolder", &winds.ActiveSkyFolder},
 };
 }  // namespace
 

@@ -24,6 +24,8 @@ struct WindsState {
     int wind_uplink_timer = 0;    // s until what was requested has come; 0 = nothing is under way
     int wind_uplink_pending = 0;  // 1 = it waits for LOAD
     int wind_uplink_side = 1;     // who asked
+    int activesky_loaded = 0;     // the weather program runs beside the simulator
+    std::string ActiveSkyFolder;  // of its snapshots
 };
 
 extern WindsState winds;

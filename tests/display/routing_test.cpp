@@ -5,7 +5,9 @@
 #include <set>
 #include <vector>
 
+#include "state/cockpit.h"
 #include "state/displays.h"
+#include "state/electrical.h"
 #include "state/side.h"
 #include "state/state_groups.h"
 #include "state/time_base.h"
@@ -191,7 +193,9 @@ TEST(Routing, PowerBringsInboardFormatsBack) {
     for (const auto& row : kCases) {
         displays.du_capt_inb_mode = row.capt;
         displays.du_fo_inb_mode = row.fo;
-        RepairInboardModes(row.selector);
+        electrical.power_level = 250;
+        cockpit.TZ_MAIN_PFD_MFD_L_Switch = row.selector;
+        RepairInboardModes();
         EXPECT_EQ(displays.du_capt_inb_mode, row.capt_becomes) << row.capt << ", " << row.selector;
         EXPECT_EQ(displays.du_fo_inb_mode, row.fo_becomes) << row.fo;
     }

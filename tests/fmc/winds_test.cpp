@@ -65,7 +65,7 @@ TEST(Winds, TheForecastOfTheDescentStandsBeforeTheLegs) {
 class WeatherFiles : public testing::Test {
   protected:
     WeatherFiles() {
-        module_life.ActiveSkyFolder = "\\Weather";
+        winds.ActiveSkyFolder = "\\Weather";
         plan.mod_cnt = 3;
         for (int i = 0; i <= plan.mod_cnt; ++i) {
             plan.FlightPlanMod[i].ident = "LEG" + std::to_string(i);
@@ -153,11 +153,11 @@ TEST_F(WeatherFiles, TheForecastAndTheTemperatureOfTheDestination) {
 
 TEST_F(WeatherFiles, MissingOrEmptyFiles) {
     ASSERT_TRUE(RequestRouteWinds());
-    module_life.ActiveSkyFolder = "\\Elsewhere";
+    winds.ActiveSkyFolder = "\\Elsewhere";
     EXPECT_FALSE(RequestRouteWinds());
     EXPECT_FALSE(RequestDescentWinds());
     EXPECT_EQ(winds.wx_station_cnt, 3);
-    module_life.ActiveSkyFolder = "\\Weather";
+    winds.ActiveSkyFolder = "\\Weather";
     plan.mod_cnt = 0;  // no leg to fly
     EXPECT_TRUE(RequestRouteWinds());
     EXPECT_EQ(winds.wx_station_cnt, 3);

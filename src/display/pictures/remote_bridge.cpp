@@ -5,6 +5,8 @@
 #include <iterator>
 
 #include "platform/shared_objects.h"
+#include "state/cfg.h"
+#include "state/identity.h"
 #include "state/remote.h"
 
 namespace {
@@ -67,6 +69,10 @@ void OpenRemoteBridge(bool high_resolution) {
         OutputOf(row).changed.Open(row.output_event);
     }
     remote.remote_ready = all_memory ? 1 : 0;
+}
+
+void OpenConfiguredBridge() {
+    if (cfg.RemoteCdu == 1) OpenRemoteBridge(identity.panel_hires == 1 && cfg.remotecduhires == 1);
 }
 
 void MarkRemoteImages(int phase) {

@@ -32,6 +32,9 @@ static_assert(sizeof(RemoteEvent) == 20);
 /// made is left out. Under the state lock.
 void OpenRemoteBridge(bool high_resolution);
 
+/// Opens the bridge where the configuration wants one, in the resolution of panel and configuration.
+void OpenConfiguredBridge();
+
 /// Marks the pictures that are due in a phase, 0 to 17: each about five times a second. Under the state lock.
 void MarkRemoteImages(int phase);
 

@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <span>
 
+#include "base/numbers.h"
 #include "frame/named_variables.h"
 #include "state/cockpit.h"
 #include "state/displays.h"
+#include "state/power_words.h"
 #include "state/side.h"
 #include "state/time_base.h"
 
@@ -229,7 +231,20 @@ void MoveDisplaySelector(int position) {
     }
 }
 
-void RepairInboardModes(int selector_position) {
-    if (displays.du_capt_inb_mode == 83 && selector_position < 1) displays.du_capt_inb_mode = 45;
+void RepairInboardModes() {
+    if (!IsPoweredBeyondBattery()) return;
+    if (displays.du_capt_inb_mode == 83 && cockpit.TZ_MAIN_PFD_MFD_L_Switch < 1)
+        displays.du_capt_inb_mode = 45;
     if (displays.du_fo_inb_mode == 88) displays.du_fo_inb_mode = 31;
+}
+
+void TakeDisplaySelector() {
+    constexpr NamedVarRef kSelector = NamedVar("TZ_MAIN_PFD_MFD_L_Switch");
+    const double shown = ReadNamedVar(kSelector);
+    const int position = std::clamp(WholeNumber(shown), -1, 1);
+    if (shown != position) WriteNamedVar(kSelector, position);
+    if (position == displays.du_sel_pos) return;
+    cockpit.TZ_MAIN_PFD_MFD_L_Switch = position;
+    MoveDisplaySelector(position);
+    ShowSelectLamps();
 }

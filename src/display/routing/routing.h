@@ -25,5 +25,8 @@ void ShowSelectLamps();
 /// The captain's PFD/MFD selector has come to a position: -1, 0 or 1.
 void MoveDisplaySelector(int position);
 
-/// Inboard units that show what the power-up left on them return to their own formats.
-void RepairInboardModes(int selector_position);
+/// Acts on the captain's selector where the model shows that it has moved.
+void TakeDisplaySelector();
+
+/// With power, inboard units that show what the power-up left on them return to their own formats.
+void RepairInboardModes();

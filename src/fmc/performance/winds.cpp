@@ -21,7 +21,9 @@
 #include "frame/crew_messages.h"
 #include "navdata/geodesy.h"
 #include "platform/files.h"
+#include "platform/host.h"
 #include "state/airports.h"
+#include "state/cfg.h"
 #include "state/leg_words.h"
 #include "state/module_life.h"
 #include "state/perf.h"
@@ -114,7 +116,7 @@ struct WeatherFiles {
 
 std::optional<WeatherFiles> ReadWeatherFiles() {
     constexpr std::size_t kIdent = 4;
-    const ConfiguredFolder folder = FindConfiguredFolder(module_life.ActiveSkyFolder);
+    const ConfiguredFolder folder = FindConfiguredFolder(winds.ActiveSkyFolder);
     const auto list = ReadWeatherFile(folder, kStationList);
     auto snapshot = ReadWeatherFile(folder, kSnapshot);
     if (!list || !snapshot) return {};
@@ -190,7 +192,7 @@ bool IsEmpty(std::span<const WindLevel> levels) {
 int SnapshotAgeHours() {
     constexpr double kSecondsToUnixTime = 719162.0 * 86400;  // from the first day of year 1
     constexpr double kMostHours = 100000;
-    const ConfiguredFolder folder = FindConfiguredFolder(module_life.ActiveSkyFolder);
+    const ConfiguredFolder folder = FindConfiguredFolder(winds.ActiveSkyFolder);
     const auto written = LastWriteTime(folder.File(kSnapshot), folder.root);
     if (!written) return 0;
     const double seconds = sim.abs_time - kSecondsToUnixTime - static_cast<double>(*written);
@@ -294,4 +296,14 @@ void StepWindUplink() {
     if (winds.wind_uplink_timer == 0 || --winds.wind_uplink_timer > 0) return;
     winds.wind_uplink_pending = 1;
     PostCduMessage("", kAdvisory, kHelpWindsReady, winds.wind_uplink_side);
+}
+
+void FindWeatherProgram() {
+    winds.ActiveSkyFolder = AppDataFolder() + "\\Hifi\\AS_P3Dv4\\Weather";
+    const std::string weather_module = RootFolder() + "\\as_srv\\as_connect_64.dll";
+    winds.activesky_loaded = Host().is_library_loaded(weather_module.c_str());
+}
+
+void ChooseWeatherFolder() {
+    if (!cfg.HiFiSnapshotDir.empty()) winds.ActiveSkyFolder = cfg.HiFiSnapshotDir;
 }

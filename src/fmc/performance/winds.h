@@ -30,3 +30,8 @@ bool RequestDescentWinds();
 
 /// Once a second: what was requested is ready a while later.
 void StepWindUplink();
+
+/// Where the weather program keeps its snapshots: by the host's application data folder, or where the
+/// configuration says.
+void FindWeatherProgram();
+void ChooseWeatherFolder();

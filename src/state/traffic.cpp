@@ -1,0 +1,11 @@
+#include "state/traffic.h"
+
+TrafficState traffic;
+
+namespace {
+constexpr Variable kRows[] = {
+    {"tcas_target_cnt", &traffic.tcas_target_cnt},
+};
+}  // namespace
+
+const std::span<const Variable> kTrafficVariables = kRows;

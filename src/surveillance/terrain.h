@@ -1,0 +1,4 @@
+#pragma once
+
+/// Reads the elevation of the ground below the aircraft.
+void ReadTerrainBelow();
