@@ -4,12 +4,11 @@
 #include <string_view>
 
 #include "cdu/unit/items.h"
-#include "fmc/route/route_operations.h"
 #include "fmc/route/route_text.h"
+#include "module/called_functions.h"
 #include "module/controls/control_table.h"
 #include "module/pictures.h"
 #include "module/printed_lists.h"
-#include "module/pure_functions.h"
 #include "module/results.h"
 #include "platform/state_lock.h"
 #include "state/state_groups.h"
@@ -90,11 +89,7 @@ int ExecuteEntered(ResultSink sink, void* context) {
 
 int RunOperation(const char* line, ResultSink sink, void* context) {
     const StateLock lock;
-    const Results results{sink, context};
-    std::string result, error;
-    if (RunRouteOperation(line, result, error) == 0) return results.Fail(error);
-    if (!result.empty()) results.Add("result", result);
-    return 1;
+    return RunRouteOperation(line, {sink, context});
 }
 
 int PrintListByName(const char* list, const char* argument, ResultSink sink, void* context) {

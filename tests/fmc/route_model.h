@@ -4,9 +4,9 @@
 
 #include "fmc/demo_navdata.h"
 #include "fmc/legs/insert_fix.h"
-#include "fmc/route/route_operations.h"
 #include "fmc/route/route_text.h"
 #include "fmc/route_invariants.h"
+#include "module/called_functions.h"
 #include "navdata/parse_entry.h"
 #include "state/plan.h"
 #include "state/sim.h"
@@ -39,9 +39,12 @@ class RouteModel : public testing::Test {
     }
     // As a page does it: an operation, then the modification is opened.
     static std::string Op(std::string_view line) {
-        std::string result, error;
-        if (RunRouteOperation(line, result, error) == 0) return error;
-        return result;
+        std::string text;  // of the one result, or why there is none
+        const auto take = [](void* context, const char*, const char* value) {
+            *static_cast<std::string*>(context) = value;
+        };
+        RunRouteOperation(line, {take, &text});
+        return text;
     }
     static void InsertEntry(int position, std::string_view entry, bool replace) {
         ParseEntry(entry);
