@@ -12,7 +12,9 @@ int main(int argc, char** argv) {
 
     std::vector<std::string> files;
     CLI::App* run = app.add_subcommand("run", "Run scenarios, always with the same result");
-    run->add_option("FILE", files, "scenario files in turn; - is standard input")->required();
+    run->add_option("FILE", files,
+                    "scenarios in turn: a file, a folder for all *.scn in it, - for standard input")
+        ->required();
     run->footer(host::ScenarioHelp());
 
     host::FlyOptions fly_options;

@@ -1,6 +1,7 @@
 #include "host/scenario/scenario.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <sstream>
@@ -84,6 +85,47 @@ bool StartsOfItself(const std::string& text) {
     return false;
 }
 
+struct ScenarioText {
+    std::string file, lines;
+};
+
+// Whole streams, without the mark that some editors put before the first letter.
+ScenarioText ReadScenario(const std::string& file, std::istream& in) {
+    constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+    std::ostringstream text;
+    text << in.rdbuf();
+    ScenarioText scenario{file, text.str()};
+    if (scenario.lines.starts_with(kByteOrderMark)) scenario.lines.erase(0, kByteOrderMark.size());
+    return scenario;
+}
+
+// Adds what a word of the command line stands for: a file, "-" or a folder.
+bool ReadScenarios(const std::string& word, std::vector<ScenarioText>& texts, std::string& error) {
+    namespace fs = std::filesystem;
+    std::error_code failed;
+    if (word == "-") {
+        texts.push_back(ReadScenario(word, std::cin));
+        return true;
+    }
+    std::vector<std::string> files = {word};
+    if (fs::is_directory(word, failed)) {
+        files.clear();
+        for (fs::recursive_directory_iterator entry(word, failed), end; !failed && entry != end;
+             entry.increment(failed))
+            if (entry->path().extension() == ".scn") files.push_back(entry->path());
+        std::sort(files.begin(), files.end());
+        if (files.empty()) error = "holds no scenario, no file with a name in .scn";
+    }
+    for (const std::string& file : files) {
+        std::ifstream in(file);
+        if (!in)
+            error = file == word ? "can't be read" : file + " can't be read";
+        else
+            texts.push_back(ReadScenario(file, in));
+    }
+    return error.empty();
+}
+
 }  // namespace
 
 int RunScenario(Scenario& scenario, std::istream& in, const std::string& file_name, std::ostream& errors) {
@@ -106,35 +148,27 @@ int RunScenario(Scenario& scenario, std::istream& in, const std::string& file_na
     return scenario.failed_expectations > 0 ? 1 : 0;
 }
 
-int RunScenarioFiles(const std::vector<std::string>& files, const std::string& demo_root) {
-    std::vector<std::string> texts;
-    for (const std::string& file : files) {
-        std::ostringstream text;
-        if (file == "-") {
-            text << std::cin.rdbuf();
-        } else {
-            std::ifstream in(file);
-            if (!in) {
-                std::cerr << file << ": can't be read\n";
-                return 2;
-            }
-            text << in.rdbuf();
+int RunScenarioFiles(const std::vector<std::string>& words, const std::string& demo_root) {
+    std::vector<ScenarioText> texts;
+    for (const std::string& word : words)
+        if (std::string error; !ReadScenarios(word, texts, error)) {
+            std::cerr << word << ": " << error << '\n';
+            return 2;
         }
-        texts.push_back(text.str());
-    }
     HoldEndSignals();
     int status = 0;
     std::optional<Scenario> scenario;
-    for (std::size_t i = 0; i < files.size() && status < 2; ++i) {
-        if (!scenario || StartsOfItself(texts[i])) {
+    for (const ScenarioText& text : texts) {
+        if (!scenario || StartsOfItself(text.lines)) {
             if (scenario) StopSession(scenario->session);
             world = World{};
             flight = Flight{};
             scenario.emplace(Session{}, std::cout);
             scenario->session.settings.demo_root = demo_root;
         }
-        std::istringstream lines(texts[i]);
-        status = std::max(status, RunScenario(*scenario, lines, files[i], std::cerr));
+        std::istringstream lines(text.lines);
+        status = std::max(status, RunScenario(*scenario, lines, text.file, std::cerr));
+        if (status >= 2) break;
     }
     if (scenario) StopSession(scenario->session);
     std::cout.flush();
@@ -142,7 +176,10 @@ int RunScenarioFiles(const std::vector<std::string>& files, const std::string& d
 }
 
 std::string ScenarioHelp() {
-    std::string help = "Commands, one a line; an example of each that is available behind it:\n";
+    std::string help =
+        "Commands, one a line; an example of each that is available behind it. SECONDS may also be minutes, "
+        "as 90m, or "
+        "h:mm:ss.\n";
     for (const Command& command : Commands()) {
         const std::string form = Form(command);
         help += "  " + form + "\n      " +

@@ -54,9 +54,9 @@ std::string ValueOfName(Scenario& scenario, const Word& name);
 /// wrong, 128 and its number when a signal ended the run.
 int RunScenario(Scenario& scenario, std::istream& in, const std::string& file_name, std::ostream& errors);
 
-/// `tz900 run FILE...`: the files in turn, "-" for standard input, each with a session of its own. All are
-/// read before the first is run.
-int RunScenarioFiles(const std::vector<std::string>& files, const std::string& demo_root);
+/// `tz900 run FILE...`: the files in turn, a folder for the *.scn in it and its folders by their names, "-"
+/// for standard input, each with a session of its own. All are read before the first is run.
+int RunScenarioFiles(const std::vector<std::string>& words, const std::string& demo_root);
 
 /// The commands with their examples, for `tz900 run --help`.
 std::string ScenarioHelp();

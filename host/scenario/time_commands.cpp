@@ -17,10 +17,13 @@ int CountWord(const std::vector<Word>& words) {
     return count;
 }
 
-int TicksOf(const Word& seconds) {
-    const double ticks = std::round(NumberWord(seconds, "a number of seconds") * 18);
-    if (!(ticks >= 0 && ticks <= kMaxTicks))
-        throw CommandError{"\"" + seconds.text + "\" seconds can't be run"};
+int TicksOf(const Word& duration) {
+    const std::optional<double> seconds = ParseDuration(duration.text);
+    if (!seconds)
+        throw CommandError{"\"" + duration.text +
+                           "\" is no duration; a number of seconds, minutes as 90m, or h:mm:ss"};
+    const double ticks = std::round(*seconds * 18);
+    if (ticks > kMaxTicks) throw CommandError{"\"" + duration.text + "\" is longer than can be run"};
     return static_cast<int>(ticks);
 }
 
@@ -34,7 +37,7 @@ void Frame(Scenario& scenario, const std::vector<Word>& words) {
 
 void Run(Scenario& scenario, const std::vector<Word>& words) {
     if (words[1].text != "until") {
-        if (words.size() != 2) throw CommandError{"`run SECONDS` takes one number"};
+        if (words.size() != 2) throw CommandError{"`run SECONDS` takes one duration"};
         for (int left = TicksOf(words[1]); left > 0; --left) TickScenario(scenario, false);
         return;
     }

@@ -2,6 +2,7 @@
 
 #include <charconv>
 #include <cmath>
+#include <cstdio>
 
 namespace host {
 
@@ -53,6 +54,34 @@ std::optional<double> ParseNumber(std::string_view text) {
     const auto [rest, error] = std::from_chars(text.data(), text.data() + text.size(), value);
     if (error != std::errc{} || rest != text.data() + text.size() || !std::isfinite(value)) return {};
     return value;
+}
+
+std::optional<double> ParseDuration(std::string_view text) {
+    if (const std::size_t colon = text.find(':'); colon != std::string_view::npos) {
+        const std::string_view clock = text.substr(colon);  // ":mm:ss"
+        if (clock.size() != 6 || clock[3] != ':') return {};
+        int parts[] = {0, 0, 0};
+        const std::string_view texts[] = {text.substr(0, colon), clock.substr(1, 2), clock.substr(4)};
+        for (int i = 0; i < 3; ++i) {
+            const auto part = ParseInt(texts[i]);
+            if (!part || texts[i].find_first_not_of("0123456789") != std::string_view::npos) return {};
+            parts[i] = *part;
+        }
+        if (parts[1] > 59 || parts[2] > 59) return {};
+        return parts[0] * 3600.0 + parts[1] * 60 + parts[2];
+    }
+    const bool in_minutes = text.ends_with('m');
+    if (in_minutes) text.remove_suffix(1);
+    const auto number = ParseNumber(text);
+    if (!number || *number < 0) return {};
+    return in_minutes ? *number * 60 : *number;
+}
+
+std::string DurationText(double seconds) {
+    const auto whole = static_cast<long long>(seconds);
+    char text[40];
+    std::snprintf(text, sizeof text, "%lld:%02lld:%02lld", whole / 3600, whole / 60 % 60, whole % 60);
+    return text;
 }
 
 std::string NumberText(double value) {

@@ -22,6 +22,12 @@ std::optional<int> ParseInt(std::string_view text);
 /// A finite number and nothing behind it; 0x hexadecimal too.
 std::optional<double> ParseNumber(std::string_view text);
 
+/// Seconds of a duration: "90", minutes as "1.5m", "h:mm:ss"; never negative. Nothing for any other text.
+std::optional<double> ParseDuration(std::string_view text);
+
+/// A duration as h:mm:ss, cut to whole seconds.
+std::string DurationText(double seconds);
+
 /// As the system prints numbers: as many digits as it takes to read it back, an integer without a point.
 std::string NumberText(double value);
 

@@ -128,4 +128,16 @@ TEST(Program, LeavesNothingInTheTemporaryFolder) {
     EXPECT_EQ(std::distance(fs::directory_iterator(place.folder / "tmp"), {}), 2);
 }
 
+TEST(Program, RunsAllScenariosOfAFolder) {
+    const Workplace place;
+    place.Put("all/b.scn", "log open\nstart\nlog b\n");
+    place.Put("all/a/last.scn", "\xEF\xBB\xBFstart\nlog a\n");
+    place.Put("all/notes.txt", "no scenario");
+    EXPECT_EQ(place.Run({"run", place.folder / "all"}), 0);
+    EXPECT_EQ(place.Printed(), "a\nopen\nb\n");
+    EXPECT_EQ(place.Run({"run", place.folder / "tmp"}), 2);
+    EXPECT_EQ(place.Printed(),
+              (place.folder / "tmp").string() + ": holds no scenario, no file with a name in .scn\n");
+}
+
 }  // namespace

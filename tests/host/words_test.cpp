@@ -44,6 +44,20 @@ TEST(ScenarioWords, NumbersAreTakenWhole) {
     for (const char* wrong : {"", "nan", "inf", "1e", "4 "}) EXPECT_FALSE(ParseNumber(wrong)) << wrong;
 }
 
+TEST(ScenarioWords, DurationsAreSecondsMinutesOrAClock) {
+    const struct {
+        const char* text;
+        double seconds;
+    } kCases[] = {{"90", 90},   {"0.5", 0.5},      {"90m", 5400},
+                  {"1.5m", 90}, {"1:02:03", 3723}, {"100:00:00", 360000}};
+    for (const auto& row : kCases) EXPECT_EQ(ParseDuration(row.text), row.seconds) << row.text;
+    for (const char* wrong : {"", "m", "-1", "-1:00:00", "1:30", "1:60:00", "1:00:60", "1:0:00", ":00:00",
+                              "1:-1:00", "1:00:00m", "1:00:0x", "99999999999:00:00"})
+        EXPECT_FALSE(ParseDuration(wrong)) << wrong;
+    EXPECT_EQ(DurationText(3723.9), "1:02:03");
+    EXPECT_EQ(DurationText(86400 * 5), "120:00:00");
+}
+
 TEST(ScenarioWords, PatternsMatchWithinOrByStars) {
     EXPECT_TRUE(MatchesPattern("fms_fpln_active", "fpln"));
     EXPECT_TRUE(MatchesPattern("TZ_OH_LT_NAV_Button", "TZ_OH_*_Button"));
