@@ -5,10 +5,12 @@
 
 #include "host/fly/fly.h"
 #include "host/scenario/scenario.h"
+#include "host/version.h"
 
 int main(int argc, char** argv) {
     CLI::App app("The desktop host of the TZ900 flight deck");
     app.require_subcommand(1);
+    app.set_version_flag("--version", "tz900 " + std::string(host::kVersion));
 
     std::vector<std::string> files;
     CLI::App* run = app.add_subcommand("run", "Run scenarios, always with the same result");
@@ -26,7 +28,7 @@ int main(int argc, char** argv) {
     fly->add_flag("--cold", fly_options.cold, "on the ground, everything off; the flight is yours")
         ->excludes(headless);
     fly->add_option("--record", fly_options.record,
-                    "write what pilots and host do to this file, a scenario for tz900 run");
+                    "write what pilots and host do to this new file, a scenario for tz900 run");
     fly->add_option("--rate", fly_options.rate, "times real time")->check(CLI::Range(0.25, 64.0));
     fly->add_option("--port", fly_options.port, "of the flight deck, 8900; 0 is any free one")
         ->check(CLI::Range(0, 65535));

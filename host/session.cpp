@@ -151,6 +151,8 @@ bool PrepareSession(Session& session, std::string& error) {
     });
     if (found == titles.end() && !settings.title.empty()) {
         error = "no Aircraft.cfg under the root has the title \"" + settings.title + "\"";
+        if (!titles.empty()) error += "; there are:";
+        for (const AirframeTitle& airframe : titles) error += "\n  " + airframe.title;
         return false;
     }
     CreateCockpitModel();

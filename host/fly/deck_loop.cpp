@@ -85,8 +85,8 @@ void MakeCall(Session& session, bool paused_frame) {
 
 }  // namespace
 
-bool RunFlightDeck(Session& session, const FlyOptions& options, const std::function<void()>& each_second,
-                   std::string& error) {
+bool RunFlightDeck(Session& session, const FlyOptions& options, const std::function<void()>& opened,
+                   const std::function<void()>& each_second, std::string& error) {
     const DeckSettings settings = SettingsOf(session, options);
     std::atomic<bool> in_2d = IsMainPanelShown();
     FlightDeck deck(settings, PicturesOf(*session.linkage->inspection, in_2d));
@@ -96,6 +96,7 @@ bool RunFlightDeck(Session& session, const FlyOptions& options, const std::funct
     std::printf("The flight deck is at http://%s%s%s:%d/%s%s (Ctrl-C ends)\n", is_v6 ? "[" : "",
                 options.address.c_str(), is_v6 ? "]" : "", deck.port(),
                 settings.token.empty() ? "" : "?token=", settings.token.c_str());
+    opened();
     std::fflush(stdout);
 
     PressQueue presses;

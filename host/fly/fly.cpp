@@ -10,6 +10,7 @@
 #include "host/fly/start.h"
 #include "host/inspection.h"
 #include "host/process.h"
+#include "host/scenario/words.h"
 #include "host/world/terrain.h"
 #include "host/world/world.h"
 
@@ -104,10 +105,17 @@ void FlyHeadless(Session& session, RouteFlight& route) {
 }
 
 void PrintEnd(const RouteFlight& route, double wall_seconds) {
-    std::printf("\n%s after %d:%02d, %d fixes passed, %.0f lb burned; %.0f times real time\n",
-                route.arrived ? "At the last fix" : "Broken off", static_cast<int>(world.seconds) / 3600,
-                static_cast<int>(world.seconds) / 60 % 60, route.log.fixes,
-                route.log.start_fuel - ValueNow("fuel"), world.seconds / wall_seconds);
+    std::printf("\n%s after %s, %d fixes passed, %.0f lb burned; %.0f times real time\n",
+                route.arrived ? "At the last fix" : "Broken off", DurationText(world.seconds).c_str(),
+                route.log.fixes, route.log.start_fuel - ValueNow("fuel"), world.seconds / wall_seconds);
+}
+
+// A flight that can't start leaves nothing.
+int Refuse(Session& session, const std::string& error) {
+    std::fprintf(stderr, "tz900 fly: %s\n", error.c_str());
+    if (session.recorder != nullptr) DiscardRecording(*session.recorder);
+    StopSession(session);
+    return 2;
 }
 
 }  // namespace
@@ -123,9 +131,7 @@ int Fly(const FlyOptions& given) {
     if (!options.record.empty()) session.recorder = &recorder;
     if ((session.recorder != nullptr && !OpenRecording(recorder, options.record, error)) ||
         !StartFlight(session, options, error)) {
-        std::fprintf(stderr, "tz900 fly: %s\n", error.c_str());
-        StopSession(session);
-        return 2;
+        return Refuse(session, error);
     }
 
     RouteFlight route;
@@ -133,17 +139,22 @@ int Fly(const FlyOptions& given) {
     if (!options.cold) route = BeginFlight(session);
     const auto each_second = [&] { StepRoute(session, route); };
     const auto began = std::chrono::steady_clock::now();
-    if (!options.cold) PrintHeading(options, session);
-    bool good = true;
-    if (options.headless)
+    const auto begin = [&] {
+        if (!options.cold) PrintHeading(options, session);
+    };
+    if (options.headless) {
+        begin();
         FlyHeadless(session, route);
-    else
-        good = RunFlightDeck(session, options, each_second, error);
+    } else if (!RunFlightDeck(session, options, begin, each_second, error)) {
+        return Refuse(session, error);
+    }
     const double wall = std::chrono::duration<double>(std::chrono::steady_clock::now() - began).count();
-    if (!good) std::fprintf(stderr, "tz900 fly: %s\n", error.c_str());
-    if (good && !options.cold) PrintEnd(route, wall);
+    if (!options.cold) PrintEnd(route, wall);
     StopSession(session);
-    if (!good) return 2;
+    if (!recorder.error.empty()) {
+        std::fprintf(stderr, "tz900 fly: %s\n", recorder.error.c_str());
+        return 1;
+    }
     return options.headless && !route.arrived ? 1 : 0;
 }
 

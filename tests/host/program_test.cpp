@@ -2,6 +2,8 @@
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <netinet/in.h>
+#include <sys/socket.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -138,6 +140,39 @@ TEST(Program, RunsAllScenariosOfAFolder) {
     EXPECT_EQ(place.Run({"run", place.folder / "tmp"}), 2);
     EXPECT_EQ(place.Printed(),
               (place.folder / "tmp").string() + ": holds no scenario, no file with a name in .scn\n");
+}
+
+TEST(Program, AFlightThatCannotStartTellsWhyAndLeavesNothing) {
+    const Workplace place;
+    const std::string taken = place.Put("taken.scn", "mine");
+    const int other = socket(AF_INET, SOCK_STREAM, 0);
+    sockaddr_in here = {};
+    here.sin_family = AF_INET;
+    here.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    socklen_t size = sizeof here;
+    ASSERT_EQ(bind(other, reinterpret_cast<const sockaddr*>(&here), size), 0);
+    ASSERT_EQ(listen(other, 1), 0);
+    getsockname(other, reinterpret_cast<sockaddr*>(&here), &size);
+    const struct {
+        std::vector<std::string> words;
+        std::string told;
+    } kCases[] = {
+        {{"--record", taken}, "taken.scn exists"},
+        {{"--record", place.folder / "new.scn", "--aircraft", "glider"}, "there are:\n  TZ900-10 GE House\n"},
+        {{"--record", place.folder / "new.scn", "--port", std::to_string(ntohs(here.sin_port))}, "in use"},
+    };
+    for (const auto& row : kCases) {
+        std::vector<std::string> words = {"fly"};
+        words.insert(words.end(), row.words.begin(), row.words.end());
+        EXPECT_EQ(place.Run(words), 2);
+        const std::string printed = place.Printed();
+        EXPECT_NE(printed.find(row.told), std::string::npos) << printed;
+        EXPECT_TRUE(printed.starts_with("tz900 fly: ")) << "before all else: " << printed;
+        EXPECT_FALSE(fs::exists(place.folder / "new.scn"));
+        EXPECT_TRUE(place.TemporaryIsEmpty());
+    }
+    close(other);
+    EXPECT_EQ(TextOf(taken), "mine");
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include "host/recorder.h"
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
@@ -28,7 +29,8 @@ std::string TextOf(const std::filesystem::path& file) {
 }
 
 struct Recording {
-    std::filesystem::path file = std::filesystem::temp_directory_path() / "tz900_recorder_test.scn";
+    std::filesystem::path file =
+        std::filesystem::temp_directory_path() / ("tz900_recorder_test_" + std::to_string(getpid()) + ".scn");
     Recorder recorder;
     Recording() {
         std::string error;
@@ -57,6 +59,27 @@ TEST(Recorder, WritesCallsAndCommandsInTheirOrder) {
     Recorder nowhere;
     EXPECT_FALSE(OpenRecording(nowhere, "/no/such/folder/x.scn", error));
     EXPECT_NE(error.find("/no/such/folder/x.scn: "), std::string::npos);
+}
+
+TEST(Recorder, TellsAWriteThatFailsAndOverwritesNothing) {
+    Recording recording;
+    Recorder again;
+    std::string error;
+    EXPECT_FALSE(OpenRecording(again, recording.file.string(), error));
+    DiscardRecording(again);
+    EXPECT_TRUE(std::filesystem::exists(recording.file));
+    DiscardRecording(recording.recorder);
+    EXPECT_FALSE(std::filesystem::exists(recording.file));
+
+    Recorder full;
+    full.name = "full.scn";
+    full.file.open("/dev/full", std::ios::in | std::ios::out);
+    testing::internal::CaptureStderr();
+    RecordCall(&full, false);
+    Record(&full, {"start"});
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+              "tz900: the recording ends early, full.scn: No space left on device\n");
+    EXPECT_NE(full.error, "");
 }
 
 // Every kind of command, in the air with a route and cold on the ground.
