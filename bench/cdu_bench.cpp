@@ -20,10 +20,10 @@ namespace {
 constexpr int kPages[] = {kPageRte, kPageLegs, kPageRteData, kPageWind, kPageDepartures, kPageArrivals};
 
 void FillRoute(int last) {
-    FillLegs(plan.FlightPlan, last);
-    FillLegs(plan.FlightPlanMod, last);
-    plan.fp_cnt = plan.mod_cnt = last;
-    plan.stpos = plan.mod_stpos = 1;
+    FillLegs(plan.active.legs, last);
+    FillLegs(plan.mod.legs, last);
+    plan.active.leg_cnt = plan.mod.leg_cnt = last;
+    plan.active.stpos = plan.mod.stpos = 1;
     plan.fms_fpln_active = 3;
 }
 

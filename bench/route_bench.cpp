@@ -16,8 +16,8 @@ namespace {
 void Execute(benchmark::State& state) {
     FakeHost host;
     const int last = static_cast<int>(state.range(0));
-    FillLegs(plan.FlightPlanMod, last);
-    plan.mod_cnt = last;
+    FillLegs(plan.mod.legs, last);
+    plan.mod.leg_cnt = last;
     for (auto _ : state) ExecuteRoute();
 }
 BENCHMARK(Execute)->Name("ExecuteRoute")->Arg(120)->Arg(300)->Unit(benchmark::kMicrosecond);

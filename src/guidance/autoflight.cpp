@@ -111,12 +111,12 @@ double VnavSpeed() {
 }
 
 double VnavPathAngle() {
-    if (plan.stpos == kNoPlan || vnav.toc == 0) return kNoValue;
+    if (plan.active.stpos == kNoPlan || vnav.toc == 0) return kNoValue;
     return vnav.tod == 1 ? cfg.DescFpa : 0;
 }
 
 double LnavHeading() {
-    if (!IsRouteActive() || plan.stpos == kNoPlan) return kNoValue;
+    if (!IsRouteActive() || plan.active.stpos == kNoPlan) return kNoValue;
     return IsHoldPatternFlown() ? lnav.hold_hdg : lnav.fms_hdg;
 }
 
@@ -141,7 +141,7 @@ void ReadAutoflightModes() {
 void PublishGuidance() {
     WriteNamedVar(NamedVar("lnav_hdg"), LnavHeading());
     WriteNamedVar(NamedVar("tz_fpln_next_wpt_angle"), lnav.turn_code);
-    if (plan.stpos != kNoPlan) {
+    if (plan.active.stpos != kNoPlan) {
         WriteNamedVar(NamedVar("xtk_err_dist"), lnav.xtk);
         WriteNamedVar(NamedVar("xtk_err_dir"), lnav.xtk_side);
     }

@@ -129,7 +129,7 @@ void LeaveHold(int index) {
     RemoveHoldRecord(index);
     StopHolding();
     lnav.hold_exit = 0;
-    if (plan.stpos < plan.fp_cnt)
+    if (plan.active.stpos < plan.active.leg_cnt)
         SequenceLeg();
     else if (vnav.toc == 0)
         FindNextClimbRestriction();
@@ -149,7 +149,7 @@ void HoldUpdate() {
     TakeVariation(hold);
     const Pattern pattern = LayPattern(hold);
     if (lnav.lnav_engaged == 1) StorePattern(pattern, hold);
-    if (hold.leg != plan.stpos) {
+    if (hold.leg != plan.active.stpos) {
         if (lnav.holding == 1) StopHolding();
         return;
     }

@@ -30,7 +30,7 @@ constexpr double kAirborneFt = 400;  // radio altitude below which the plan stan
 constexpr double kNoCrossTrack = -99;
 
 const FlightPlanLeg& ToLeg() {
-    return FlightPlanLegAt(plan.stpos);
+    return FlightPlanLegAt(plan.active.stpos);
 }
 
 bool IsAirborne() {
@@ -49,13 +49,13 @@ double TrueHeading() {
 // distances are not yet those of the new leg, and nothing may sequence by the old ones.
 void FollowActiveLeg() {
     if (!IsActiveLegLocated()) BeginActiveLeg();
-    if (LegAfter(plan.stpos) != 0) lnav.plan_finished = 0;
+    if (LegAfter(plan.active.stpos) != 0) lnav.plan_finished = 0;
 }
 
 // The TO fix has been overflown on a wide turn: it lies near, and behind the direction of its leg.
 bool IsOverflownOnWideTurn() {
     return lnav.lnav_engaged == 1 && sim.ap_master != 0 && lnav.wpt_dist < 10 &&
-           plan.stpos < plan.fp_cnt - 1 && ToLeg().hold_pos == 0 &&
+           plan.active.stpos < plan.active.leg_cnt - 1 && ToLeg().hold_pos == 0 &&
            BearingDifference(lnav.wpt_brg + ReferenceVariation(), lnav.course_here) > 90;
 }
 
@@ -78,7 +78,7 @@ bool RequestForcedSequence() {
         if (vnav.toc == 1 && vnav.tod == 0) vnav.tod_shortcut = 1;
         lnav.wpt_dist = kSequenceNow;
     }
-    const bool after_activation = plan.direct_abeam_check == 1 && plan.stpos == 1;
+    const bool after_activation = plan.direct_abeam_check == 1 && plan.active.stpos == 1;
     plan.direct_abeam_check = 0;
     const bool in_flight = IsAirborne() && IsRouteActive() && sim.ground_speed_kt > 100;
     if ((in_flight || after_activation) && IsTargetFixPassed()) lnav.wpt_dist = kSequenceNow;
@@ -88,7 +88,7 @@ bool RequestForcedSequence() {
 // The course to the next place of the plan: true, as it stands beside the magnetic leg course.
 double CourseOfNextLeg() {
     const FlightPlanLeg& to = ToLeg();
-    for (int next = LegAfter(plan.stpos); next != 0; next = LegAfter(next)) {
+    for (int next = LegAfter(plan.active.stpos); next != 0; next = LegAfter(next)) {
         const FlightPlanLeg& leg = FlightPlanLegAt(next);
         if (IsVectors(leg)) return leg.from_hdg;
         const DistBearing course = GreatCircle(to.lat, to.lon, leg.lat, leg.lon);
@@ -98,7 +98,7 @@ double CourseOfNextLeg() {
 }
 
 void UpdateWaypointChangeDistance() {
-    if (plan.stpos >= plan.fp_cnt) return;
+    if (plan.active.stpos >= plan.active.leg_cnt) return;
     constexpr double kFlyOverSeconds = 8, kTurnMattersNm = 15;
     if (ToLeg().flyover == 1) {
         lnav.turn_code = kTurnOfFlyOverFix;
@@ -119,16 +119,16 @@ void UpdateWaypointChangeDistance() {
 
 // On the tick on which the TO fix comes near, the vertical segment is looked at anew, and the time is noted.
 void ApproachFix() {
-    if (lnav.wpt_dist >= lnav.wpt_chg_dist || plan.stpos >= plan.fp_cnt) {
+    if (lnav.wpt_dist >= lnav.wpt_chg_dist || plan.active.stpos >= plan.active.leg_cnt) {
         lnav.fix_near = 0;
         return;
     }
     if (lnav.fix_near == 0) {
-        FindBottomOfDescent(plan.stpos + 1);
+        FindBottomOfDescent(plan.active.stpos + 1);
         SetCrossAtPoint();
         lnav.fix_near = 1;
     }
-    FlightPlanLeg& to = plan.FlightPlan[plan.stpos];
+    FlightPlanLeg& to = plan.active.legs[plan.active.stpos];
     if (sim.ground_speed_kt > 65 && to.ata.empty())
         to.ata = Format("%02d:%02d", sim.utc_hours, sim.utc_minutes);
 }
@@ -168,10 +168,10 @@ void SteerToJoinTrack() {
                        length - left + lnav.lookahead));
     if (lnav.xtk > lnav.wpt_chg_dist) return;
     lnav.lnav_init_mode = 0;
-    const FlightPlanLeg& before = FlightPlanLegAt(LegBefore(plan.stpos));
-    plan.ActiveLeg.from = before.ident;
-    plan.ActiveLeg.from_lat = before.lat;
-    plan.ActiveLeg.from_lon = before.lon;
+    const FlightPlanLeg& before = FlightPlanLegAt(LegBefore(plan.active.stpos));
+    plan.active.active_leg.from = before.ident;
+    plan.active.active_leg.from_lat = before.lat;
+    plan.active.active_leg.from_lon = before.lon;
 }
 
 void SteerAlongLeg() {
@@ -179,7 +179,7 @@ void SteerAlongLeg() {
         lnav.fms_hdg = lnav.wpt_brg;
         return;
     }
-    const ActiveLegRecord& leg = plan.ActiveLeg;
+    const ActiveLegRecord& leg = plan.active.active_leg;
     const double flown = lnav.wpt_dist > lnav.leg_len ? 0 : lnav.leg_len - lnav.wpt_dist;
     AimAt(ProjectPoint(leg.from_lat, leg.from_lon, FoldBearing(lnav.leg_crs + sim.mgvar),
                        flown + lnav.lookahead));
@@ -193,7 +193,7 @@ void SteerAlongLeg() {
 
 // A procedure may demand the longer way round at the fix just passed.
 void TurnAsDemanded() {
-    const FlightPlanLeg& passed = FlightPlanLegAt(LegBefore(plan.stpos));
+    const FlightPlanLeg& passed = FlightPlanLegAt(LegBefore(plan.active.stpos));
     if (passed.dep_turn != kTurnLeft && passed.dep_turn != kTurnRight) return;
     const double heading = FoldBearing(sim.mag_hdg + sim.mgvar - ReferenceVariation());
     constexpr double kSettled = 10;  // an overshoot is no turn the other way
@@ -239,7 +239,8 @@ void RunPass(bool overflown) {
 
 void RemovePassedHolds() {
     for (int i = plan.hold_cnt; i >= 1; --i)
-        if (plan.HoldList[i].leg < plan.stpos && plan.HoldList[i].pending_leg == 0) RemoveHoldRecord(i);
+        if (plan.HoldList[i].leg < plan.active.stpos && plan.HoldList[i].pending_leg == 0)
+            RemoveHoldRecord(i);
 }
 
 }  // namespace
@@ -254,7 +255,7 @@ bool IsHoldPatternFlown() {
 }
 
 void LnavUpdate() {
-    if (plan.stpos == kNoPlan) {
+    if (plan.active.stpos == kNoPlan) {
         lnav.xtk = lnav.xtk_shown = kNoCrossTrack;
         lnav.lnav_init_mode = 0;
         lnav.force_sequence = 0;

@@ -48,7 +48,7 @@ void ClearConstraint(FlightPlanLeg& passed) {
 
 void ActivateLeg(int to, const FlightPlanLeg& from) {
     const FlightPlanLeg& leg = FlightPlanLegAt(to);
-    ActiveLegRecord& active = plan.ActiveLeg;
+    ActiveLegRecord& active = plan.active.active_leg;
     active.from = from.ident;
     active.from_lat = from.lat;
     active.from_lon = from.lon;
@@ -56,16 +56,16 @@ void ActivateLeg(int to, const FlightPlanLeg& from) {
     active.to_lat = leg.lat;
     active.to_lon = leg.lon;
     active.direct_flag = 0;
-    plan.stpos = to;
+    plan.active.stpos = to;
     BeginActiveLeg();
     active.course = lnav.leg_crs;
-    if (plan.direct_to_pending == 0) plan.ActiveLegMod = active;
+    if (plan.direct_to_pending == 0) plan.mod.active_leg = active;
 }
 
 }  // namespace
 
 int LegAfter(int leg) {
-    for (int next = leg + 1; next <= plan.fp_cnt; ++next)
+    for (int next = leg + 1; next <= plan.active.leg_cnt; ++next)
         if (!IsDisco(FlightPlanLegAt(next))) return next;
     return 0;
 }
@@ -81,17 +81,17 @@ double ReferenceVariation() {
 }
 
 bool IsVectorsLegActive() {
-    return IsVectors(FlightPlanLegAt(plan.stpos));
+    return IsVectors(FlightPlanLegAt(plan.active.stpos));
 }
 
 void SequenceLeg() {
-    const int next = plan.stpos < plan.fp_cnt ? LegAfter(plan.stpos) : 0;
+    const int next = plan.active.stpos < plan.active.leg_cnt ? LegAfter(plan.active.stpos) : 0;
     if (next == 0) {
         lnav.plan_finished = 1;
         lnav.lnav_engaged = 0;
         return;
     }
-    FlightPlanLeg& passed = plan.FlightPlan[plan.stpos];
+    FlightPlanLeg& passed = plan.active.legs[plan.active.stpos];
     FlightLogStep(true);
     ReportPosition(passed);
     ClearConstraint(passed);
@@ -122,9 +122,9 @@ void BeginActiveLeg() {
 }
 
 void LocateOnActiveLeg() {
-    const FlightPlanLeg& to = FlightPlanLegAt(plan.stpos);
-    const LegPosition place = LocateOnLeg(sim.plane_lat, sim.plane_lon, plan.ActiveLeg.from_lat,
-                                          plan.ActiveLeg.from_lon, to.lat, to.lon);
+    const FlightPlanLeg& to = FlightPlanLegAt(plan.active.stpos);
+    const LegPosition place = LocateOnLeg(sim.plane_lat, sim.plane_lon, plan.active.active_leg.from_lat,
+                                          plan.active.active_leg.from_lon, to.lat, to.lon);
     lnav.leg_len = place.leg_len;
     lnav.leg_crs = FoldCourse(place.initial_course - sim.mgvar);
     lnav.course_here = place.course_here;
@@ -133,12 +133,13 @@ void LocateOnActiveLeg() {
     if (IsVectorsLegActive()) lnav.wpt_brg = to.from_hdg;
     lnav.xtk = place.cross_track;
     lnav.xtk_side = place.cross_track_side;
-    lnav.located_leg = plan.stpos;
-    lnav.located = {plan.ActiveLeg.from_lat, plan.ActiveLeg.from_lon, to.lat, to.lon};
+    lnav.located_leg = plan.active.stpos;
+    lnav.located = {plan.active.active_leg.from_lat, plan.active.active_leg.from_lon, to.lat, to.lon};
 }
 
 bool IsActiveLegLocated() {
-    const FlightPlanLeg& to = FlightPlanLegAt(plan.stpos);
-    return lnav.located_leg == plan.stpos &&
-           lnav.located == std::array{plan.ActiveLeg.from_lat, plan.ActiveLeg.from_lon, to.lat, to.lon};
+    const FlightPlanLeg& to = FlightPlanLegAt(plan.active.stpos);
+    return lnav.located_leg == plan.active.stpos &&
+           lnav.located ==
+               std::array{plan.active.active_leg.from_lat, plan.active.active_leg.from_lon, to.lat, to.lon};
 }

@@ -27,7 +27,7 @@ void LogTurnData() {
     }
     AppendToFile(kLogFile,
                  Format("%d,%.40s,%.0f,%.2f,%.1f,%d,%.2f,%03.0f,%03.0f,%.0f,%.1f\n", time_base.wpt_log_ticks,
-                        FlightPlanLegAt(plan.stpos).ident.c_str(), sim.tas_kt, lnav.wpt_dist,
+                        FlightPlanLegAt(plan.active.stpos).ident.c_str(), sim.tas_kt, lnav.wpt_dist,
                         lnav.turn_radius, lnav.turn_angle, lnav.wpt_chg_dist, sim.mag_hdg, lnav.fms_hdg,
                         sim.bank_deg, lnav.xtk_side == kTurnLeft ? -lnav.xtk : lnav.xtk));
 }

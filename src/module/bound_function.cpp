@@ -17,8 +17,8 @@ bool ParseWhole(std::string_view text, Number& number) {
 }
 
 int FindModIdent(std::string_view ident) {
-    for (int i = 0; i <= plan.mod_cnt; ++i)
-        if (plan.FlightPlanMod[i].ident == ident) return i;
+    for (int i = 0; i <= plan.mod.leg_cnt; ++i)
+        if (plan.mod.legs[i].ident == ident) return i;
     return -1;
 }
 

@@ -35,8 +35,8 @@ constexpr int kReservedLegs = 150;
 constexpr int kReservedRows = 60;
 
 void ReserveContainers() {
-    plan.FlightPlan.reserve(kReservedLegs);
-    plan.FlightPlanMod.reserve(kReservedLegs);
+    plan.active.legs.reserve(kReservedLegs);
+    plan.mod.legs.reserve(kReservedLegs);
     plan.AirwayFixList.reserve(kReservedLegs);
     plan.Route.reserve(kReservedRows);
 }

@@ -43,8 +43,8 @@ int PrintLegs(std::string_view which, const Results& results) {
     if (!which.empty() && which != "active" && which != "mod")
         return results.Fail("legs takes active or mod");
     const bool mod = which == "mod";
-    const GrowingList<FlightPlanLeg>& legs = mod ? plan.FlightPlanMod : plan.FlightPlan;
-    const int last = mod ? plan.mod_cnt : plan.fp_cnt;
+    const GrowingList<FlightPlanLeg>& legs = mod ? plan.mod.legs : plan.active.legs;
+    const int last = mod ? plan.mod.leg_cnt : plan.active.leg_cnt;
     if (last == 0 && legs[0].ident.empty()) return 1;
     for (int i = 0; i <= last; ++i) {
         const FlightPlanLeg& leg = legs[i];

@@ -102,8 +102,9 @@ std::string PositionName(const PositionText& position, std::string_view entry) {
     if (position.name == PositionText::kWholeDegrees)
         return Format("%c%02d%c%03d", position.lat.letter, *Digits(position.lat.deg), position.lon.letter,
                       *Digits(position.lon.deg));
-    return Format("WPT%02d", 1 + std::max(HighestWptNumber(std::as_const(plan.FlightPlan), plan.fp_cnt),
-                                          HighestWptNumber(std::as_const(plan.FlightPlanMod), plan.mod_cnt)));
+    return Format("WPT%02d",
+                  1 + std::max(HighestWptNumber(std::as_const(plan.active.legs), plan.active.leg_cnt),
+                               HighestWptNumber(std::as_const(plan.mod.legs), plan.mod.leg_cnt)));
 }
 
 void AddPosition(const std::string& ident, double lat, double lon, const char* type) {

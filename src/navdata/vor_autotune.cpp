@@ -58,13 +58,13 @@ void FindNearestVors() {
 
 void PickRadios() {
     constexpr double kAheadDeg = 91;
-    const bool on_route = IsRouteActive() && plan.stpos >= 1 && plan.stpos != kNoPlan;
+    const bool on_route = IsRouteActive() && plan.active.stpos >= 1 && plan.active.stpos != kNoPlan;
     double course = sim.true_track_deg, lat = sim.plane_lat, lon = sim.plane_lon;
     if (on_route) {
-        int before = plan.stpos - 1;
-        while (before > 0 && IsDisco(std::as_const(plan.FlightPlan)[before])) --before;
-        const FlightPlanLeg& from = std::as_const(plan.FlightPlan)[before];
-        const FlightPlanLeg& to = std::as_const(plan.FlightPlan)[plan.stpos];
+        int before = plan.active.stpos - 1;
+        while (before > 0 && IsDisco(std::as_const(plan.active.legs)[before])) --before;
+        const FlightPlanLeg& from = std::as_const(plan.active.legs)[before];
+        const FlightPlanLeg& to = std::as_const(plan.active.legs)[plan.active.stpos];
         lat = from.lat;
         lon = from.lon;
         course = GreatCircle(from.lat, from.lon, to.lat, to.lon).bearing;

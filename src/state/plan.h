@@ -92,8 +92,7 @@ struct PositionReport {
 
 constexpr const char* kNotSelected = "------";
 
-/// The two ends of the route. During a modification the pages write the copy `ends_mod`; EXEC takes it over.
-/// Names read kNotSelected when there is none.
+/// The two ends of the route. Names read kNotSelected when there is none.
 struct RouteEnds {
     std::string origin = kNotSelected, dest = kNotSelected;
     std::string dep_runway = kNotSelected;
@@ -101,7 +100,7 @@ struct RouteEnds {
     std::string company_route;  // the stored route that was loaded; empty = none
 };
 
-/// The selected procedures. They are written at once; `procedures_kept` is what ERASE brings back.
+/// The selected procedures.
 struct ProcedureSelections {
     std::string dep_sid = kNotSelected, dep_trans = kNotSelected;
     std::string arr_star = kNotSelected, arr_trans = kNotSelected;
@@ -111,20 +110,26 @@ struct ProcedureSelections {
     FlightPlanLeg shared_leg = {};  // the approach's first leg stands in its place; no ident = none
 };
 
-/// The route. FlightPlan is what is flown, FlightPlanMod is what the pages edit; only fmc/ changes either.
+/// All that a modification may change. It stands twice: `active` is what is flown and what ERASE brings back,
+/// `mod` is what the pages edit; EXEC makes `mod` the active one. The world knows the legs as FlightPlan and
+/// FlightPlanMod.
+struct RouteVersion {
+    GrowingList<FlightPlanLeg> legs;  // index 0 the origin, leg_cnt the destination
+    int leg_cnt = 0;                  // -1 in `mod`: a load that found no legs
+    int stpos = kNoPlan;              // index of the TO leg
+    int bod_pos = 0;                  // leg index that ends the present vertical segment
+    ActiveLegRecord active_leg;
+    RouteEnds ends;                  // below state 3 the pages write both
+    ProcedureSelections procedures;  // a selection acts at once: `mod` is what the whole system reads
+};
+
+/// The route; only fmc/ and guidance/ change it.
 struct PlanState {
-    std::string fms_fltno;                  // flight number, at most 10 characters; empty = none
-    GrowingList<FlightPlanLeg> FlightPlan;  // index 0 the origin, fp_cnt the destination
-    int fp_cnt = 0;
-    GrowingList<FlightPlanLeg> FlightPlanMod;
-    int mod_cnt = 0;
+    RouteVersion active, mod;
+    std::string fms_fltno;        // flight number, at most 10 characters; empty = none
     GrowingList<RouteRow> Route;  // rows of the RTE page, from 1
     int route_cnt = 0;
-    int stpos = kNoPlan;  // index of the TO leg
-    int mod_stpos = kNoPlan;
-    int pending_stpos = 0;  // the pending active leg, taken by EXEC when 1 or more
-    int mod_bod_pos = 0;
-    ActiveLegRecord ActiveLeg, ActiveLegMod;
+    int pending_stpos = 0;             // the pending active leg, taken by EXEC when 1 or more
     GrowingList<HoldRecord> HoldList;  // from 1, in the order of their legs
     int hold_cnt = 0;
     GrowingList<HoldRecord> executed_holds;  // as EXEC left them: what ERASE brings back
@@ -140,8 +145,6 @@ struct PlanState {
     double final_appr_crs = 0;  // degrees magnetic
     std::string map_ident;
     double map_fix_lat = 0, map_fix_lon = 0;
-    RouteEnds ends, ends_mod;
-    ProcedureSelections procedures, procedures_kept;
     // the airway that a page or a route text is working on
     GrowingList<FlightPlanLeg> AirwayFixList;
     int awy_list_cnt = 0;
@@ -156,5 +159,5 @@ extern const std::span<const Variable> kPlanVariables;
 
 /// A leg of the active plan, for reading: behind the end stands an empty one, and the list doesn't grow.
 inline const FlightPlanLeg& FlightPlanLegAt(int index) {
-    return std::as_const(plan.FlightPlan)[index];
+    return std::as_const(plan.active.legs)[index];
 }

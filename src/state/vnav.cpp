@@ -8,7 +8,6 @@ constexpr Variable kRows[] = {
     {"toc", &vnav.toc},
     {"tod", &vnav.tod},
     {"init_tod", &vnav.init_tod},
-    {"bod_pos", &vnav.bod_pos},
     {"toc_lat", &vnav.toc_lat},
     {"toc_lon", &vnav.toc_lon},
     {"toc_stpos", &vnav.toc_stpos},

@@ -9,7 +9,6 @@ struct VnavState {
     int vnav_engaged = 0;  // 1 while ap_vert_mode is 5 or 6
     int toc = 0, tod = 0;  // 1 once passed
     int init_tod = 0;
-    int bod_pos = 0;  // leg index that ends the present segment
     double toc_lat = 0, toc_lon = 0;
     int toc_stpos = 0;
     double tod_lat = 0, tod_lon = 0;

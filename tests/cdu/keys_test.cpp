@@ -78,7 +78,7 @@ TEST_F(CduKeys, InitRefGoesByThePhaseOfFlight) {
     perf.resv_fuel = 5;
     perf.cruise_alt = 35000;
     EXPECT_EQ(page(), 3);  // no runway
-    plan.ends.dep_runway = "16L";
+    plan.active.ends.dep_runway = "16L";
     EXPECT_EQ(page(), 3);  // no cost index
     perf.cost_index = 0;
     EXPECT_EQ(page(), 27);
@@ -215,8 +215,8 @@ TEST_F(CduKeys, ClicksHitWhatTheyShow) {
 
 TEST_F(CduKeys, TheKeyboardCursorGoesRound) {
     cdu[0].fms_page = kPageDepArrIndex;
-    plan.ends_mod.origin = "ORIG";
-    plan.ends_mod.dest = "DEST";
+    plan.mod.ends.origin = "ORIG";
+    plan.mod.ends.dest = "DEST";
     ToggleKeyboard(kCaptain);
     EXPECT_EQ(cdu[0].ItemCursor, 1);
     cdu[0].PendingLine = 5;  // lets the page mark its lines: L1, R1 and R2
@@ -269,14 +269,14 @@ TEST_F(CduKeys, ProcedureColumnsHaveAPageForEveryRow) {
 
 TEST_F(CduKeys, NoNameRunsOutOfItsFace) {
     const std::string name(200, 'X');
-    plan.procedures.dep_sid = plan.procedures.arr_star = plan.procedures.arr_appr = name;
-    plan.ends_mod.origin = plan.ends_mod.dest = name;
+    plan.mod.procedures.dep_sid = plan.mod.procedures.arr_star = plan.mod.procedures.arr_appr = name;
+    plan.mod.ends.origin = plan.mod.ends.dest = name;
     for (int i = 1; i <= 3; ++i) {
-        plan.FlightPlanMod[i].ident = plan.FlightPlanMod[i].via = plan.Route[i].to = plan.Route[i].via = name;
-        plan.FlightPlanMod[i].via_type = "SID";
-        plan.FlightPlanMod[i].mod_flag = 1;
+        plan.mod.legs[i].ident = plan.mod.legs[i].via = plan.Route[i].to = plan.Route[i].via = name;
+        plan.mod.legs[i].via_type = "SID";
+        plan.mod.legs[i].mod_flag = 1;
     }
-    plan.mod_cnt = plan.route_cnt = 3;
+    plan.mod.leg_cnt = plan.route_cnt = 3;
     for (const int state : {1, 4})
         for (const int page : {6, 10, 11, 22, 24, 55, 58}) {
             plan.fms_fpln_active = state;

@@ -160,8 +160,9 @@ class Crew {
 
 // The aircraft goes a bit of the way to its fix, or beyond.
 void FlyOn(Crew& crew) {
-    if (plan.fms_fpln_active >= kRouteActive && plan.stpos >= 1 && plan.stpos <= plan.fp_cnt) {
-        const FlightPlanLeg& to = FlightPlanLegAt(plan.stpos);
+    if (plan.fms_fpln_active >= kRouteActive && plan.active.stpos >= 1 &&
+        plan.active.stpos <= plan.active.leg_cnt) {
+        const FlightPlanLeg& to = FlightPlanLegAt(plan.active.stpos);
         const double part = crew.Any(0, 3) == 0 ? 1.0 : 0.3;
         sim.plane_lat += (to.lat - sim.plane_lat) * part;
         sim.plane_lon += (to.lon - sim.plane_lon) * part;
@@ -203,7 +204,7 @@ TEST(RandomKeys, LeaveARouteThatHoldsTogether) {
         }
         if (step % 20 == 0) FlyOn(crew);
         // A list that only grows tells nothing new.
-        if (plan.mod_cnt > 60 || (plan.mod_cnt < 1 && step % 10 == 0)) {
+        if (plan.mod.leg_cnt > 60 || (plan.mod.leg_cnt < 1 && step % 10 == 0)) {
             ASSERT_EQ(EnterRouteText(kRoute, error), 1) << error;
         }
         if (cdu[0].CduMessageCount > 50 || cdu[1].CduMessageCount > 50) cdu = {};

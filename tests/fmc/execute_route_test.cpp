@@ -27,17 +27,17 @@ class ExecuteRouteTest : public RouteModel {};
 TEST_F(ExecuteRouteTest, ExecStepsOverADiscontinuityAndKeepsThePlanInBounds) {
     perf.pending_cruise_alt = 35000;
     EnterAndExecute("ORIG AAA CCC DEST");
-    EXPECT_EQ(plan.stpos, 1);
+    EXPECT_EQ(plan.active.stpos, 1);
     EXPECT_EQ(plan.pending_stpos, 0);
     DeleteLegWithDiscontinuity(1, false, kCaptain);
     OpenModification();
-    plan.FlightPlanMod[2].step_alt = 39000;
+    plan.mod.legs[2].step_alt = 39000;
     ExecuteRoute();
     EXPECT_EQ(ActiveLegs(), "ORIG DISCO CCC DEST");
-    EXPECT_EQ(plan.stpos, 2);
-    EXPECT_EQ(plan.mod_stpos, 2);
-    EXPECT_EQ(plan.ActiveLeg.from, "ORIG");
-    EXPECT_EQ(plan.ActiveLeg.to, "CCC");
+    EXPECT_EQ(plan.active.stpos, 2);
+    EXPECT_EQ(plan.mod.stpos, 2);
+    EXPECT_EQ(plan.active.active_leg.from, "ORIG");
+    EXPECT_EQ(plan.active.active_leg.to, "CCC");
     EXPECT_NEAR(lnav.leg_len, 180, 0.01);  // 39 N to 42 N
     EXPECT_EQ(perf.cruise_alt, 39000);
 }
@@ -50,43 +50,43 @@ TEST_F(ExecuteRouteTest, ADirectToStartsPastTheTurn) {
     const auto direct_to = [](double heading) {
         EraseModification();
         sim.true_hdg = heading;
-        ConnectLegs(plan.stpos, 3, kCaptain);
+        ConnectLegs(plan.active.stpos, 3, kCaptain);
     };
     direct_to(8);
     EXPECT_EQ(plan.fms_fpln_active, kRouteModified);
     EXPECT_EQ(ModLegs(), "ORIG CCC EEE DEST");
     EXPECT_EQ(plan.pending_stpos, 1);
-    EXPECT_EQ(plan.ActiveLegMod.from, "DIRECT");
-    EXPECT_EQ(plan.ActiveLegMod.to, "CCC");
-    EXPECT_EQ(plan.ActiveLeg.to, "AAA");
+    EXPECT_EQ(plan.mod.active_leg.from, "DIRECT");
+    EXPECT_EQ(plan.mod.active_leg.to, "CCC");
+    EXPECT_EQ(plan.active.active_leg.to, "AAA");
     ExecuteRoute();
-    EXPECT_EQ(plan.ActiveLeg.from, "DIRECT");
-    EXPECT_EQ(plan.ActiveLeg.to, "CCC");
-    EXPECT_EQ(plan.ActiveLeg.from_lat, 40.5);
-    EXPECT_EQ(plan.ActiveLeg.from_lon, 10);
-    EXPECT_EQ(plan.ActiveLeg.direct_flag, 1);
-    EXPECT_EQ(plan.stpos, 1);
+    EXPECT_EQ(plan.active.active_leg.from, "DIRECT");
+    EXPECT_EQ(plan.active.active_leg.to, "CCC");
+    EXPECT_EQ(plan.active.active_leg.from_lat, 40.5);
+    EXPECT_EQ(plan.active.active_leg.from_lon, 10);
+    EXPECT_EQ(plan.active.active_leg.direct_flag, 1);
+    EXPECT_EQ(plan.active.stpos, 1);
     // A later modification doesn't move its start.
     sim.plane_lat = 41;
     InsertEntry(2, "DDFIX", true);
     ExecuteRoute();
-    EXPECT_EQ(plan.ActiveLeg.from, "DIRECT");
-    EXPECT_EQ(plan.ActiveLeg.from_lat, 40.5);
+    EXPECT_EQ(plan.active.active_leg.from, "DIRECT");
+    EXPECT_EQ(plan.active.active_leg.from_lat, 40.5);
 
     // 90 degrees to turn left at 360 kt: 2.5 nm on 045, which is 1.768 nm north and east.
     EnterAndExecute("ORIG AAA BBFIX CCC EEE DEST");
     sim.plane_lat = 40.5;
     direct_to(90);
     ExecuteRoute();
-    EXPECT_NEAR(plan.ActiveLeg.from_lat, 40.5 + 1.768 / 60, 1e-4);
-    EXPECT_NEAR(plan.ActiveLeg.from_lon, 10 + 1.768 / 60 / 0.7602, 1e-4);
+    EXPECT_NEAR(plan.active.active_leg.from_lat, 40.5 + 1.768 / 60, 1e-4);
+    EXPECT_NEAR(plan.active.active_leg.from_lon, 10 + 1.768 / 60 / 0.7602, 1e-4);
     // Slow, to the right: 1.25 nm on 315, of 270 to be turned to 360.
     EnterAndExecute("ORIG AAA BBFIX CCC EEE DEST");
     sim.ground_speed_kt = 149;
     direct_to(270);
     ExecuteRoute();
-    EXPECT_NEAR(plan.ActiveLeg.from_lat, 40.5 + 0.8839 / 60, 1e-4);
-    EXPECT_NEAR(plan.ActiveLeg.from_lon, 10 - 0.8839 / 60 / 0.7602, 1e-4);
+    EXPECT_NEAR(plan.active.active_leg.from_lat, 40.5 + 0.8839 / 60, 1e-4);
+    EXPECT_NEAR(plan.active.active_leg.from_lon, 10 - 0.8839 / 60 / 0.7602, 1e-4);
 }
 
 TEST_F(ExecuteRouteTest, AModificationStartsFromTheLegBeingFlown) {
@@ -108,12 +108,12 @@ TEST_F(ExecuteRouteTest, AModificationStartsFromTheLegBeingFlown) {
     for (const auto& test : kCases) {
         EnterAndExecute("ORIG AAA BBFIX CCC EEE DEST");
         ParseEntry("LONER");
-        plan.stpos = 3;  // the working copy has yet to hear of it
+        plan.active.stpos = 3;  // the working copy has yet to hear of it
         for (const char* operation : test.operations) Op(operation);
         ExecuteRoute();
-        EXPECT_EQ(plan.stpos, test.stpos) << test.operations[0];
-        EXPECT_EQ(plan.ActiveLeg.to, test.to) << test.operations[0];
-        EXPECT_EQ(plan.mod_stpos, test.stpos) << test.operations[0];
+        EXPECT_EQ(plan.active.stpos, test.stpos) << test.operations[0];
+        EXPECT_EQ(plan.active.active_leg.to, test.to) << test.operations[0];
+        EXPECT_EQ(plan.mod.stpos, test.stpos) << test.operations[0];
     }
 }
 
@@ -131,14 +131,14 @@ TEST_F(ExecuteRouteTest, TheLegBeingFlownKeepsItsStart) {
     for (const auto& test : kCases) {
         EnterAndExecute("ORIG AAA BBFIX CCC EEE DEST");
         ParseEntry("LONER");
-        plan.stpos = 3;
+        plan.active.stpos = 3;
         ExecuteRoute();
-        const double from_lat = plan.FlightPlan[2].lat;
+        const double from_lat = plan.active.legs[2].lat;
         Op(test.operation);
         ExecuteRoute();
-        EXPECT_EQ(plan.ActiveLeg.from, "BBFIX") << test.operation;
-        EXPECT_EQ(plan.ActiveLeg.to, test.to) << test.operation;
-        EXPECT_EQ(plan.ActiveLeg.from_lat, from_lat) << test.operation;
+        EXPECT_EQ(plan.active.active_leg.from, "BBFIX") << test.operation;
+        EXPECT_EQ(plan.active.active_leg.to, test.to) << test.operation;
+        EXPECT_EQ(plan.active.active_leg.from_lat, from_lat) << test.operation;
     }
 }
 
@@ -163,24 +163,24 @@ TEST_F(ExecuteRouteTest, TheBottomOfDescentMovesWithItsLeg) {
         EnterAndExecute("ORIG AAA Q1 CCC EEE LONER DEST");
         ASSERT_EQ(ActiveLegs(), "ORIG AAA AAFIX BBFIX CCC EEE LONER DEST");
         ParseEntry("EASTX");
-        plan.mod_bod_pos = test.bottom;
+        plan.mod.bod_pos = test.bottom;
         Op(test.operation);
-        EXPECT_EQ(plan.mod_bod_pos, test.moved) << test.bottom << " " << test.operation;
+        EXPECT_EQ(plan.mod.bod_pos, test.moved) << test.bottom << " " << test.operation;
     }
 }
 
 TEST_F(ExecuteRouteTest, ADirectToMayAimAtTheActiveLegItself) {
     EnterAndExecute("ORIG AAA BBFIX CCC DEST");
-    plan.stpos = plan.mod_stpos = 2;
+    plan.active.stpos = plan.mod.stpos = 2;
     ConnectLegs(3, 3, kCaptain);  // not the active leg
     EXPECT_EQ(plan.fms_fpln_active, kRouteActive);
     ConnectLegs(2, 2, kCaptain);
     EXPECT_EQ(plan.fms_fpln_active, kRouteModified);
     EXPECT_EQ(ModLegs(), "ORIG BBFIX CCC DEST");
     EXPECT_EQ(plan.pending_stpos, 1);
-    EXPECT_EQ(plan.ActiveLegMod.from, "DIRECT");
-    EXPECT_EQ(plan.ActiveLegMod.to, "BBFIX");
-    EXPECT_EQ(plan.ActiveLegMod.from_lat, 39);
+    EXPECT_EQ(plan.mod.active_leg.from, "DIRECT");
+    EXPECT_EQ(plan.mod.active_leg.to, "BBFIX");
+    EXPECT_EQ(plan.mod.active_leg.from_lat, 39);
 }
 
 TEST_F(ExecuteRouteTest, ExecTakesEditsThatNobodyAnnounced) {
@@ -206,17 +206,17 @@ TEST_F(ExecuteRouteTest, EraseBringsEverythingBack) {
     perf.pending_climb_ias = 300;
     perf.pending_cruise_alt = 39000;
     EXPECT_EQ(ModLegs(), "ORIG AAA DISCO CCC ALTN");
-    EXPECT_EQ(plan.ends.dest, "DEST");
-    EXPECT_EQ(plan.ends_mod.dest, "ALTN");
+    EXPECT_EQ(plan.active.ends.dest, "DEST");
+    EXPECT_EQ(plan.mod.ends.dest, "ALTN");
     EraseModification();
     EXPECT_EQ(ModLegs(), "ORIG AAA BBFIX CCC DEST");
     EXPECT_EQ(Rows(), rows);
-    EXPECT_EQ(plan.ends_mod.dest, "DEST");
-    EXPECT_EQ(plan.ends_mod.dep_runway, "16");
-    EXPECT_EQ(plan.procedures.arr_appr_rwy, "09");
+    EXPECT_EQ(plan.mod.ends.dest, "DEST");
+    EXPECT_EQ(plan.mod.ends.dep_runway, "16");
+    EXPECT_EQ(plan.mod.procedures.arr_appr_rwy, "09");
     ASSERT_EQ(plan.hold_cnt, 1);
     EXPECT_EQ(plan.HoldList[1].ident, "BBFIX");
-    EXPECT_EQ(plan.FlightPlanMod[2].hold_pos, 1);
+    EXPECT_EQ(plan.mod.legs[2].hold_pos, 1);
     EXPECT_EQ(perf.pending_climb_ias, 0);
     EXPECT_EQ(perf.pending_cruise_alt, 0);
     EXPECT_EQ(plan.fms_fpln_active, kRouteActive);
@@ -225,18 +225,18 @@ TEST_F(ExecuteRouteTest, EraseBringsEverythingBack) {
 TEST_F(ExecuteRouteTest, SequencingMovesAPendingModificationOn) {
     EnterAndExecute("ORIG AAA BBFIX CCC EEE DEST");
     const auto sequence_to = [](int leg) {
-        plan.stpos = leg;
+        plan.active.stpos = leg;
         FollowSequencing();
     };
     sequence_to(2);
-    EXPECT_EQ(plan.mod_stpos, 2);
+    EXPECT_EQ(plan.mod.stpos, 2);
     // The next leg still stands, one place further back.
     InsertEntry(3, "LONER", true);
     EXPECT_EQ(plan.pending_stpos, 2);
     sequence_to(3);
     EXPECT_EQ(plan.pending_stpos, 4);
     ExecuteRoute();
-    EXPECT_EQ(plan.ActiveLeg.to, "CCC");
+    EXPECT_EQ(plan.active.active_leg.to, "CCC");
     // The leg flown to has been taken out: the passed one is left behind all the same.
     ConnectLegs(3, 4, kCaptain);
     DeleteLegWithDiscontinuity(5, false, kCaptain);
@@ -244,7 +244,7 @@ TEST_F(ExecuteRouteTest, SequencingMovesAPendingModificationOn) {
     EXPECT_EQ(ModLegs(), "ORIG AAA BBFIX LONER CCC DISCO DEST");
     sequence_to(5);
     ExecuteRoute();
-    EXPECT_EQ(plan.ActiveLeg.to, "DEST");
+    EXPECT_EQ(plan.active.active_leg.to, "DEST");
 }
 
 TEST_F(ExecuteRouteTest, SpeedsAndLevelsFollowAtExec) {
@@ -297,21 +297,21 @@ TEST_F(ExecuteRouteTest, ANewOriginStartsANewRoute) {
     EXPECT_EQ(plan.fms_fpln_active, kRouteActive);
     EXPECT_EQ(EnterOrigin("DEST"), 1);
     EXPECT_EQ(plan.fms_fpln_active, kRouteNone);
-    EXPECT_EQ(plan.stpos, kNoPlan);
+    EXPECT_EQ(plan.active.stpos, kNoPlan);
     EXPECT_EQ(plan.hold_cnt, 0);
-    EXPECT_EQ(plan.fp_cnt, 1);
-    EXPECT_EQ(plan.FlightPlan[0].ident, "DEST");
-    EXPECT_EQ(plan.ends.dep_runway, kNotSelected);
+    EXPECT_EQ(plan.active.leg_cnt, 1);
+    EXPECT_EQ(plan.active.legs[0].ident, "DEST");
+    EXPECT_EQ(plan.active.ends.dep_runway, kNotSelected);
     std::string error;
     EXPECT_EQ(ExecuteEnteredRoute(error), 0);
     EXPECT_FALSE(error.empty());
     EXPECT_EQ(EnterDestination("ORIG"), 1);
-    EXPECT_EQ(plan.stpos, 1);
+    EXPECT_EQ(plan.active.stpos, 1);
     EXPECT_EQ(ExecuteEnteredRoute(error), 1);
     EXPECT_EQ(ActiveLegs(), "DEST ORIG");
     ClearFlightPlan();
-    EXPECT_EQ(plan.stpos, kNoPlan);
-    EXPECT_EQ(plan.fp_cnt, 0);
+    EXPECT_EQ(plan.active.stpos, kNoPlan);
+    EXPECT_EQ(plan.active.leg_cnt, 0);
     EXPECT_EQ(perf.clb_burn, 33000);
     EXPECT_EQ(perf.crz_burn, 8500);
     EXPECT_EQ(perf.des_burn, 3500);

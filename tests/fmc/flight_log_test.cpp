@@ -18,12 +18,12 @@ class FlightLog : public testing::Test {
     FlightLog() {
         cfg.LogFlightPlan = 1;
         identity.aircraft = "tz900-9 test";
-        plan.ends.origin = "ORIG";
-        plan.ends.dest = "DEST";
-        plan.fp_cnt = 1;
-        plan.stpos = 1;
-        plan.FlightPlan[1].ident = "DEST";
-        plan.FlightPlan[1].lat = 5;
+        plan.active.ends.origin = "ORIG";
+        plan.active.ends.dest = "DEST";
+        plan.active.leg_cnt = 1;
+        plan.active.stpos = 1;
+        plan.active.legs[1].ident = "DEST";
+        plan.active.legs[1].lat = 5;
         sim.on_ground = 1;
         sim.total_fuel = 90000;
         perf.gross_weight = 400000;

@@ -39,9 +39,9 @@ TEST_F(InsertProcedures, ACirclingApproachTakesNoLegsOfARunway) {
           "09 VOR DDFIX FAF 3000 43.0 10.0 - 0 0\n09 VOR RW09 MAP 1250 45.0 9.98 - 0 0\n"
           "-- VOR EEE FAF 3000 44.0 10.0 - 0 0\n-- VOR EASTX MAP 1800 42.0 12.0 - 0 0\n");
     SelectApproach(1, 2);
-    EXPECT_EQ(plan.procedures.arr_appr, "VOR");
-    EXPECT_EQ(Idents(plan.FlightPlanMod, plan.mod_cnt), "ORIG DISCO EEE EASTX DEST");
-    EXPECT_EQ(plan.FlightPlanMod[3].via, "VOR");
+    EXPECT_EQ(plan.mod.procedures.arr_appr, "VOR");
+    EXPECT_EQ(Idents(plan.mod.legs, plan.mod.leg_cnt), "ORIG DISCO EEE EASTX DEST");
+    EXPECT_EQ(plan.mod.legs[3].via, "VOR");
 }
 
 TEST_F(InsertProcedures, MissedApproachAltitudesAndHold) {
@@ -51,20 +51,20 @@ TEST_F(InsertProcedures, MissedApproachAltitudesAndHold) {
         "09 ILS WWFIX MAF 4000 42.0 8.0 - 0 0\n09 ILS --- MAF 0 42.0 8.0 - 0 0\n";
     Enter("", apps);
     SelectApproach(1, 1);
-    ASSERT_EQ(Idents(plan.FlightPlanMod, plan.mod_cnt), "ORIG DISCO DDFIX RW09 EASTX LONER WWFIX WWFIX DEST");
-    EXPECT_EQ(plan.FlightPlanMod[4].block_above, 3000);
-    EXPECT_EQ(plan.FlightPlanMod[4].block_below, 5000);
-    EXPECT_EQ(plan.FlightPlanMod[5].alt_restr, 3500);  // halfway from the window's lower bound to 4000
-    EXPECT_EQ(plan.FlightPlanMod[5].restr_code, 3);
-    EXPECT_EQ(plan.FlightPlanMod[7].via, "HOLD");
-    EXPECT_EQ(plan.FlightPlanMod[7].alt_restr, 4000);
-    EXPECT_EQ(plan.FlightPlanMod[7].hold_pos, 1);
+    ASSERT_EQ(Idents(plan.mod.legs, plan.mod.leg_cnt), "ORIG DISCO DDFIX RW09 EASTX LONER WWFIX WWFIX DEST");
+    EXPECT_EQ(plan.mod.legs[4].block_above, 3000);
+    EXPECT_EQ(plan.mod.legs[4].block_below, 5000);
+    EXPECT_EQ(plan.mod.legs[5].alt_restr, 3500);  // halfway from the window's lower bound to 4000
+    EXPECT_EQ(plan.mod.legs[5].restr_code, 3);
+    EXPECT_EQ(plan.mod.legs[7].via, "HOLD");
+    EXPECT_EQ(plan.mod.legs[7].alt_restr, 4000);
+    EXPECT_EQ(plan.mod.legs[7].hold_pos, 1);
     SelectApproach(1, 1);
-    EXPECT_EQ(Idents(plan.FlightPlanMod, plan.mod_cnt), "ORIG DEST");
+    EXPECT_EQ(Idents(plan.mod.legs, plan.mod.leg_cnt), "ORIG DEST");
     EXPECT_EQ(plan.hold_cnt, 0);
     cfg.IncludeMissedApproach = 0;
     SelectApproach(1, 1);
-    EXPECT_EQ(Idents(plan.FlightPlanMod, plan.mod_cnt), "ORIG DISCO DDFIX RW09 DEST");
+    EXPECT_EQ(Idents(plan.mod.legs, plan.mod.leg_cnt), "ORIG DISCO DDFIX RW09 DEST");
     EXPECT_EQ(plan.hold_cnt, 0);
 }
 
@@ -90,9 +90,8 @@ TEST_F(InsertProcedures, AltitudeTokens) {
         SelectSid(1, 1, false);
         SelectArrival(1, 1, false);
         SelectApproach(1, 1);
-        ASSERT_EQ(Idents(plan.FlightPlanMod, plan.mod_cnt), "ORIG AAFIX CCC DISCO DDFIX DEST");
-        const FlightPlanLeg &sid = plan.FlightPlanMod[1], &star = plan.FlightPlanMod[2],
-                            &approach = plan.FlightPlanMod[4];
+        ASSERT_EQ(Idents(plan.mod.legs, plan.mod.leg_cnt), "ORIG AAFIX CCC DISCO DDFIX DEST");
+        const FlightPlanLeg &sid = plan.mod.legs[1], &star = plan.mod.legs[2], &approach = plan.mod.legs[4];
         EXPECT_EQ(sid.alt_restr, row.sid) << token;
         EXPECT_EQ(sid.restr_code, row.sid > 0 ? 1 : 0) << token;
         EXPECT_EQ(sid.restr_type, row.sid > 0 ? row.type : 0) << token;
@@ -110,23 +109,23 @@ TEST_F(InsertProcedures, IntoAnEmptyRoute) {
           "09 ILS DDFIX IAF 3000 43.0 10.0 - 0 0\n09 ILS RW09 MAP 1250 45.0 9.98 - 0 0\n",
           "TWO2 --- CCC 0 42.0 10.0\nTWO2 09 DDFIX 0 43.0 10.0\n");
     SelectApproach(1, 1);
-    EXPECT_EQ(Idents(plan.FlightPlanMod, plan.mod_cnt), "ORIG DISCO DDFIX RW09 DEST");
+    EXPECT_EQ(Idents(plan.mod.legs, plan.mod.leg_cnt), "ORIG DISCO DDFIX RW09 DEST");
     AdvanceRouteState();
     ExecuteRoute();
-    EXPECT_EQ(plan.stpos, 2);
+    EXPECT_EQ(plan.active.stpos, 2);
     sim.on_ground = 1;
     SelectArrival(1, 1, false);
-    EXPECT_EQ(Idents(plan.FlightPlanMod, plan.mod_cnt), "ORIG CCC DDFIX RW09 DEST");
-    EXPECT_EQ(plan.mod_stpos, 1);
+    EXPECT_EQ(Idents(plan.mod.legs, plan.mod.leg_cnt), "ORIG CCC DDFIX RW09 DEST");
+    EXPECT_EQ(plan.mod.stpos, 1);
     SelectSid(1, 1, false);
-    EXPECT_EQ(Idents(plan.FlightPlanMod, plan.mod_cnt), "ORIG AAFIX CCC DDFIX RW09 DEST");
-    EXPECT_EQ(plan.ActiveLegMod.to, "AAFIX");
+    EXPECT_EQ(Idents(plan.mod.legs, plan.mod.leg_cnt), "ORIG AAFIX CCC DDFIX RW09 DEST");
+    EXPECT_EQ(plan.mod.active_leg.to, "AAFIX");
     SelectSid(1, 1, false);
     SelectArrival(1, 1, false);
-    EXPECT_EQ(Idents(plan.FlightPlanMod, plan.mod_cnt), "ORIG DISCO DDFIX RW09 DEST");
-    EXPECT_EQ(plan.mod_stpos, 2);
-    EXPECT_EQ(plan.ActiveLegMod.to, "DDFIX");
-    EXPECT_EQ(plan.ActiveLegMod.from, "ORIG");
+    EXPECT_EQ(Idents(plan.mod.legs, plan.mod.leg_cnt), "ORIG DISCO DDFIX RW09 DEST");
+    EXPECT_EQ(plan.mod.stpos, 2);
+    EXPECT_EQ(plan.mod.active_leg.to, "DDFIX");
+    EXPECT_EQ(plan.mod.active_leg.from, "ORIG");
 }
 
 TEST_F(InsertProcedures, ASharedFixGoesBackToTheArrival) {
@@ -136,14 +135,14 @@ TEST_F(InsertProcedures, ASharedFixGoesBackToTheArrival) {
         if (arrival_first) SelectArrival(1, 1, false);
         SelectSid(1, 1, false);
         if (!arrival_first) SelectArrival(1, 1, false);
-        ASSERT_EQ(Idents(plan.FlightPlanMod, plan.mod_cnt), "ORIG AAFIX CCC DEST");
-        EXPECT_EQ(plan.FlightPlanMod[1].via_type, "SIDSTAR");
-        EXPECT_EQ(plan.FlightPlanMod[1].alt_restr, 12000);
+        ASSERT_EQ(Idents(plan.mod.legs, plan.mod.leg_cnt), "ORIG AAFIX CCC DEST");
+        EXPECT_EQ(plan.mod.legs[1].via_type, "SIDSTAR");
+        EXPECT_EQ(plan.mod.legs[1].alt_restr, 12000);
         SelectSid(1, 1, false);
-        ASSERT_EQ(Idents(plan.FlightPlanMod, plan.mod_cnt), "ORIG AAFIX CCC DEST");
-        EXPECT_EQ(plan.FlightPlanMod[1].via_type, "STAR");
-        EXPECT_EQ(plan.FlightPlanMod[1].alt_restr, 9000);
-        EXPECT_EQ(plan.FlightPlanMod[1].flyover, 0);
+        ASSERT_EQ(Idents(plan.mod.legs, plan.mod.leg_cnt), "ORIG AAFIX CCC DEST");
+        EXPECT_EQ(plan.mod.legs[1].via_type, "STAR");
+        EXPECT_EQ(plan.mod.legs[1].alt_restr, 9000);
+        EXPECT_EQ(plan.mod.legs[1].flyover, 0);
         SelectArrival(1, 1, false);
     }
 }
@@ -157,9 +156,9 @@ TEST_F(InsertProcedures, TransitionsByRunway) {
     SelectSid(1, 1, false);
     SelectDepartureRunway(1, 2);
     SelectDepartureTransition(1, 1);
-    EXPECT_EQ(Idents(plan.FlightPlanMod, plan.mod_cnt), "ORIG AAFIX EASTX CCC DEST");
+    EXPECT_EQ(Idents(plan.mod.legs, plan.mod.leg_cnt), "ORIG AAFIX EASTX CCC DEST");
     SelectDepartureRunway(1, 1);
-    EXPECT_EQ(Idents(plan.FlightPlanMod, plan.mod_cnt), "ORIG AAFIX BBFIX CCC DEST");
+    EXPECT_EQ(Idents(plan.mod.legs, plan.mod.leg_cnt), "ORIG AAFIX BBFIX CCC DEST");
 }
 
 // A coded leg for all runways goes on from what the chosen one's legs lead to: 1200 ft up are 3.4966 nm.
@@ -171,8 +170,8 @@ TEST_F(InsertProcedures, CodedLegsFollowTheirRunway) {
     SelectSid(1, 1, false);
     for (int runway : {1, 2}) {
         SelectDepartureRunway(1, runway);
-        ASSERT_EQ(plan.mod_cnt, 3);
-        const FlightPlanLeg &threshold = plan.FlightPlanMod[1], &end = plan.FlightPlanMod[2];
+        ASSERT_EQ(plan.mod.leg_cnt, 3);
+        const FlightPlanLeg &threshold = plan.mod.legs[1], &end = plan.mod.legs[2];
         EXPECT_EQ(threshold.ident, runway == 1 ? "RW16" : "RW34");
         EXPECT_NEAR(GreatCircle(threshold.lat, threshold.lon, end.lat, end.lon).dist, 3.4966, 1e-3);
     }
@@ -187,8 +186,8 @@ TEST_F(InsertProcedures, ListsEndWhereTheyMay) {
     Enter(sid, apps + "09 ILS RW09 MAP 1250 45.0 9.98 - 0 0\n");
     SelectSid(1, 1, false);
     EXPECT_EQ(procedure_lists.departure_leg_cnt, 80);
-    EXPECT_EQ(plan.mod_cnt, 81);
-    EXPECT_EQ(plan.FlightPlanMod[80].ident, "F179");
+    EXPECT_EQ(plan.mod.leg_cnt, 81);
+    EXPECT_EQ(plan.mod.legs[80].ident, "F179");
     SelectApproach(1, 1);
     EXPECT_EQ(procedure_lists.approach_transition_cnt, 50);
 }

@@ -24,7 +24,7 @@ class PlanFiles : public testing::Test {
   protected:
     PlanFiles() {
         PutRouteNavdata(host);
-        plan.FlightPlan[0] = {};
+        plan.active.legs[0] = {};
     }
     std::string Convert(const std::string& text) const {
         host.PutFile("Velarion/TZ900/flightplans/X.PLN", text);
@@ -85,9 +85,9 @@ TEST_F(PlanFiles, LoadedLikeAnyRoute) {
         "waypoint.1=AAA, I, N40* 0.00', E10* 0.00', +0\nwaypoint.2=DEST, A, N45* 0.00', E10* 0.00', +0\n");
     cfg.FlightPlansFolder = "Plans";
     ASSERT_EQ(LoadCompanyRoute("trip.pln"), 1);
-    EXPECT_EQ(Idents(plan.FlightPlanMod, plan.mod_cnt), "ORIG AAA DEST");
-    EXPECT_EQ(plan.FlightPlanMod[1].type, "VOR");
-    EXPECT_EQ(plan.ends.company_route, "TRIP");
+    EXPECT_EQ(Idents(plan.mod.legs, plan.mod.leg_cnt), "ORIG AAA DEST");
+    EXPECT_EQ(plan.mod.legs[1].type, "VOR");
+    EXPECT_EQ(plan.active.ends.company_route, "TRIP");
     EXPECT_EQ(ListFolder("\\Plans").size(), 1u);  // the converted file lies in the system's own folder
     EXPECT_FALSE(FakeHost::FileText(host.root / kTemp).empty());
     EXPECT_EQ(ConvertPlanFile("gone.pln"), kNotConverted);
@@ -148,22 +148,22 @@ TEST_F(HostGps, ARouteIsTaken) {
     Publish(184, 3);
     ImportHostGpsRoute(kCaptain);
     ExpectInvariants("import");
-    EXPECT_EQ(Idents(plan.FlightPlanMod, plan.mod_cnt), "ORIG AAA DEST");
-    EXPECT_NEAR(plan.FlightPlanMod[1].lat, -40, 1e-5);
-    EXPECT_NEAR(plan.FlightPlanMod[2].lon, -10.5, 1e-5);
-    EXPECT_EQ(plan.FlightPlanMod[1].type, "VOR");
-    EXPECT_EQ(plan.FlightPlanMod[1].freq, "115.00");
-    EXPECT_EQ(plan.FlightPlanMod[1].via, "DIRECT");
+    EXPECT_EQ(Idents(plan.mod.legs, plan.mod.leg_cnt), "ORIG AAA DEST");
+    EXPECT_NEAR(plan.mod.legs[1].lat, -40, 1e-5);
+    EXPECT_NEAR(plan.mod.legs[2].lon, -10.5, 1e-5);
+    EXPECT_EQ(plan.mod.legs[1].type, "VOR");
+    EXPECT_EQ(plan.mod.legs[1].freq, "115.00");
+    EXPECT_EQ(plan.mod.legs[1].via, "DIRECT");
     EXPECT_NEAR(perf.pending_cruise_alt, 35000, 1);
-    EXPECT_EQ(plan.ends.origin, "ORIG");
-    EXPECT_EQ(plan.ends.dest, "DEST");
+    EXPECT_EQ(plan.active.ends.origin, "ORIG");
+    EXPECT_EQ(plan.active.ends.dest, "DEST");
     EXPECT_EQ(plan.fms_fpln_active, kRouteEntered);
     EXPECT_EQ(plan.new_route, 1);
     EXPECT_EQ(cdu[0].fms_page, 22);
     EXPECT_EQ(host.calls["bind_shared_pointer"], 1);
     PutWaypoint(1, u"ABCDEFGHIJ", 41, 10, 1e300);  // no end, no altitude
     ImportHostGpsRoute(kCaptain);
-    EXPECT_EQ(plan.FlightPlanMod[1].ident, "ABCDEFGH");
+    EXPECT_EQ(plan.mod.legs[1].ident, "ABCDEFGH");
     EXPECT_EQ(host.calls["bind_shared_pointer"], 1);
 }
 

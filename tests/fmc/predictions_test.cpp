@@ -111,16 +111,16 @@ TEST_F(Predictions, DistancesPassOverWhatIsNotFlown) {
                  {"CHARL", "MISSED APPR", 60},
                  {"DEST", "", 42}};
     for (const auto& leg : kLegs) {
-        plan.FlightPlan[plan.fp_cnt].ident = leg.ident;
-        plan.FlightPlan[plan.fp_cnt].via = leg.via;
-        plan.FlightPlan[plan.fp_cnt++].lat = leg.lat;
+        plan.active.legs[plan.active.leg_cnt].ident = leg.ident;
+        plan.active.legs[plan.active.leg_cnt].via = leg.via;
+        plan.active.legs[plan.active.leg_cnt++].lat = leg.lat;
     }
-    --plan.fp_cnt;
+    --plan.active.leg_cnt;
     sim.plane_lat = 39.5;
     sim.mgvar = 3;
     ComputeDistances(1);
     EXPECT_EQ(perf.dist_to_dest, 0);  // no plan yet
-    plan.stpos = 1;
+    plan.active.stpos = 1;
     vnav.toc_lat = 39.75;
     vnav.toc_stpos = 0;
     vnav.tod_lat = 41.5;

@@ -25,13 +25,13 @@ struct RouteFacts {
 };
 
 RouteFacts FactsOfModification() {
-    RouteFacts facts{.legs = plan.mod_cnt};
-    for (int i = 1; i <= plan.mod_cnt; ++i) {
-        const FlightPlanLeg &from = plan.FlightPlanMod[i - 1], &to = plan.FlightPlanMod[i];
+    RouteFacts facts{.legs = plan.mod.leg_cnt};
+    for (int i = 1; i <= plan.mod.leg_cnt; ++i) {
+        const FlightPlanLeg &from = plan.mod.legs[i - 1], &to = plan.mod.legs[i];
         facts.crosses_date_line |= std::fabs(to.lon - from.lon) > 180;
         facts.highest_lat = std::max(facts.highest_lat, std::fabs(to.lat));
-        if (i == plan.mod_cnt) continue;
-        const FlightPlanLeg& next = plan.FlightPlanMod[i + 1];
+        if (i == plan.mod.leg_cnt) continue;
+        const FlightPlanLeg& next = plan.mod.legs[i + 1];
         const double in = GreatCircle(to.lat, to.lon, from.lat, from.lon).bearing + 180;
         const double out = GreatCircle(to.lat, to.lon, next.lat, next.lon).bearing;
         facts.sharpest_turn = std::max(facts.sharpest_turn, std::fabs(std::remainder(out - in, 360)));
@@ -52,7 +52,7 @@ TEST(RealRoutes, FiftyJoinOnWorldData) {
         std::string route, error;
         ASSERT_TRUE(fields >> lat >> lon >> elevation >> heading && std::getline(fields, route)) << line;
         ASSERT_EQ(EnterRouteText(route, error), 1) << route << ": " << error;
-        const FlightPlanLeg& origin = plan.FlightPlanMod[0];
+        const FlightPlanLeg& origin = plan.mod.legs[0];
         EXPECT_LT(GreatCircle(lat, lon, origin.lat, origin.lon).dist, 5) << route;
         const RouteFacts facts = FactsOfModification();
         EXPECT_TRUE(facts.legs >= 5 && facts.legs <= 40) << route << ": " << facts.legs;

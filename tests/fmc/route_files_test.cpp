@@ -35,7 +35,7 @@ class RouteFiles : public testing::Test {
   protected:
     RouteFiles() {
         PutRouteNavdata(host);
-        plan.FlightPlan[0] = {};
+        plan.active.legs[0] = {};
     }
     void Put(const std::string& name, const std::string& text) const { host.PutFile(kFolder + name, text); }
     int Load(const std::string& text) const {
@@ -44,7 +44,7 @@ class RouteFiles : public testing::Test {
         ExpectInvariants(text.substr(0, 200));
         return loaded;
     }
-    static FlightPlanLeg& Leg(int index) { return plan.FlightPlanMod[index]; }
+    static FlightPlanLeg& Leg(int index) { return plan.mod.legs[index]; }
     FakeHost host;
 };
 
@@ -84,7 +84,7 @@ TEST_F(RouteFiles, AShortRowGivesTheFieldsThatItHas) {
                          "\r\nWhat=7\r\n;note\r\n\r\n[FlightPlan]\r\n;ORIG 1 1\r\n   \r\n") +
              "ORIG 39 10 APT\r\nAAA 40 10\r\nUSERP 41.5 9 WPT\r\nDEST 45 10 APT\r\n"),
         1);
-    EXPECT_EQ(Idents(plan.FlightPlanMod, plan.mod_cnt), "ORIG AAA USERP DEST");
+    EXPECT_EQ(Idents(plan.mod.legs, plan.mod.leg_cnt), "ORIG AAA USERP DEST");
     EXPECT_EQ(perf.pending_cruise_alt, 35000);
     EXPECT_EQ(perf.cost_index, 80);
     EXPECT_EQ(perf.planned_fuel, 10500);
@@ -98,9 +98,9 @@ TEST_F(RouteFiles, AShortRowGivesTheFieldsThatItHas) {
     EXPECT_EQ(Leg(2).type, "WPT");
     EXPECT_EQ(Leg(0).alt, 430);  // the origin's elevation
     EXPECT_EQ(Leg(0).alt_restr, 430);
-    EXPECT_EQ(plan.ends.origin, "ORIG");
-    EXPECT_EQ(plan.ends.dest, "DEST");
-    EXPECT_EQ(plan.ends.company_route, "X");
+    EXPECT_EQ(plan.active.ends.origin, "ORIG");
+    EXPECT_EQ(plan.active.ends.dest, "DEST");
+    EXPECT_EQ(plan.active.ends.company_route, "X");
     EXPECT_EQ(airports.dest_airport.ident, "DEST");
     EXPECT_EQ(plan.fms_fpln_active, kRouteEntered);
     EXPECT_EQ(plan.new_route, 1);
@@ -110,7 +110,7 @@ TEST_F(RouteFiles, AShortRowGivesTheFieldsThatItHas) {
     EXPECT_EQ(perf.fplog_mode, -1);
     AdvanceRouteState();
     ExecuteRoute();
-    EXPECT_EQ(plan.stpos, 1);
+    EXPECT_EQ(plan.active.stpos, 1);
     EXPECT_EQ(perf.cruise_alt, 35000);
     ExpectInvariants("EXEC");
 }
@@ -164,12 +164,12 @@ TEST_F(RouteFiles, SettingsThatLoadingFollows) {
     const std::string text =
         std::string(kSimple).replace(std::string(kSimple).find("DDFIX"), 0, "DISCO 0 0 WPT\n");
     Load(text);
-    EXPECT_EQ(Idents(plan.FlightPlanMod, plan.mod_cnt), "ORIG AAA DISCO DDFIX DEST");
+    EXPECT_EQ(Idents(plan.mod.legs, plan.mod.leg_cnt), "ORIG AAA DISCO DDFIX DEST");
     EXPECT_EQ(perf.cost_index, -1);
     cfg.ExcludeDisco = 1;
     cfg.CostIndex = 70;
     Load(text);
-    EXPECT_EQ(Idents(plan.FlightPlanMod, plan.mod_cnt), "ORIG AAA DDFIX DEST");
+    EXPECT_EQ(Idents(plan.mod.legs, plan.mod.leg_cnt), "ORIG AAA DDFIX DEST");
     EXPECT_EQ(perf.cost_index, 70);
     Load("CostIndex=20\n" + text);
     EXPECT_EQ(perf.cost_index, 20);
@@ -183,11 +183,11 @@ TEST_F(RouteFiles, MissedApproachOnlyWhereItIsWanted) {
                              FullRow("LONER", "MISSED_APPR APPR") + FullRow("LONER", "HOLD APPR") +
                              "DEST 45 10 APT\n";
     Load(text);
-    EXPECT_EQ(Idents(plan.FlightPlanMod, plan.mod_cnt), "ORIG BBFIX LONER LONER DEST");
+    EXPECT_EQ(Idents(plan.mod.legs, plan.mod.leg_cnt), "ORIG BBFIX LONER LONER DEST");
     EXPECT_EQ(Leg(2).via, "MISSED APPR");
     cfg.IncludeMissedApproach = 0;
     Load(text);
-    EXPECT_EQ(Idents(plan.FlightPlanMod, plan.mod_cnt), "ORIG BBFIX DEST");
+    EXPECT_EQ(Idents(plan.mod.legs, plan.mod.leg_cnt), "ORIG BBFIX DEST");
 }
 
 TEST_F(RouteFiles, AnActiveRouteIsModifiedAndComesBack) {
@@ -199,21 +199,21 @@ TEST_F(RouteFiles, AnActiveRouteIsModifiedAndComesBack) {
     ExecuteRoute();
     ASSERT_EQ(plan.hold_cnt, 1);
     perf.climb_ias = 250;
-    const std::string before = Idents(plan.FlightPlan, plan.fp_cnt);
+    const std::string before = Idents(plan.active.legs, plan.active.leg_cnt);
     ASSERT_EQ(Load("CostIndex=90\nFuel=50\n[FlightPlan]\nDEST 45 10 APT\nEEE 44 10\nALTN 45 12 APT\n"), 1);
     EXPECT_EQ(plan.fms_fpln_active, kRouteModified);
     EXPECT_EQ(plan.hold_cnt, 0);
-    EXPECT_EQ(plan.ends.origin, "DEST");
-    EXPECT_EQ(plan.ends.dest, "DEST");
-    EXPECT_EQ(plan.ends_mod.dest, "ALTN");
+    EXPECT_EQ(plan.active.ends.origin, "DEST");
+    EXPECT_EQ(plan.active.ends.dest, "DEST");
+    EXPECT_EQ(plan.mod.ends.dest, "ALTN");
     EXPECT_EQ(perf.climb_ias, 250);  // what is flown stays until EXEC
     EraseModification();
     ExpectInvariants("ERASE");
-    EXPECT_EQ(Idents(plan.FlightPlanMod, plan.mod_cnt), before);
-    EXPECT_EQ(plan.ends_mod.origin, "ORIG");
-    EXPECT_EQ(plan.ends_mod.dest, "DEST");
-    EXPECT_EQ(plan.ends_mod.dep_runway, "16");
-    EXPECT_EQ(plan.ends_mod.company_route, "");
+    EXPECT_EQ(Idents(plan.mod.legs, plan.mod.leg_cnt), before);
+    EXPECT_EQ(plan.mod.ends.origin, "ORIG");
+    EXPECT_EQ(plan.mod.ends.dest, "DEST");
+    EXPECT_EQ(plan.mod.ends.dep_runway, "16");
+    EXPECT_EQ(plan.mod.ends.company_route, "");
     EXPECT_EQ(airports.origin_airport.ident, "ORIG");
     EXPECT_EQ(plan.hold_cnt, 1);
     EXPECT_EQ(plan.new_route, 0);  // else the next EXEC would begin the route anew
@@ -222,31 +222,31 @@ TEST_F(RouteFiles, AnActiveRouteIsModifiedAndComesBack) {
     Load("CostIndex=90\n[FlightPlan]\nDEST 45 10 APT\nEEE 44 10\nALTN 45 12 APT\n");
     ExecuteRoute();
     ExpectInvariants("EXEC");
-    EXPECT_EQ(Idents(plan.FlightPlan, plan.fp_cnt), "DEST EEE ALTN");
-    EXPECT_EQ(plan.ends.dest, "ALTN");
-    EXPECT_EQ(plan.ends.company_route, "X");
+    EXPECT_EQ(Idents(plan.active.legs, plan.active.leg_cnt), "DEST EEE ALTN");
+    EXPECT_EQ(plan.active.ends.dest, "ALTN");
+    EXPECT_EQ(plan.active.ends.company_route, "X");
     EXPECT_EQ(perf.cost_index, 90);
-    EXPECT_EQ(plan.stpos, 1);
+    EXPECT_EQ(plan.active.stpos, 1);
 }
 
 TEST_F(RouteFiles, WhatCannotBeReadLeavesNoLegs) {
     ASSERT_EQ(Load(kSimple), 1);
     EXPECT_EQ(LoadCompanyRoute("GONE.PLN"), 0);
-    EXPECT_EQ(plan.mod_cnt, 3);  // nothing has been converted, so nothing is read
+    EXPECT_EQ(plan.mod.leg_cnt, 3);  // nothing has been converted, so nothing is read
     EXPECT_EQ(LoadCompanyRoute("GONE.RTE"), 0);
-    EXPECT_EQ(plan.mod_cnt, -1);
+    EXPECT_EQ(plan.mod.leg_cnt, -1);
     EXPECT_EQ(plan.route_cnt, 0);
     EXPECT_EQ(Load("ORIG 39 10 APT\n"), 0);  // no rows without their heading
-    EXPECT_EQ(plan.mod_cnt, -1);
+    EXPECT_EQ(plan.mod.leg_cnt, -1);
     ASSERT_EQ(Load(kSimple), 1);
     ExecuteRoute();
     ASSERT_EQ(plan.fms_fpln_active, kRouteActive);
     EXPECT_EQ(LoadCompanyRoute("GONE.RTE"), 0);
     EXPECT_EQ(plan.fms_fpln_active, kRouteModified);
     ExecuteRoute();  // nothing to fly
-    EXPECT_EQ(plan.fp_cnt, 3);
+    EXPECT_EQ(plan.active.leg_cnt, 3);
     EraseModification();
-    EXPECT_EQ(plan.mod_cnt, 3);
+    EXPECT_EQ(plan.mod.leg_cnt, 3);
 }
 
 TEST_F(RouteFiles, HostileFiles) {
@@ -272,8 +272,8 @@ TEST_F(RouteFiles, HostileFiles) {
     };
     for (const Row& row : rows) {
         Load(row.text);
-        EXPECT_EQ(Idents(plan.FlightPlanMod, plan.mod_cnt), row.idents);
-        if (plan.mod_cnt < 1) continue;
+        EXPECT_EQ(Idents(plan.mod.legs, plan.mod.leg_cnt), row.idents);
+        if (plan.mod.leg_cnt < 1) continue;
         plan.fms_fpln_active = kRouteActivated;
         ExecuteRoute();
         ExpectInvariants(row.idents.substr(0, 80));
@@ -282,34 +282,34 @@ TEST_F(RouteFiles, HostileFiles) {
     EXPECT_EQ(perf.pending_cruise_alt, 0);
     EXPECT_EQ(perf.cost_index, -1);
     Load(many + end);
-    EXPECT_EQ(plan.mod_cnt, 100001);
+    EXPECT_EQ(plan.mod.leg_cnt, 100001);
 }
 
 TEST_F(RouteFiles, UnknownAirportsAreEndsWithoutRunways) {
     Load("[FlightPlan]\nZZZA 39 10 APT\nAAA 40 10\nZZZB 45 10 APT\n");
-    EXPECT_EQ(plan.ends.origin, "ZZZA");
+    EXPECT_EQ(plan.active.ends.origin, "ZZZA");
     EXPECT_EQ(airports.origin_airport.ident, "ZZZA");
     EXPECT_EQ(airports.dest_airport.runway_cnt, 0);
     AdvanceRouteState();
     ExecuteRoute();
-    EXPECT_EQ(plan.ends.origin, "ZZZA");
-    EXPECT_EQ(plan.ends.company_route, "X");
+    EXPECT_EQ(plan.active.ends.origin, "ZZZA");
+    EXPECT_EQ(plan.active.ends.company_route, "X");
 }
 
 TEST_F(RouteFiles, TheWrittenFile) {
-    plan.fp_cnt = 1;
-    FlightPlanLeg& leg = plan.FlightPlan[0];
+    plan.active.leg_cnt = 1;
+    FlightPlanLeg& leg = plan.active.legs[0];
     leg.ident = "KPDX";
     leg.lat = 45.58871;
     leg.lon = -122.59751;
     leg.type = "APT";
     leg.alt = 30;
-    plan.FlightPlan[1].ident = "HOLD PPOS";
-    plan.FlightPlan[1].via = "MISSED APPR";
-    plan.FlightPlan[1].via_type = "APPR";
-    plan.FlightPlan[1].type = "OTHER";
-    plan.FlightPlan[1].from_hdg = 5;
-    plan.FlightPlan[1].block_above = 1000;
+    plan.active.legs[1].ident = "HOLD PPOS";
+    plan.active.legs[1].via = "MISSED APPR";
+    plan.active.legs[1].via_type = "APPR";
+    plan.active.legs[1].type = "OTHER";
+    plan.active.legs[1].from_hdg = 5;
+    plan.active.legs[1].block_above = 1000;
     perf.cruise_alt = 35000;
     ASSERT_EQ(SaveCompanyRoute("pdx.rte"), 1);
     const std::string text = FakeHost::FileText(host.root / kFolder / "pdx.rte");
@@ -327,11 +327,11 @@ TEST_F(RouteFiles, TheWrittenFile) {
         text.find("   HOLD PPOS     0.00000      0.00000 WPT    ---  MISSED_APPR  APPR  -999   ---   1000"),
         std::string::npos)
         << text;
-    EXPECT_EQ(plan.FlightPlan[1].type, "WPT");
+    EXPECT_EQ(plan.active.legs[1].type, "WPT");
 }
 
 TEST_F(RouteFiles, NamesNeverLeaveTheFolder) {
-    plan.fp_cnt = 1;
+    plan.active.leg_cnt = 1;
     for (const std::string& name :
          {std::string("..\\x.rte"), std::string("../x.rte"), std::string("\\x.rte"),
           std::string("/elsewhere/x.rte"), std::string("C:\\x.rte"), std::string("c:x.rte"),
@@ -368,7 +368,7 @@ void SaveAndLoad(const std::string& route, int approach) {
     std::string error;
     ASSERT_EQ(EnterRouteText(route, error), 1) << error;
     if (approach > 0) SelectApproach(1, approach);
-    FlightPlanLeg& edited = plan.FlightPlanMod[2];
+    FlightPlanLeg& edited = plan.mod.legs[2];
     edited.step_alt = 37000;
     edited.mach_restr = 0.812;
     edited.rad_int = 270;
@@ -382,24 +382,24 @@ void SaveAndLoad(const std::string& route, int approach) {
     perf.pending_cruise_alt = 35000;
     ASSERT_EQ(ExecuteEnteredRoute(error), 1) << error;
     ASSERT_EQ(SaveCompanyRoute("SAVED.RTE"), 1);
-    const auto saved = plan.FlightPlan;
-    const int count = plan.fp_cnt, holds = plan.hold_cnt;
+    const auto saved = plan.active.legs;
+    const int count = plan.active.leg_cnt, holds = plan.hold_cnt;
     const std::string rows = Rows();
     for (const RouteStatus state : {kRouteActive, kRouteNone}) {
         plan.fms_fpln_active = state;
         ASSERT_EQ(LoadCompanyRoute("saved"), 0);  // names are whole
         ASSERT_EQ(LoadCompanyRoute("saved.rte"), 1);
-        ASSERT_EQ(plan.mod_cnt, count);
-        for (int i = 1; i <= count; ++i) ExpectSameLeg(saved[i], plan.FlightPlanMod[i]);
+        ASSERT_EQ(plan.mod.leg_cnt, count);
+        for (int i = 1; i <= count; ++i) ExpectSameLeg(saved[i], plan.mod.legs[i]);
         EXPECT_EQ(plan.hold_cnt, holds);
         EXPECT_EQ(Rows(), rows);
         EXPECT_EQ(perf.pending_cruise_alt, 35000);
         ExecuteRoute();
         ExpectInvariants(route);
-        ASSERT_EQ(plan.fp_cnt, count);
+        ASSERT_EQ(plan.active.leg_cnt, count);
         for (int i = 1; i <= count; ++i) {
-            EXPECT_EQ(saved[i].ident, plan.FlightPlan[i].ident);
-            EXPECT_NEAR(saved[i].lat, plan.FlightPlan[i].lat, 0.01) << saved[i].ident;
+            EXPECT_EQ(saved[i].ident, plan.active.legs[i].ident);
+            EXPECT_NEAR(saved[i].lat, plan.active.legs[i].lat, 0.01) << saved[i].ident;
         }
     }
 }
@@ -413,7 +413,7 @@ TEST(RouteFilesRoundTrip, DemonstrationRoute) {
     // the stored procedures give way to newly selected ones
     plan.fms_fpln_active = kRouteActive;
     ASSERT_TRUE(SelectSidByName("EPH1"));
-    for (int i = 1; i <= plan.mod_cnt; ++i) EXPECT_NE(plan.FlightPlanMod[i].via, "ALDER1");
+    for (int i = 1; i <= plan.mod.leg_cnt; ++i) EXPECT_NE(plan.mod.legs[i].via, "ALDER1");
     SelectApproach(1, 2);
     ExpectInvariants("another approach");
     EXPECT_EQ(plan.hold_cnt, 1);

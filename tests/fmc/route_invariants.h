@@ -27,35 +27,35 @@ inline std::string Rows() {
 
 // What must hold whatever the crew does.
 inline void ExpectInvariants(const std::string& after) {
-    for (const auto* list : {&plan.FlightPlan, &plan.FlightPlanMod}) {
-        const int count = list == &plan.FlightPlan ? plan.fp_cnt : plan.mod_cnt;
-        ASSERT_GE(count, list == &plan.FlightPlan ? 0 : -1) << after;  // -1: a load that found no legs
+    for (const auto* list : {&plan.active.legs, &plan.mod.legs}) {
+        const int count = list == &plan.active.legs ? plan.active.leg_cnt : plan.mod.leg_cnt;
+        ASSERT_GE(count, list == &plan.active.legs ? 0 : -1) << after;  // -1: a load that found no legs
         ASSERT_GE(list->size(), count + 2) << after;
         for (int i = 1; i <= count; ++i)
             ASSERT_FALSE(IsDisco((*list)[i]) && IsDisco((*list)[i - 1]))
                 << after << ": " << Idents(*list, count);
         for (int i = count + 1; i < count + 3; ++i) ASSERT_TRUE((*list)[i].ident.empty()) << after;
     }
-    for (int i = 0; i <= plan.fp_cnt; ++i) ASSERT_NE(plan.FlightPlan[i].ident, "THEN") << after;
+    for (int i = 0; i <= plan.active.leg_cnt; ++i) ASSERT_NE(plan.active.legs[i].ident, "THEN") << after;
     ASSERT_LE(plan.hold_cnt, kMostHolds) << after;
     for (int i = 1; i <= plan.hold_cnt; ++i) {
         if (plan.HoldList[i].pending_leg == kHoldTakenOut) continue;
         const int leg = HoldLegInModification(plan.HoldList[i]);
         ASSERT_GE(leg, 1) << after;
-        ASSERT_LE(leg, plan.mod_cnt) << after;
-        ASSERT_LE(plan.HoldList[i].leg, plan.fp_cnt) << after;
-        ASSERT_EQ(plan.FlightPlanMod[leg].hold_pos, i) << after;
-        ASSERT_EQ(plan.FlightPlanMod[leg].ident, plan.HoldList[i].ident) << after;
+        ASSERT_LE(leg, plan.mod.leg_cnt) << after;
+        ASSERT_LE(plan.HoldList[i].leg, plan.active.leg_cnt) << after;
+        ASSERT_EQ(plan.mod.legs[leg].hold_pos, i) << after;
+        ASSERT_EQ(plan.mod.legs[leg].ident, plan.HoldList[i].ident) << after;
         const int before = i > 1 ? HoldLegInModification(plan.HoldList[i - 1]) : 0;
         ASSERT_LT(before, leg) << after;
     }
     if (plan.fms_fpln_active >= kRouteActive) {
-        ASSERT_GE(plan.stpos, 1) << after;
-        ASSERT_LE(plan.stpos, plan.fp_cnt) << after;
-        ASSERT_GE(plan.mod_stpos, 1) << after;
-        ASSERT_LE(plan.mod_stpos, std::max(plan.mod_cnt, 1)) << after;
+        ASSERT_GE(plan.active.stpos, 1) << after;
+        ASSERT_LE(plan.active.stpos, plan.active.leg_cnt) << after;
+        ASSERT_GE(plan.mod.stpos, 1) << after;
+        ASSERT_LE(plan.mod.stpos, std::max(plan.mod.leg_cnt, 1)) << after;
     }
-    ASSERT_LE(plan.mod_bod_pos, std::max(plan.mod_cnt, 0)) << after;
+    ASSERT_LE(plan.mod.bod_pos, std::max(plan.mod.leg_cnt, 0)) << after;
     const std::string rows = Rows();
     RebuildRouteRows();
     ASSERT_EQ(Rows(), rows) << after;

@@ -14,10 +14,10 @@
 // Tests of the route start on the ground of an invented region, with routes entered as text.
 
 inline std::string ModLegs() {
-    return Idents(plan.FlightPlanMod, plan.mod_cnt);
+    return Idents(plan.mod.legs, plan.mod.leg_cnt);
 }
 inline std::string ActiveLegs() {
-    return Idents(plan.FlightPlan, plan.fp_cnt);
+    return Idents(plan.active.legs, plan.active.leg_cnt);
 }
 class RouteModel : public testing::Test {
   protected:

@@ -30,7 +30,7 @@ namespace {
 TEST_F(RouteModel, StateAdvancesInItsCircleAndPreparesTheAircraftOnTheGround) {
     cfg.SetMCPCruiseAltonFlightPlanLoad = 1;
     cfg.LoadFuelonFlightPlanLoad = 1;
-    plan.stpos = plan.mod_stpos = 4;
+    plan.active.stpos = plan.mod.stpos = 4;
     for (const int next : {1, 2, 3, 4, 3}) {
         AdvanceRouteState();
         EXPECT_EQ(plan.fms_fpln_active, next);
@@ -62,7 +62,7 @@ TEST_F(RouteModel, RowsStandForAirwaysAndDirects) {
     Enter("ORIG AAA Q1 CCC Q2 EASTX LONER DEST");
     EXPECT_EQ(Rows(), "DIRECT AAA, Q1(AWY) CCC, Q2(AWY) EASTX, DIRECT LONER");
     // An airway without an end shows its name and no fix, and never reaches the active route.
-    InsertAirwayPlaceholder(plan.mod_cnt, "Q3");
+    InsertAirwayPlaceholder(plan.mod.leg_cnt, "Q3");
     EXPECT_EQ(Rows(), "DIRECT AAA, Q1(AWY) CCC, Q2(AWY) EASTX, DIRECT LONER, Q3(AWY) -");
     EXPECT_EQ(FindRouteFix(5, false), 0);
     EXPECT_EQ(FindRouteFix(2, true), 4);
@@ -70,7 +70,7 @@ TEST_F(RouteModel, RowsStandForAirwaysAndDirects) {
     EXPECT_EQ(FindRouteFix(9, false), 0);
     ExecuteRoute();
     EXPECT_EQ(ActiveLegs(), "ORIG AAA AAFIX BBFIX CCC EASTX LONER DEST");
-    EXPECT_EQ(plan.stpos, 1);
+    EXPECT_EQ(plan.active.stpos, 1);
 }
 
 TEST_F(RouteModel, AirwaysFillFromTheStartFixInBothDirections) {
@@ -115,14 +115,14 @@ TEST_F(RouteModel, InsertedFixesOpenADiscontinuityUnlessTheyReplace) {
     EXPECT_EQ(ModLegs(), "ORIG AAA LONER CCC EASTX DISCO EEE DEST");
     InsertEntry(5, "WWFIX", false);  // one stands there already
     EXPECT_EQ(ModLegs(), "ORIG AAA LONER CCC EASTX WWFIX DISCO EEE DEST");
-    EXPECT_EQ(plan.FlightPlanMod[2].mod_flag, 1);
+    EXPECT_EQ(plan.mod.legs[2].mod_flag, 1);
     InsertFixAt(1, nav.entry_cnt + 1, true);
-    EXPECT_EQ(plan.mod_cnt, 8);
+    EXPECT_EQ(plan.mod.leg_cnt, 8);
     EXPECT_EQ(ActiveLegs(), "ORIG AAA CCC EEE DEST");
-    EXPECT_EQ(plan.FlightPlan[1].mod_flag, 0);
+    EXPECT_EQ(plan.active.legs[1].mod_flag, 0);
     ClearFlightPlan();
     InsertFixAt(1, nav.entry_cnt + 1, true);
-    EXPECT_EQ(plan.mod_cnt, 0);
+    EXPECT_EQ(plan.mod.leg_cnt, 0);
 }
 
 TEST_F(RouteModel, PositionsGetMadeNamesThatNoOtherLegHas) {
@@ -131,29 +131,29 @@ TEST_F(RouteModel, PositionsGetMadeNamesThatNoOtherLegHas) {
     plan.along_track_nm = 30;
     InsertFixAt(1, 0, true);
     EXPECT_EQ(ModLegs(), "ORIG CCC CCC01 DEST");
-    EXPECT_NEAR(plan.FlightPlanMod[2].lat, 42.5, 1e-6);
+    EXPECT_NEAR(plan.mod.legs[2].lat, 42.5, 1e-6);
     EXPECT_EQ(plan.along_track_nm, 0);
     plan.along_track_nm = -12;
     InsertFixAt(2, 0, true);
     EXPECT_EQ(ModLegs(), "ORIG CCC CCC0101 CCC01 DEST");
-    EXPECT_NEAR(plan.FlightPlanMod[2].lat, 42.3, 1e-6);
+    EXPECT_NEAR(plan.mod.legs[2].lat, 42.3, 1e-6);
     InsertEntry(1, "CCC180/60", true);
-    EXPECT_EQ(plan.FlightPlanMod[1].ident, "CCC02");
-    EXPECT_NEAR(plan.FlightPlanMod[1].lat, 41, 0.01);
-    EXPECT_EQ(plan.FlightPlanMod[1].type, "WPT");
+    EXPECT_EQ(plan.mod.legs[1].ident, "CCC02");
+    EXPECT_NEAR(plan.mod.legs[1].lat, 41, 0.01);
+    EXPECT_EQ(plan.mod.legs[1].type, "WPT");
     InsertEntry(1, "N4130.5W00130.5", true);
     InsertEntry(1, "N4130.5W00130.5", true);
     EXPECT_EQ(ModLegs(), "ORIG WPT02 WPT01 CCC02 CCC CCC0101 CCC01 DEST");
     InsertEntry(1, "EEE150/AAA060", true);
-    EXPECT_EQ(plan.FlightPlanMod[1].ident, "EEE01");
+    EXPECT_EQ(plan.mod.legs[1].ident, "EEE01");
 }
 
 TEST_F(RouteModel, DeletedLegsLeaveOneDiscontinuity) {
     Enter("ORIG AAA BBFIX CCC DDFIX DEST");
     DeleteLegWithDiscontinuity(2, false, kCaptain);
     EXPECT_EQ(ModLegs(), "ORIG AAA DISCO CCC DDFIX DEST");
-    EXPECT_TRUE(plan.FlightPlanMod[2].type.empty());
-    EXPECT_EQ(plan.FlightPlanMod[2].alt_restr, kNone);
+    EXPECT_TRUE(plan.mod.legs[2].type.empty());
+    EXPECT_EQ(plan.mod.legs[2].alt_restr, kNone);
     DeleteLegWithDiscontinuity(4, false, kCaptain);
     EXPECT_EQ(ModLegs(), "ORIG AAA DISCO CCC DISCO DEST");
     DeleteLegWithDiscontinuity(3, false, kCaptain);
@@ -220,16 +220,16 @@ TEST_F(RouteModel, HoldsFollowTheirLegs) {
     EXPECT_EQ(first.leg_time, 1);
     // Inbound north, less the variation at 40 N 10 E.
     EXPECT_EQ(first.inbound_crs, first.magvar > 0 ? 360 - first.magvar : -first.magvar);
-    EXPECT_EQ(plan.FlightPlanMod[3].hold_pos, 2);
+    EXPECT_EQ(plan.mod.legs[3].hold_pos, 2);
     InsertEntry(2, "LONER", true);
     EXPECT_EQ(plan.HoldList[2].pending_leg, 4);
     std::string error;
     ASSERT_EQ(ExecuteEnteredRoute(error), 1);
     EXPECT_EQ(plan.HoldList[2].leg, 4);
     EXPECT_EQ(plan.HoldList[2].pending_leg, 0);
-    EXPECT_EQ(plan.FlightPlan[4].hold_pos, 2);
+    EXPECT_EQ(plan.active.legs[4].hold_pos, 2);
     // The hold being flown is left when its leg has gone by EXEC; the page of the last hold closes.
-    plan.stpos = plan.mod_stpos = 4;
+    plan.active.stpos = plan.mod.stpos = 4;
     lnav.holding = 1;
     cdu[0].fms_page = 39;
     RemoveHold(1);
@@ -237,9 +237,9 @@ TEST_F(RouteModel, HoldsFollowTheirLegs) {
     DeleteLegWithDiscontinuity(4, false, kCaptain);
     OpenModification();
     EXPECT_EQ(lnav.holding, 1);
-    EXPECT_EQ(plan.FlightPlanMod[4].hold_pos, 0);
+    EXPECT_EQ(plan.mod.legs[4].hold_pos, 0);
     EraseModification();
-    EXPECT_EQ(plan.FlightPlanMod[4].hold_pos, 1);
+    EXPECT_EQ(plan.mod.legs[4].hold_pos, 1);
     RemoveHold(1);
     ConnectLegs(4, 5, kCaptain);
     EXPECT_EQ(plan.hold_cnt, 1);
@@ -270,7 +270,7 @@ TEST_F(RouteModel, AHoldOfTheActivePlanFindsItsLegInTheModification) {
         ASSERT_EQ(plan.hold_cnt, test.found > 0 ? 1 : 0) << test.leg;
         if (test.found == 0) continue;
         EXPECT_EQ(plan.HoldList[1].pending_leg, test.found);
-        EXPECT_EQ(plan.HoldList[1].ident, plan.FlightPlanMod[test.found].ident);
+        EXPECT_EQ(plan.HoldList[1].ident, plan.mod.legs[test.found].ident);
     }
 }
 
@@ -306,7 +306,7 @@ TEST_F(RouteModel, HoldsItsInvariantsUnderRandomEdits) {
     const char* const kAirways[] = {"Q1", "Q2", "Q3", "NONE"};
     Enter("ORIG AAA Q1 CCC Q2 EASTX DUPLE DEST");
     for (int step = 0; step < 20000; ++step) {
-        const int leg = any(-1, plan.mod_cnt + 1), row = any(0, plan.route_cnt + 1);
+        const int leg = any(-1, plan.mod.leg_cnt + 1), row = any(0, plan.route_cnt + 1);
         std::string line;
         switch (any(0, 17)) {
             case 0:
@@ -327,7 +327,7 @@ TEST_F(RouteModel, HoldsItsInvariantsUnderRandomEdits) {
                 break;
             case 4:
                 line = "ConnectLegs";
-                ConnectLegs(leg, any(leg, plan.mod_cnt), 1);
+                ConnectLegs(leg, any(leg, plan.mod.leg_cnt), 1);
                 break;
             case 5:
                 line = "DeleteLeg";
@@ -338,12 +338,12 @@ TEST_F(RouteModel, HoldsItsInvariantsUnderRandomEdits) {
             case 7:
             case 8:
                 line = "InsertFixAt";
-                if (plan.mod_cnt < 40) InsertEntry(leg, kEntries[any(0, 9)], any(0, 1) == 1);
+                if (plan.mod.leg_cnt < 40) InsertEntry(leg, kEntries[any(0, 9)], any(0, 1) == 1);
                 break;
             case 9:
                 line = "along-track";
                 plan.along_track_nm = any(-20, 20);
-                if (plan.mod_cnt < 40) InsertFixAt(leg, 0, true);
+                if (plan.mod.leg_cnt < 40) InsertFixAt(leg, 0, true);
                 plan.along_track_nm = 0;
                 break;
             case 10:
@@ -357,7 +357,7 @@ TEST_F(RouteModel, HoldsItsInvariantsUnderRandomEdits) {
             case 12:
                 line = "airway";
                 LoadAirway(kAirways[any(0, 3)], row, leg, 1);
-                if (plan.mod_cnt > 40) break;
+                if (plan.mod.leg_cnt > 40) break;
                 if (any(0, 1) == 1 && plan.awy_list_cnt > 0)
                     InsertAirwayPlaceholder(plan.awy_start_leg + 1, plan.awy_name);
                 InsertAirwaySegment(any(0, plan.awy_list_cnt + 1));
@@ -370,7 +370,7 @@ TEST_F(RouteModel, HoldsItsInvariantsUnderRandomEdits) {
             case 14:
                 line = "InsertDirectRow";
                 ParseEntry(kEntries[any(0, 9)]);
-                if (plan.mod_cnt < 40) InsertDirectRow(any(0, 2), row);
+                if (plan.mod.leg_cnt < 40) InsertDirectRow(any(0, 2), row);
                 break;
             case 15:
                 line = "EnterDestination";
@@ -378,9 +378,9 @@ TEST_F(RouteModel, HoldsItsInvariantsUnderRandomEdits) {
                 break;
             case 16:
                 line = "sequence";
-                if (plan.fms_fpln_active >= kRouteActive && plan.stpos < plan.fp_cnt) {
-                    ++plan.stpos;
-                    if (IsDisco(plan.FlightPlan[plan.stpos])) ++plan.stpos;
+                if (plan.fms_fpln_active >= kRouteActive && plan.active.stpos < plan.active.leg_cnt) {
+                    ++plan.active.stpos;
+                    if (IsDisco(plan.active.legs[plan.active.stpos])) ++plan.active.stpos;
                     FollowSequencing();
                 }
                 break;
@@ -388,7 +388,7 @@ TEST_F(RouteModel, HoldsItsInvariantsUnderRandomEdits) {
                 line = "EnterOrigin";
                 if (any(0, 99) == 0) EnterOrigin("ORIG");
                 if (any(0, 299) == 0) ClearFlightPlan();
-                if (plan.mod_cnt < 1) Enter("ORIG AAA Q1 CCC Q2 EASTX DUPLE DEST");
+                if (plan.mod.leg_cnt < 1) Enter("ORIG AAA Q1 CCC Q2 EASTX DUPLE DEST");
                 break;
         }
         line +=

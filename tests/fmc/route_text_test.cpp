@@ -17,8 +17,8 @@ class RouteText : public testing::Test {
     // The idents of the working copy with their vias: "ORIG AAA AAFIX/Q1 DEST".
     static std::string Legs() {
         std::string text;
-        for (int i = 0; i <= plan.mod_cnt; ++i) {
-            const FlightPlanLeg& leg = plan.FlightPlanMod[i];
+        for (int i = 0; i <= plan.mod.leg_cnt; ++i) {
+            const FlightPlanLeg& leg = plan.mod.legs[i];
             if (i > 0) text += ' ';
             text += leg.ident;
             if (!leg.via.empty() && leg.via != "DIRECT") text += "/" + leg.via;
@@ -79,7 +79,7 @@ TEST_F(RouteText, TellsWhichWordIsWrongAndLosesNothing) {
     for (const auto& test : kCases) {
         EXPECT_EQ(Enter(test.route), test.error) << test.route;
         EXPECT_EQ(Legs(), "ORIG AAA AAFIX/Q1 BBFIX/Q1 DEST") << test.route;
-        EXPECT_EQ(plan.ends.dep_runway, "34") << test.route;
+        EXPECT_EQ(plan.active.ends.dep_runway, "34") << test.route;
     }
 }
 
@@ -88,36 +88,36 @@ TEST_F(RouteText, ChoosesTheFixThatTheRouteMeans) {
     sim.plane_lat = -41;
     sim.plane_lon = 9;
     ASSERT_EQ(Enter("ORIG AAA DUPLE DEST"), "ORIG AAA DUPLE DEST");
-    EXPECT_EQ(plan.FlightPlanMod[1].lat, 40);
-    EXPECT_EQ(plan.FlightPlanMod[2].lat, 43.5);
-    EXPECT_EQ(plan.FlightPlanMod[1].type, "VOR");
-    EXPECT_EQ(plan.FlightPlanMod[1].freq, "110.00");
+    EXPECT_EQ(plan.mod.legs[1].lat, 40);
+    EXPECT_EQ(plan.mod.legs[2].lat, 43.5);
+    EXPECT_EQ(plan.mod.legs[1].type, "VOR");
+    EXPECT_EQ(plan.mod.legs[1].freq, "110.00");
     // An airway's own position of the fix wins over a nearer namesake.
     ASSERT_EQ(Enter("ORIG AAA Q1 DUPLE DEST"), "ORIG AAA DUPLE/Q1 DEST");
-    EXPECT_EQ(plan.FlightPlanMod[1].lat, -40);
-    EXPECT_EQ(plan.FlightPlanMod[2].lat, -43.5);
+    EXPECT_EQ(plan.mod.legs[1].lat, -40);
+    EXPECT_EQ(plan.mod.legs[2].lat, -43.5);
 }
 
 TEST_F(RouteText, TakesTypesRunwaysAndTheFirstLevel) {
     ASSERT_EQ(Enter("ORIG/RW16 AAA/N0480F350 Q1 EEE/M084F390 DEST/27"),
               "ORIG AAA AAFIX/Q1 BBFIX/Q1 CCC/Q1 DDFIX/Q1 EEE/Q1 DEST");
-    EXPECT_EQ(plan.FlightPlanMod[0].lat, 39.02);
-    EXPECT_EQ(plan.FlightPlanMod[0].alt, 430);
-    EXPECT_EQ(plan.FlightPlanMod[4].type, "VOR");
-    EXPECT_EQ(plan.FlightPlanMod[6].type, "NDB");
-    EXPECT_EQ(plan.FlightPlanMod[6].freq, "300.0");
-    EXPECT_EQ(plan.FlightPlanMod[6].via_type, "AWY");
+    EXPECT_EQ(plan.mod.legs[0].lat, 39.02);
+    EXPECT_EQ(plan.mod.legs[0].alt, 430);
+    EXPECT_EQ(plan.mod.legs[4].type, "VOR");
+    EXPECT_EQ(plan.mod.legs[6].type, "NDB");
+    EXPECT_EQ(plan.mod.legs[6].freq, "300.0");
+    EXPECT_EQ(plan.mod.legs[6].via_type, "AWY");
     EXPECT_EQ(perf.pending_cruise_alt, 35000);
     EXPECT_EQ(plan.fms_fpln_active, kRouteEntered);
     std::string error;
     ASSERT_EQ(ExecuteEnteredRoute(error), 1) << error;
     EXPECT_EQ(plan.fms_fpln_active, kRouteActive);
-    EXPECT_EQ(plan.stpos, 1);
-    EXPECT_EQ(plan.fp_cnt, 7);
+    EXPECT_EQ(plan.active.stpos, 1);
+    EXPECT_EQ(plan.active.leg_cnt, 7);
     EXPECT_EQ(perf.cruise_alt, 35000);
-    EXPECT_EQ(plan.FlightPlan[7].lon, 10.02);  // the threshold of 27
-    EXPECT_EQ(plan.ActiveLeg.from, "ORIG");
-    EXPECT_EQ(plan.ActiveLeg.to, "AAA");
+    EXPECT_EQ(plan.active.legs[7].lon, 10.02);  // the threshold of 27
+    EXPECT_EQ(plan.active.active_leg.from, "ORIG");
+    EXPECT_EQ(plan.active.active_leg.to, "AAA");
 }
 
 TEST_F(RouteText, MetricLevelsAreRoundedToHundredsOfFeet) {

@@ -17,12 +17,12 @@ namespace {
 // Due north along the Greenwich meridian: 1 flown to, 2 behind it.
 void PlanNorth() {
     for (const int i : {0, 1, 2}) {
-        plan.FlightPlan[i].ident = "FIX";
-        plan.FlightPlan[i].lat = i;
-        plan.FlightPlan[i].alt = 30000;
+        plan.active.legs[i].ident = "FIX";
+        plan.active.legs[i].lat = i;
+        plan.active.legs[i].alt = 30000;
     }
-    plan.fp_cnt = 2;
-    plan.stpos = 1;
+    plan.active.leg_cnt = 2;
+    plan.active.stpos = 1;
     sim.plane_lat = 0.5;
     sim.ind_alt_ft = 11000;
 }
@@ -46,7 +46,7 @@ TEST(Winds, AlongTheLegAtTheNearestAltitude) {
     for (const auto& row : kCases) {
         FakeHost host;
         PlanNorth();
-        plan.FlightPlan[row.prev_leg].wind = row.levels;
+        plan.active.legs[row.prev_leg].wind = row.levels;
         EXPECT_NEAR(LegWind(row.prev_leg, row.leg), row.wind, 1e-9);
     }
 }
@@ -54,9 +54,9 @@ TEST(Winds, AlongTheLegAtTheNearestAltitude) {
 TEST(Winds, TheForecastOfTheDescentStandsBeforeTheLegs) {
     FakeHost host;
     PlanNorth();
-    plan.FlightPlan[1].wind = {{{30000, 180, 50}}};
+    plan.active.legs[1].wind = {{{30000, 180, 50}}};
     EXPECT_NEAR(DescentWind(2), 50, 1e-9);
-    plan.FlightPlan[2].alt = 5000;
+    plan.active.legs[2].alt = 5000;
     winds.DescentForecast = {{{31000, 180, 90}, {6000, 0, 15}}};
     EXPECT_NEAR(DescentWind(2), -15, 1e-9);
 }
@@ -66,10 +66,10 @@ class WeatherFiles : public testing::Test {
   protected:
     WeatherFiles() {
         winds.ActiveSkyFolder = "\\Weather";
-        plan.mod_cnt = 3;
-        for (int i = 0; i <= plan.mod_cnt; ++i) {
-            plan.FlightPlanMod[i].ident = "LEG" + std::to_string(i);
-            plan.FlightPlanMod[i].lat = i;
+        plan.mod.leg_cnt = 3;
+        for (int i = 0; i <= plan.mod.leg_cnt; ++i) {
+            plan.mod.legs[i].ident = "LEG" + std::to_string(i);
+            plan.mod.legs[i].lat = i;
         }
         perf.cruise_alt = 33000;
         PutStations(
@@ -85,12 +85,12 @@ class WeatherFiles : public testing::Test {
     }
     void PutStations(const std::string& text) const { host.PutFile("Weather/wx_station_list.txt", text); }
     void PutSnapshot(const std::string& text) const { host.PutFile("Weather/current_wx_snapshot.txt", text); }
-    static const FlightPlanLeg& Leg(int index) { return plan.FlightPlanMod[index]; }
+    static const FlightPlanLeg& Leg(int index) { return plan.mod.legs[index]; }
     FakeHost host;
 };
 
 TEST_F(WeatherFiles, TheNearestStationsWindAtEachOfTheLegsLevels) {
-    plan.FlightPlanMod[1].wind = {{{21000, 0, 0}, {0, 90, 9}, {38000, 0, 0}}};
+    plan.mod.legs[1].wind = {{{21000, 0, 0}, {0, 90, 9}, {38000, 0, 0}}};
     ASSERT_TRUE(RequestRouteWinds());
     ASSERT_EQ(winds.wx_station_cnt, 3);
     EXPECT_EQ(winds.WxStations[1].ident, "ABCD");  // of two as near the first
@@ -111,7 +111,7 @@ TEST_F(WeatherFiles, TheNearestStationsWindAtEachOfTheLegsLevels) {
 
 TEST_F(WeatherFiles, WhatTellsNoWindLeavesTheLevel) {
     for (const int altitude : kWxLevels) {
-        plan.FlightPlanMod[3].wind = {{{altitude, 77, 7}}};
+        plan.mod.legs[3].wind = {{{altitude, 77, 7}}};
         ASSERT_TRUE(RequestRouteWinds());
         ApplyRouteWinds(1);
         EXPECT_EQ(Leg(3).wind[0].dir, altitude == 39000 ? 270 : 77) << altitude;
@@ -120,13 +120,13 @@ TEST_F(WeatherFiles, WhatTellsNoWindLeavesTheLevel) {
 }
 
 TEST_F(WeatherFiles, WindsFollowTheirLegsThroughAnEdit) {
-    plan.FlightPlanMod[3].wind = {{{39000, 0, 0}}};
+    plan.mod.legs[3].wind = {{{39000, 0, 0}}};
     ASSERT_TRUE(RequestRouteWinds());
-    plan.FlightPlanMod[4] = plan.FlightPlanMod[3];
-    plan.FlightPlanMod[3] = plan.FlightPlanMod[2];
-    plan.FlightPlanMod[2].ident = "NEW";
-    plan.FlightPlanMod[2].lon = 2;
-    plan.mod_cnt = 4;
+    plan.mod.legs[4] = plan.mod.legs[3];
+    plan.mod.legs[3] = plan.mod.legs[2];
+    plan.mod.legs[2].ident = "NEW";
+    plan.mod.legs[2].lon = 2;
+    plan.mod.leg_cnt = 4;
     ApplyRouteWinds(1);
     EXPECT_EQ(Leg(1).wind[0].alt, 33000);  // no level yet: the cruise altitude, and its nearest group
     EXPECT_EQ(Leg(1).wind[0].spd, 80);
@@ -135,8 +135,8 @@ TEST_F(WeatherFiles, WindsFollowTheirLegsThroughAnEdit) {
 }
 
 TEST_F(WeatherFiles, TheForecastAndTheTemperatureOfTheDestination) {
-    for (int i = 0; i <= 3; ++i) plan.FlightPlan[i] = plan.FlightPlanMod[i];
-    plan.fp_cnt = 3;
+    for (int i = 0; i <= 3; ++i) plan.active.legs[i] = plan.mod.legs[i];
+    plan.active.leg_cnt = 3;
     airports.dest_airport.elevation_ft = 430;
     ASSERT_TRUE(RequestDescentWinds());
     EXPECT_EQ(winds.DescentForecast[0].alt, 33000);  // nothing entered: the cruise altitude
@@ -145,7 +145,7 @@ TEST_F(WeatherFiles, TheForecastAndTheTemperatureOfTheDestination) {
     ASSERT_TRUE(RequestDescentWinds());
     EXPECT_EQ(winds.DescentForecast[0].dir, 270);
     EXPECT_EQ(winds.DescentForecast[1].spd, 20);
-    for (const auto* leg : {&plan.FlightPlan[3], &plan.FlightPlanMod[3]}) {
+    for (const auto* leg : {&plan.active.legs[3], &plan.mod.legs[3]}) {
         EXPECT_EQ(leg->temp_alt, 430);
         EXPECT_EQ(leg->temp, -5);
     }
@@ -158,10 +158,10 @@ TEST_F(WeatherFiles, MissingOrEmptyFiles) {
     EXPECT_FALSE(RequestDescentWinds());
     EXPECT_EQ(winds.wx_station_cnt, 3);
     winds.ActiveSkyFolder = "\\Weather";
-    plan.mod_cnt = 0;  // no leg to fly
+    plan.mod.leg_cnt = 0;  // no leg to fly
     EXPECT_TRUE(RequestRouteWinds());
     EXPECT_EQ(winds.wx_station_cnt, 3);
-    plan.mod_cnt = 1;
+    plan.mod.leg_cnt = 1;
     EXPECT_TRUE(RequestRouteWinds());
     EXPECT_EQ(winds.wx_station_cnt, 1);
     PutStations("");

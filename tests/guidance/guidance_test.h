@@ -38,19 +38,19 @@ class GuidanceTest : public testing::Test {
     /// An active route through the fixes, flown to leg `to`.
     static void FlyRoute(const std::vector<Fix>& fixes, int to = 1) {
         for (const Fix& fix : fixes) {
-            FlightPlanLeg& leg = plan.FlightPlan[plan.fp_cnt++];
+            FlightPlanLeg& leg = plan.active.legs[plan.active.leg_cnt++];
             leg.ident = fix.ident;
             leg.lat = fix.lat;
             leg.lon = fix.lon;
             leg.type = "WPT";
         }
-        --plan.fp_cnt;
-        for (int i = 0; i <= plan.fp_cnt; ++i) plan.FlightPlanMod[i] = plan.FlightPlan[i];
-        plan.mod_cnt = plan.fp_cnt;
+        --plan.active.leg_cnt;
+        for (int i = 0; i <= plan.active.leg_cnt; ++i) plan.mod.legs[i] = plan.active.legs[i];
+        plan.mod.leg_cnt = plan.active.leg_cnt;
         plan.fms_fpln_active = 3;
-        plan.stpos = plan.mod_stpos = to;
-        const FlightPlanLeg &from = plan.FlightPlan[to - 1], &next = plan.FlightPlan[to];
-        plan.ActiveLeg = {from.ident, from.lat, from.lon, next.ident, next.lat, next.lon, 0, 0};
+        plan.active.stpos = plan.mod.stpos = to;
+        const FlightPlanLeg &from = plan.active.legs[to - 1], &next = plan.active.legs[to];
+        plan.active.active_leg = {from.ident, from.lat, from.lon, next.ident, next.lat, next.lon, 0, 0};
     }
     static void PlaceAt(double lat, double lon, double heading) {
         sim.plane_lat = lat;

@@ -20,7 +20,7 @@ class HoldsTest : public GuidanceTest {
         hold.use_time = 2;
         hold.leg_dist = 4;
         hold.points[0].lon = 0.5;
-        plan.FlightPlan[1].hold_pos = 1;
+        plan.active.legs[1].hold_pos = 1;
         lnav.lnav_engaged = 1;
     }
     /// Into the pattern, past the fix.
@@ -109,7 +109,7 @@ TEST_F(HoldsTest, IsEnteredAtTheFixAndFlownRound) {
         EXPECT_EQ(lnav.hold_point, place.point);
         EXPECT_EQ(lnav.hold_prev_point, place.point == 1 ? 4 : place.point - 1);
         EXPECT_NEAR(lnav.hold_hdg, place.steering, 0.1);
-        EXPECT_EQ(plan.stpos, 1);
+        EXPECT_EQ(plan.active.stpos, 1);
         EXPECT_GT(lnav.wpt_dist, -0.5) << "the distance to the fix is kept, nothing asks to sequence";
     }
 }
@@ -132,32 +132,32 @@ TEST_F(HoldsTest, IsLeftOnceTheExitIsExecuted) {
     EXPECT_EQ(plan.fms_fpln_active, 4);
     RunASecond();
     EXPECT_EQ(lnav.holding, 1) << "it isn't executed yet";
-    EXPECT_EQ(plan.stpos, 1);
+    EXPECT_EQ(plan.active.stpos, 1);
     plan.fms_fpln_active = 3;
     RunASecond();
     EXPECT_EQ(lnav.holding, 0);
     EXPECT_EQ(lnav.hold_point, 0);
     EXPECT_EQ(plan.hold_cnt, 0);
-    EXPECT_EQ(plan.stpos, 2) << "on by one leg";
-    EXPECT_EQ(plan.ActiveLeg.from, "BRAVO");
-    EXPECT_EQ(plan.ActiveLeg.to, "CHARL");
+    EXPECT_EQ(plan.active.stpos, 2) << "on by one leg";
+    EXPECT_EQ(plan.active.active_leg.from, "BRAVO");
+    EXPECT_EQ(plan.active.active_leg.to, "CHARL");
     EXPECT_NEAR(lnav.wpt_dist, std::hypot(33, 3.6), 0.01);
 }
 
 TEST_F(HoldsTest, AtTheLastFixTheExitFliesThereOnceMore) {
-    plan.fp_cnt = 1;
+    plan.active.leg_cnt = 1;
     Enter();
     lnav.hold_exit = 3;
     PlaceAt(-0.06, 0.45, 270);
     RunASecond();
     EXPECT_EQ(lnav.holding, 0);
-    EXPECT_EQ(plan.stpos, 1);
+    EXPECT_EQ(plan.active.stpos, 1);
     EXPECT_EQ(lnav.plan_finished, 0);
 }
 
 TEST_F(HoldsTest, AHoldBehindTheAircraftIsRemovedUnlessItIsPending) {
-    plan.stpos = 2;
-    plan.ActiveLeg = {"BRAVO", 0, 0.5, "CHARL", 0, 1, 0, 0};
+    plan.active.stpos = 2;
+    plan.active.active_leg = {"BRAVO", 0, 0.5, "CHARL", 0, 1, 0, 0};
     hold.pending_leg = 1;
     PlaceAt(0, 0.6, 90);
     RunASecond();
@@ -172,10 +172,10 @@ TEST_F(HoldsTest, WhenTheHoldIsRemovedThePlanGoesOn) {
     Enter();
     ASSERT_EQ(lnav.holding, 1);
     plan.hold_cnt = 0;
-    plan.FlightPlan[1].hold_pos = 0;
+    plan.active.legs[1].hold_pos = 0;
     RunASecond();
     EXPECT_EQ(lnav.holding, 0);
-    EXPECT_EQ(plan.stpos, 2);
+    EXPECT_EQ(plan.active.stpos, 2);
 }
 
 TEST_F(HoldsTest, OneMoreHoldIsAskedForBelowFive) {

@@ -108,15 +108,15 @@ TEST_F(LnavTest, WhereTheNextLegStarts) {
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.what);
-        plan.fp_cnt = 0;
+        plan.active.leg_cnt = 0;
         FlyRoute({{"ALPHA", 0, 0}, {"BRAVO", 0, 0.5}, {"CHARL", c.next_lat, c.next_lon}});
-        plan.FlightPlan[1].flyover = c.flyover;
+        plan.active.legs[1].flyover = c.flyover;
         lnav = {};
         PlaceAt(0, c.lon, 270);  // flying the other way, so that nothing sequences
         RunASecond();
         EXPECT_EQ(lnav.turn_code, c.turn_code);
         EXPECT_NEAR(lnav.wpt_chg_dist, c.distance, 0.01);
-        EXPECT_EQ(plan.stpos, 1);
+        EXPECT_EQ(plan.active.stpos, 1);
     }
 }
 
@@ -135,7 +135,7 @@ TEST_F(LnavTest, WhatSequences) {
         {"low at the missed approach point", 0.495, 90, true,
          [] {
              sim.radio_alt_ft = 100;
-             plan.FlightPlan[1].appr_wpt_type = "MAP";
+             plan.active.legs[1].appr_wpt_type = "MAP";
          }},
         {"holding", 0.495, 90, false,
          [] {
@@ -143,15 +143,15 @@ TEST_F(LnavTest, WhatSequences) {
              plan.hold_cnt = 1;
              plan.HoldList[1].leg = 1;
              plan.HoldList[1].points[0].lon = 0.5;
-             plan.FlightPlan[1].hold_pos = 1;
+             plan.active.legs[1].hold_pos = 1;
          }},
-        {"a heading leg needs the pilot", 0.4999, 90, false, [] { plan.FlightPlan[1].ident = "VECTORS"; }},
+        {"a heading leg needs the pilot", 0.4999, 90, false, [] { plan.active.legs[1].ident = "VECTORS"; }},
         {"passed abeam, 6 nm beside", 0.501, 90, true, [] { sim.plane_lat = 0.1; }},
         {"passed abeam, flying away", 0.501, 271, false, [] { sim.plane_lat = 0.1; }},
         {"asked for, from anywhere", 0.1, 270, true, [] { lnav.force_sequence = 1; }},
         {"asked for, on a heading leg", 0.1, 90, true,
          [] {
-             plan.FlightPlan[1].ident = "VECTORS";
+             plan.active.legs[1].ident = "VECTORS";
              lnav.force_sequence = 1;
          }},
         {"asked for, low", 0.1, 90, true,
@@ -169,7 +169,7 @@ TEST_F(LnavTest, WhatSequences) {
         PlaceAt(0, c.lon, c.heading);
         c.change();
         RunASecond();
-        EXPECT_EQ(plan.stpos, c.sequences ? 2 : 1);
+        EXPECT_EQ(plan.active.stpos, c.sequences ? 2 : 1);
         EXPECT_EQ(lnav.force_sequence, 0);
     }
 }
@@ -179,19 +179,19 @@ TEST_F(LnavTest, AFixOverflownOnAWideTurnIsLeftBehind) {
     lnav.lnav_engaged = 1;
     PlaceAt(0.05, 0.51, 330);  // past BRAVO on a turn that leads away from the leg
     RunASecond();
-    EXPECT_EQ(plan.stpos, 1) << "only with the autopilot on";
+    EXPECT_EQ(plan.active.stpos, 1) << "only with the autopilot on";
     sim.ap_master = 1;
     vnav.toc = 1;
     vnav.vnav_spd_pending = 1;
     RunASecond();
-    EXPECT_EQ(plan.stpos, 2);
+    EXPECT_EQ(plan.active.stpos, 2);
     EXPECT_EQ(vnav.tod_shortcut, 1);
     EXPECT_EQ(vnav.vnav_spd_pending, 0);
 }
 
 TEST_F(LnavTest, PassingAFix) {
     FlyRoute({{"ALPHA", 0, 0}, {"BRAVO", 0, 0.5}, {"DISCO", 0, 0}, {"CHARL", 0, 1}, {"DELTA", 0, 1.5}});
-    FlightPlanLeg& bravo = plan.FlightPlan[1];
+    FlightPlanLeg& bravo = plan.active.legs[1];
     bravo.alt = 24000;
     bravo.restr_code = 3;
     bravo.restr_type = 1;
@@ -207,7 +207,7 @@ TEST_F(LnavTest, PassingAFix) {
     lnav.report_ident = "BRAVO";
     PlaceAt(0, 0.495, 90);
     RunASecond();
-    EXPECT_EQ(plan.stpos, 3) << "the discontinuity is stepped over";
+    EXPECT_EQ(plan.active.stpos, 3) << "the discontinuity is stepped over";
     EXPECT_EQ(bravo.ata, "09:05");
     EXPECT_EQ(bravo.restr_code, 0);
     EXPECT_EQ(bravo.restr_type, 0);
@@ -222,23 +222,23 @@ TEST_F(LnavTest, PassingAFix) {
     EXPECT_EQ(report.time, "0905Z");
     EXPECT_EQ(report.altitude, 25000);
     EXPECT_NEAR(report.fuel, 51000 * 0.45359237, 1e-6);
-    EXPECT_EQ(plan.ActiveLeg.from, "BRAVO");
-    EXPECT_EQ(plan.ActiveLeg.to, "CHARL");
-    EXPECT_EQ(plan.ActiveLegMod.to, "CHARL");
-    EXPECT_NEAR(plan.ActiveLeg.course, 90, 1e-6);
-    EXPECT_EQ(plan.mod_stpos, 3);
+    EXPECT_EQ(plan.active.active_leg.from, "BRAVO");
+    EXPECT_EQ(plan.active.active_leg.to, "CHARL");
+    EXPECT_EQ(plan.mod.active_leg.to, "CHARL");
+    EXPECT_NEAR(plan.active.active_leg.course, 90, 1e-6);
+    EXPECT_EQ(plan.mod.stpos, 3);
     EXPECT_NEAR(lnav.leg_len, 30, 1e-6);
     EXPECT_NEAR(lnav.wpt_dist, 30.3, 0.01);
 }
 
 TEST_F(LnavTest, ADirectToPendingKeepsItsOwnLeg) {
     FlyRoute(kEast);
-    plan.ActiveLegMod.from = "DIRECT";
+    plan.mod.active_leg.from = "DIRECT";
     plan.direct_to_pending = 1;
     PlaceAt(0, 0.495, 90);
     RunASecond();
-    EXPECT_EQ(plan.ActiveLeg.to, "CHARL");
-    EXPECT_EQ(plan.ActiveLegMod.from, "DIRECT");
+    EXPECT_EQ(plan.active.active_leg.to, "CHARL");
+    EXPECT_EQ(plan.mod.active_leg.from, "DIRECT");
 }
 
 TEST_F(LnavTest, BehindTheLastFixTheHeadingStays) {
@@ -249,19 +249,19 @@ TEST_F(LnavTest, BehindTheLastFixTheHeadingStays) {
     const double heading = lnav.fms_hdg;
     PlaceAt(0.01, 1.51, 90);
     RunASecond();
-    EXPECT_EQ(plan.stpos, 3);
+    EXPECT_EQ(plan.active.stpos, 3);
     EXPECT_EQ(lnav.lnav_engaged, 0);
     PlaceAt(0.01, 1.8, 90);
     RunASecond();
     EXPECT_EQ(lnav.fms_hdg, heading);
     EXPECT_NEAR(lnav.wpt_dist, 18, 0.05);
     // a longer plan is flown on
-    plan.FlightPlan[4] = plan.FlightPlan[3];
-    plan.FlightPlan[4].ident = "ECHO";
-    plan.FlightPlan[4].lon = 3;
-    plan.fp_cnt = 4;
+    plan.active.legs[4] = plan.active.legs[3];
+    plan.active.legs[4].ident = "ECHO";
+    plan.active.legs[4].lon = 3;
+    plan.active.leg_cnt = 4;
     RunASecond();
-    EXPECT_EQ(plan.stpos, 4);
+    EXPECT_EQ(plan.active.stpos, 4);
     EXPECT_NEAR(lnav.fms_hdg, 90, 11);
 }
 
@@ -271,11 +271,11 @@ TEST_F(LnavTest, AChangedLegIsMeasuredBeforeItIsJudged) {
     RunASecond();
     EXPECT_NEAR(lnav.wpt_dist, 0.6, 0.01);
     // EXEC makes DELTA the TO leg while the old distance is nearly nothing
-    plan.stpos = 3;
-    plan.ActiveLeg = {"DIRECT", 0, 0.49, "DELTA", 0, 1.5, 0, 0};
+    plan.active.stpos = 3;
+    plan.active.active_leg = {"DIRECT", 0, 0.49, "DELTA", 0, 1.5, 0, 0};
     lnav.wpt_chg_dist = 9;
     Tick();
-    EXPECT_EQ(plan.stpos, 3);
+    EXPECT_EQ(plan.active.stpos, 3);
     EXPECT_EQ(lnav.plan_finished, 0);
     EXPECT_NEAR(lnav.wpt_dist, 60.6, 0.01);
 }
@@ -291,7 +291,7 @@ TEST_F(LnavTest, AProceduresTurnIsMadeTheDemandedWay) {
         plan = {};
         lnav = {};
         FlyRoute(kEast, 2);
-        plan.FlightPlan[1].dep_turn = c.dep_turn;
+        plan.active.legs[1].dep_turn = c.dep_turn;
         lnav.passed_chg_dist = 5;
         PlaceAt(0, 0.52, c.heading);
         RunASecond();
@@ -304,8 +304,8 @@ TEST_F(LnavTest, AProceduresTurnIsMadeTheDemandedWay) {
 
 TEST_F(LnavTest, AHeadingLegIsFlownAsTold) {
     FlyRoute(kEast);
-    plan.FlightPlan[1].ident = "VECTORS";
-    plan.FlightPlan[1].from_hdg = 222;
+    plan.active.legs[1].ident = "VECTORS";
+    plan.active.legs[1].from_hdg = 222;
     PlaceAt(0, 0.1, 90);
     RunASecond();
     EXPECT_EQ(lnav.fms_hdg, 222);
@@ -314,7 +314,7 @@ TEST_F(LnavTest, AHeadingLegIsFlownAsTold) {
 
 TEST_F(LnavTest, AStoredTrackIsJoinedUntilTheLegIsNear) {
     FlyRoute(kEast, 2);
-    plan.ActiveLeg.from = "DIRECT";
+    plan.active.active_leg.from = "DIRECT";
     lnav.lnav_init_mode = 1;  // north along 0.6 east, to the equator
     lnav.lnav_init_lat = -0.5;
     lnav.lnav_init_lon = 0.6;
@@ -330,8 +330,8 @@ TEST_F(LnavTest, AStoredTrackIsJoinedUntilTheLegIsNear) {
     PlaceAt(-0.005, 0.6, 45);
     RunASecond();
     EXPECT_EQ(lnav.lnav_init_mode, 0);
-    EXPECT_EQ(plan.ActiveLeg.from, "BRAVO");
-    EXPECT_EQ(plan.ActiveLeg.from_lon, 0.5);
+    EXPECT_EQ(plan.active.active_leg.from, "BRAVO");
+    EXPECT_EQ(plan.active.active_leg.from_lon, 0.5);
 }
 
 TEST_F(LnavTest, TheHostsHeadingBugFollowsOnlyWhenAskedTo) {
@@ -369,17 +369,17 @@ TEST_F(LnavTest, TheTurnLogIsWrittenInFlight) {
 
 TEST_F(LnavTest, TheBottomOfDescentIsLookedForOnceAFixIsNear) {
     FlyRoute(kEast);
-    plan.FlightPlan[2].restr_code = 1;
-    plan.FlightPlan[2].restr_type = 0;
-    plan.FlightPlan[2].alt_restr = 11000;
+    plan.active.legs[2].restr_code = 1;
+    plan.active.legs[2].restr_type = 0;
+    plan.active.legs[2].alt_restr = 11000;
     perf.cruise_alt = 35000;
     vnav.toc = vnav.tod = 1;
     PlaceAt(0, 0.3, 90);
     RunASecond();
-    EXPECT_EQ(vnav.bod_pos, 0);
+    EXPECT_EQ(plan.active.bod_pos, 0);
     PlaceAt(0, 0.495, 270);  // flying the other way, so that the fix isn't passed
     RunASecond();
-    EXPECT_EQ(vnav.bod_pos, 2);
+    EXPECT_EQ(plan.active.bod_pos, 2);
     EXPECT_EQ(vnav.cross_at_elev, 11000);
     EXPECT_EQ(vnav.cross_at_lon, 1);
 }

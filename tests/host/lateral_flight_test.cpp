@@ -36,15 +36,16 @@ class LateralFlight {
     LateralFlight(const std::vector<Fix>& fixes, const Air& air) : altitude_(air.altitude) {
         host::world = {};
         for (const Fix& fix : fixes) {
-            FlightPlanLeg& leg = plan.FlightPlan[plan.fp_cnt];
-            leg.ident = "FIX" + std::to_string(plan.fp_cnt++);
+            FlightPlanLeg& leg = plan.active.legs[plan.active.leg_cnt];
+            leg.ident = "FIX" + std::to_string(plan.active.leg_cnt++);
             leg.lat = fix.lat;
             leg.lon = fix.lon;
         }
-        --plan.fp_cnt;
-        plan.stpos = 1;
+        --plan.active.leg_cnt;
+        plan.active.stpos = 1;
         plan.fms_fpln_active = 3;
-        plan.ActiveLeg = {"FIX0", fixes[0].lat, fixes[0].lon, "FIX1", fixes[1].lat, fixes[1].lon, 0, 0};
+        plan.active.active_leg = {"FIX0", fixes[0].lat, fixes[0].lon, "FIX1", fixes[1].lat, fixes[1].lon, 0,
+                                  0};
         aircraft.air.wind_from = air.wind_from;
         aircraft.air.wind_kt = air.wind_kt;
         const double course = GreatCircle(fixes[0].lat, fixes[0].lon, fixes[1].lat, fixes[1].lon).bearing;
@@ -82,9 +83,9 @@ class LateralFlight {
     }
 
     LegPosition Place() const {
-        const FlightPlanLeg& to = plan.FlightPlan[plan.stpos];
-        return LocateOnLeg(sim.plane_lat, sim.plane_lon, plan.ActiveLeg.from_lat, plan.ActiveLeg.from_lon,
-                           to.lat, to.lon);
+        const FlightPlanLeg& to = plan.active.legs[plan.active.stpos];
+        return LocateOnLeg(sim.plane_lat, sim.plane_lon, plan.active.active_leg.from_lat,
+                           plan.active.active_leg.from_lon, to.lat, to.lon);
     }
 
     static constexpr double kTick = 1 / 18.0;
@@ -150,9 +151,9 @@ TEST(LateralFlightTest, RoutesAreFlownFixByFixOnTheirLegs) {
         double near_for = 0, worst = 0;
         while (lnav.plan_finished == 0 && flight.seconds < (length + 60) / slowest * 3600) {
             flight.Tick();
-            if (plan.stpos != leg) {
-                ASSERT_EQ(plan.stpos, leg + 1) << "each fix once and in order";
-                leg = plan.stpos;
+            if (plan.active.stpos != leg) {
+                ASSERT_EQ(plan.active.stpos, leg + 1) << "each fix once and in order";
+                leg = plan.active.stpos;
                 near_for = 0;
             }
             // Established: within the limit for a quarter of a minute; from then on it must stay there.
@@ -161,7 +162,7 @@ TEST(LateralFlightTest, RoutesAreFlownFixByFixOnTheirLegs) {
             near_for = cross_track < 0.3 || near_for >= 15 ? near_for + LateralFlight::kTick : 0;
         }
         EXPECT_EQ(lnav.plan_finished, 1) << "the last fix is reached without a detour";
-        EXPECT_EQ(plan.stpos, plan.fp_cnt);
+        EXPECT_EQ(plan.active.stpos, plan.active.leg_cnt);
         EXPECT_LT(worst, 0.3);
         EXPECT_NEAR(flight.aircraft.altitude, route.air.altitude, 20);
         EXPECT_LT(
@@ -175,7 +176,7 @@ TEST(LateralFlightTest, AHoldIsFlownUntilItsExitIsExecuted) {
     LateralFlight flight({{47, -122}, {47, -121}, {47, -119}}, {14000, 230, 250, 40});
     HoldRecord& hold = plan.HoldList[1];
     plan.hold_cnt = 1;
-    hold.leg = plan.FlightPlan[1].hold_pos = 1;
+    hold.leg = plan.active.legs[1].hold_pos = 1;
     hold.inbound_crs = 73;
     hold.magvar = 17;
     hold.points[0].lat = 47;
@@ -190,11 +191,11 @@ TEST(LateralFlightTest, AHoldIsFlownUntilItsExitIsExecuted) {
             farthest = std::max(farthest, GreatCircle(sim.plane_lat, sim.plane_lon, 47, -121).dist);
     }
     EXPECT_EQ(rounds, 3);
-    EXPECT_EQ(plan.stpos, 1);
+    EXPECT_EQ(plan.active.stpos, 1);
     EXPECT_LT(farthest, 1.5 * hold.leg_dist * 1.5);
     lnav.hold_exit = 3;
     for (int i = 0; i < 18; ++i) flight.Tick();
-    EXPECT_EQ(plan.stpos, 2);
+    EXPECT_EQ(plan.active.stpos, 2);
     while (lnav.plan_finished == 0 && flight.seconds < 7200) flight.Tick();
     EXPECT_LT(GreatCircle(sim.plane_lat, sim.plane_lon, 47, -119).dist, 2);
 }

@@ -53,16 +53,16 @@ TEST(Inspection, PrintsLists) {
     FakeHost host;
     const auto print = Inspection().print_list;
     EXPECT_EQ(Call(print, "legs", ""), "1\n");
-    plan.FlightPlanMod[0].ident = "KSEA";
-    plan.FlightPlanMod[0].type = "APT";
-    FlightPlanLeg& leg = plan.FlightPlanMod[1];
+    plan.mod.legs[0].ident = "KSEA";
+    plan.mod.legs[0].type = "APT";
+    FlightPlanLeg& leg = plan.mod.legs[1];
     leg.ident = "ABC";
     leg.lat = 47.5;
     leg.via = "J1";
     leg.via_type = "AWY";
     leg.alt_restr = 12000;
     leg.restr_code = 1;
-    plan.mod_cnt = 1;
+    plan.mod.leg_cnt = 1;
     EXPECT_EQ(Call(print, "legs", "mod"),
               "1\n=0 KSEA 0 0 APT - - -999 -999 0 0 -999 0 0 0 - 0\n"
               "=1 ABC 47.5 0 - J1 AWY -999 12000 1 0 -999 0 0 0 - 0\n");

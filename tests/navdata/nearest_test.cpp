@@ -116,10 +116,10 @@ TEST_F(NearestTest, VorsAheadAreTuned) {
 
     // Along an active leg that runs south from north of the aircraft: bearings count from its start.
     plan.fms_fpln_active = 3;
-    plan.stpos = 1;
-    plan.fp_cnt = 1;
-    plan.FlightPlan[0].lat = 10.2;
-    plan.FlightPlan[1].lat = 5;
+    plan.active.stpos = 1;
+    plan.active.leg_cnt = 1;
+    plan.active.legs[0].lat = 10.2;
+    plan.active.legs[1].lat = 5;
     At(10, 0);
     EXPECT_EQ(nearest.vor_left.ident, "BEH");
     EXPECT_EQ(nearest.vor_right.ident, "AH2") << "none found, so it keeps the old";

@@ -62,14 +62,14 @@ TEST_F(ParseEntryTest, Positions) {
 }
 
 TEST_F(ParseEntryTest, NumberedNamesPassThoseOfTheRoute) {
-    plan.fp_cnt = 2;
-    plan.FlightPlan[1].ident = "WPT07";
-    plan.FlightPlan[2].ident = "WPT123";
-    plan.FlightPlan[3].ident = "WPT55";  // behind the last leg
+    plan.active.leg_cnt = 2;
+    plan.active.legs[1].ident = "WPT07";
+    plan.active.legs[2].ident = "WPT123";
+    plan.active.legs[3].ident = "WPT55";  // behind the last leg
     ParseEntry("N4530.5W12030.5");
     EXPECT_EQ(nav.EntryCandidates[1].ident, "WPT08");
-    plan.mod_cnt = 1;
-    plan.FlightPlanMod[1].ident = "WPT31";
+    plan.mod.leg_cnt = 1;
+    plan.mod.legs[1].ident = "WPT31";
     ParseEntry("N4530.5W12030.5");
     EXPECT_EQ(nav.EntryCandidates[1].ident, "WPT32");
 }

@@ -15,8 +15,8 @@ std::string Read(std::string_view path) {
 
 TEST(VariableDirectory, FindsScalarsRecordsListsAndSides) {
     ResetSystemState();
-    plan.FlightPlan[3].ident = "ALPHA";
-    plan.FlightPlanMod[1].wind[2].dir = 271.5;
+    plan.active.legs[3].ident = "ALPHA";
+    plan.mod.legs[1].wind[2].dir = 271.5;
     cdu[1].ScratchPad = "N47";
     EXPECT_EQ(Read("stpos"), "999");
     EXPECT_EQ(Read("FlightPlan[3].ident"), "ALPHA");
@@ -35,12 +35,12 @@ TEST(VariableDirectory, StoresWhatFitsAndNothingElse) {
     ASSERT_TRUE(stpos);
     for (const char* wrong : {"", "x", "1.5", "1x", "99999999999", "nan", "inf"})
         EXPECT_FALSE(StoreValue(*stpos, wrong)) << wrong;
-    EXPECT_EQ(plan.stpos, 999);
+    EXPECT_EQ(plan.active.stpos, 999);
     EXPECT_TRUE(StoreValue(*stpos, "-2"));
-    EXPECT_EQ(plan.stpos, -2);
+    EXPECT_EQ(plan.active.stpos, -2);
     EXPECT_FALSE(StoreValue(*FindVariable("ActiveLeg"), "1"));
     ResetSystemState();
-    EXPECT_EQ(plan.stpos, 999);
+    EXPECT_EQ(plan.active.stpos, 999);
 }
 
 TEST(VariableDirectory, NumbersReadBackExactly) {

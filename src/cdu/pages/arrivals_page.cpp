@@ -21,11 +21,11 @@ bool OfDestination(const PageCall& call) {
 }
 
 bool StarIsChosen(const PageCall& call) {
-    return OfDestination(call) && plan.procedures.arr_star != kNotSelected;
+    return OfDestination(call) && plan.mod.procedures.arr_star != kNotSelected;
 }
 
 bool ApproachIsChosen(const PageCall& call) {
-    return OfDestination(call) && plan.procedures.arr_appr != kNotSelected;
+    return OfDestination(call) && plan.mod.procedures.arr_appr != kNotSelected;
 }
 
 std::string NameOf(const ApproachChoice& choice) {
@@ -38,9 +38,10 @@ ProcedureColumn StarColumn(const PageCall& call) {
         AddItems(column, StarNames(ShownAirport(call)), kProcedureWidth, "STARS", "- NONE -", "");
         return column;
     }
-    column.push_back({Format("%*s", kProcedureWidth, plan.procedures.arr_star.c_str()), "STARS", true, true});
+    column.push_back(
+        {Format("%*s", kProcedureWidth, plan.mod.procedures.arr_star.c_str()), "STARS", true, true});
     AddItems(column, ArrivalTransitions(ShownAirport(call)), kTransitionWidth, "TRANS", "-NONE-",
-             plan.procedures.arr_trans);
+             plan.mod.procedures.arr_trans);
     return column;
 }
 
@@ -52,7 +53,7 @@ std::vector<std::string> ApproachNames(const AirportData& airport) {
 
 ProcedureColumn ApproachColumn(const PageCall& call) {
     ProcedureColumn column;
-    const ProcedureSelections& chosen = plan.procedures;
+    const ProcedureSelections& chosen = plan.mod.procedures;
     if (ApproachIsChosen(call)) {
         const std::string runway = chosen.arr_appr_rwy == kNotSelected ? std::string() : chosen.arr_appr_rwy;
         column.push_back({chosen.arr_appr + runway, "APPROACHES", true, true});
@@ -77,7 +78,8 @@ int PlaceOf(const Names& names, const std::string& name) {
 int PlaceOfChosenApproach() {
     const std::vector<ApproachChoice> choices = ApproachChoices(airports.dest_airport);
     const auto found = std::find_if(choices.begin(), choices.end(), [](const ApproachChoice& choice) {
-        return choice.kind == plan.procedures.arr_appr && choice.runway == plan.procedures.arr_appr_rwy;
+        return choice.kind == plan.mod.procedures.arr_appr &&
+               choice.runway == plan.mod.procedures.arr_appr_rwy;
     });
     return static_cast<int>(found - choices.begin()) + 1;
 }
@@ -97,7 +99,8 @@ void OnStarItem(PageCall& call, int item) {
     if (!chosen)
         SelectArrival(call.side, item, false);
     else if (item == 1)
-        SelectArrival(call.side, PlaceOf(StarNames(airports.dest_airport), plan.procedures.arr_star), false);
+        SelectArrival(call.side, PlaceOf(StarNames(airports.dest_airport), plan.mod.procedures.arr_star),
+                      false);
     else
         SelectArrivalTransition(call.side, item - 1);
 }

@@ -19,7 +19,7 @@ void OpenArrivals(PageCall& call, bool of_origin) {
 }
 
 void OnLine(PageCall& call) {
-    const bool origin = plan.ends_mod.origin != kNotSelected, dest = plan.ends_mod.dest != kNotSelected;
+    const bool origin = plan.mod.ends.origin != kNotSelected, dest = plan.mod.ends.dest != kNotSelected;
     if (call.line == kL1 && origin) {
         call.unit.dep_index = 1;
         GoToPage(call.side, kPageDepartures);
@@ -39,15 +39,15 @@ void DepArrIndexPage(PageCall& call) {
     PageText(call, 225, 25, "1/1", kWhite, kLabelSize);
     PageText(call, 122, 35, "RTE 1", kCyan, kLabelSize);
     if (IsRouteModified()) PageText(call, 150, 35, "(ACT)", kCyan, kLabelSize);
-    if (plan.ends_mod.origin != kNotSelected) {
+    if (plan.mod.ends.origin != kNotSelected) {
         LeftData(call, 1, "<DEP");
-        PageText(call, kMiddle, DataY(1), plan.ends_mod.origin);
+        PageText(call, kMiddle, DataY(1), plan.mod.ends.origin);
         RightData(call, 1, "ARR>");
         MarkSelectable(call, kL1);
         MarkSelectable(call, kR1);
     }
-    if (plan.ends_mod.dest != kNotSelected) {
-        PageText(call, kMiddle, DataY(2), plan.ends_mod.dest);
+    if (plan.mod.ends.dest != kNotSelected) {
+        PageText(call, kMiddle, DataY(2), plan.mod.ends.dest);
         RightData(call, 2, "ARR>");
         MarkSelectable(call, kR2);
     }

@@ -10,12 +10,13 @@
 namespace {
 
 bool SidIsChosen() {
-    return plan.procedures.dep_sid != kNotSelected;
+    return plan.mod.procedures.dep_sid != kNotSelected;
 }
 
 int PlaceOfChosenSid() {
     const std::vector<std::string> names = SidNames();
-    return static_cast<int>(std::find(names.begin(), names.end(), plan.procedures.dep_sid) - names.begin()) +
+    return static_cast<int>(std::find(names.begin(), names.end(), plan.mod.procedures.dep_sid) -
+                            names.begin()) +
            1;
 }
 
@@ -26,14 +27,16 @@ ProcedureColumn SidColumn() {
         AddItems(column, SidNames(), kProcedureWidth, "SIDS", "- N O N E -", "");
         return column;
     }
-    column.push_back({Format("%*s", kProcedureWidth, plan.procedures.dep_sid.c_str()), "SIDS", true, true});
-    AddItems(column, DepartureTransitions(), kTransitionWidth, "TRANS", "-NONE-", plan.procedures.dep_trans);
+    column.push_back(
+        {Format("%*s", kProcedureWidth, plan.mod.procedures.dep_sid.c_str()), "SIDS", true, true});
+    AddItems(column, DepartureTransitions(), kTransitionWidth, "TRANS", "-NONE-",
+             plan.mod.procedures.dep_trans);
     return column;
 }
 
 ProcedureColumn RunwayColumn() {
     ProcedureColumn column;
-    AddItems(column, DepartureRunways(), kRunwayWidth, "RUNWAYS", "-NONE-", plan.ends_mod.dep_runway);
+    AddItems(column, DepartureRunways(), kRunwayWidth, "RUNWAYS", "-NONE-", plan.mod.ends.dep_runway);
     return column;
 }
 
@@ -71,7 +74,7 @@ void DeparturesPage(PageCall& call) {
         right = RunwayColumn();
         page = std::min(page, PageCount(left, right));
     }
-    Title(call, 85, Format("%4s DEPARTURES", plan.ends_mod.origin.c_str()));
+    Title(call, 85, Format("%4s DEPARTURES", plan.mod.ends.origin.c_str()));
     PageText(call, 225, 25, Format("%2d/%2d", page, PageCount(left, right)), kWhite, kLabelSize);
     DrawProcedureColumns(call, left, right, page);
 }

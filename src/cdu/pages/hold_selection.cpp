@@ -24,16 +24,16 @@ constexpr std::string_view kHoldAt = "HOLD AT ";
 
 // No more holds than the list takes, one at a fix, and none at a gap or behind the destination.
 bool CanHoldAt(int leg) {
-    const GrowingList<FlightPlanLeg>& legs = plan.FlightPlanMod;
-    const bool has_place = leg < plan.mod_cnt && IsPlace(legs[leg]);
+    const GrowingList<FlightPlanLeg>& legs = plan.mod.legs;
+    const bool has_place = leg < plan.mod.leg_cnt && IsPlace(legs[leg]);
     return plan.hold_cnt < kMostHolds && has_place && !IsHoldLeg(legs[leg]) && !IsHoldLeg(legs[leg + 1]);
 }
 
 // A hold has a leg of its own behind the fix at which it is flown.
 void PlaceHold(PageCall& call, int leg) {
-    plan.FlightPlanMod[leg].via = kHoldVia;
-    plan.FlightPlanMod[leg].via_type = kHoldViaType;
-    MarkHold(leg, false, std::max(0, PlaceBefore(plan.FlightPlanMod, leg - 1)));
+    plan.mod.legs[leg].via = kHoldVia;
+    plan.mod.legs[leg].via_type = kHoldViaType;
+    MarkHold(leg, false, std::max(0, PlaceBefore(plan.mod.legs, leg - 1)));
     route_pages.LegsView = kNormalView;
     route_pages.HoldSelectIndex = 0;
     FinishLegsEdit(call);
@@ -41,7 +41,7 @@ void PlaceHold(PageCall& call, int leg) {
 
 void HoldAtLeg(PageCall& call, int leg) {
     if (!CanHoldAt(leg)) return Refuse(call, "INVALID ENTRY", kHelpNotAllowed);
-    const FlightPlanLeg fix = plan.FlightPlanMod[leg];
+    const FlightPlanLeg fix = plan.mod.legs[leg];
     FlightPlanLeg& hold = OpenModLeg(leg + 1);
     hold.ident = fix.ident;
     hold.lat = fix.lat;
@@ -55,7 +55,7 @@ void HoldAtLeg(PageCall& call, int leg) {
 void HoldAtEntry(PageCall& call, int leg, int candidate) {
     if (plan.hold_cnt >= kMostHolds) return Refuse(call, "INVALID ENTRY", kHelpNotAllowed);
     EnsureEnds();
-    leg = std::min(leg, plan.mod_cnt);
+    leg = std::min(leg, plan.mod.leg_cnt);
     InsertFixAt(leg, candidate, true);
     PlaceHold(call, leg);
 }
@@ -92,16 +92,15 @@ void HoldAtPresentPosition(PageCall& call) {
     hold.mod_flag = 1;
     if (flying) SetPendingActiveLeg(leg);
     PlaceHold(call, leg);
-    if (const int place = plan.FlightPlanMod[leg].hold_pos)
-        plan.HoldList[place].inbound_crs = sim.mag_track_deg;
+    if (const int place = plan.mod.legs[leg].hold_pos) plan.HoldList[place].inbound_crs = sim.mag_track_deg;
 }
 
 void PlaceEnteredHold(PageCall& call) {
     if (const int leg = route_pages.HoldSelectIndex) return HoldAtLeg(call, leg);
     if (IsHoldAtEntry(call)) return HoldAtPick(call, FirstShownLeg());
     if (Entry(call).empty()) return;
-    for (int i = FirstShownLeg(); i < plan.mod_cnt; ++i)
-        if (plan.FlightPlanMod[i].ident == Entry(call)) return HoldAtLeg(call, i);
+    for (int i = FirstShownLeg(); i < plan.mod.leg_cnt; ++i)
+        if (plan.mod.legs[i].ident == Entry(call)) return HoldAtLeg(call, i);
     ParseEntry(Entry(call));
     if (nav.entry_cnt == 0) return Refuse(call, "NOT IN DATABASE", kHelpRoute);
     if (nav.entry_cnt > 1) return OpenSelectWpt(call, 0);

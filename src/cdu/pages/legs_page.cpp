@@ -47,8 +47,8 @@ void EnterFix(PageCall& call, int leg) {
 
 int FindFollowing(int leg, const std::string& ident) {
     const bool active = IsRouteActive() && leg == ShownActiveLeg();
-    for (int i = active ? leg : leg + 1; i <= plan.mod_cnt; ++i)
-        if (plan.FlightPlanMod[i].ident == ident) return i;
+    for (int i = active ? leg : leg + 1; i <= plan.mod.leg_cnt; ++i)
+        if (plan.mod.legs[i].ident == ident) return i;
     return 0;
 }
 
@@ -61,10 +61,10 @@ bool IsAlongTrack(const std::string& text) {
 // Refused without a place on that side of the fix, to which the distance would be measured.
 void EnterAlongTrack(PageCall& call, int leg) {
     const double distance = LeadingDouble(std::string_view(Entry(call)).substr(Entry(call).find('/') + 1));
-    const int legs_before = plan.mod_cnt;
+    const int legs_before = plan.mod.leg_cnt;
     plan.along_track_nm = distance;
     if (distance != 0) InsertFixAt(leg, 0, true);
-    if (plan.mod_cnt == legs_before) return Refuse(call, "INVALID ENTRY", kHelpNotAllowed);
+    if (plan.mod.leg_cnt == legs_before) return Refuse(call, "INVALID ENTRY", kHelpNotAllowed);
     FinishLegsEdit(call);
 }
 
@@ -73,7 +73,7 @@ void DeleteLeg(PageCall& call, int leg) {
     if (leg >= ShownCount())
         return call.line == kL3 ? Refuse(call, "INVALID ENTRY", kHelpNotAllowed) : RefuseDelete(call);
     if (IsDisco(ShownLeg(leg))) return RefuseDelete(call);  // a gap is closed, not deleted
-    plan.FlightPlanMod[leg].alt = kNone;
+    plan.mod.legs[leg].alt = kNone;
     DeleteLegWithDiscontinuity(leg, false, call.side);
     OpenModification();
     call.unit.ScratchMessage.clear();
@@ -138,7 +138,7 @@ void OnConstraint(PageCall& call, int leg) {
 
 // The course on which a direct-to joins the picked leg.
 void SetInterceptCourse(int leg) {
-    FlightPlanLeg& target = plan.FlightPlanMod[leg];
+    FlightPlanLeg& target = plan.mod.legs[leg];
     if (target.rad_int >= 0) return;
     const ShownTrack track = TrackToLeg(leg);
     if (track.known) target.rad_int = track.course;
@@ -147,7 +147,7 @@ void SetInterceptCourse(int leg) {
 void OnDirectEntry(PageCall& call) {
     if (const int leg = route_pages.DirectSelectIndex) {
         route_pages.DirectSelectIndex = 0;
-        if (leg > plan.mod_cnt || !IsPlace(plan.FlightPlanMod[leg])) return;
+        if (leg > plan.mod.leg_cnt || !IsPlace(plan.mod.legs[leg])) return;
         if (IsRouteSettled()) AdvanceRouteState();
         SetInterceptCourse(leg);
         ConnectLegs(PendingActiveLeg(), leg, call.side);

@@ -31,7 +31,7 @@ constexpr const char* kDiscontinuity = "----------- ROUTE DISCONTINUITY  -------
 // --- page 1: the ends
 
 bool HasOrigin() {
-    return plan.ends_mod.origin != kNotSelected;
+    return plan.mod.ends.origin != kNotSelected;
 }
 
 // What an end shows: a modification's value stands on a highlight.
@@ -51,13 +51,13 @@ void DrawEnd(PageCall& call, int line, const std::string& active, const std::str
 
 void OriginLine(PageCall& call) {
     LeftLabel(call, 1, "ORIGIN");
-    DrawEnd(call, kL1, plan.ends.origin, plan.ends_mod.origin);
+    DrawEnd(call, kL1, plan.active.ends.origin, plan.mod.ends.origin);
     MarkSelectable(call, kL1);
 }
 
 void OnOrigin(PageCall& call) {
     if (Entry(call).empty()) {
-        if (HasOrigin()) return CopyDown(call, plan.ends_mod.origin);
+        if (HasOrigin()) return CopyDown(call, plan.mod.ends.origin);
         return Refuse(call, "INVALID ENTRY", kHelpOrigin);
     }
     if (EnterOrigin(Entry(call)) == 0) return Refuse(call, "NOT IN DATABASE", kHelpAirportCode);
@@ -66,7 +66,7 @@ void OnOrigin(PageCall& call) {
 
 void OnDestination(PageCall& call) {
     if (Entry(call).empty()) {
-        if (plan.ends_mod.dest != kNotSelected) return CopyDown(call, plan.ends_mod.dest);
+        if (plan.mod.ends.dest != kNotSelected) return CopyDown(call, plan.mod.ends.dest);
         return Refuse(call, "INVALID ENTRY", kHelpDestination);
     }
     if (EnterDestination(Entry(call)) == 0) return Refuse(call, "NOT IN DATABASE", kHelpAirportCode);
@@ -78,7 +78,7 @@ void OnRunway(PageCall& call) {
     if (!HasOrigin()) return Refuse(call, "INVALID ENTRY", kHelpOrigin);
     if (Entry(call).empty()) return;
     if (SelectOriginRunway(Entry(call)) == 0) return Refuse(call, "NOT IN DATABASE", kHelpAirportCode);
-    if (plan.procedures.dep_sid != kNotSelected) SelectSid(call.side, 0, true);
+    if (plan.mod.procedures.dep_sid != kNotSelected) SelectSid(call.side, 0, true);
     ClearEntry(call);
 }
 
@@ -127,11 +127,11 @@ void OnEndsLine(PageCall& call) {
 void DrawEnds(PageCall& call) {
     OriginLine(call);
     RightLabel(call, 1, "DEST");
-    DrawEnd(call, kR1, plan.ends.dest, plan.ends_mod.dest);
+    DrawEnd(call, kR1, plan.active.ends.dest, plan.mod.ends.dest);
     if (HasOrigin()) {
         LeftLabel(call, 2, "RUNWAY");
         const bool in_mod = IsRouteModified();
-        const std::string& runway = in_mod ? plan.ends_mod.dep_runway : plan.ends.dep_runway;
+        const std::string& runway = in_mod ? plan.mod.ends.dep_runway : plan.active.ends.dep_runway;
         const std::string shown = runway == kNotSelected ? "-----" : Format("RW%s", runway.c_str());
         if (in_mod && runway != kNotSelected)
             HighlightedLeft(call, 2, shown);
@@ -149,7 +149,7 @@ void DrawEnds(PageCall& call) {
     RightLabel(call, 3, "CO ROUTE");
     EntryFrame(call, 151, static_cast<int>(DataY(3)), 100);
     const std::string& company_route =
-        IsRouteModified() ? plan.ends_mod.company_route : plan.ends.company_route;
+        IsRouteModified() ? plan.mod.ends.company_route : plan.active.ends.company_route;
     if (!company_route.empty()) RightData(call, 3, Format("%14.14s", company_route.c_str()));
     LeftLabel(call, 5, "ROUTE");
     LeftData(call, 5, "<PRINT");
@@ -209,7 +209,7 @@ int ConnectFrom(int row) {
 bool ContinuesAirway(int row) {
     if (row <= plan.route_cnt || plan.Route[row - 1].via_type != kAirwayViaType) return false;
     const int fix = FindRouteFix(row - 1, false);
-    return fix > 0 && fix < plan.mod_cnt && IsThen(plan.FlightPlanMod[fix + 1]);
+    return fix > 0 && fix < plan.mod.leg_cnt && IsThen(plan.mod.legs[fix + 1]);
 }
 
 void OnAirwayEnd(PageCall& call, int row, const std::string& airway, bool is_open) {

@@ -34,7 +34,7 @@ const FlightPlanLeg& LegShown(const PageCall& call) {
     return ShownLeg(call.unit.wind_leg);
 }
 FlightPlanLeg& EditedLeg(const PageCall& call) {
-    return plan.FlightPlanMod[call.unit.wind_leg];
+    return plan.mod.legs[call.unit.wind_leg];
 }
 
 // Rows in the order of their altitudes, the empty ones last.

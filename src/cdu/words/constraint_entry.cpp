@@ -92,7 +92,7 @@ bool TakeWindow(const Token& a, const Token& b, bool flight_level, ConstraintEnt
 }
 
 bool IsOnDescent(int leg) {
-    const FlightPlanLeg& at = plan.FlightPlanMod[leg];
+    const FlightPlanLeg& at = plan.mod.legs[leg];
     const bool of_arrival = at.via_type == kStarViaType || at.via_type == kApproachViaType;
     return of_arrival || (vnav.tod_stpos > 0 && leg >= vnav.tod_stpos);
 }
@@ -105,10 +105,10 @@ void SetCode(FlightPlanLeg& leg) {
 
 // Legs behind that carried the leg's old altitude follow it, until one differs.
 void Propagate(int leg, double old_altitude) {
-    const double altitude = plan.FlightPlanMod[leg].alt_restr;
+    const double altitude = plan.mod.legs[leg].alt_restr;
     if (old_altitude <= 0 || altitude >= perf.cruise_alt || !IsOnDescent(leg)) return;
-    for (int i = leg + 1; i < plan.mod_cnt; ++i) {
-        FlightPlanLeg& next = plan.FlightPlanMod[i];
+    for (int i = leg + 1; i < plan.mod.leg_cnt; ++i) {
+        FlightPlanLeg& next = plan.mod.legs[i];
         if (!HasAltitudeRestr(next) || next.restr_type == kBetween || next.alt_restr != old_altitude) return;
         next.alt_restr = altitude;
         next.mod_flag = kCrewEntered;
@@ -138,7 +138,7 @@ std::optional<ConstraintEntry> ParseConstraint(std::string_view text) {
 }
 
 void StoreConstraint(int leg, const ConstraintEntry& entry) {
-    FlightPlanLeg& at = plan.FlightPlanMod[leg];
+    FlightPlanLeg& at = plan.mod.legs[leg];
     const double old_altitude = HasAltitudeRestr(at) && at.restr_type != kBetween ? at.alt_restr : 0;
     if (entry.speed > 0) at.ias_restr = entry.speed;
     if (entry.alt_type == kBetween) {
@@ -161,7 +161,7 @@ void StoreConstraint(int leg, const ConstraintEntry& entry) {
 }
 
 bool RemoveConstraint(int leg) {
-    FlightPlanLeg& at = plan.FlightPlanMod[leg];
+    FlightPlanLeg& at = plan.mod.legs[leg];
     if (at.restr_code == kFree) return false;
     at.alt_restr = at.block_above = at.block_below = at.ias_restr = at.mach_restr = kNone;
     at.restr_code = kFree;

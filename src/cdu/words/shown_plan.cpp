@@ -13,7 +13,7 @@
 namespace {
 
 const GrowingList<FlightPlanLeg>& ShownList() {
-    return IsRouteSettled() ? plan.FlightPlan : plan.FlightPlanMod;
+    return IsRouteSettled() ? plan.active.legs : plan.mod.legs;
 }
 
 }  // namespace
@@ -23,12 +23,12 @@ const FlightPlanLeg& ShownLeg(int index) {
 }
 
 int ShownCount() {
-    return IsRouteSettled() ? plan.fp_cnt : plan.mod_cnt;
+    return IsRouteSettled() ? plan.active.leg_cnt : plan.mod.leg_cnt;
 }
 
 int ShownActiveLeg() {
     if (!IsRouteActive()) return 0;
-    const int leg = IsRouteSettled() ? plan.stpos : PendingActiveLeg();
+    const int leg = IsRouteSettled() ? plan.active.stpos : PendingActiveLeg();
     return leg == kNoPlan ? 0 : leg;
 }
 

@@ -27,7 +27,7 @@ constexpr int kNoCostIndex = -1;
 
 // The leg flown before a hold's; a hold has a leg of its own behind its fix, so that a namesake isn't it.
 int LegBeforeHold(int leg) {
-    GrowingList<FlightPlanLeg>& legs = plan.FlightPlanMod;
+    GrowingList<FlightPlanLeg>& legs = plan.mod.legs;
     const int before = PlaceBefore(legs, leg);
     if (before <= 0 || legs[before].ident != legs[leg].ident) return before;
     return PlaceBefore(legs, before);
@@ -36,8 +36,8 @@ int LegBeforeHold(int leg) {
 // A file tells at which legs holds stand, and no more: each is made anew.
 void MakeStoredHolds() {
     std::vector<int> hold_legs;
-    for (int i = 1; i <= plan.mod_cnt; ++i)
-        if (std::exchange(plan.FlightPlanMod[i].hold_pos, 0) > 0) hold_legs.push_back(i);
+    for (int i = 1; i <= plan.mod.leg_cnt; ++i)
+        if (std::exchange(plan.mod.legs[i].hold_pos, 0) > 0) hold_legs.push_back(i);
     for (const int leg : hold_legs) {
         if (plan.hold_cnt >= kMostHolds) return;
         MarkHold(leg, false, LegBeforeHold(leg));
@@ -54,13 +54,13 @@ AirportData UnknownAirport(const FlightPlanLeg& leg) {
 }
 
 void TakeOrigin() {
-    FlightPlanLeg& first = plan.FlightPlanMod[0];
+    FlightPlanLeg& first = plan.mod.legs[0];
     if (!IsAirport(first)) return;
-    plan.ends_mod.dep_runway = kNotSelected;
-    plan.ends_mod.fms_dep_rwy_pos = 0;
-    plan.ends.origin = plan.ends_mod.origin = first.ident;
-    if (!IsRouteActive()) plan.ends = plan.ends_mod;
-    plan.procedures.dep_sid = plan.procedures.dep_trans = kNotSelected;
+    plan.mod.ends.dep_runway = kNotSelected;
+    plan.mod.ends.fms_dep_rwy_pos = 0;
+    plan.active.ends.origin = plan.mod.ends.origin = first.ident;
+    if (!IsRouteActive()) plan.active.ends = plan.mod.ends;
+    plan.mod.procedures.dep_sid = plan.mod.procedures.dep_trans = kNotSelected;
     if (LoadOriginAirport(first.ident) == 1)
         first.alt = first.alt_restr = airports.origin_airport.elevation_ft;
     else
@@ -69,12 +69,13 @@ void TakeOrigin() {
 }
 
 void TakeDestination(std::string_view company_route) {
-    const FlightPlanLeg& last = plan.FlightPlanMod[plan.mod_cnt];
+    const FlightPlanLeg& last = plan.mod.legs[plan.mod.leg_cnt];
     if (!IsAirport(last)) return;
-    plan.ends_mod.dest = last.ident;
-    plan.ends_mod.company_route = company_route;
-    if (!IsRouteActive()) plan.ends = plan.ends_mod;
-    plan.procedures = {.dep_sid = plan.procedures.dep_sid, .dep_trans = plan.procedures.dep_trans};
+    plan.mod.ends.dest = last.ident;
+    plan.mod.ends.company_route = company_route;
+    if (!IsRouteActive()) plan.active.ends = plan.mod.ends;
+    plan.mod.procedures = {.dep_sid = plan.mod.procedures.dep_sid,
+                           .dep_trans = plan.mod.procedures.dep_trans};
     if (LoadDestinationAirport(last.ident) == 0) airports.dest_airport = UnknownAirport(last);
 }
 
@@ -82,11 +83,11 @@ void TakeDestination(std::string_view company_route) {
 
 void BeginLoadedRoute() {
     for (int i = plan.hold_cnt; i >= 1; --i) RemoveHold(HoldLegInModification(plan.HoldList[i]));
-    for (int i = 0; i <= plan.mod_cnt; ++i) plan.FlightPlanMod[i] = {};
-    plan.mod_cnt = -1;
-    plan.mod_bod_pos = 0;
+    for (int i = 0; i <= plan.mod.leg_cnt; ++i) plan.mod.legs[i] = {};
+    plan.mod.leg_cnt = -1;
+    plan.mod.bod_pos = 0;
     plan.direct_to_pending = 0;
-    plan.ActiveLegMod = plan.ActiveLeg;
+    plan.mod.active_leg = plan.active.active_leg;
     plan.awy_list_cnt = plan.awy_start_pos = plan.awy_start_leg = 0;
     plan.along_track_nm = 0;
     procedure_lists = {};
@@ -113,19 +114,19 @@ void PlanCostIndex(double index) {
 void AddLoadedLeg(FlightPlanLeg leg) {
     if (IsDisco(leg) && cfg.ExcludeDisco == 1) return;
     // A gap begins no route and stands beside no other; an airway without an end is none to fly.
-    const bool nothing_before = plan.mod_cnt < 0 || IsDisco(plan.FlightPlanMod[plan.mod_cnt]);
+    const bool nothing_before = plan.mod.leg_cnt < 0 || IsDisco(plan.mod.legs[plan.mod.leg_cnt]);
     if (IsThen(leg) || (IsDisco(leg) && nothing_before)) return;
-    plan.FlightPlanMod[++plan.mod_cnt] = std::move(leg);
+    plan.mod.legs[++plan.mod.leg_cnt] = std::move(leg);
 }
 
 void FinishLoadedRoute(std::string_view company_route) {
     if (!AwaitsExec()) AdvanceRouteState();
-    if (plan.mod_cnt < 0) return;
+    if (plan.mod.leg_cnt < 0) return;
     MakeStoredHolds();
     RebuildRouteRows();
     FlightLogStep(false);
     TakeOrigin();
     TakeDestination(company_route);
-    if (!IsRouteActive()) plan.procedures_kept = plan.procedures;
+    if (!IsRouteActive()) plan.active.procedures = plan.mod.procedures;
     if (sim.on_ground == 1) perf.fplog_mode = -1;
 }

@@ -320,13 +320,13 @@ int LoadCompanyRoute(std::string_view given) {
     RouteReader reader;
     while (const auto line = NextLine(rest)) reader.ReadLine(line->substr(0, kMaxLine));
     FinishLoadedRoute(std::string_view(name).substr(0, name.find('.')));
-    return plan.mod_cnt >= 0 ? 1 : 0;
+    return plan.mod.leg_cnt >= 0 ? 1 : 0;
 }
 
 int SaveCompanyRoute(std::string_view name) {
     std::string text = RouteHead();
-    for (int i = 0; i <= plan.fp_cnt; ++i) {
-        FlightPlanLeg& leg = plan.FlightPlan[i];
+    for (int i = 0; i <= plan.active.leg_cnt; ++i) {
+        FlightPlanLeg& leg = plan.active.legs[i];
         constexpr std::string_view kKept[] = {"APT", "VOR", "NDB", "INT"};
         if (std::find(std::begin(kKept), std::end(kKept), leg.type) == std::end(kKept)) leg.type = "WPT";
         AppendRow(text, leg);

@@ -12,7 +12,7 @@ namespace {
 void MovePendingActiveLeg(int leg) {
     if (leg != plan.pending_stpos && plan.direct_to_pending == 1) {
         plan.direct_to_pending = 0;
-        plan.ActiveLegMod = plan.ActiveLeg;
+        plan.mod.active_leg = plan.active.active_leg;
     }
     SetPendingActiveLeg(leg);
 }
@@ -20,27 +20,27 @@ void MovePendingActiveLeg(int leg) {
 }  // namespace
 
 int PendingActiveLeg() {
-    return plan.pending_stpos >= 1 ? plan.pending_stpos : plan.stpos;
+    return plan.pending_stpos >= 1 ? plan.pending_stpos : plan.active.stpos;
 }
 
 void SetPendingActiveLeg(int leg) {
-    plan.mod_stpos = leg;
+    plan.mod.stpos = leg;
     plan.pending_stpos = leg;
 }
 
 void FollowSequencing() {
     if (IsRouteSettled()) {
-        plan.mod_stpos = plan.stpos;
+        plan.mod.stpos = plan.active.stpos;
         plan.pending_stpos = 0;
         return;
     }
-    if (!IsRouteModified() || plan.stpos == kNoPlan) return;
-    if (const int leg = FindModLeg(plan.FlightPlan[plan.stpos], plan.pending_stpos); leg > 0) {
+    if (!IsRouteModified() || plan.active.stpos == kNoPlan) return;
+    if (const int leg = FindModLeg(plan.active.legs[plan.active.stpos], plan.pending_stpos); leg > 0) {
         MovePendingActiveLeg(leg);
         return;
     }
     // The leg now flown to has been taken out, but the pending one may have been passed.
-    const int passed = PlaceBefore(plan.FlightPlan, plan.stpos);
-    if (passed > 0 && FindModLeg(plan.FlightPlan[passed], plan.pending_stpos) == plan.mod_stpos)
-        MovePendingActiveLeg(std::min(plan.mod_stpos + 1, plan.mod_cnt));
+    const int passed = PlaceBefore(plan.active.legs, plan.active.stpos);
+    if (passed > 0 && FindModLeg(plan.active.legs[passed], plan.pending_stpos) == plan.mod.stpos)
+        MovePendingActiveLeg(std::min(plan.mod.stpos + 1, plan.mod.leg_cnt));
 }

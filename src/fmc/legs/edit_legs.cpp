@@ -28,11 +28,11 @@ bool IsOfBlock(const FlightPlanLeg& leg, const FlightPlanLeg& block) {
 
 // All legs that stand or fall with a row.
 RowLegs FindBlock(int leg) {
-    const GrowingList<FlightPlanLeg>& legs = plan.FlightPlanMod;
+    const GrowingList<FlightPlanLeg>& legs = plan.mod.legs;
     RowLegs block{leg, leg};
     if (IsDirect(legs[leg]) && !IsOfSid(legs[leg])) return block;
     while (block.first > 1 && IsOfBlock(legs[block.first - 1], legs[leg])) --block.first;
-    while (block.last + 1 < plan.mod_cnt && IsOfBlock(legs[block.last + 1], legs[leg])) ++block.last;
+    while (block.last + 1 < plan.mod.leg_cnt && IsOfBlock(legs[block.last + 1], legs[leg])) ++block.last;
     return block;
 }
 
@@ -46,20 +46,20 @@ void StartDirectTo(int to) {
 void GoDirectTo(int leg) {
     SetPendingActiveLeg(leg);
     plan.direct_to_pending = 1;
-    const FlightPlanLeg& target = plan.FlightPlanMod[leg];
-    plan.ActiveLegMod = {.from = "DIRECT",
-                         .from_lat = sim.plane_lat,
-                         .from_lon = sim.plane_lon,
-                         .to = target.ident,
-                         .to_lat = target.lat,
-                         .to_lon = target.lon,
-                         .course = 0,
-                         .direct_flag = 1};
+    const FlightPlanLeg& target = plan.mod.legs[leg];
+    plan.mod.active_leg = {.from = "DIRECT",
+                           .from_lat = sim.plane_lat,
+                           .from_lon = sim.plane_lon,
+                           .to = target.ident,
+                           .to_lat = target.lat,
+                           .to_lon = target.lon,
+                           .course = 0,
+                           .direct_flag = 1};
 }
 
 void ConnectLegs(int from, int to, int) {
-    if (from < 0 || to < from || to > plan.mod_cnt) return;
-    const bool direct_to = IsRouteActive() && from == PendingActiveLeg() && IsPlace(plan.FlightPlanMod[to]);
+    if (from < 0 || to < from || to > plan.mod.leg_cnt) return;
+    const bool direct_to = IsRouteActive() && from == PendingActiveLeg() && IsPlace(plan.mod.legs[to]);
     if (to == from && !direct_to) return;
     if (direct_to)
         StartDirectTo(to);
@@ -71,9 +71,9 @@ void ConnectLegs(int from, int to, int) {
 }
 
 void DeleteLegWithDiscontinuity(int leg, bool reconnect, int) {
-    if (leg < 1 || leg >= plan.mod_cnt) return;
+    if (leg < 1 || leg >= plan.mod.leg_cnt) return;
     RemoveHold(leg);
-    GrowingList<FlightPlanLeg>& legs = plan.FlightPlanMod;
+    GrowingList<FlightPlanLeg>& legs = plan.mod.legs;
     if (reconnect || IsDisco(legs[leg - 1]) || IsDisco(legs[leg + 1])) {
         RemoveModLegs(leg, 1);
         MergeNeighbourDiscos();
@@ -87,11 +87,11 @@ void DeleteLegWithDiscontinuity(int leg, bool reconnect, int) {
 
 int RemoveToRow(int row) {
     const RowLegs legs = row > 0 ? FindRowLegs(row) : RowLegs{};
-    if (legs.last == 0 || IsDisco(plan.FlightPlanMod[legs.last])) return 0;
+    if (legs.last == 0 || IsDisco(plan.mod.legs[legs.last])) return 0;
     const RowLegs block = FindBlock(legs.last);
     RemoveModLegs(block.first, block.last - block.first + 1);
     // Between the two ends alone there is no route to break.
-    const bool nothing_left = plan.mod_cnt <= 1;
+    const bool nothing_left = plan.mod.leg_cnt <= 1;
     if (!nothing_left) OpenDisco(block.first);
     MergeNeighbourDiscos();
     OpenModificationOfActiveRoute();
@@ -101,8 +101,8 @@ int RemoveToRow(int row) {
 
 int RemoveViaRow(int row) {
     const RowLegs legs = row > 0 ? FindRowLegs(row) : RowLegs{};
-    if (legs.last == 0 || IsDirect(plan.FlightPlanMod[legs.last])) return 0;
-    FlightPlanLeg& end = plan.FlightPlanMod[legs.last];
+    if (legs.last == 0 || IsDirect(plan.mod.legs[legs.last])) return 0;
+    FlightPlanLeg& end = plan.mod.legs[legs.last];
     if (IsThen(end)) {
         RemoveModLegs(legs.last, 1);
     } else {
@@ -121,7 +121,7 @@ namespace {
 
 // A coded leg that turns or tracks is built again from where the leg before it now ends.
 void RecomputeCodedLeg(int index) {
-    GrowingList<FlightPlanLeg>& legs = plan.FlightPlanMod;
+    GrowingList<FlightPlanLeg>& legs = plan.mod.legs;
     FlightPlanLeg& leg = legs[index];
     LegCode code;
     const bool movable =
@@ -156,11 +156,11 @@ void RecomputeCodedLeg(int index) {
 }  // namespace
 
 void NormalizeLegs() {
-    GrowingList<FlightPlanLeg>& legs = plan.FlightPlanMod;
-    for (int i = plan.mod_cnt; i >= 1; --i)
+    GrowingList<FlightPlanLeg>& legs = plan.mod.legs;
+    for (int i = plan.mod.leg_cnt; i >= 1; --i)
         if (IsThen(legs[i])) RemoveModLegs(i, 1);
     MergeNeighbourDiscos();
-    for (int i = 1; i <= plan.mod_cnt; ++i) {
+    for (int i = 1; i <= plan.mod.leg_cnt; ++i) {
         RecomputeCodedLeg(i);
         if (!IsVectors(legs[i])) continue;
         const int before = PlaceBefore(legs, i);

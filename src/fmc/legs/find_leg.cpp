@@ -11,8 +11,8 @@ int PlaceBefore(const GrowingList<FlightPlanLeg>& legs, int index) {
 }
 
 int FindModLeg(const FlightPlanLeg& place, int first) {
-    for (int i = std::max(first, 1); i <= plan.mod_cnt; ++i) {
-        const FlightPlanLeg& leg = plan.FlightPlanMod[i];
+    for (int i = std::max(first, 1); i <= plan.mod.leg_cnt; ++i) {
+        const FlightPlanLeg& leg = plan.mod.legs[i];
         if (leg.ident == place.ident && leg.lat == place.lat && leg.lon == place.lon) return i;
     }
     return 0;

@@ -21,7 +21,7 @@ int HoldAt(int leg) {
 }
 
 bool IsFlown(const HoldRecord& hold) {
-    return lnav.holding == 1 && hold.leg > 0 && hold.leg == plan.stpos;
+    return lnav.holding == 1 && hold.leg > 0 && hold.leg == plan.active.stpos;
 }
 
 void ClearHoldPositions(GrowingList<FlightPlanLeg>& legs, int count) {
@@ -46,19 +46,19 @@ void RenumberHolds() {
     const auto place = [&](int i) { return holds[i].pending_leg > 0 ? holds[i].pending_leg : holds[i].leg; };
     for (int i = 2; i <= plan.hold_cnt; ++i)
         for (int j = i; j > 1 && place(j) < place(j - 1); --j) std::swap(holds[j], holds[j - 1]);
-    ClearHoldPositions(plan.FlightPlan, plan.fp_cnt);
-    ClearHoldPositions(plan.FlightPlanMod, plan.mod_cnt);
+    ClearHoldPositions(plan.active.legs, plan.active.leg_cnt);
+    ClearHoldPositions(plan.mod.legs, plan.mod.leg_cnt);
     for (int i = 1; i <= plan.hold_cnt; ++i) {
         const int leg = holds[i].leg;
         const int mod_leg = HoldLegInModification(holds[i]);
-        if (leg > 0 && leg <= plan.fp_cnt) plan.FlightPlan[leg].hold_pos = i;
-        if (mod_leg > 0 && mod_leg <= plan.mod_cnt) plan.FlightPlanMod[mod_leg].hold_pos = i;
+        if (leg > 0 && leg <= plan.active.leg_cnt) plan.active.legs[leg].hold_pos = i;
+        if (mod_leg > 0 && mod_leg <= plan.mod.leg_cnt) plan.mod.legs[mod_leg].hold_pos = i;
     }
 }
 
 void MarkHold(int leg, bool active, int prev_leg) {
-    GrowingList<FlightPlanLeg>& legs = active ? plan.FlightPlan : plan.FlightPlanMod;
-    const int last = active ? plan.fp_cnt : plan.mod_cnt;
+    GrowingList<FlightPlanLeg>& legs = active ? plan.active.legs : plan.mod.legs;
+    const int last = active ? plan.active.leg_cnt : plan.mod.leg_cnt;
     if (plan.hold_cnt >= kMostHolds || leg < 1 || leg > last || !IsPlace(legs[leg])) return;
     const FlightPlanLeg& fix = legs[leg];
     const int mod_leg = active ? SameModLeg(fix, leg) : leg;
@@ -136,6 +136,7 @@ void DropPendingHolds() {
 void RestoreExecutedHolds() {
     plan.hold_cnt = 0;
     for (int i = 1; i <= plan.executed_hold_cnt; ++i)
-        if (plan.executed_holds[i].leg >= plan.stpos) plan.HoldList[++plan.hold_cnt] = plan.executed_holds[i];
+        if (plan.executed_holds[i].leg >= plan.active.stpos)
+            plan.HoldList[++plan.hold_cnt] = plan.executed_holds[i];
     RenumberHolds();
 }

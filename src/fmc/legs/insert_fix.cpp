@@ -49,15 +49,15 @@ FlightPlanLeg DirectLeg(std::string ident, double lat, double lon) {
 
 // The place towards which an along-track offset is measured, -1 when there is none.
 int NeighbourPlace(int position, bool ahead) {
-    if (!ahead) return PlaceBefore(plan.FlightPlanMod, position);
-    for (int i = position + 1; i <= plan.mod_cnt; ++i)
-        if (IsPlace(plan.FlightPlanMod[i])) return i;
+    if (!ahead) return PlaceBefore(plan.mod.legs, position);
+    for (int i = position + 1; i <= plan.mod.leg_cnt; ++i)
+        if (IsPlace(plan.mod.legs[i])) return i;
     return -1;
 }
 
 FlightPlanLeg AlongTrackLeg(int position, int towards, double offset) {
-    const FlightPlanLeg& reference = plan.FlightPlanMod[position];
-    const FlightPlanLeg& neighbour = plan.FlightPlanMod[towards];
+    const FlightPlanLeg& reference = plan.mod.legs[position];
+    const FlightPlanLeg& neighbour = plan.mod.legs[towards];
     const double bearing = GreatCircle(reference.lat, reference.lon, neighbour.lat, neighbour.lon).bearing;
     const LatLon point = ProjectPoint(reference.lat, reference.lon, bearing, std::fabs(offset));
     return DirectLeg(MadeName(reference.ident), point.lat, point.lon);
@@ -76,8 +76,8 @@ void PlaceLeg(int position, FlightPlanLeg leg) {
 
 std::string MadeName(std::string_view prefix) {
     int highest = 0;
-    for (int i = 0; i <= plan.mod_cnt; ++i)
-        highest = std::max(highest, MadeNumber(plan.FlightPlanMod[i].ident, prefix));
+    for (int i = 0; i <= plan.mod.leg_cnt; ++i)
+        highest = std::max(highest, MadeNumber(plan.mod.legs[i].ident, prefix));
     return std::string(prefix).append(Format("%02d", highest + 1));
 }
 
@@ -105,12 +105,12 @@ FlightPlanLeg LegFromEntry(const NavRecord& entry) {
 void InsertFixAt(int position, int candidate, bool replace) {
     if (plan.along_track_nm == 0 && Candidate(candidate) == nullptr) return;
     EnsureEnds();
-    position = std::clamp(position, 1, plan.mod_cnt);
+    position = std::clamp(position, 1, plan.mod.leg_cnt);
     if (plan.along_track_nm != 0) {
         const double offset = plan.along_track_nm;
         plan.along_track_nm = 0;
         const int towards = NeighbourPlace(position, offset > 0);
-        if (!IsPlace(plan.FlightPlanMod[position]) || towards < 0) return;
+        if (!IsPlace(plan.mod.legs[position]) || towards < 0) return;
         FlightPlanLeg leg = AlongTrackLeg(position, towards, offset);
         if (offset > 0) ++position;
         PlaceLeg(position, std::move(leg));
@@ -126,6 +126,6 @@ void InsertDirectRow(int candidate, int row) {
     if (entry == nullptr) return;
     EnsureEnds();
     const RowLegs legs = row > 0 ? FindRowLegs(row) : RowLegs{};
-    PlaceLeg(legs.last > 0 ? legs.last : plan.mod_cnt, LegFromEntry(*entry));
+    PlaceLeg(legs.last > 0 ? legs.last : plan.mod.leg_cnt, LegFromEntry(*entry));
     RebuildRouteRows();
 }

@@ -51,9 +51,9 @@ void LoadAirwayTowards(std::string_view name, int fix, std::string_view end) {
     plan.awy_list_cnt = plan.awy_start_pos = plan.awy_start_leg = 0;
     plan.awy_name.clear();
     if (name.starts_with('#')) name.remove_prefix(1);
-    if (fix < 0 || fix > plan.mod_cnt || !IsPlace(plan.FlightPlanMod[fix])) return;
-    const std::string start = plan.FlightPlanMod[fix].ident;
-    const int run = ChooseRun(name, plan.FlightPlanMod[fix], end);
+    if (fix < 0 || fix > plan.mod.leg_cnt || !IsPlace(plan.mod.legs[fix])) return;
+    const std::string start = plan.mod.legs[fix].ident;
+    const int run = ChooseRun(name, plan.mod.legs[fix], end);
     if (run == 0) return;
     plan.awy_list_cnt = LoadAirway(name, start, run);
     plan.awy_start_pos = nav.entry_list_pos;
@@ -82,20 +82,20 @@ int FindFixOnAirway(std::string_view ident) {
 void InsertAirwaySegment(int fix) {
     const int start = plan.awy_start_pos;
     if (fix < 1 || fix > plan.awy_list_cnt || fix == start || start == 0) return;
-    GrowingList<FlightPlanLeg>& legs = plan.FlightPlanMod;
+    GrowingList<FlightPlanLeg>& legs = plan.mod.legs;
     // ERASE or a new route may have put another fix there since the list was made.
-    if (plan.awy_start_leg > plan.mod_cnt ||
+    if (plan.awy_start_leg > plan.mod.leg_cnt ||
         legs[plan.awy_start_leg].ident != plan.AirwayFixList[start].ident)
         return;
     int position = plan.awy_start_leg + 1;
-    if (position <= plan.mod_cnt && IsThen(legs[position])) RemoveModLegs(position, 1);
+    if (position <= plan.mod.leg_cnt && IsThen(legs[position])) RemoveModLegs(position, 1);
     const int step = fix > start ? 1 : -1;
     for (int i = start + step; i != fix + step; i += step) {
         FlightPlanLeg leg = plan.AirwayFixList[i];
         OpenModLeg(position++) = std::move(leg);
     }
     const FlightPlanLeg& end = legs[position - 1];
-    if (position < plan.mod_cnt && legs[position].ident == end.ident &&
+    if (position < plan.mod.leg_cnt && legs[position].ident == end.ident &&
         IsNear(legs[position].lat, legs[position].lon, end.lat, end.lon))
         RemoveModLegs(position, 1);
     RebuildRouteRows();
@@ -103,7 +103,7 @@ void InsertAirwaySegment(int fix) {
 
 void InsertAirwayPlaceholder(int index, std::string_view airway) {
     EnsureEnds();
-    if (index < 1 || index > plan.mod_cnt) return;
+    if (index < 1 || index > plan.mod.leg_cnt) return;
     FlightPlanLeg& leg = OpenModLeg(index);
     leg.ident = kThenIdent;
     leg.type = "OAWY";

@@ -10,8 +10,8 @@ namespace {
 template <class Visit>
 void WalkRows(Visit visit) {
     std::string_view running;
-    for (int i = 1; i < plan.mod_cnt; ++i) {
-        const FlightPlanLeg& leg = plan.FlightPlanMod[i];
+    for (int i = 1; i < plan.mod.leg_cnt; ++i) {
+        const FlightPlanLeg& leg = plan.mod.legs[i];
         const bool direct = IsDirect(leg);
         const bool opens = direct || leg.via != running;
         running = direct ? "DIRECT" : std::string_view(leg.via);
@@ -52,7 +52,7 @@ int FindRouteFix(int row, bool want_via) {
     if (row < 1) return 0;
     const RowLegs legs = FindRowLegs(row);
     for (int i = legs.last; i >= legs.first && i > 0; --i) {
-        const FlightPlanLeg& leg = plan.FlightPlanMod[i];
+        const FlightPlanLeg& leg = plan.mod.legs[i];
         if (!IsPlace(leg)) continue;
         const std::string_view via = leg.via.empty() ? "DIRECT" : std::string_view(leg.via);
         return !want_via || via == plan.Route[row].via ? i : 0;

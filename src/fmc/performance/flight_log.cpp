@@ -55,8 +55,9 @@ void BeginLog() {
     perf.fplog_mode = kInitLoad;
     time_base.fltsecs = 0;
     if (cfg.LogFlightPlan != 1) return;
-    const std::string head = Format("FlightPlan=%.20s-%.20s\nAircraft=%.200s\n", plan.ends.origin.c_str(),
-                                    plan.ends.dest.c_str(), identity.aircraft.c_str());
+    const std::string head =
+        Format("FlightPlan=%.20s-%.20s\nAircraft=%.200s\n", plan.active.ends.origin.c_str(),
+               plan.active.ends.dest.c_str(), identity.aircraft.c_str());
     WriteFile(kLogFile, head + kDashes + kHeader + kDashes);
 }
 
@@ -77,9 +78,10 @@ void WriteRow() {
         Format(
             "%02d:%02d:%02d %-10s %6.16s %5.0f  %5.0f   %5.0f  %6.0f  %5.0f %7.0f  %7.0f %-3.0f  %.2f %.1f\n",
             seconds / 3600, seconds / 60 % 60, seconds % 60,
-            kPhaseTexts[static_cast<std::size_t>(perf.fplog_mode)], FlightPlanLegAt(plan.stpos).ident.c_str(),
-            sim.ground_speed_kt, sim.tas_kt, sim.vs_fpm, sim.ind_alt_ft, fuel_flow, sim.total_fuel,
-            GrossWeight(), sim.ias_kt, (sim.n1_l + sim.n1_r) / 2, FlightPathAngle()));
+            kPhaseTexts[static_cast<std::size_t>(perf.fplog_mode)],
+            FlightPlanLegAt(plan.active.stpos).ident.c_str(), sim.ground_speed_kt, sim.tas_kt, sim.vs_fpm,
+            sim.ind_alt_ft, fuel_flow, sim.total_fuel, GrossWeight(), sim.ias_kt, (sim.n1_l + sim.n1_r) / 2,
+            FlightPathAngle()));
 }
 
 // Seconds since a condition began to hold; 0 while it doesn't.
@@ -92,7 +94,7 @@ double HeldFor(bool holds, double& since) {
 }
 
 double DistanceToDestination() {
-    const FlightPlanLeg& dest = FlightPlanLegAt(plan.fp_cnt);
+    const FlightPlanLeg& dest = FlightPlanLegAt(plan.active.leg_cnt);
     return GreatCircle(sim.plane_lat, sim.plane_lon, dest.lat, dest.lon).dist;
 }
 
@@ -160,7 +162,7 @@ void BeginNextPhase() {
 }  // namespace
 
 void FlightLogStep(bool at_waypoint) {
-    if (sim.sim_rate != 1 || plan.stpos == kNoPlan || perf.fplog_mode >= kEndFlight) return;
+    if (sim.sim_rate != 1 || plan.active.stpos == kNoPlan || perf.fplog_mode >= kEndFlight) return;
     if (perf.fplog_mode <= kNotStarted) {
         BeginLog();
         WriteRow();

@@ -37,7 +37,7 @@ double LimitedRound(double value, double low, double high) {
 
 // The destination's selected runway, null when there is none.
 const RunwayData* DestinationRunway() {
-    const int place = plan.procedures.fms_dest_rwy_pos;
+    const int place = plan.mod.procedures.fms_dest_rwy_pos;
     const AirportData& airport = airports.dest_airport;
     return place > 0 && place <= airport.runway_cnt ? &airport.runways[place] : nullptr;
 }
@@ -81,14 +81,14 @@ void ComputeProfile(double cruise_alt, int) {
 
 void ComputeDistances(int) {
     perf.dist_to_dest = 0;
-    if (plan.stpos == kNoPlan || plan.stpos < 1) return;
+    if (plan.active.stpos == kNoPlan || plan.active.stpos < 1) return;
     if (vnav.toc == 0) perf.dist_to_toc = 0;
     if (vnav.tod == 0) perf.dist_to_tod = 0;
-    const GrowingList<FlightPlanLeg>& legs = plan.FlightPlan;
+    const GrowingList<FlightPlanLeg>& legs = plan.active.legs;
     double lat = sim.plane_lat, lon = sim.plane_lon;
-    int from = PlaceBefore(plan.FlightPlan, plan.stpos);
+    int from = PlaceBefore(plan.active.legs, plan.active.stpos);
     double sum = 0;
-    for (int i = plan.stpos; i <= plan.fp_cnt; ++i) {
+    for (int i = plan.active.stpos; i <= plan.active.leg_cnt; ++i) {
         const FlightPlanLeg& leg = legs[i];
         if (!IsPlace(leg) || IsMissedApproach(leg)) continue;
         const auto measure = [&](int passed, int before, double at_lat, double at_lon, double& dist) {
@@ -103,7 +103,7 @@ void ComputeDistances(int) {
         from = i;
     }
     perf.dist_to_dest = sum;
-    const FlightPlanLeg& last = legs[plan.fp_cnt];
+    const FlightPlanLeg& last = legs[plan.active.leg_cnt];
     perf.dest_brg =
         FoldBearing(GreatCircle(sim.plane_lat, sim.plane_lon, last.lat, last.lon).bearing - sim.mgvar);
     SetFinalPoint();
@@ -163,9 +163,9 @@ int MaxAltitude() {
 double BestAltitude() {
     constexpr double kShortest = 35, kLongest = 450;
     constexpr double kStep = 20;  // nm
-    if (plan.fp_cnt < 1) return 0;
-    const FlightPlanLeg& origin = plan.FlightPlan[0];
-    const FlightPlanLeg& dest = plan.FlightPlan[plan.fp_cnt];
+    if (plan.active.leg_cnt < 1) return 0;
+    const FlightPlanLeg& origin = plan.active.legs[0];
+    const FlightPlanLeg& dest = plan.active.legs[plan.active.leg_cnt];
     const double route = GreatCircle(origin.lat, origin.lon, dest.lat, dest.lon).dist;
     if (route <= kShortest || route > kLongest) return 0;
     const double ceiling = std::max(35000.0, kAltitudeByWeight.back().altitude);

@@ -19,7 +19,7 @@ double ConstraintAltitude(const FlightPlanLeg& leg, double window_limit) {
 int ProlongSegment(int start) {
     int end = start;
     const double altitude = FlightPlanLegAt(start).alt_restr;
-    for (int i = start + 1; i <= plan.fp_cnt; ++i) {
+    for (int i = start + 1; i <= plan.active.leg_cnt; ++i) {
         const FlightPlanLeg& leg = FlightPlanLegAt(i);
         if (IsMissedApproach(leg) || !HasAltitudeRestr(leg)) continue;
         const bool met = leg.restr_type == kBetween
@@ -45,8 +45,8 @@ double RouteDistance(int from, int to) {
 }
 
 double NextRestriction(bool (*binds)(const FlightPlanLeg&), double FlightPlanLeg::*window_limit) {
-    if (plan.stpos == kNoPlan) return 0;
-    for (int i = plan.stpos; i <= plan.fp_cnt; ++i) {
+    if (plan.active.stpos == kNoPlan) return 0;
+    for (int i = plan.active.stpos; i <= plan.active.leg_cnt; ++i) {
         const FlightPlanLeg& leg = FlightPlanLegAt(i);
         if (IsMissedApproach(leg) || !HasAltitudeRestr(leg) || !binds(leg)) continue;
         return ConstraintAltitude(leg, leg.*window_limit);
@@ -57,34 +57,34 @@ double NextRestriction(bool (*binds)(const FlightPlanLeg&), double FlightPlanLeg
 }  // namespace
 
 void FindBottomOfDescent(int first) {
-    const int before = vnav.bod_pos;
-    vnav.bod_pos = plan.fp_cnt;
-    for (int i = first; i <= plan.fp_cnt; ++i) {
+    const int before = plan.active.bod_pos;
+    plan.active.bod_pos = plan.active.leg_cnt;
+    for (int i = first; i <= plan.active.leg_cnt; ++i) {
         const FlightPlanLeg& leg = FlightPlanLegAt(i);
         if (IsMissedApproach(leg) || !HasAltitudeRestr(leg)) continue;
         const RestrType other = vnav.toc == 0 ? kAtOrBelow : kAtOrAbove;
         if (leg.restr_type != kAt && leg.restr_type != other) continue;
-        vnav.bod_pos = leg.restr_type == kAtOrAbove ? ProlongSegment(i) : i;
+        plan.active.bod_pos = leg.restr_type == kAtOrAbove ? ProlongSegment(i) : i;
         break;
     }
-    if (vnav.tod != 1 || vnav.bod_pos == before) return;
-    const FlightPlanLeg& to = FlightPlanLegAt(plan.stpos);
+    if (vnav.tod != 1 || plan.active.bod_pos == before) return;
+    const FlightPlanLeg& to = FlightPlanLegAt(plan.active.stpos);
     if (HasAltitudeRestr(to)) {
-        vnav.last_tod_pos = plan.stpos;
+        vnav.last_tod_pos = plan.active.stpos;
         vnav.last_tod_elev = ConstraintAltitude(to, to.block_above);
     }
-    vnav.dist_from_tod_to_bod = RouteDistance(vnav.last_tod_pos, vnav.bod_pos);
+    vnav.dist_from_tod_to_bod = RouteDistance(vnav.last_tod_pos, plan.active.bod_pos);
 }
 
 void SetCrossAtPoint() {
     constexpr double kLowestCruise = 1000;
     if (perf.cruise_alt < kLowestCruise) return;
     vnav.cross_at_elev = perf.cruise_alt;
-    const FlightPlanLeg& bottom = FlightPlanLegAt(vnav.bod_pos);
+    const FlightPlanLeg& bottom = FlightPlanLegAt(plan.active.bod_pos);
     const double lower_limit = std::min(bottom.block_above, bottom.block_below);
     if (vnav.toc == 0 && vnav.tod == 0) {
-        const bool levels_off =
-            vnav.bod_pos <= vnav.toc_stpos && HasAltitudeRestr(bottom) && bottom.restr_type != kAtOrAbove;
+        const bool levels_off = plan.active.bod_pos <= vnav.toc_stpos && HasAltitudeRestr(bottom) &&
+                                bottom.restr_type != kAtOrAbove;
         vnav.cross_at_lat = levels_off ? bottom.lat : vnav.toc_lat;
         vnav.cross_at_lon = levels_off ? bottom.lon : vnav.toc_lon;
         if (levels_off) vnav.cross_at_elev = ConstraintAltitude(bottom, lower_limit);

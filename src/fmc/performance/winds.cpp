@@ -52,9 +52,9 @@ double AlongTrack(std::span<const WindLevel> levels, double altitude, double bea
 
 // Along the leg, from the aircraft when it is the one that is flown.
 double LegBearing(int prev_leg, int leg) {
-    const FlightPlanLeg& to = plan.FlightPlan[leg];
-    if (leg == plan.stpos) return GreatCircle(sim.plane_lat, sim.plane_lon, to.lat, to.lon).bearing;
-    const FlightPlanLeg& from = plan.FlightPlan[prev_leg];
+    const FlightPlanLeg& to = plan.active.legs[leg];
+    if (leg == plan.active.stpos) return GreatCircle(sim.plane_lat, sim.plane_lon, to.lat, to.lon).bearing;
+    const FlightPlanLeg& from = plan.active.legs[prev_leg];
     return GreatCircle(from.lat, from.lon, to.lat, to.lon).bearing;
 }
 
@@ -218,26 +218,26 @@ void SetTemperature(FlightPlanLeg& destination, double temperature) {
 }  // namespace
 
 double LegWind(int prev_leg, int leg) {
-    const FlightPlanLeg& from = plan.FlightPlan[prev_leg];
-    const double altitude = leg == plan.stpos ? sim.ind_alt_ft : from.alt;
+    const FlightPlanLeg& from = plan.active.legs[prev_leg];
+    const double altitude = leg == plan.active.stpos ? sim.ind_alt_ft : from.alt;
     return AlongTrack(from.wind, altitude, LegBearing(prev_leg, leg));
 }
 
 double DescentWind(int leg) {
-    const int prev_leg = std::max(0, PlaceBefore(plan.FlightPlan, leg));
+    const int prev_leg = std::max(0, PlaceBefore(plan.active.legs, leg));
     if (IsEmpty(winds.DescentForecast)) return LegWind(prev_leg, leg);
-    return AlongTrack(winds.DescentForecast, plan.FlightPlan[leg].alt, LegBearing(prev_leg, leg));
+    return AlongTrack(winds.DescentForecast, plan.active.legs[leg].alt, LegBearing(prev_leg, leg));
 }
 
 bool RequestRouteWinds() {
     auto files = ReadWeatherFiles();
     if (!files) return false;
-    if (plan.mod_cnt < 1) return true;
+    if (plan.mod.leg_cnt < 1) return true;
     files->stations = ReadStations(files->list);
     winds.WxStations = {};
     winds.wx_station_cnt = 0;
-    for (int leg = 1; leg <= plan.mod_cnt; ++leg) {
-        const FlightPlanLeg& at = plan.FlightPlanMod[leg];
+    for (int leg = 1; leg <= plan.mod.leg_cnt; ++leg) {
+        const FlightPlanLeg& at = plan.mod.legs[leg];
         if (!IsPlace(at)) continue;
         if (const Station* station = NearestStation(files->stations, at.lat, at.lon))
             winds.WxStations[++winds.wx_station_cnt] =
@@ -250,8 +250,8 @@ void ApplyRouteWinds(int side) {
     OpenModification();
     std::array<WindLevel, 4> altitudes = {};  // of the last leg that had some
     altitudes[0].alt = static_cast<int>(perf.cruise_alt);
-    for (int i = 1; i <= plan.mod_cnt; ++i) {
-        FlightPlanLeg& leg = plan.FlightPlanMod[i];
+    for (int i = 1; i <= plan.mod.leg_cnt; ++i) {
+        FlightPlanLeg& leg = plan.mod.legs[i];
         const WxStation* station = IsPlace(leg) ? FindWxStation(leg) : nullptr;
         if (station == nullptr) continue;
         const bool is_new = IsEmpty(leg.wind);
@@ -274,19 +274,19 @@ void ApplyRouteWinds(int side) {
 bool RequestDescentWinds() {
     auto files = ReadWeatherFiles();
     if (!files) return false;
-    if (plan.fp_cnt < 1) return true;
+    if (plan.active.leg_cnt < 1) return true;
     files->stations = ReadStations(files->list);
-    FlightPlanLeg& destination = plan.FlightPlan[plan.fp_cnt];
+    FlightPlanLeg& destination = plan.active.legs[plan.active.leg_cnt];
     const Station* nearest = NearestStation(files->stations, destination.lat, destination.lon);
     if (nearest == nullptr) return true;
     const Weather weather = FindWeather(*files, nearest->ident);
-    const WxStation station = MakeWxStation(*nearest, plan.fp_cnt, destination, weather.winds);
+    const WxStation station = MakeWxStation(*nearest, plan.active.leg_cnt, destination, weather.winds);
     if (IsEmpty(winds.DescentForecast)) winds.DescentForecast[0].alt = static_cast<int>(perf.cruise_alt);
     for (WindLevel& level : winds.DescentForecast)
         if (level.alt > 0) FillLevel(level, station);
     if (const auto temperature = MetarTemperature(weather.metar)) {
         SetTemperature(destination, *temperature);
-        FlightPlanLeg& pending = plan.FlightPlanMod[plan.mod_cnt];  // else EXEC would take it back
+        FlightPlanLeg& pending = plan.mod.legs[plan.mod.leg_cnt];  // else EXEC would take it back
         if (pending.ident == destination.ident) SetTemperature(pending, *temperature);
     }
     return true;

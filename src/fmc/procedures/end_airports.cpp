@@ -43,24 +43,24 @@ int SelectOriginRunway(std::string_view runway) {
     const int place = FindRunway(airports.origin_airport, runway);
     if (place == 0) return 0;
     const RunwayData& chosen = airports.origin_airport.runways[place];
-    plan.ends_mod.dep_runway = runway;
-    plan.ends_mod.fms_dep_rwy_pos = place;
+    plan.mod.ends.dep_runway = runway;
+    plan.mod.ends.fms_dep_rwy_pos = place;
     if (IsRouteActive()) {
         OpenModification();
         return 1;
     }
-    plan.ends.dep_runway = runway;
-    plan.ends.fms_dep_rwy_pos = place;
-    MoveToThreshold(plan.FlightPlan[0], chosen);
-    MoveToThreshold(plan.FlightPlanMod[0], chosen);
+    plan.active.ends.dep_runway = runway;
+    plan.active.ends.fms_dep_rwy_pos = place;
+    MoveToThreshold(plan.active.legs[0], chosen);
+    MoveToThreshold(plan.mod.legs[0], chosen);
     return 1;
 }
 
 int SelectDestinationRunway(std::string_view runway) {
     const int place = FindRunway(airports.dest_airport, runway);
     if (place == 0) return 0;
-    plan.procedures.arr_appr_rwy = runway;
-    plan.procedures.fms_dest_rwy_pos = place;
-    if (!IsRouteActive()) plan.procedures_kept = plan.procedures;
+    plan.mod.procedures.arr_appr_rwy = runway;
+    plan.mod.procedures.fms_dest_rwy_pos = place;
+    if (!IsRouteActive()) plan.active.procedures = plan.mod.procedures;
     return 1;
 }

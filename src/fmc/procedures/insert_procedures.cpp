@@ -95,8 +95,8 @@ FlightPlanLeg ArrivalLeg(int record) {
     const ProcedureLeg& from = procedure_lists.ArrivalLegs[record];
     FlightPlanLeg leg = LegOf(from);
     leg.via_type = kStarViaType;
-    leg.via = plan.procedures.arr_star;
-    leg.rwy = RunwayText(plan.procedures.arr_appr_rwy);
+    leg.via = plan.mod.procedures.arr_star;
+    leg.rwy = RunwayText(plan.mod.procedures.arr_appr_rwy);
     TakeAltitude(from.alt_token, Kind::kStar, leg);
     return leg;
 }
@@ -109,7 +109,7 @@ bool IsSameFix(const FlightPlanLeg& a, const FlightPlanLeg& b) {
 // --- the ends
 
 void PutOrigin() {
-    FlightPlanLeg& first = plan.FlightPlanMod[0];
+    FlightPlanLeg& first = plan.mod.legs[0];
     const AirportData& origin = airports.origin_airport;
     if (origin.ident.empty()) return;
     if (!IsAirport(first) || first.ident != origin.ident) {
@@ -121,7 +121,7 @@ void PutOrigin() {
     first.lat = origin.lat;
     first.lon = origin.lon;
     for (int i = 1; i <= origin.runway_cnt; ++i) {
-        if (origin.runways[i].ident != plan.ends_mod.dep_runway) continue;
+        if (origin.runways[i].ident != plan.mod.ends.dep_runway) continue;
         first.lat = origin.runways[i].lat;
         first.lon = origin.runways[i].lon;
     }
@@ -140,12 +140,12 @@ FlightPlanLeg DestinationLeg() {
 
 void EnsureDestination() {
     EnsureEnds();
-    FlightPlanLeg& last = plan.FlightPlanMod[plan.mod_cnt];
+    FlightPlanLeg& last = plan.mod.legs[plan.mod.leg_cnt];
     if (IsAirport(last)) return;
     if (last.ident.empty())
         last = DestinationLeg();
     else
-        plan.FlightPlanMod[++plan.mod_cnt] = DestinationLeg();
+        plan.mod.legs[++plan.mod.leg_cnt] = DestinationLeg();
 }
 
 // --- taking a procedure out
@@ -164,13 +164,12 @@ bool BeginsArrival(const FlightPlanLeg& leg) {
 // Legs that two procedures share stay, as the other's. A break within the procedure goes with it.
 void RemoveProcedure(std::string_view via_type, std::string_view other) {
     bool within = false;
-    for (int i = plan.mod_cnt - 1; i >= 1; --i) {
-        FlightPlanLeg& leg = plan.FlightPlanMod[i];
+    for (int i = plan.mod.leg_cnt - 1; i >= 1; --i) {
+        FlightPlanLeg& leg = plan.mod.legs[i];
         if (leg.via_type == via_type) {
             RemoveModLegs(i, 1);
-            within = i > 1 &&
-                     (plan.FlightPlanMod[i - 1].via_type == via_type ||
-                      (IsDisco(plan.FlightPlanMod[i - 1]) && plan.FlightPlanMod[i - 2].via_type == via_type));
+            within = i > 1 && (plan.mod.legs[i - 1].via_type == via_type ||
+                               (IsDisco(plan.mod.legs[i - 1]) && plan.mod.legs[i - 2].via_type == via_type));
         } else if (within && IsDisco(leg)) {
             RemoveModLegs(i, 1);
         } else if (leg.via_type == kSidStarViaType) {
@@ -180,49 +179,49 @@ void RemoveProcedure(std::string_view via_type, std::string_view other) {
                 leg.hold_pos = hold;
                 continue;
             }
-            const FlightPlanLeg& neighbour = plan.FlightPlanMod[other == "SID" ? i - 1 : i + 1];
+            const FlightPlanLeg& neighbour = plan.mod.legs[other == "SID" ? i - 1 : i + 1];
             leg.via_type = other;
             // A stored route brings procedures that nobody has selected.
             leg.via = neighbour.via_type == other ? neighbour.via
-                      : other == "SID"            ? plan.procedures.dep_sid
-                                                  : plan.procedures.arr_star;
+                      : other == "SID"            ? plan.mod.procedures.dep_sid
+                                                  : plan.mod.procedures.arr_star;
         }
     }
     MergeNeighbourDiscos();
 }
 
 bool HasLegsOf(std::string_view via_type) {
-    for (int i = 1; i <= plan.mod_cnt; ++i)
-        if (plan.FlightPlanMod[i].via_type == via_type) return true;
+    for (int i = 1; i <= plan.mod.leg_cnt; ++i)
+        if (plan.mod.legs[i].via_type == via_type) return true;
     return false;
 }
 
 int FirstApproachLeg() {
-    for (int i = 1; i <= plan.mod_cnt; ++i)
-        if (IsOfApproach(plan.FlightPlanMod[i])) return i;
+    for (int i = 1; i <= plan.mod.leg_cnt; ++i)
+        if (IsOfApproach(plan.mod.legs[i])) return i;
     return 0;
 }
 
 std::string ApproachVia() {
-    return plan.procedures.arr_appr + RunwayText(plan.procedures.arr_appr_rwy);
+    return plan.mod.procedures.arr_appr + RunwayText(plan.mod.procedures.arr_appr_rwy);
 }
 
 // The fix that an approach has taken over from the route stands there again, with a break behind it.
 void UnshareApproach() {
-    const FlightPlanLeg shared = std::exchange(plan.procedures.shared_leg, {});
+    const FlightPlanLeg shared = std::exchange(plan.mod.procedures.shared_leg, {});
     const int first = FirstApproachLeg();
-    if (shared.ident.empty() || plan.FlightPlanMod[first].ident != shared.ident) return;
+    if (shared.ident.empty() || plan.mod.legs[first].ident != shared.ident) return;
     OpenModLeg(first) = shared;
     OpenDisco(first + 1);
 }
 
 // Where the approach begins with the fix before it, nothing stands between them.
 void ShareWithApproach(int last) {
-    GrowingList<FlightPlanLeg>& legs = plan.FlightPlanMod;
+    GrowingList<FlightPlanLeg>& legs = plan.mod.legs;
     const int first = last + 2;
-    if (last < 1 || first > plan.mod_cnt || !IsDisco(legs[last + 1])) return;
+    if (last < 1 || first > plan.mod.leg_cnt || !IsDisco(legs[last + 1])) return;
     if (!IsOfApproach(legs[first]) || !IsSameFix(legs[last], legs[first])) return;
-    plan.procedures.shared_leg = legs[last];
+    plan.mod.procedures.shared_leg = legs[last];
     if (legs[first].via == kDirectVia) legs[first].via = ApproachVia();
     RemoveModLegs(last, 2);
 }
@@ -231,18 +230,18 @@ void ShareWithApproach(int last) {
 void RemoveApproachLegs() {
     UnshareApproach();
     const int first = FirstApproachLeg();
-    for (int i = plan.mod_cnt; i >= 1; --i)
-        if (IsOfApproach(plan.FlightPlanMod[i])) RemoveModLegs(i, 1);
-    if (IsDisco(plan.FlightPlanMod[first - 1])) RemoveModLegs(first - 1, 1);
+    for (int i = plan.mod.leg_cnt; i >= 1; --i)
+        if (IsOfApproach(plan.mod.legs[i])) RemoveModLegs(i, 1);
+    if (IsDisco(plan.mod.legs[first - 1])) RemoveModLegs(first - 1, 1);
     MergeNeighbourDiscos();
 }
 
 // The destination goes too. Gives the last leg of the route that is left.
 int RemoveApproach() {
     RemoveApproachLegs();
-    int end = plan.mod_cnt;
-    while (end > 0 && (IsDisco(plan.FlightPlanMod[end]) || IsAirport(plan.FlightPlanMod[end]))) --end;
-    RemoveModLegs(end + 1, plan.mod_cnt - end);
+    int end = plan.mod.leg_cnt;
+    while (end > 0 && (IsDisco(plan.mod.legs[end]) || IsAirport(plan.mod.legs[end]))) --end;
+    RemoveModLegs(end + 1, plan.mod.leg_cnt - end);
     return end;
 }
 
@@ -250,8 +249,8 @@ int RemoveApproach() {
 
 FlightPlanLeg FlownLeg() {
     const int active = PendingActiveLeg();
-    if (!IsRouteActive() || active < 1 || active > plan.mod_cnt) return {};
-    return plan.FlightPlanMod[active];
+    if (!IsRouteActive() || active < 1 || active > plan.mod.leg_cnt) return {};
+    return plan.mod.legs[active];
 }
 
 // It stays the active one where an insertion has written it anew. False when it is gone.
@@ -264,12 +263,12 @@ bool StayOn(const FlightPlanLeg& flown) {
 
 // No fix of the route has been passed.
 bool IsAtStart(const FlightPlanLeg& flown) {
-    return IsPlace(flown) && PlaceBefore(plan.FlightPlanMod, PendingActiveLeg()) <= 0;
+    return IsPlace(flown) && PlaceBefore(plan.mod.legs, PendingActiveLeg()) <= 0;
 }
 
 // From a leg on, past a break.
 int FirstPlace(int leg) {
-    while (leg < plan.mod_cnt && !IsPlace(plan.FlightPlanMod[leg])) ++leg;
+    while (leg < plan.mod.leg_cnt && !IsPlace(plan.mod.legs[leg])) ++leg;
     return leg;
 }
 
@@ -281,14 +280,14 @@ bool LeadsTo(const ActiveLegRecord& leg, const FlightPlanLeg& fix) {
 void RefreshActiveLeg() {
     if (!IsRouteActive()) return;
     const int to = FirstPlace(PendingActiveLeg());
-    if (to < 1 || to > plan.mod_cnt) return;
+    if (to < 1 || to > plan.mod.leg_cnt) return;
     if (to != PendingActiveLeg()) SetPendingActiveLeg(to);
-    const FlightPlanLeg& fix = plan.FlightPlanMod[to];
-    ActiveLegRecord& leg = plan.ActiveLegMod;
+    const FlightPlanLeg& fix = plan.mod.legs[to];
+    ActiveLegRecord& leg = plan.mod.active_leg;
     if (LeadsTo(leg, fix)) return;
-    if (std::exchange(plan.direct_to_pending, 0) == 1) leg = plan.ActiveLeg;
+    if (std::exchange(plan.direct_to_pending, 0) == 1) leg = plan.active.active_leg;
     if (LeadsTo(leg, fix)) return;
-    const FlightPlanLeg& before = plan.FlightPlanMod[std::max(PlaceBefore(plan.FlightPlanMod, to), 0)];
+    const FlightPlanLeg& before = plan.mod.legs[std::max(PlaceBefore(plan.mod.legs, to), 0)];
     leg = {.from = before.ident,
            .from_lat = before.lat,
            .from_lon = before.lon,
@@ -340,7 +339,7 @@ FlightPlanLeg ApproachLeg(int record, const FlightPlanLeg& leg_before, bool miss
     FlightPlanLeg leg = LegOf(from);
     leg.via_type = kApproachViaType;
     leg.via = missed ? kMissedVia : IsDisco(leg_before) ? "DIRECT" : procedure_lists.approach_via;
-    leg.rwy = RunwayText(plan.procedures.arr_appr_rwy);
+    leg.rwy = RunwayText(plan.mod.procedures.arr_appr_rwy);
     if (from.applies_to != "---") leg.appr_wpt_type = from.applies_to;
     leg.ias_restr = ApproachSpeed(leg.appr_wpt_type);
     leg.restr_code = kSpeedRestr;
@@ -355,7 +354,7 @@ FlightPlanLeg DestinationOnRunway() {
     FlightPlanLeg leg = DestinationLeg();
     const AirportData& dest = airports.dest_airport;
     for (int i = 1; i <= dest.runway_cnt; ++i) {
-        if (dest.runways[i].ident != plan.procedures.arr_appr_rwy) continue;
+        if (dest.runways[i].ident != plan.mod.procedures.arr_appr_rwy) continue;
         leg.lat = dest.runways[i].lat;
         leg.lon = dest.runways[i].lon;
     }
@@ -365,10 +364,10 @@ FlightPlanLeg DestinationOnRunway() {
 void WriteApproachLegs(int end) {
     ProcedureLists& lists = procedure_lists;
     const std::string& first = lists.ApproachLegs[1].ident;
-    const bool reuse = end > 0 && plan.FlightPlanMod[end].ident == first && !IsCoded(lists.ApproachLegs[1]);
+    const bool reuse = end > 0 && plan.mod.legs[end].ident == first && !IsCoded(lists.ApproachLegs[1]);
     int position = end + 1;
     if (reuse) {
-        plan.procedures.shared_leg = plan.FlightPlanMod[end];
+        plan.mod.procedures.shared_leg = plan.mod.legs[end];
         RemoveHold(end);
         position = end;
     } else {
@@ -377,14 +376,14 @@ void WriteApproachLegs(int end) {
     bool missed = false;
     for (int record = 1; record <= lists.approach_leg_cnt; ++record) {
         if (missed && cfg.IncludeMissedApproach == 0) break;
-        const FlightPlanLeg before = plan.FlightPlanMod[position - 1];
+        const FlightPlanLeg before = plan.mod.legs[position - 1];
         FlightPlanLeg leg = ApproachLeg(record, before, missed);
         const bool is_hold = missed && record == lists.approach_leg_cnt && RepeatsLegBefore(record);
         if (is_hold) leg.via = kHoldVia;
         const bool is_map = IsMissedPoint(leg);
-        FlightPlanLeg& slot = reuse && record == 1 ? plan.FlightPlanMod[position] : OpenModLeg(position);
+        FlightPlanLeg& slot = reuse && record == 1 ? plan.mod.legs[position] : OpenModLeg(position);
         slot = std::move(leg);
-        if (is_hold) MarkHold(position, false, std::max(0, PlaceBefore(plan.FlightPlanMod, position - 1)));
+        if (is_hold) MarkHold(position, false, std::max(0, PlaceBefore(plan.mod.legs, position - 1)));
         missed = missed || is_map;
         ++position;
     }
@@ -395,7 +394,7 @@ void WriteApproachLegs(int end) {
 void InsertDeparture() {
     EnsureEnds();
     const FlightPlanLeg flown = FlownLeg();
-    const bool on_its_way = flown.via_type.starts_with("SID") || plan.ActiveLegMod.from == "DIRECT";
+    const bool on_its_way = flown.via_type.starts_with("SID") || plan.mod.active_leg.from == "DIRECT";
     const bool from_start = IsAtStart(flown) && (sim.on_ground == 1 || !on_its_way);
     RemoveProcedure("SID", "STAR");
     PutOrigin();
@@ -405,18 +404,17 @@ void InsertDeparture() {
         const ProcedureLeg& from = lists.DepartureLegs[i];
         FlightPlanLeg leg = LegOf(from);
         leg.via_type = kSidViaType;
-        leg.via = plan.procedures.dep_sid;
-        leg.rwy = RunwayText(plan.ends_mod.dep_runway);
+        leg.via = plan.mod.procedures.dep_sid;
+        leg.rwy = RunwayText(plan.mod.ends.dep_runway);
         TakeAltitude(from.alt_token, Kind::kSid, leg);
-        if (position > 1 && IsSameFix(plan.FlightPlanMod[position - 1], leg)) continue;
+        if (position > 1 && IsSameFix(plan.mod.legs[position - 1], leg)) continue;
         OpenModLeg(position++) = std::move(leg);
     }
     const int last = position - 1;
-    if (last >= 1 && position < plan.mod_cnt &&
-        IsSameFix(plan.FlightPlanMod[last], plan.FlightPlanMod[position])) {
-        const bool of_star = plan.FlightPlanMod[position].via_type == kStarViaType;
+    if (last >= 1 && position < plan.mod.leg_cnt && IsSameFix(plan.mod.legs[last], plan.mod.legs[position])) {
+        const bool of_star = plan.mod.legs[position].via_type == kStarViaType;
         RemoveModLegs(position, 1);
-        if (of_star) plan.FlightPlanMod[last].via_type = kSidStarViaType;
+        if (of_star) plan.mod.legs[last].via_type = kSidStarViaType;
     }
     if (from_start)
         SetPendingActiveLeg(FirstPlace(1));
@@ -434,13 +432,13 @@ void InsertArrival() {
     RemoveProcedure("STAR", "SID");
     EnsureDestination();
     const int approach = FirstApproachLeg();
-    int point = approach > 0 ? approach - 1 : plan.mod_cnt;
-    while (point > 0 && (IsAirport(plan.FlightPlanMod[point]) || IsDisco(plan.FlightPlanMod[point]))) --point;
+    int point = approach > 0 ? approach - 1 : plan.mod.leg_cnt;
+    while (point > 0 && (IsAirport(plan.mod.legs[point]) || IsDisco(plan.mod.legs[point]))) --point;
     const ProcedureLists& lists = procedure_lists;
     int position = point + 1;
     for (int i = 1; i <= lists.arrival_leg_cnt; ++i) {
         FlightPlanLeg leg = ArrivalLeg(i);
-        FlightPlanLeg& before = plan.FlightPlanMod[position - 1];
+        FlightPlanLeg& before = plan.mod.legs[position - 1];
         if (position > 1 && IsSameFix(before, leg)) {
             if (before.via_type == kSidViaType) before.via_type = kSidStarViaType;
             continue;
@@ -461,7 +459,7 @@ void InsertApproach() {
     const bool past_route = !flown.ident.empty() && (IsAirport(flown) || IsOfApproach(flown));
     const int end = RemoveApproach();
     if (procedure_lists.approach_leg_cnt > 0) WriteApproachLegs(end);
-    FlightPlanLeg& dest = OpenModLeg(plan.mod_cnt + 1);
+    FlightPlanLeg& dest = OpenModLeg(plan.mod.leg_cnt + 1);
     dest = DestinationOnRunway();
     const bool to_destination = IsAirport(flown);
     if ((to_destination || !StayOn(flown)) && past_route) {

@@ -83,7 +83,7 @@ bool IsApproachRole(std::string_view segment) {
 }
 
 bool IsSelectedApproach(const ProcedureRecord& record) {
-    const ProcedureSelections& chosen = plan.procedures;
+    const ProcedureSelections& chosen = plan.mod.procedures;
     const bool of_runway =
         record.runways.empty() ||
         (!chosen.arr_appr_rwy.empty() && record.runways.find(chosen.arr_appr_rwy) != std::string::npos);
@@ -93,12 +93,12 @@ bool IsSelectedApproach(const ProcedureRecord& record) {
 }  // namespace
 
 const char* SelectedDepartureRunway() {
-    return plan.ends_mod.dep_runway.c_str();
+    return plan.mod.ends.dep_runway.c_str();
 }
 
 void BuildDepartureLegs() {
     ProcedureLists& lists = procedure_lists;
-    const ProcedureSelections& chosen = plan.procedures;
+    const ProcedureSelections& chosen = plan.mod.procedures;
     const std::string runway = SelectedDepartureRunway();
     const bool runway_known = runway != kNotSelected;
     const AirportData& origin = airports.origin_airport;
@@ -115,7 +115,7 @@ void BuildDepartureLegs() {
 
 void BuildArrivalLegs() {
     ProcedureLists& lists = procedure_lists;
-    const ProcedureSelections& chosen = plan.procedures;
+    const ProcedureSelections& chosen = plan.mod.procedures;
     const AirportData& dest = airports.dest_airport;
     lists.arrival_leg_cnt = 0;
     if (chosen.arr_star == kNotSelected) return;
@@ -130,7 +130,7 @@ void BuildArrivalLegs() {
 
 void BuildApproachLegs() {
     ProcedureLists& lists = procedure_lists;
-    ProcedureSelections& chosen = plan.procedures;
+    ProcedureSelections& chosen = plan.mod.procedures;
     const AirportData& dest = airports.dest_airport;
     lists.approach_leg_cnt = 0;
     lists.approach_via.clear();
@@ -156,7 +156,7 @@ void BuildApproachTransitions() {
     ProcedureLists& lists = procedure_lists;
     lists.approach_transition_cnt = 0;
     const AirportData& dest = airports.dest_airport;
-    if (plan.procedures.arr_appr == kNotSelected) return;
+    if (plan.mod.procedures.arr_appr == kNotSelected) return;
     for (int i = 1; i <= dest.approach_cnt; ++i) {
         const ProcedureRecord& record = dest.approaches[i];
         if (!IsSelectedApproach(record)) continue;

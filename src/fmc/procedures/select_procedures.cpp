@@ -90,7 +90,7 @@ std::string At(const Names& names, int index) {
 
 // Before EXEC there is nothing that ERASE could bring back.
 void KeepBelowActive() {
-    if (!IsRouteActive()) plan.procedures_kept = plan.procedures;
+    if (!IsRouteActive()) plan.active.procedures = plan.mod.procedures;
 }
 
 void WriteDeparture() {
@@ -125,13 +125,13 @@ std::vector<std::string> SidNames() {
 
 std::vector<std::string> DepartureRunways() {
     const AirportData& origin = airports.origin_airport;
-    const Names served = RunwaysOf(origin, origin.sids, origin.sid_cnt, plan.procedures.dep_sid);
+    const Names served = RunwaysOf(origin, origin.sids, origin.sid_cnt, plan.mod.procedures.dep_sid);
     return served.empty() ? AllRunways(origin) : served;
 }
 
 std::vector<std::string> DepartureTransitions() {
     const AirportData& origin = airports.origin_airport;
-    return Transitions(origin, origin.sids, origin.sid_cnt, plan.procedures.dep_sid);
+    return Transitions(origin, origin.sids, origin.sid_cnt, plan.mod.procedures.dep_sid);
 }
 
 std::vector<std::string> StarNames(const AirportData& airport) {
@@ -139,13 +139,13 @@ std::vector<std::string> StarNames(const AirportData& airport) {
 }
 
 std::vector<std::string> ArrivalTransitions(const AirportData& airport) {
-    return Transitions(airport, airport.stars, airport.star_cnt, plan.procedures.arr_star);
+    return Transitions(airport, airport.stars, airport.star_cnt, plan.mod.procedures.arr_star);
 }
 
 std::vector<ApproachChoice> ApproachChoices(const AirportData& airport) {
-    const Names served = RunwaysOf(airport, airport.stars, airport.star_cnt, plan.procedures.arr_star);
+    const Names served = RunwaysOf(airport, airport.stars, airport.star_cnt, plan.mod.procedures.arr_star);
     const bool filter =
-        &airport == &airports.dest_airport && !served.empty() && plan.procedures.arr_appr == kNotSelected;
+        &airport == &airports.dest_airport && !served.empty() && plan.mod.procedures.arr_appr == kNotSelected;
     std::vector<ApproachChoice> choices;
     for (int i = 1; i <= airport.approach_cnt; ++i) {
         const ProcedureRecord& record = airport.approaches[i];
@@ -164,12 +164,12 @@ void SelectSid(int, int index, bool keep) {
     if (!keep) {
         const std::string name = At(SidNames(), index);
         if (name.empty()) return;
-        Toggle(plan.procedures.dep_sid, name);
-        plan.procedures.dep_trans = kNotSelected;
+        Toggle(plan.mod.procedures.dep_sid, name);
+        plan.mod.procedures.dep_trans = kNotSelected;
     }
     const Names runways = DepartureRunways();
-    const bool chosen = plan.procedures.dep_sid != kNotSelected;
-    if (chosen && runways.size() == 1 && plan.ends_mod.dep_runway != runways[0])
+    const bool chosen = plan.mod.procedures.dep_sid != kNotSelected;
+    if (chosen && runways.size() == 1 && plan.mod.ends.dep_runway != runways[0])
         SelectOriginRunway(runways[0]);
     WriteDeparture();
 }
@@ -177,7 +177,7 @@ void SelectSid(int, int index, bool keep) {
 void SelectDepartureRunway(int side, int index) {
     const std::string name = At(DepartureRunways(), index);
     if (name.empty() || SelectOriginRunway(name) == 0) return;
-    if (plan.procedures.dep_sid != kNotSelected)
+    if (plan.mod.procedures.dep_sid != kNotSelected)
         SelectSid(side, 0, true);
     else
         OpenModification();
@@ -186,7 +186,7 @@ void SelectDepartureRunway(int side, int index) {
 void SelectDepartureTransition(int, int index) {
     const std::string name = At(DepartureTransitions(), index);
     if (name.empty()) return;
-    Toggle(plan.procedures.dep_trans, name);
+    Toggle(plan.mod.procedures.dep_trans, name);
     WriteDeparture();
 }
 
@@ -194,8 +194,8 @@ void SelectArrival(int, int index, bool keep) {
     if (!keep) {
         const std::string name = At(StarNames(airports.dest_airport), index);
         if (name.empty()) return;
-        Toggle(plan.procedures.arr_star, name);
-        plan.procedures.arr_trans = kNotSelected;
+        Toggle(plan.mod.procedures.arr_star, name);
+        plan.mod.procedures.arr_trans = kNotSelected;
     }
     WriteArrival();
 }
@@ -203,7 +203,7 @@ void SelectArrival(int, int index, bool keep) {
 void SelectArrivalTransition(int, int index) {
     const std::string name = At(ArrivalTransitions(airports.dest_airport), index);
     if (name.empty()) return;
-    Toggle(plan.procedures.arr_trans, name);
+    Toggle(plan.mod.procedures.arr_trans, name);
     WriteArrival();
 }
 
@@ -211,7 +211,7 @@ void SelectApproach(int side, int index) {
     const std::vector<ApproachChoice> choices = ApproachChoices(airports.dest_airport);
     if (index < 1 || index > static_cast<int>(choices.size())) return;
     const ApproachChoice& choice = choices[static_cast<std::size_t>(index - 1)];
-    ProcedureSelections& chosen = plan.procedures;
+    ProcedureSelections& chosen = plan.mod.procedures;
     const bool again = chosen.arr_appr == choice.kind && chosen.arr_appr_rwy == choice.runway;
     chosen.arr_appr = again ? kNotSelected : choice.kind;
     chosen.arr_appr_rwy = again ? kNotSelected : choice.runway;
@@ -225,15 +225,15 @@ void SelectApproach(int side, int index) {
 void SelectArrivalRunway(int side, int index) {
     const std::string name = At(ArrivalRunways(airports.dest_airport), index);
     if (name.empty() || SelectDestinationRunway(name) == 0) return;
-    plan.procedures.arr_appr = plan.procedures.arr_appr_trans = kNotSelected;
-    if (plan.procedures.arr_star != kNotSelected) SelectArrival(side, 0, true);
+    plan.mod.procedures.arr_appr = plan.mod.procedures.arr_appr_trans = kNotSelected;
+    if (plan.mod.procedures.arr_star != kNotSelected) SelectArrival(side, 0, true);
     WriteApproach();
 }
 
 void SelectApproachTransition(int, int index) {
     const ProcedureLists& lists = procedure_lists;
     if (index < 1 || index > lists.approach_transition_cnt) return;
-    Toggle(plan.procedures.arr_appr_trans, lists.approach_transitions[index]);
+    Toggle(plan.mod.procedures.arr_appr_trans, lists.approach_transitions[index]);
     WriteApproach();
 }
 
@@ -251,22 +251,22 @@ bool SelectByName(const Names& names, std::string_view name, const std::string& 
 }  // namespace
 
 bool SelectSidByName(std::string_view name) {
-    return SelectByName(SidNames(), name, plan.procedures.dep_sid,
+    return SelectByName(SidNames(), name, plan.mod.procedures.dep_sid,
                         [](int index) { SelectSid(kCaptain, index, false); });
 }
 
 bool SelectDepartureTransitionByName(std::string_view name) {
-    return SelectByName(DepartureTransitions(), name, plan.procedures.dep_trans,
+    return SelectByName(DepartureTransitions(), name, plan.mod.procedures.dep_trans,
                         [](int index) { SelectDepartureTransition(kCaptain, index); });
 }
 
 bool SelectStarByName(std::string_view name) {
-    return SelectByName(StarNames(airports.dest_airport), name, plan.procedures.arr_star,
+    return SelectByName(StarNames(airports.dest_airport), name, plan.mod.procedures.arr_star,
                         [](int index) { SelectArrival(kCaptain, index, false); });
 }
 
 bool SelectArrivalTransitionByName(std::string_view name) {
-    return SelectByName(ArrivalTransitions(airports.dest_airport), name, plan.procedures.arr_trans,
+    return SelectByName(ArrivalTransitions(airports.dest_airport), name, plan.mod.procedures.arr_trans,
                         [](int index) { SelectArrivalTransition(kCaptain, index); });
 }
 

@@ -40,21 +40,21 @@ int EnterOrigin(std::string_view ident) {
     if (LoadOriginAirport(ident) == 0) return 0;
     RemoveAllHolds();
     plan.executed_hold_cnt = 0;
-    ClearLegs(plan.FlightPlan, plan.fp_cnt);
-    ClearLegs(plan.FlightPlanMod, plan.mod_cnt);
-    plan.FlightPlan[0] = plan.FlightPlanMod[0] = AirportLeg(airports.origin_airport);
-    plan.fp_cnt = plan.mod_cnt = 1;
-    plan.stpos = plan.mod_stpos = kNoPlan;
+    ClearLegs(plan.active.legs, plan.active.leg_cnt);
+    ClearLegs(plan.mod.legs, plan.mod.leg_cnt);
+    plan.active.legs[0] = plan.mod.legs[0] = AirportLeg(airports.origin_airport);
+    plan.active.leg_cnt = plan.mod.leg_cnt = 1;
+    plan.active.stpos = plan.mod.stpos = kNoPlan;
     plan.pending_stpos = 0;
-    plan.mod_bod_pos = vnav.bod_pos = 0;
-    plan.ActiveLeg = plan.ActiveLegMod = {};
+    plan.mod.bod_pos = plan.active.bod_pos = 0;
+    plan.active.active_leg = plan.mod.active_leg = {};
     plan.direct_to_pending = 0;
     plan.awy_list_cnt = plan.awy_start_pos = 0;
     plan.along_track_nm = 0;
-    plan.ends = {};
-    plan.ends.origin = airports.origin_airport.ident;
-    plan.ends_mod = plan.ends;
-    plan.procedures = plan.procedures_kept = {};
+    plan.active.ends = {};
+    plan.active.ends.origin = airports.origin_airport.ident;
+    plan.mod.ends = plan.active.ends;
+    plan.mod.procedures = plan.active.procedures = {};
     procedure_lists = {};
     plan.fms_fpln_active = kRouteNone;
     plan.new_route = 1;
@@ -70,21 +70,22 @@ int EnterDestination(std::string_view ident) {
     EnsureEnds();
     if (!IsRouteModified()) RemoveArrivalAndApproach();
     if (IsRouteSettled()) AdvanceRouteState();
-    RemoveHold(plan.mod_cnt);
-    FlightPlanLeg& last = plan.FlightPlanMod[plan.mod_cnt];
+    RemoveHold(plan.mod.leg_cnt);
+    FlightPlanLeg& last = plan.mod.legs[plan.mod.leg_cnt];
     last = AirportLeg(airports.dest_airport);
     last.mod_flag = IsRouteModified();
-    plan.ends_mod.dest = airports.dest_airport.ident;
+    plan.mod.ends.dest = airports.dest_airport.ident;
     if (!IsRouteActive()) {
-        plan.ends.dest = plan.ends_mod.dest;
-        plan.procedures_kept =
-            plan.procedures = {.dep_sid = plan.procedures.dep_sid, .dep_trans = plan.procedures.dep_trans};
+        plan.active.ends.dest = plan.mod.ends.dest;
+        plan.active.procedures = plan.mod.procedures = {.dep_sid = plan.mod.procedures.dep_sid,
+                                                        .dep_trans = plan.mod.procedures.dep_trans};
         plan.new_route = 1;
-        if (plan.fp_cnt < 1) plan.fp_cnt = 1;
-        if (plan.stpos == kNoPlan) plan.stpos = 1;
-        vnav.bod_pos = plan.fp_cnt;
+        if (plan.active.leg_cnt < 1) plan.active.leg_cnt = 1;
+        if (plan.active.stpos == kNoPlan) plan.active.stpos = 1;
+        plan.active.bod_pos = plan.active.leg_cnt;
     } else {
-        plan.procedures = {.dep_sid = plan.procedures.dep_sid, .dep_trans = plan.procedures.dep_trans};
+        plan.mod.procedures = {.dep_sid = plan.mod.procedures.dep_sid,
+                               .dep_trans = plan.mod.procedures.dep_trans};
     }
     RebuildRouteRows();
     return 1;

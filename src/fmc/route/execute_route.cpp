@@ -58,9 +58,9 @@ void BeginNewRoute() {
     if (plan.new_route == 0) return;
     plan.new_route = 0;
     if (!IsRouteActive()) perf.cruise_alt = 0;
-    plan.stpos = 1;
+    plan.active.stpos = 1;
     plan.pending_stpos = 0;
-    plan.ActiveLeg = plan.ActiveLegMod = {};
+    plan.active.active_leg = plan.mod.active_leg = {};
     plan.direct_to_pending = 0;
     plan.direct_abeam_check = 1;
     vnav.toc = vnav.tod = vnav.init_tod = 0;
@@ -83,19 +83,19 @@ void FillSpeeds() {
 }
 
 void TakeOverLegs() {
-    for (int i = plan.mod_cnt + 1; i <= plan.fp_cnt; ++i) plan.FlightPlan[i] = {};
-    for (int i = 0; i <= plan.mod_cnt; ++i) {
-        plan.FlightPlanMod[i].mod_flag = 0;
-        plan.FlightPlan[i] = plan.FlightPlanMod[i];
+    for (int i = plan.mod.leg_cnt + 1; i <= plan.active.leg_cnt; ++i) plan.active.legs[i] = {};
+    for (int i = 0; i <= plan.mod.leg_cnt; ++i) {
+        plan.mod.legs[i].mod_flag = 0;
+        plan.active.legs[i] = plan.mod.legs[i];
     }
-    plan.fp_cnt = plan.mod_cnt;
+    plan.active.leg_cnt = plan.mod.leg_cnt;
 }
 
 void KeepFinalApproach() {
-    for (int i = 1; i <= plan.fp_cnt; ++i) {
-        const FlightPlanLeg& map = plan.FlightPlan[i];
+    for (int i = 1; i <= plan.active.leg_cnt; ++i) {
+        const FlightPlanLeg& map = plan.active.legs[i];
         if (!IsMissedPoint(map)) continue;
-        const FlightPlanLeg& before = plan.FlightPlan[std::max(PlaceBefore(plan.FlightPlan, i), 0)];
+        const FlightPlanLeg& before = plan.active.legs[std::max(PlaceBefore(plan.active.legs, i), 0)];
         const double course = GreatCircle(before.lat, before.lon, map.lat, map.lon).bearing;
         plan.final_appr_crs = FoldBearing(course - MagVarAt(map.lat, map.lon));
         plan.map_ident = map.ident;
@@ -106,14 +106,14 @@ void KeepFinalApproach() {
 }
 
 void ChooseActiveLeg() {
-    if (plan.pending_stpos >= 1) plan.stpos = plan.pending_stpos;
+    if (plan.pending_stpos >= 1) plan.active.stpos = plan.pending_stpos;
     plan.pending_stpos = 0;
-    if (plan.stpos == kNoPlan) plan.stpos = 1;
-    plan.stpos = std::clamp(plan.stpos, 1, plan.fp_cnt);
-    if (!IsDisco(plan.FlightPlan[plan.stpos]) || plan.stpos == plan.fp_cnt) return;
-    ++plan.stpos;
-    if (IsRouteSettled()) plan.mod_stpos = plan.stpos;
-    perf.cruise_alt = std::max(perf.cruise_alt, plan.FlightPlan[plan.stpos].step_alt);
+    if (plan.active.stpos == kNoPlan) plan.active.stpos = 1;
+    plan.active.stpos = std::clamp(plan.active.stpos, 1, plan.active.leg_cnt);
+    if (!IsDisco(plan.active.legs[plan.active.stpos]) || plan.active.stpos == plan.active.leg_cnt) return;
+    ++plan.active.stpos;
+    if (IsRouteSettled()) plan.mod.stpos = plan.active.stpos;
+    perf.cruise_alt = std::max(perf.cruise_alt, plan.active.legs[plan.active.stpos].step_alt);
 }
 
 // Where a direct-to begins: past the turn that the aircraft has yet to fly.
@@ -133,10 +133,10 @@ LatLon DirectToStart(const ActiveLegRecord& leg) {
 }
 
 void AimActiveLeg() {
-    ActiveLegRecord& leg = plan.ActiveLeg;
-    const bool direct_to = plan.ActiveLegMod.from == "DIRECT";
-    if (direct_to) leg = plan.ActiveLegMod;
-    const FlightPlanLeg& to = plan.FlightPlan[plan.stpos];
+    ActiveLegRecord& leg = plan.active.active_leg;
+    const bool direct_to = plan.mod.active_leg.from == "DIRECT";
+    if (direct_to) leg = plan.mod.active_leg;
+    const FlightPlanLeg& to = plan.active.legs[plan.active.stpos];
     const bool is_flown = leg.to == to.ident && leg.to_lat == to.lat && leg.to_lon == to.lon;
     leg.to = to.ident;
     leg.to_lat = to.lat;
@@ -150,7 +150,8 @@ void AimActiveLeg() {
     }
     plan.direct_to_pending = 0;
     if (leg.from != "DIRECT" || leg.direct_flag == 0) {
-        const FlightPlanLeg& from = plan.FlightPlan[std::max(PlaceBefore(plan.FlightPlan, plan.stpos), 0)];
+        const FlightPlanLeg& from =
+            plan.active.legs[std::max(PlaceBefore(plan.active.legs, plan.active.stpos), 0)];
         // The leg being flown keeps its start also when the passed fix has been taken out of the list.
         const bool start_is_gone =
             is_flown && !leg.from.empty() && leg.from != "DIRECT" && leg.from != from.ident;
@@ -179,10 +180,11 @@ void MoveToRunway(FlightPlanLeg& leg, const AirportData& airport, const std::str
 }
 
 void PlaceEndsOnRunways() {
-    plan.ends = plan.ends_mod;
-    plan.procedures_kept = plan.procedures;
-    MoveToRunway(plan.FlightPlan[0], airports.origin_airport, plan.ends.dep_runway);
-    MoveToRunway(plan.FlightPlan[plan.fp_cnt], airports.dest_airport, plan.procedures.arr_appr_rwy);
+    plan.active.ends = plan.mod.ends;
+    plan.active.procedures = plan.mod.procedures;
+    MoveToRunway(plan.active.legs[0], airports.origin_airport, plan.active.ends.dep_runway);
+    MoveToRunway(plan.active.legs[plan.active.leg_cnt], airports.dest_airport,
+                 plan.mod.procedures.arr_appr_rwy);
 }
 
 void FillDefaultSpeeds() {
@@ -191,31 +193,34 @@ void FillDefaultSpeeds() {
 }
 
 void SettleDestination() {
-    const FlightPlanLeg& last = plan.FlightPlan[plan.fp_cnt];
+    const FlightPlanLeg& last = plan.active.legs[plan.active.leg_cnt];
     if (!IsAirport(last)) return;
     const bool changed = airports.dest_airport.ident != last.ident;
     if (changed || !IsRouteActive()) LoadDestinationAirport(last.ident);
-    plan.ends.dest = plan.ends_mod.dest = last.ident;
+    plan.active.ends.dest = plan.mod.ends.dest = last.ident;
     if (!changed) return;
-    plan.procedures = {.dep_sid = plan.procedures.dep_sid, .dep_trans = plan.procedures.dep_trans};
-    plan.procedures_kept = plan.procedures;
+    plan.mod.procedures = {.dep_sid = plan.mod.procedures.dep_sid,
+                           .dep_trans = plan.mod.procedures.dep_trans};
+    plan.active.procedures = plan.mod.procedures;
 }
 
 void SettleOrigin() {
-    const FlightPlanLeg& first = plan.FlightPlan[0];
+    const FlightPlanLeg& first = plan.active.legs[0];
     if (!IsAirport(first)) return;
     const bool changed = airports.origin_airport.ident != first.ident;
     if (changed || !IsRouteActive()) LoadOriginAirport(first.ident);
     if (!IsRouteActive() && sim.on_ground == 1) perf.fplog_mode = -1;
     FillDefaultSpeeds();
     if (changed) {
-        plan.ends = {.origin = first.ident, .dest = plan.ends.dest, .company_route = plan.ends.company_route};
-        plan.procedures.dep_sid = plan.procedures.dep_trans = kNotSelected;
-        plan.procedures_kept = plan.procedures;
+        plan.active.ends = {.origin = first.ident,
+                            .dest = plan.active.ends.dest,
+                            .company_route = plan.active.ends.company_route};
+        plan.mod.procedures.dep_sid = plan.mod.procedures.dep_trans = kNotSelected;
+        plan.active.procedures = plan.mod.procedures;
         RemoveAllHolds();
     }
-    plan.ends.origin = first.ident;
-    plan.ends_mod = plan.ends;
+    plan.active.ends.origin = first.ident;
+    plan.mod.ends = plan.active.ends;
 }
 
 constexpr int kEnteredStep = 0, kIcaoStep = -1, kRvsmStep = -2;
@@ -260,7 +265,7 @@ double StepToAltitude(double cruise_alt, int size, double entered) {
 
 void ExecuteRoute() {
     NormalizeLegs();
-    if (plan.mod_cnt < 1 || !IsPlace(plan.FlightPlanMod[plan.mod_cnt])) return;
+    if (plan.mod.leg_cnt < 1 || !IsPlace(plan.mod.legs[plan.mod.leg_cnt])) return;
     ApplyPendingEntries();
     BeginNewRoute();
     FillSpeeds();
@@ -277,7 +282,7 @@ void ExecuteRoute() {
     if (perf.cruise_alt >= kLowestCruise) PlanCruise();
     ComputeProfile(perf.cruise_alt, 0);
     ComputeDistances(1);
-    FindBottomOfDescent(plan.stpos);
+    FindBottomOfDescent(plan.active.stpos);
     SetCrossAtPoint();
     RefreshLegsForModification();
     RebuildRouteRows();

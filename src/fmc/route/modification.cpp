@@ -29,28 +29,28 @@ void ClearPendingEntries() {
 
 void BringBackEnds() {
     // A stored route that was loaded has its origin shown at once.
-    if (IsAirport(plan.FlightPlan[0])) plan.ends.origin = plan.FlightPlan[0].ident;
-    plan.ends_mod = plan.ends;
-    plan.procedures = plan.procedures_kept;
-    if (airports.origin_airport.ident != plan.ends.origin) LoadOriginAirport(plan.ends.origin);
-    if (airports.dest_airport.ident != plan.ends.dest) LoadDestinationAirport(plan.ends.dest);
+    if (IsAirport(plan.active.legs[0])) plan.active.ends.origin = plan.active.legs[0].ident;
+    plan.mod.ends = plan.active.ends;
+    plan.mod.procedures = plan.active.procedures;
+    if (airports.origin_airport.ident != plan.active.ends.origin) LoadOriginAirport(plan.active.ends.origin);
+    if (airports.dest_airport.ident != plan.active.ends.dest) LoadDestinationAirport(plan.active.ends.dest);
 }
 
 }  // namespace
 
 void RefreshLegsForModification() {
-    for (int i = plan.fp_cnt + 1; i <= plan.mod_cnt; ++i) plan.FlightPlanMod[i] = {};
-    for (int i = 0; i <= plan.fp_cnt; ++i) {
-        FlightPlanLeg& leg = plan.FlightPlanMod[i];
-        leg = plan.FlightPlan[i];
+    for (int i = plan.active.leg_cnt + 1; i <= plan.mod.leg_cnt; ++i) plan.mod.legs[i] = {};
+    for (int i = 0; i <= plan.active.leg_cnt; ++i) {
+        FlightPlanLeg& leg = plan.mod.legs[i];
+        leg = plan.active.legs[i];
         leg.ata.clear();
         leg.mod_flag = 0;
     }
-    plan.mod_cnt = plan.fp_cnt;
-    plan.mod_stpos = plan.stpos;
-    plan.pending_stpos = IsRouteModified() ? plan.stpos : 0;
-    plan.mod_bod_pos = vnav.bod_pos;
-    plan.ActiveLegMod = plan.ActiveLeg;
+    plan.mod.leg_cnt = plan.active.leg_cnt;
+    plan.mod.stpos = plan.active.stpos;
+    plan.pending_stpos = IsRouteModified() ? plan.active.stpos : 0;
+    plan.mod.bod_pos = plan.active.bod_pos;
+    plan.mod.active_leg = plan.active.active_leg;
     plan.direct_to_pending = 0;
     DropPendingHolds();
 }
@@ -85,7 +85,7 @@ void ClearFlightPlan() {
     perf.dist_to_toc = perf.dist_to_tod = perf.dist_to_dest = 0;
     ClearPendingEntries();
     vnav.toc = vnav.tod = vnav.init_tod = 0;
-    vnav.bod_pos = 0;
+    plan.active.bod_pos = 0;
     lnav.lnav_init_mode = 0;
     lnav.holding = lnav.hold_point = lnav.hold_exit = 0;
     airports.origin_airport = {};

@@ -3,7 +3,7 @@
 #include "state/plan.h"
 
 // The life of the route: entered, activated, executed, modified, erased, thrown away. The legs that are flown
-// stand in plan.FlightPlan; every edit works on plan.FlightPlanMod, and EXEC (execute_route.h) takes it over.
+// stand in plan.active.legs; every edit works on plan.mod.legs, and EXEC (execute_route.h) takes it over.
 
 /// Makes FlightPlanMod a copy of FlightPlan, without `ata` and `mod_flag`; the TO leg and the bottom of
 /// descent follow, holds that exist in the working copy only are dropped.

@@ -121,7 +121,7 @@ bool IsAirway(const std::string& word) {
 
 // The last fix entered so far, the origin at first.
 int LastFix() {
-    return std::max(PlaceBefore(plan.FlightPlanMod, plan.mod_cnt), 0);
+    return std::max(PlaceBefore(plan.mod.legs, plan.mod.leg_cnt), 0);
 }
 
 double DistanceFrom(const LatLon& point, const NavRecord& record) {
@@ -191,7 +191,7 @@ std::string_view WhyNoFix(const std::string& word, bool is_first, bool is_last) 
 
 bool EnterFix(const RouteWords& words, std::size_t i, std::string& error) {
     const std::string& word = words.text[i];
-    const FlightPlanLeg& before = plan.FlightPlanMod[LastFix()];
+    const FlightPlanLeg& before = plan.mod.legs[LastFix()];
     LatLon place{before.lat, before.lon};
     const std::size_t last = words.text.size() - 1;
     const bool on_airway =
@@ -242,7 +242,7 @@ bool EnterAirway(const RouteWords& words, std::size_t& i, std::string& error) {
     const std::string& airway = words.text[i];
     const std::size_t last = words.text.size() - 1;
     const int start = LastFix();
-    const std::string start_ident = plan.FlightPlanMod[start].ident;
+    const std::string start_ident = plan.mod.legs[start].ident;
     const auto wrong = [&](std::size_t at, std::string what, std::string_view name = {}) {
         error = Told(words, at, what.append(name));
         return false;
@@ -285,7 +285,7 @@ std::size_t EnterDeparture(const RouteWords& words) {
     if (SelectDepartureTransitionByName(word.transition)) return 1;
     const std::string& next = words.text[2];
     const bool used = words.text.size() > 3 &&
-                      (plan.FlightPlanMod[LastFix()].ident == next || SelectDepartureTransitionByName(next));
+                      (plan.mod.legs[LastFix()].ident == next || SelectDepartureTransitionByName(next));
     return used ? 2 : 1;
 }
 
@@ -299,7 +299,7 @@ bool EnterArrival(const RouteWords& words, std::size_t& i) {
         SelectArrivalTransitionByName(words.text[i++]);
         return true;
     }
-    const std::string last_fix = plan.FlightPlanMod[LastFix()].ident;
+    const std::string last_fix = plan.mod.legs[LastFix()].ident;
     if (i != star_at || !SelectStarByName(word.name)) return false;
     SelectArrivalTransitionByName(word.transition.empty() ? std::string_view(last_fix) : word.transition);
     return true;
@@ -354,7 +354,7 @@ int EnterRouteText(std::string_view text, std::string& error) {
 }
 
 int ExecuteEnteredRoute(std::string& error) {
-    if (plan.mod_cnt < 1 || !IsPlace(plan.FlightPlanMod[plan.mod_cnt])) {
+    if (plan.mod.leg_cnt < 1 || !IsPlace(plan.mod.legs[plan.mod.leg_cnt])) {
         error = "no route has been entered";
         return 0;
     }
