@@ -3,6 +3,7 @@
 #include <array>
 #include <span>
 
+#include "state/side.h"
 #include "state/variable.h"
 
 /// The last press on a format, until its owner has taken it.
@@ -54,4 +55,10 @@ inline int& SystemPageOf(int unit, int half) {
     if (unit <= 2) return half == 1 ? displays.du_capt_inb_l_sys_page : displays.du_capt_inb_r_sys_page;
     if (unit <= 4) return half == 1 ? displays.du_fo_inb_l_sys_page : displays.du_fo_inb_r_sys_page;
     return half == 1 ? displays.du_lower_l_sys_page : displays.du_lower_r_sys_page;
+}
+
+/// Whose a half (1 left, 2 right) of a unit is: of the lower unit the captain has the left half.
+inline int SideOf(int unit, int half) {
+    const bool captains = unit <= 2 || (unit == 5 && half == 1);
+    return captains ? kCaptain : kFirstOfficer;
 }

@@ -62,7 +62,7 @@ TEST(DisplayClicks, PickOnTheMapGoesBeforeItsKeys) {
     const struct {
         int unit, mode, x, y, side;  // whose map
     } kCases[] = {{2, 42, 100, 200, 1}, {2, 8, 283 + 100, 200, 1}, {3, 42, 100, 200, 2}, {3, 31, 383, 379, 2},
-                  {5, 42, 100, 200, 1}, {5, 8, 383, 200, 2},       {4, 93, 100, 200, 2}};
+                  {5, 42, 100, 200, 1}, {5, 8, 383, 200, 1},       {4, 93, 100, 200, 2}};
     for (const auto& row : kCases) {
         const FakeHost host;
         DisplayModeOf(row.unit) = row.mode;

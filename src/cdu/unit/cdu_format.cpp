@@ -124,8 +124,7 @@ void DrawCursor(Graphics& graphics, const CduState& unit) {
 
 }  // namespace
 
-void DrawCdu(Graphics& graphics, int half, int display_unit) {
-    const int side = CduSideOf(display_unit, half);
+void DrawCdu(Graphics& graphics, int half, int side) {
     const CduState& unit = CduOf(side);
     const TransformBlock block(graphics);
     if (half == 2) GdipTranslateWorldTransform(graphics, kRightHalf, 0);

@@ -1,5 +1,6 @@
 #include "cdu/unit/items.h"
 
+#include "base/area.h"
 #include "cdu/unit/init_ref.h"
 #include "cdu/unit/keypad.h"
 #include "cdu/unit/page_table.h"
@@ -7,6 +8,7 @@
 #include "fmc/legs/route_rows.h"
 #include "frame/cues.h"
 #include "navdata/nearest.h"
+#include "state/displays.h"
 #include "state/keyboard.h"
 #include "state/plan.h"
 
@@ -32,11 +34,6 @@ constexpr SoftKey kSoftKeys[] = {
     {kItemNextPage, "NEXT", "PAGE", 246, 272},
 };
 
-struct Area {
-    int left, right, top, bottom;  // all inclusive
-    bool Holds(double x, double y) const { return x >= left && x <= right && y >= top && y <= bottom; }
-};
-
 constexpr Area kScratchPadBox{43, 245, 205, 221};
 constexpr Area kClearMessageKey{204, 241, 341, 364};
 
@@ -44,8 +41,8 @@ constexpr Area kClearMessageKey{204, 241, 341, 364};
 int LineKeyAt(double x, double y) {
     for (int row = 1; row <= 6; ++row) {
         const int top = 42 + 28 * (row - 1);
-        if (Area{10, 140, top, top + 19}.Holds(x, y)) return kL1 + row - 1;
-        if (Area{145, 275, top, top + 19}.Holds(x, y)) return kR1 + row - 1;
+        if (Area{10, 140, top, top + 19}.Has(x, y)) return kL1 + row - 1;
+        if (Area{145, 275, top, top + 19}.Has(x, y)) return kR1 + row - 1;
     }
     return 0;
 }
@@ -53,8 +50,7 @@ int LineKeyAt(double x, double y) {
 // A soft key's area is a pixel narrower than its box.
 int SoftKeyAt(double x, double y) {
     for (const SoftKey& key : kSoftKeys)
-        if (Area{key.x, key.x + kSoftKeyWidth, key.y, key.y + kSoftKeyHeight - 1}.Holds(x, y))
-            return key.item;
+        if (Area{key.x, key.x + kSoftKeyWidth, key.y, key.y + kSoftKeyHeight - 1}.Has(x, y)) return key.item;
     return 0;
 }
 
@@ -158,11 +154,6 @@ std::span<const SoftKey> SoftKeys() {
     return kSoftKeys;
 }
 
-int CduSideOf(int display_unit, int half) {
-    if (display_unit == 5) return half == 2 ? kFirstOfficer : kCaptain;
-    return display_unit >= 3 ? kFirstOfficer : kCaptain;
-}
-
 void OnCduKeyPress(int side, int item) {
     const bool is_line = LineRow(item) > 0;
     if (!is_line && !IsSoftKey(item)) return;
@@ -203,16 +194,18 @@ void ToggleKeyboard(int side) {
     keyboard.keyboard_capture_r = cdu[1].PcKeyboardActive;
 }
 
-void OnCduClick(double x, double y, int display_unit) {
-    const int half = x >= kHalfWidth ? 2 : 1;
-    const int side = CduSideOf(display_unit, half);
-    if (half == 2) x -= kRightHalf;
+void OnCduTouch(int side, double x, double y) {
     const int line = LineKeyAt(x, y);
     const int soft_key = SoftKeyAt(x, y);
     if (line > 0 || soft_key > 0)
         OnCduKeyPress(side, line > 0 ? line : soft_key);
-    else if (kScratchPadBox.Holds(x, y))
+    else if (kScratchPadBox.Has(x, y))
         ToggleKeyboard(side);
-    else if (kClearMessageKey.Holds(x, y))
+    else if (kClearMessageKey.Has(x, y))
         OnClearMessage(side);
+}
+
+void OnCduClick(double x, double y, int display_unit) {
+    const int half = x >= kHalfWidth ? 2 : 1;
+    OnCduTouch(SideOf(display_unit, half), half == 2 ? x - kRightHalf : x, y);
 }

@@ -19,8 +19,10 @@ constexpr int kSoftKeyWidth = 33, kSoftKeyHeight = 22;
 
 std::span<const SoftKey> SoftKeys();
 
-/// A press on the CDU format of a Display Unit (1 to 5), in that unit's frame of 564 by 424. Soft keys act at
-/// once, a line key waits for its page, the scratchpad takes the PC keyboard.
+/// A press on a side's CDU, in the frame of its half. Soft keys act at once, a line key waits for its page,
+/// the scratchpad takes the PC keyboard.
+void OnCduTouch(int side, double x, double y);
+/// The same on the CDU format of a Display Unit (1 to 5), in that unit's frame of 564 by 424.
 void OnCduClick(double x, double y, int display_unit);
 
 /// Presses an item as a click on it would; a number that is no item does nothing.
@@ -37,6 +39,3 @@ void ToggleKeyboard(int side);
 
 /// LEGS, to pick the leg of a hold.
 void OpenHoldSelection(int side);
-
-/// Whose CDU a half (1 left, 2 right) of a Display Unit shows.
-int CduSideOf(int display_unit, int half);

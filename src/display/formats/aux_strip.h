@@ -1,7 +1,6 @@
 #pragma once
 
-#include "display/formats/content_place.h"
-#include "paint/graphics.h"
+#include "display/formats/format.h"
 
 /// The auxiliary strip beside the PFD of an outboard unit, 182 wide: flight number, microphone, transponder
 /// and selective calling code, and below them the place of the radios.

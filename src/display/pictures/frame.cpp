@@ -1,7 +1,13 @@
 #include "display/pictures/frame.h"
 
+#include <algorithm>
+#include <iterator>
+
+#include "display/formats/debug_screen.h"
+#include "display/formats/hud.h"
+#include "display/formats/standby_pfd.h"
+#include "display/formats/tablet.h"
 #include "display/pictures/compose.h"
-#include "display/routing/routing.h"
 #include "paint/graphics.h"
 #include "state/displays.h"
 #include "state/power_words.h"
@@ -9,7 +15,7 @@
 namespace {
 
 // Alpha 0: the host's blank screen shows through.
-constexpr Argb kDark = 0x0072bd61;
+constexpr Argb kDark = 0x0072bd61, kClear = 0;
 
 bool MayPaint(ShownIn shown_in) {
     const bool in_2d = displays.cockpit_2d_active == 1;
@@ -32,32 +38,55 @@ bool UnitIsPowered(int unit) {
     }
 }
 
+// One kind of screen: what it shows, what power that wants, and what is there without it.
+struct Screen {
+    Painting painting;
+    bool (*powered)(int unit);  // null: always
+    bool (*draw)(Graphics& graphics, const PaintedGauge& gauge);
+    bool cleared;  // to the colour below, before it is drawn and when it isn't
+    Argb background;
+};
+constexpr Screen kScreens[] = {
+    {Painting::kDisplayUnit, UnitIsPowered,
+     [](Graphics& graphics, const PaintedGauge& gauge) {
+         return ComposeDisplayUnit(graphics, DisplayModeOf(gauge.unit), gauge.unit, gauge.gauge_id);
+     },
+     false, kDark},
+    {Painting::kStandby, [](int) { return AreFirstUnitsPowered(); },
+     [](Graphics& graphics, const PaintedGauge&) {
+         DrawStandbyPfd(graphics);
+         return true;
+     },
+     true, kDark},
+    {Painting::kHud, [](int) { return AreFirstUnitsPowered(); },
+     [](Graphics& graphics, const PaintedGauge&) {
+         DrawHud(graphics);
+         return true;
+     },
+     true, kClear},
+    {Painting::kEfb, nullptr,
+     [](Graphics& graphics, const PaintedGauge& gauge) {
+         DrawTablet(graphics, gauge.unit);
+         return true;
+     },
+     false, kDark},
+    {Painting::kDebug, nullptr,
+     [](Graphics& graphics, const PaintedGauge&) {
+         DrawDebugScreen(graphics);
+         return true;
+     },
+     false, kDark},
+};
+
 }  // namespace
 
 bool ComposeFrame(const PaintedGauge& gauge, DrawList& list) {
     if (!MayPaint(gauge.shown_in)) return false;
     Graphics graphics =
         GdipCreateGraphics(list, static_cast<float>(gauge.width), static_cast<float>(gauge.height));
-    switch (gauge.painting) {
-        case Painting::kDisplayUnit:
-            if (UnitIsPowered(gauge.unit))
-                return ComposeDisplayUnit(graphics, DisplayModeOf(gauge.unit), gauge.unit, gauge.gauge_id);
-            GdipGraphicsClear(graphics, kDark);
-            break;
-        case Painting::kStandby:
-            GdipGraphicsClear(graphics, kDark);
-            if (AreFirstUnitsPowered()) DrawStandbyPfd(graphics);
-            break;
-        case Painting::kHud:
-            GdipGraphicsClear(graphics, 0);
-            if (AreFirstUnitsPowered()) DrawHud(graphics);
-            break;
-        case Painting::kEfb:
-            DrawEfb(graphics, gauge.unit);
-            break;
-        case Painting::kDebug:
-            DrawDebug(graphics);
-            break;
-    }
-    return true;
+    const auto* screen = std::ranges::find(kScreens, gauge.painting, &Screen::painting);
+    if (screen == std::end(kScreens)) return false;
+    const bool powered = screen->powered == nullptr || screen->powered(gauge.unit);
+    if (screen->cleared || !powered) GdipGraphicsClear(graphics, screen->background);
+    return !powered || screen->draw(graphics, gauge);
 }

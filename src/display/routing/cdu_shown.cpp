@@ -1,6 +1,5 @@
 #include "display/routing/cdu_shown.h"
 
-#include "cdu/unit/items.h"
 #include "display/routing/modes.h"
 #include "state/displays.h"
 
@@ -8,8 +7,8 @@ bool IsCduShown(int side) {
     for (int unit = 1; unit <= 5; ++unit) {
         const auto contents = ContentsOf(DisplayModeOf(unit));
         if (!contents) continue;
-        if (contents->left == Content::kCdu && CduSideOf(unit, 1) == side) return true;
-        if (contents->right == Content::kCdu && CduSideOf(unit, 2) == side) return true;
+        if (contents->left == Content::kCdu && SideOf(unit, 1) == side) return true;
+        if (contents->right == Content::kCdu && SideOf(unit, 2) == side) return true;
     }
     return false;
 }

@@ -1,0 +1,51 @@
+#include "display/formats/format_table.h"
+
+#include "display/formats/aux_strip.h"
+#include "display/formats/cdu_content.h"
+#include "display/formats/checklist.h"
+#include "display/formats/comm.h"
+#include "display/formats/eicas.h"
+#include "display/formats/info.h"
+#include "display/formats/nd.h"
+#include "display/formats/pfd.h"
+#include "display/formats/select_prompt.h"
+#include "display/formats/system_pages.h"
+#include "state/displays.h"
+#include "state/side.h"
+
+namespace {
+
+constexpr int kRightEdge =
+    282;  // where the right half's drawings begin; most canvases begin one further right
+
+constexpr Format kFormats[] = {
+    {Content::kAux, DrawAuxStrip, nullptr},
+    {Content::kPfd, DrawPfd, nullptr},
+    {Content::kEicas, DrawEicas, nullptr},
+    {Content::kCdu, DrawCduContent, TouchCduContent},
+    {Content::kChkl, DrawChecklist, TouchChecklist},
+    {Content::kComm, DrawComm, TouchComm},
+    {Content::kInfo, DrawInfo, TouchInfo, kRightEdge},
+    {Content::kNd, DrawNd, TouchNd, 283, Owner::kOfItsInboard},
+    {Content::kSelect, DrawSelectPrompt, nullptr},
+    {Content::kSys, DrawSystemPage, TouchSystemPage, kRightEdge},
+};
+
+}  // namespace
+
+const Format* FindFormat(Content content) {
+    for (const Format& format : kFormats)
+        if (format.content == content) return &format;
+    return nullptr;
+}
+
+ContentPlace PlaceOf(Content content, int mode, int unit, int half) {
+    const Format* format = FindFormat(content);
+    const bool by_inboard = format != nullptr && format->owner == Owner::kOfItsInboard;
+    return {.mode = mode,
+            .unit = unit,
+            .half = half,
+            .side = SideOf(unit, by_inboard ? 1 : half),
+            .narrow = content == Content::kPfd && mode >= 80 && mode <= 87,
+            .system_page = SystemPageOf(unit, half)};
+}

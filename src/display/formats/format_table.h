@@ -1,0 +1,9 @@
+#pragma once
+
+#include "display/formats/format.h"
+
+/// Null for a content without a row.
+const Format* FindFormat(Content content);
+
+/// Where a content stands on a half of a unit.
+ContentPlace PlaceOf(Content content, int mode, int unit, int half);

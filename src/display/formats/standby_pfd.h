@@ -1,0 +1,6 @@
+#pragma once
+
+#include "paint/graphics.h"
+
+/// The standby instrument, 100 by 92.
+void DrawStandbyPfd(Graphics& graphics);
