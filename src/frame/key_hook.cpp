@@ -1,5 +1,6 @@
 #include "frame/key_hook.h"
 
+#include "frame/controls.h"
 #include "frame/cues.h"
 #include "frame/engine_fuel.h"
 #include "frame/key_events.h"
@@ -36,8 +37,7 @@ void FollowAutopilotMaster() {
         WriteNamedVar(NamedVar("ap_master_disconnect"), 1);
     } else if (cfg.DiscPFCOnAPDisc == 1) {
         cfg.PfcSwitch = kPfcNormal;
-        cockpit.TZ_OH_PFC_G_Switch = 0;
-        WriteNamedVar(NamedVar("TZ_OH_PFC_G_Switch"), 0);
+        SetControl(&cockpit.TZ_OH_PFC_G_Switch, 0);
     }
 }
 

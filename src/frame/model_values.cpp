@@ -1,6 +1,6 @@
 #include "frame/model_values.h"
 
-#include "base/numbers.h"
+#include "frame/controls.h"
 #include "frame/named_variables.h"
 #include "state/cfg.h"
 #include "state/cockpit.h"
@@ -42,7 +42,7 @@ void ReadModelValues() {
 
 void ReadModelPositions() {
     sim.v_mo_kt = ReadNamedVar(NamedVar("TZ_V_MO"));
-    cockpit.ovhd_ldg_lights_l_switch = WholeNumber(ReadNamedVar(NamedVar("TZ_OH_LDG_LEFT_Switch")));
-    cockpit.ovhd_nose_lights_switch = WholeNumber(ReadNamedVar(NamedVar("TZ_OH_LDG_NSE_Switch")));
-    cockpit.ovhd_ldg_lights_r_switch = WholeNumber(ReadNamedVar(NamedVar("TZ_OH_LDG_RIGHT_Switch")));
+    TakeControlFromModel(&cockpit.ovhd_ldg_lights_l_switch);
+    TakeControlFromModel(&cockpit.ovhd_nose_lights_switch);
+    TakeControlFromModel(&cockpit.ovhd_ldg_lights_r_switch);
 }

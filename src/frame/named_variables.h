@@ -11,7 +11,10 @@
 /// A name of the catalogue: ReadNamedVar(NamedVar("lnav_hdg")). A name that isn't there doesn't compile.
 struct NamedVarRef {
     int row;
+    bool operator==(const NamedVarRef&) const = default;
 };
+constexpr NamedVarRef kNoVariable = {-1};
+
 consteval NamedVarRef NamedVar(std::string_view name) {
     for (int row = 0; row < kNamedVariableCount; ++row)
         if (kNamedVariables[row].name == name) return {row};
@@ -20,6 +23,11 @@ consteval NamedVarRef NamedVar(std::string_view name) {
 
 constexpr std::string_view NameOf(NamedVarRef variable) {
     return kNamedVariables[static_cast<std::size_t>(variable.row)].name;
+}
+
+/// What a control's or a lamp's variable shows; null for any other.
+constexpr int* ShadowOf(NamedVarRef variable) {
+    return kNamedVariables[static_cast<std::size_t>(variable.row)].shadow;
 }
 
 /// Registers the names that are the module's own, once; UnregisterNamedVars takes them away again. Both drop

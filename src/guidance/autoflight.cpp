@@ -1,6 +1,7 @@
 #include "guidance/autoflight.h"
 
 #include "base/numbers.h"
+#include "frame/controls.h"
 #include "frame/key_events.h"
 #include "frame/named_variables.h"
 #include "frame/tokens.h"
@@ -86,9 +87,8 @@ void StepDisconnect() {
         autoflight.ap_disc_lamp = 0;
         WriteNamedVar(NamedVar("TZ_MCP_Annun_WARN"), 0);
         if (cfg.DiscATOnAPDisc == 1) {
-            cockpit.TZ_OH_PFC_Safety_Switch = cockpit.TZ_OH_PFC_G_Switch = 1;
-            WriteNamedVar(NamedVar("TZ_OH_PFC_Safety_Switch"), 1);
-            WriteNamedVar(NamedVar("TZ_OH_PFC_G_Switch"), 1);
+            SetControl(&cockpit.TZ_OH_PFC_Safety_Switch, 1);
+            SetControl(&cockpit.TZ_OH_PFC_G_Switch, 1);
             cfg.PfcSwitch = kPfcNormal;
         }
     }

@@ -7,6 +7,7 @@
 #include "base/angles.h"
 #include "base/numbers.h"
 #include "fmc/legs/path.h"
+#include "frame/controls.h"
 #include "frame/key_events.h"
 #include "frame/named_variables.h"
 #include "frame/tokens.h"
@@ -135,8 +136,7 @@ bool TurnMcpKnob(std::string_view name, int detents) {
 }
 
 void MoveDisengageBar(bool down) {
-    cockpit.TZ_MCP_AP_DISENGAGE_Bar = down ? 1 : 0;
-    WriteNamedVar(NamedVar("TZ_MCP_AP_DISENGAGE_Bar"), cockpit.TZ_MCP_AP_DISENGAGE_Bar);
+    SetControl(&cockpit.TZ_MCP_AP_DISENGAGE_Bar, down ? 1 : 0);
     if (!down) {
         WriteNamedVar(NamedVar("TZ_AP_DISENGAGE_Switch_Right"), 1);
         return;
@@ -144,8 +144,7 @@ void MoveDisengageBar(bool down) {
     WriteNamedVar(NamedVar("ap_master_disconnect"), 1);
     if (cfg.DiscPFCOnAPDisc != 1) return;
     cfg.PfcSwitch = kPfcDisconnected;
-    cockpit.TZ_OH_PFC_G_Switch = 1;
-    WriteNamedVar(NamedVar("TZ_OH_PFC_G_Switch"), 1);
+    SetControl(&cockpit.TZ_OH_PFC_G_Switch, 1);
 }
 
 void PushAltitudeKnob() {

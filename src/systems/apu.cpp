@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "frame/controls.h"
 #include "frame/lamps.h"
 #include "frame/named_variables.h"
 #include "state/cockpit.h"
@@ -35,11 +36,6 @@ constexpr Gauge kGauges[] = {
     {&ElectricalState::apu_egt, 0.26666666666666666, 50},
 };
 
-void SetSelector(int position) {
-    cockpit.apu_switch = position;
-    WriteNamedVar(NamedVar("TZ_OH_ELE_APU_Switch"), position);
-}
-
 void ShowFault() {
     if (cockpit.apu_switch == kOff) electrical.apu_fault_timer = 0;
     ShowLamp(NamedVar("TZ_OH_Annun_FAULT_APU"), electrical.apu_fault_timer > 0 && IsBatteryBusAlive());
@@ -55,7 +51,7 @@ void BeginStart() {
 void TakeSelector() {
     if (electrical.apu_start_delay > 0) --electrical.apu_start_delay;
     if (cockpit.apu_switch != kStart || electrical.apu_start_delay > 0) return;
-    SetSelector(kOn);
+    SetControl(&cockpit.apu_switch, kOn);
     if (cockpit.TZ_OH_APU_FIRE_HNDL == 0 && electrical.apu_stopping == 0) BeginStart();
 }
 
@@ -107,7 +103,7 @@ void RampDown() {
 
 void TakeFireHandle() {
     if (cockpit.TZ_OH_APU_FIRE_HNDL <= 0) return;
-    SetSelector(kOff);
+    SetControl(&cockpit.apu_switch, kOff);
     if (electrical.apu_pwr_avail == 1) BeginStop();
     electrical.apu_fault_timer = kFaultTicks;
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "frame/controls.h"
 #include "frame/key_events.h"
 #include "frame/lamps.h"
 #include "frame/named_variables.h"
@@ -58,11 +59,12 @@ void FollowBatteryButton(int) {
 }
 
 void FollowHostBattery() {
+    int position = cockpit.battery_button;
     if (!IsHostBatteryOn())
-        cockpit.battery_button = 0;
+        position = 0;
     else if (electrical.batt_volts > 0)
-        cockpit.battery_button = 1;
-    WriteNamedVar(NamedVar("TZ_OH_ELE_BAT_Button"), cockpit.battery_button);
+        position = 1;
+    SetControl(&cockpit.battery_button, position);
 }
 
 void TestBattery(int) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "frame/controls.h"
 #include "frame/cues.h"
 #include "frame/named_variables.h"
 #include "frame/tokens.h"
@@ -141,8 +142,7 @@ void DeployRat() {
     const bool needed = others < kAcBusPower && sim.on_ground == 0 && sim.ias_kt > kRatSpeed;
     electrical.ram_air_turb = needed ? 1 : 0;
     if (!needed || cockpit.rat_unlocked == 1) return;
-    cockpit.rat_unlocked = 1;
-    WriteNamedVar(NamedVar("TZ_OH_HYD_RAT_Button"), 1);
+    SetControl(&cockpit.rat_unlocked, 1);
 }
 
 void DarkenDisplays() {
@@ -210,21 +210,8 @@ void StepElectricalPower() {
 }
 
 void ResetByMaintenance(int) {
-    struct Row {
-        NamedVarRef variable;
-        int CockpitState::*shadow;
-    };
-    static constexpr Row kRows[] = {
-        {NamedVar("TZ_OH_HYD_RAT_Button"), &CockpitState::rat_unlocked},
-        {NamedVar("TZ_OH_DRVDISC_L1_Button"), &CockpitState::drive_disc_l1},
-        {NamedVar("TZ_OH_DRVDISC_L2_Button"), &CockpitState::drive_disc_l2},
-        {NamedVar("TZ_OH_DRVDISC_R1_Button"), &CockpitState::drive_disc_r1},
-        {NamedVar("TZ_OH_DRVDISC_R2_Button"), &CockpitState::drive_disc_r2},
-        {NamedVar("TZ_OH_PASS_OXY1_Button"), &CockpitState::pass_oxygen_on},
-    };
-    for (const Row& row : kRows) {
-        cockpit.*row.shadow = 0;
-        WriteNamedVar(row.variable, 0);
-    }
+    for (int* latched : {&cockpit.rat_unlocked, &cockpit.drive_disc_l1, &cockpit.drive_disc_l2,
+                         &cockpit.drive_disc_r1, &cockpit.drive_disc_r2, &cockpit.pass_oxygen_on})
+        SetControl(latched, 0);
     electrical.batt_volts = kFullBatteryVolts;
 }

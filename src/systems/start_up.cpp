@@ -1,8 +1,8 @@
 #include "systems/start_up.h"
 
+#include "frame/controls.h"
 #include "frame/engine_fuel.h"
 #include "frame/key_events.h"
-#include "frame/named_variables.h"
 #include "frame/tokens.h"
 #include "platform/host.h"
 #include "state/cfg.h"
@@ -29,10 +29,7 @@ void StartIrsOfKnobs() {
 void StartSystemsRunning() {
     if (cfg.SystemsOn != 1) return;
     const bool was_out = cockpit.battery_button == 0;
-    if (was_out) {
-        cockpit.battery_button = 1;
-        WriteNamedVar(NamedVar("TZ_OH_ELE_BAT_Button"), 1);
-    }
+    if (was_out) SetControl(&cockpit.battery_button, 1);
     if (ReadToken(kTokenMasterBattery) == 0 && electrical.batt_volts > 0)
         SendKeyEvent(kKeyMasterBatteryToggle, 0);
     if (was_out) electrical.batt_volts = 28.0;
