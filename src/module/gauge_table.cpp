@@ -3,8 +3,8 @@
 #include "display/pictures/gauge.h"
 #include "display/routing/selector_gauges.h"
 #include "module/lifecycle.h"
-#include "module/mcp_gauge.h"
-#include "module/mouse_gauges.h"
+#include "module/gauges/mcp_gauge.h"
+#include "module/gauges/mouse_gauges.h"
 #include "state/side.h"
 
 namespace {

@@ -7,8 +7,8 @@
 
 #include "cdu/unit/items.h"
 #include "frame/named_variables.h"
-#include "module/mouse_areas.h"
-#include "module/mouse_gauges.h"
+#include "module/gauges/mouse_areas.h"
+#include "module/gauges/mouse_gauges.h"
 #include "platform/panel_gauges.h"
 #include "state/cfg.h"
 #include "state/remote.h"

@@ -71,6 +71,7 @@ const std::vector<std::string> kOrder = {"base",
                                          "display/formats",
                                          "display/pictures",
                                          "module/controls",
+                                         "module/gauges",
                                          "module"};
 
 // The room of a name such as "fmc/legs/path.h"; the whole folder where it stands in none.

@@ -1,4 +1,4 @@
-#include "module/mouse_gauges.h"
+#include "module/gauges/mouse_gauges.h"
 
 #include <algorithm>
 #include <array>
@@ -9,7 +9,7 @@
 #include "frame/key_events.h"
 #include "module/controls/control_table.h"
 #include "module/controls/operate.h"
-#include "module/mouse_areas.h"
+#include "module/gauges/mouse_areas.h"
 #include "platform/host.h"
 #include "state/cockpit.h"
 #include "state/efb.h"

@@ -1,10 +1,10 @@
-#include "module/mcp_gauge.h"
+#include "module/gauges/mcp_gauge.h"
 
 #include <iterator>
 #include <utility>
 
 #include "guidance/mcp.h"
-#include "module/mouse_areas.h"
+#include "module/gauges/mouse_areas.h"
 
 namespace {
 
