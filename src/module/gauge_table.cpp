@@ -2,9 +2,9 @@
 
 #include "display/pictures/gauge.h"
 #include "display/routing/selector_gauges.h"
-#include "module/lifecycle.h"
 #include "module/gauges/mcp_gauge.h"
 #include "module/gauges/mouse_gauges.h"
+#include "module/lifecycle.h"
 #include "state/side.h"
 
 namespace {

@@ -101,8 +101,7 @@ int ListControls(ResultSink sink, void* context) {
     const Results results{sink, context};
     for (const PollSet& set : PollSets())
         for (const Control& control : set.controls) {
-            const Control* guard = control.guard != nullptr ? FindGuard(control.guard) : nullptr;
-            const std::string_view guard_name = guard != nullptr ? NameOf(guard->variable) : "-";
+            const std::string_view guard_name = control.guard == kNoVariable ? "-" : NameOf(control.guard);
             results.Add(NameOf(control.variable), std::string(ClassName(control.kind)) + " " + set.name +
                                                       " " + std::to_string(control.min) + " " +
                                                       std::to_string(control.max) + " " +

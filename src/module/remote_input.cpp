@@ -1,14 +1,12 @@
 #include "module/remote_input.h"
 
 #include <algorithm>
-#include <array>
-#include <string>
-#include <string_view>
+#include <iterator>
 
 #include "cdu/unit/items.h"
+#include "efb/tablet_input.h"
 #include "frame/named_variables.h"
-#include "module/gauges/mouse_areas.h"
-#include "module/gauges/mouse_gauges.h"
+#include "module/controls/operate.h"
 #include "platform/panel_gauges.h"
 #include "state/cfg.h"
 #include "state/remote.h"
@@ -27,33 +25,61 @@ struct CduKey {
     NamedVarRef captain, first_officer;
 };
 
-consteval CduKey Keypad(int code, std::string_view key) {
-    const std::string name = std::string(key) + "_Button";
-    return {code, NamedVar("TZ_FMC_L_" + name), NamedVar("TZ_FMC_R_" + name)};
-}
-
 // Codes in order from 1; 19 is no key.
-consteval auto KeypadKeys() {
-    constexpr std::string_view kFirst[] = {"CDU", "CHKL", "COMM", "INFO", "ND", "SYS"};
-    constexpr std::string_view kDigits = "123456789", kLetters = "ABCDEFGHIJKLMNOPQRSTUVWXYZ";
-    constexpr std::string_view kLast[] = {"SP", "DEL", "SLASH", "CLR", "PRVPG", "NXTPG", "EXEC"};
-    std::array<CduKey, 51> keys{};
-    std::size_t next = 0;
-    for (std::size_t i = 0; i < std::size(kFirst); ++i)
-        keys[next++] = Keypad(1 + static_cast<int>(i), kFirst[i]);
-    for (std::size_t i = 0; i < kDigits.size(); ++i)
-        keys[next++] = Keypad(7 + static_cast<int>(i), kDigits.substr(i, 1));
-    keys[next++] = Keypad(16, "DEC");
-    keys[next++] = Keypad(17, "0");
-    keys[next++] = Keypad(18, "NEGPOS");
-    for (std::size_t i = 0; i < kLetters.size(); ++i)
-        keys[next++] = Keypad(20 + static_cast<int>(i), kLetters.substr(i, 1));
-    for (std::size_t i = 0; i < std::size(kLast); ++i)
-        keys[next++] = Keypad(46 + static_cast<int>(i), kLast[i]);
-    return keys;
-}
-constexpr auto kCduKeys = KeypadKeys();
-static_assert(kCduKeys.back().code == 52);
+constexpr CduKey kCduKeys[] = {
+    {1, NamedVar("TZ_FMC_L_CDU_Button"), NamedVar("TZ_FMC_R_CDU_Button")},
+    {2, NamedVar("TZ_FMC_L_CHKL_Button"), NamedVar("TZ_FMC_R_CHKL_Button")},
+    {3, NamedVar("TZ_FMC_L_COMM_Button"), NamedVar("TZ_FMC_R_COMM_Button")},
+    {4, NamedVar("TZ_FMC_L_INFO_Button"), NamedVar("TZ_FMC_R_INFO_Button")},
+    {5, NamedVar("TZ_FMC_L_ND_Button"), NamedVar("TZ_FMC_R_ND_Button")},
+    {6, NamedVar("TZ_FMC_L_SYS_Button"), NamedVar("TZ_FMC_R_SYS_Button")},
+    {7, NamedVar("TZ_FMC_L_1_Button"), NamedVar("TZ_FMC_R_1_Button")},
+    {8, NamedVar("TZ_FMC_L_2_Button"), NamedVar("TZ_FMC_R_2_Button")},
+    {9, NamedVar("TZ_FMC_L_3_Button"), NamedVar("TZ_FMC_R_3_Button")},
+    {10, NamedVar("TZ_FMC_L_4_Button"), NamedVar("TZ_FMC_R_4_Button")},
+    {11, NamedVar("TZ_FMC_L_5_Button"), NamedVar("TZ_FMC_R_5_Button")},
+    {12, NamedVar("TZ_FMC_L_6_Button"), NamedVar("TZ_FMC_R_6_Button")},
+    {13, NamedVar("TZ_FMC_L_7_Button"), NamedVar("TZ_FMC_R_7_Button")},
+    {14, NamedVar("TZ_FMC_L_8_Button"), NamedVar("TZ_FMC_R_8_Button")},
+    {15, NamedVar("TZ_FMC_L_9_Button"), NamedVar("TZ_FMC_R_9_Button")},
+    {16, NamedVar("TZ_FMC_L_DEC_Button"), NamedVar("TZ_FMC_R_DEC_Button")},
+    {17, NamedVar("TZ_FMC_L_0_Button"), NamedVar("TZ_FMC_R_0_Button")},
+    {18, NamedVar("TZ_FMC_L_NEGPOS_Button"), NamedVar("TZ_FMC_R_NEGPOS_Button")},
+    {20, NamedVar("TZ_FMC_L_A_Button"), NamedVar("TZ_FMC_R_A_Button")},
+    {21, NamedVar("TZ_FMC_L_B_Button"), NamedVar("TZ_FMC_R_B_Button")},
+    {22, NamedVar("TZ_FMC_L_C_Button"), NamedVar("TZ_FMC_R_C_Button")},
+    {23, NamedVar("TZ_FMC_L_D_Button"), NamedVar("TZ_FMC_R_D_Button")},
+    {24, NamedVar("TZ_FMC_L_E_Button"), NamedVar("TZ_FMC_R_E_Button")},
+    {25, NamedVar("TZ_FMC_L_F_Button"), NamedVar("TZ_FMC_R_F_Button")},
+    {26, NamedVar("TZ_FMC_L_G_Button"), NamedVar("TZ_FMC_R_G_Button")},
+    {27, NamedVar("TZ_FMC_L_H_Button"), NamedVar("TZ_FMC_R_H_Button")},
+    {28, NamedVar("TZ_FMC_L_I_Button"), NamedVar("TZ_FMC_R_I_Button")},
+    {29, NamedVar("TZ_FMC_L_J_Button"), NamedVar("TZ_FMC_R_J_Button")},
+    {30, NamedVar("TZ_FMC_L_K_Button"), NamedVar("TZ_FMC_R_K_Button")},
+    {31, NamedVar("TZ_FMC_L_L_Button"), NamedVar("TZ_FMC_R_L_Button")},
+    {32, NamedVar("TZ_FMC_L_M_Button"), NamedVar("TZ_FMC_R_M_Button")},
+    {33, NamedVar("TZ_FMC_L_N_Button"), NamedVar("TZ_FMC_R_N_Button")},
+    {34, NamedVar("TZ_FMC_L_O_Button"), NamedVar("TZ_FMC_R_O_Button")},
+    {35, NamedVar("TZ_FMC_L_P_Button"), NamedVar("TZ_FMC_R_P_Button")},
+    {36, NamedVar("TZ_FMC_L_Q_Button"), NamedVar("TZ_FMC_R_Q_Button")},
+    {37, NamedVar("TZ_FMC_L_R_Button"), NamedVar("TZ_FMC_R_R_Button")},
+    {38, NamedVar("TZ_FMC_L_S_Button"), NamedVar("TZ_FMC_R_S_Button")},
+    {39, NamedVar("TZ_FMC_L_T_Button"), NamedVar("TZ_FMC_R_T_Button")},
+    {40, NamedVar("TZ_FMC_L_U_Button"), NamedVar("TZ_FMC_R_U_Button")},
+    {41, NamedVar("TZ_FMC_L_V_Button"), NamedVar("TZ_FMC_R_V_Button")},
+    {42, NamedVar("TZ_FMC_L_W_Button"), NamedVar("TZ_FMC_R_W_Button")},
+    {43, NamedVar("TZ_FMC_L_X_Button"), NamedVar("TZ_FMC_R_X_Button")},
+    {44, NamedVar("TZ_FMC_L_Y_Button"), NamedVar("TZ_FMC_R_Y_Button")},
+    {45, NamedVar("TZ_FMC_L_Z_Button"), NamedVar("TZ_FMC_R_Z_Button")},
+    {46, NamedVar("TZ_FMC_L_SP_Button"), NamedVar("TZ_FMC_R_SP_Button")},
+    {47, NamedVar("TZ_FMC_L_DEL_Button"), NamedVar("TZ_FMC_R_DEL_Button")},
+    {48, NamedVar("TZ_FMC_L_SLASH_Button"), NamedVar("TZ_FMC_R_SLASH_Button")},
+    {49, NamedVar("TZ_FMC_L_CLR_Button"), NamedVar("TZ_FMC_R_CLR_Button")},
+    {50, NamedVar("TZ_FMC_L_PRVPG_Button"), NamedVar("TZ_FMC_R_PRVPG_Button")},
+    {51, NamedVar("TZ_FMC_L_NXTPG_Button"), NamedVar("TZ_FMC_R_NXTPG_Button")},
+    {52, NamedVar("TZ_FMC_L_EXEC_Button"), NamedVar("TZ_FMC_R_EXEC_Button")},
+};
+static_assert(std::size(kCduKeys) == 51);
 
 struct TabletKey {
     int code;
@@ -97,17 +123,17 @@ constexpr TabletKey kTabletKeys[] = {
     {0x53, NamedVar("TZ_EFB_L_RGT_Button")},
 };
 
-void PressCduKey(int device, int code) {
+void PressCduCode(int device, int code) {
     const auto* key = std::ranges::find(kCduKeys, code, &CduKey::code);
-    if (key == kCduKeys.end()) return;
-    ClickVariable(device == kCaptainCdu ? key->captain : key->first_officer, kMouseLeftSingle);
+    if (key == std::end(kCduKeys)) return;
+    ClickControl(device == kCaptainCdu ? key->captain : key->first_officer, kMouseLeftSingle);
 }
 
-void PressTabletKey(int code) {
+void PressTabletCode(int code) {
     const auto* key = std::ranges::find(kTabletKeys, code, &TabletKey::code);
     if (key == std::end(kTabletKeys)) return;
     const int cue = sound.event_cue;
-    ClickVariable(key->key, key->right ? kMouseRightSingle : kMouseLeftSingle);
+    ClickControl(key->key, key->right ? kMouseRightSingle : kMouseLeftSingle);
     if (key->silent) sound.event_cue = cue;
     remote.efb.due = 1;
 }
@@ -125,7 +151,7 @@ void Touch(const RemoteEvent& event) {
     if (event.x <= 0 || event.y <= 0 || event.x >= image.width || event.y >= image.height) return;
     if (event.device == kTablet) {
         const FramePoint at = InFrame(event, image, kTabletWidth, kTabletHeight);
-        OnEfbTouch(static_cast<int>(at.x), static_cast<int>(at.y), kCaptain);
+        TouchTablet(kCaptain, static_cast<int>(at.x), static_cast<int>(at.y));
         remote.efb.due = 1;
     } else {
         const FramePoint at = InFrame(event, image, 564, 424);
@@ -137,8 +163,8 @@ void Touch(const RemoteEvent& event) {
 
 void HandleRemoteEvent(const RemoteEvent& event) {
     if (event.device < kCaptainCdu || event.device > kTablet) return;
-    if (event.kind == kKey && event.device == kTablet) PressTabletKey(event.code);
-    if (event.kind == kKey && event.device != kTablet) PressCduKey(event.device, event.code);
+    if (event.kind == kKey && event.device == kTablet) PressTabletCode(event.code);
+    if (event.kind == kKey && event.device != kTablet) PressCduCode(event.device, event.code);
     if (event.kind == kTouch) Touch(event);
     if (event.device != kTablet) remote.cdu.due = 1;
 }

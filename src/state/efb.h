@@ -5,12 +5,26 @@
 
 #include "state/variable.h"
 
-/// Bezel keys of a tablet by number: the line keys L1 to L8 and R1 to R8 come first.
+/// Bezel keys of a tablet by number.
 enum EfbKey {
     kEfbNoKey,
     kEfbL1,
-    kEfbR1 = 9,
-    kEfbMenu = 17,
+    kEfbL2,
+    kEfbL3,
+    kEfbL4,
+    kEfbL5,
+    kEfbL6,
+    kEfbL7,
+    kEfbL8,
+    kEfbR1,
+    kEfbR2,
+    kEfbR3,
+    kEfbR4,
+    kEfbR5,
+    kEfbR6,
+    kEfbR7,
+    kEfbR8,
+    kEfbMenu,
     kEfbPageUp,
     kEfbPageDown,
     kEfbPower,

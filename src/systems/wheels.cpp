@@ -1,6 +1,8 @@
 #include "systems/wheels.h"
 
-#include "base/numbers.h"
+#include <algorithm>
+
+#include "frame/controls.h"
 #include "frame/key_events.h"
 #include "frame/named_variables.h"
 #include "platform/host.h"
@@ -14,5 +16,10 @@ void CheckGearLever() {
 }
 
 void ReadAutobrake() {
-    cockpit.autobrake_switch = WholeNumber(ReadNamedVar(NamedVar("auto_brake_switch")));
+    TakeControlFromModel(&cockpit.autobrake_switch);
+}
+
+void TurnAutobrake(int steps) {
+    const int now = std::clamp(cockpit.autobrake_switch, kAutobrakeRto, kAutobrakeMax);
+    SetControl(&cockpit.autobrake_switch, std::clamp(now + steps, kAutobrakeRto, kAutobrakeMax));
 }

@@ -221,9 +221,10 @@ TEST(Controls, EveryNameThatACrewMovesIsAControl) {
         for (const Control& control : set.controls) {
             EXPECT_TRUE(rows.insert(control.variable.row).second)
                 << NameOf(control.variable) << " stands twice";
-            if (control.guard != nullptr) {
-                EXPECT_NE(FindGuard(control.guard), nullptr) << NameOf(control.variable) << " has no guard";
-            }
+            if (control.guard == kNoVariable) continue;
+            const Control* guard = FindControl(control.guard);
+            ASSERT_NE(guard, nullptr) << NameOf(control.guard);
+            EXPECT_EQ(guard->kind, ControlClass::kGuard) << NameOf(control.guard);
         }
     for (int row = 0; row < kNamedVariableCount; ++row) {
         const std::string_view name = NameOf({row});

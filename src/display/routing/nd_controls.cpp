@@ -3,12 +3,15 @@
 #include <algorithm>
 #include <array>
 
+#include "frame/controls.h"
+#include "state/cockpit.h"
 #include "state/nd.h"
+#include "state/side.h"
 #include "state/sim.h"
 
 namespace {
 
-constexpr int kPlan = 4;
+constexpr int kMap = 3, kPlan = 4;
 constexpr int kOff = 0, kByButton = 2;
 constexpr std::array kRanges = {0.5,  1.0,  2.0,   5.0,   10.0,  20.0,
                                 40.0, 80.0, 160.0, 320.0, 640.0, 1280.0};  // nm
@@ -22,10 +25,11 @@ void FollowRangeKnob(int side) {
     display.rng_nm = kRanges[static_cast<std::size_t>(display.rng_knob)];
 }
 
-void StepRange(int side, int steps) {
+void TurnRangeKnob(int side, int steps) {
     FollowRangeKnob(side);
     NdOf(side).rng_knob += std::clamp(steps, -kLastRange, kLastRange);
     FollowRangeKnob(side);
+    ShowControl(&NdOf(side).rng_knob);
 }
 
 void SelectNdMode(int side, int mode) {
@@ -37,6 +41,11 @@ void SelectNdMode(int side, int mode) {
         display.plan_lat = sim.plane_lat;
         display.plan_lon = sim.plane_lon;
     }
+}
+
+void FollowNdKnob(int side) {
+    const int knob = side == kCaptain ? cockpit.TZ_MCP_L_NDMAP_Knob : cockpit.TZ_MCP_R_NDMAP_Knob;
+    SelectNdMode(side, knob == 0 ? kMap : kPlan);
 }
 
 void ToggleNdCentre(int side) {

@@ -5,11 +5,14 @@
 /// Sets the range by the range knob's position, 0 to 11.
 void FollowRangeKnob(int side);
 
-/// Moves the range knob by steps and stops at its ends.
-void StepRange(int side, int steps);
+/// Moves the range knob by steps, as another gauge does for the pilot; it stops at its ends.
+void TurnRangeKnob(int side, int steps);
 
 /// 3 MAP, 4 PLAN. PLAN begins at the first leg, and around the aircraft unless a centre has been set.
 void SelectNdMode(int side, int mode);
+
+/// MAP or PLAN by the mode knob's position.
+void FollowNdKnob(int side);
 
 void ToggleNdCentre(int side);
 

@@ -4,6 +4,7 @@
 #include <span>
 
 #include "base/numbers.h"
+#include "frame/controls.h"
 #include "frame/named_variables.h"
 #include "state/cockpit.h"
 #include "state/displays.h"
@@ -136,6 +137,14 @@ void ToggleFirstOfficerInboard() {
     if (to_nd) ClearOnLower(kRight, kNd);
 }
 
+// Lights the lamp of the half that each panel acts on, in place of the other half's.
+void ShowSelectLamps() {
+    SetControl(&cockpit.TZ_MCP_L_MFD_L_GREEN, displays.dsp_capt_mode_button == kLeft ? 1 : 0);
+    SetControl(&cockpit.TZ_MCP_L_MFD_R_GREEN, displays.dsp_capt_mode_button == kRight ? 1 : 0);
+    SetControl(&cockpit.TZ_MCP_R_MFD_L_GREEN, displays.dsp_fo_mode_button == kLeft ? 1 : 0);
+    SetControl(&cockpit.TZ_MCP_R_MFD_R_GREEN, displays.dsp_fo_mode_button == kRight ? 1 : 0);
+}
+
 }  // namespace
 
 void PressInboardFormat(int side, Content content) {
@@ -163,40 +172,20 @@ void PressEicas() {
     if (IsBetween(displays.du_fo_outb_mode, kFirstPfdRight, kLastPfdRight))
         SetHalf(displays.du_fo_outb_mode, kLeft,
                 Shows(displays.du_fo_outb_mode, kLeft, kEicas) ? kNd : kEicas);
+    ShowSelectLamps();
+}
+
+void PressEngine() {
+    displays.eicas_eng_button = displays.eicas_eng_button == 0 ? 1 : 0;
 }
 
 void SelectHalf(int side, int half) {
-    if (side == kCaptain) {
-        const int mode = displays.du_capt_inb_mode;
-        const bool dead =
-            half == kLeft ? mode == kModeFree : mode < kFirstPfdLeft && Shows(mode, kRight, kEicas);
-        if (!dead) displays.dsp_capt_mode_button = half;
-        return;
-    }
-    const int mode = displays.du_fo_inb_mode;
-    const bool dead = half == kLeft ? mode < kFirstPfdLeft && Shows(mode, kLeft, kEicas) : mode == kModeFree;
-    if (!dead) displays.dsp_fo_mode_button = half;
-}
-
-void ShowSelectLamps() {
-    const struct {
-        NamedVarRef variable;
-        int& shadow;
-        bool lit;
-    } kLamps[] = {
-        {NamedVar("TZ_MCP_L_MFD_L_GREEN"), cockpit.TZ_MCP_L_MFD_L_GREEN,
-         displays.dsp_capt_mode_button == kLeft},
-        {NamedVar("TZ_MCP_L_MFD_R_GREEN"), cockpit.TZ_MCP_L_MFD_R_GREEN,
-         displays.dsp_capt_mode_button == kRight},
-        {NamedVar("TZ_MCP_R_MFD_L_GREEN"), cockpit.TZ_MCP_R_MFD_L_GREEN,
-         displays.dsp_fo_mode_button == kLeft},
-        {NamedVar("TZ_MCP_R_MFD_R_GREEN"), cockpit.TZ_MCP_R_MFD_R_GREEN,
-         displays.dsp_fo_mode_button == kRight},
-    };
-    for (const auto& lamp : kLamps) {
-        lamp.shadow = lamp.lit ? 1 : 0;
-        WriteNamedVar(lamp.variable, lamp.shadow);
-    }
+    const bool captain = side == kCaptain;
+    const int mode = captain ? displays.du_capt_inb_mode : displays.du_fo_inb_mode;
+    const int inner = captain ? kRight : kLeft;  // where the engine displays may stand
+    const bool dead = half == inner ? mode < kFirstPfdLeft && Shows(mode, inner, kEicas) : mode == kModeFree;
+    if (!dead) (captain ? displays.dsp_capt_mode_button : displays.dsp_fo_mode_button) = half;
+    ShowSelectLamps();
 }
 
 void MoveDisplaySelector(int position) {

@@ -13,14 +13,12 @@ void PressInboardFormat(int side, Content content);
 /// half.
 void PressLowerFormat(int side, Content content);
 
-/// The EICAS button, the same for both panels.
+/// The EICAS and the ENG button, the same for both panels.
 void PressEicas();
+void PressEngine();
 
-/// Chooses the half (1 left, 2 right) that a display select panel acts on.
+/// Chooses the half (1 left, 2 right) that a display select panel acts on, and lights its lamp.
 void SelectHalf(int side, int half);
-
-/// Lights the lamp of the half that each panel acts on, in place of the other half's.
-void ShowSelectLamps();
 
 /// The captain's PFD/MFD selector has come to a position: -1, 0 or 1.
 void MoveDisplaySelector(int position);

@@ -1,14 +1,13 @@
 #pragma once
 
-#include <algorithm>
-#include <array>
-#include <cstddef>
+#include <string_view>
 
 #include "frame/cues.h"
 #include "frame/named_variables.h"
 
-// One control of the cockpit as a row of a table. What kinds of control share - how a click moves them, what
-// a guard allows, the write-back, the cue - stands in operate.cpp, once.
+// One control of the cockpit as a row of a table: the named variable that shows it, how it moves, and what a
+// move brings about. Where its position is kept tells the catalogue of named variables. What kinds of control
+// share - how a click moves them, what a guard allows, the write-back, the cue - stands in operate.cpp, once.
 
 enum class ControlClass {
     kLatching,   // a button that stays in or out
@@ -27,68 +26,84 @@ enum class ControlClass {
 /// at each poll.
 using ControlFollower = void (*)(int before);
 
+/// A follower that only tells whose control has been moved: On<kCaptain, ToggleNdCentre>.
+template <int kSide, void (*kAct)(int side)>
+void On(int) {
+    kAct(kSide);
+}
+
 struct Control {
-    NamedVarRef variable = {};  // shows it; written by the model's click spots
-    int* shadow = nullptr;      // its position, the truth for all logic; null for a momentary key
-    ControlClass kind = ControlClass::kMomentary;
-    int min = 0, max = 1;        // end positions
-    const int* guard = nullptr;  // shadow of the guard that must be open
-    int cue = 0;                 // asked for at each move; 0 = silent. A guard shuts with the cue behind it
+    NamedVarRef variable;  // shows it; written by the model's click spots
+    ControlClass kind;
+    int* shadow;  // its position, the truth for all logic; null for a momentary key
+    int cue;      // asked for at each move; 0 = silent. A guard shuts with the cue behind it
     ControlFollower follow = nullptr;
-    bool kept_by_model = false;  // the model knows its position when the aircraft loads
+    int min = 0, max = 1;             // end positions
+    NamedVarRef guard = kNoVariable;  // of the guard that must be open
+    bool kept_by_model = false;       // the model knows its position when the aircraft loads
 };
 
-// Rows by their class.
+// Rows by their class. A name that the catalogue lacks, or that has no position there, doesn't compile.
 
-constexpr Control Latching(NamedVarRef variable, int* shadow, ControlFollower follow = nullptr) {
-    return {variable, shadow, ControlClass::kLatching, 0, 1, nullptr, kCueButton, follow};
+consteval Control WithPosition(std::string_view name, ControlClass kind, int cue, ControlFollower follow) {
+    const NamedVarRef variable = NamedVar(name);
+    if (ShadowOf(variable) == nullptr) throw "the catalogue doesn't tell where its position is kept";
+    return {variable, kind, ShadowOf(variable), cue, follow};
 }
-/// A latching button under a guard, which stays as it is while the guard is shut.
-constexpr Control UnderGuard(NamedVarRef variable, int* shadow, const int* guard,
-                             ControlFollower follow = nullptr) {
-    return {variable, shadow, ControlClass::kLatching, 0, 1, guard, kCueButton, follow};
+consteval Control WithEnds(Control control, int min, int max) {
+    control.min = min;
+    control.max = max;
+    return control;
 }
-constexpr Control OneWay(NamedVarRef variable, int* shadow, const int* guard,
-                         ControlFollower follow = nullptr) {
-    return {variable, shadow, ControlClass::kOneWay, 0, 1, guard, kCueButton, follow};
-}
-constexpr Control Guard(NamedVarRef variable, int* shadow) {
-    return {variable, shadow, ControlClass::kGuard, 0, 1, nullptr, kCueGuardOpen};
-}
-constexpr Control Cover(NamedVarRef variable, int* shadow) {
-    return {variable, shadow, ControlClass::kGuard, 0, 1, nullptr, kCueCoverOpen};
-}
-constexpr Control Switch(NamedVarRef variable, int* shadow, int min, int max,
-                         ControlFollower follow = nullptr, int cue = kCueSwitch) {
-    return {variable, shadow, ControlClass::kSwitch, min, max, nullptr, cue, follow};
-}
-constexpr Control Knob(NamedVarRef variable, int* shadow, ControlFollower follow = nullptr) {
-    return {variable, shadow, ControlClass::kKnob, 0, 1, nullptr, kCueSwitch, follow};
-}
-constexpr Control Rotary(NamedVarRef variable, int* shadow, int max, ControlFollower follow) {
-    return {variable, shadow, ControlClass::kRotary, 0, max, nullptr, 0, follow};
-}
-/// A key that gives its act the click of keys.
-constexpr Control Key(NamedVarRef variable, ControlFollower follow) {
-    return {variable, nullptr, ControlClass::kMomentary, 0, 1, nullptr, kCueKeyClick, follow};
-}
-constexpr Control Momentary(NamedVarRef variable, ControlFollower follow) {
-    return {variable, nullptr, ControlClass::kMomentary, 0, 1, nullptr, 0, follow};
-}
-constexpr Control Mirrored(NamedVarRef variable, int* shadow, ControlFollower follow = nullptr, int min = 0,
-                           int max = 1) {
-    return {variable, shadow, ControlClass::kMirrored, min, max, nullptr, 0, follow};
-}
-constexpr Control KeptByModel(Control control) {
-    control.kept_by_model = true;
+consteval Control WithGuard(Control control, std::string_view guard) {
+    control.guard = NamedVar(guard);
+    if (ShadowOf(control.guard) == nullptr) throw "a guard has a position";
     return control;
 }
 
-/// One table of several.
-template <std::size_t... kSizes>
-constexpr auto JoinTables(const std::array<Control, kSizes>&... tables) {
-    std::array<Control, (kSizes + ...)> joined{};
-    auto end = joined.begin();
-    ((end = std::copy(tables.begin(), tables.end(), end)), ...);
-    return joined;
+consteval Control Latching(std::string_view name, ControlFollower follow = nullptr, int cue = kCueButton) {
+    return WithPosition(name, ControlClass::kLatching, cue, follow);
+}
+/// A latching button under a guard, which stays as it is while the guard is shut.
+consteval Control UnderGuard(std::string_view name, std::string_view guard,
+                             ControlFollower follow = nullptr) {
+    return WithGuard(Latching(name, follow), guard);
+}
+consteval Control OneWay(std::string_view name, std::string_view guard) {
+    return WithGuard(WithPosition(name, ControlClass::kOneWay, kCueButton, nullptr), guard);
+}
+consteval Control Guard(std::string_view name) {
+    return WithPosition(name, ControlClass::kGuard, kCueGuardOpen, nullptr);
+}
+consteval Control Cover(std::string_view name) {
+    return WithPosition(name, ControlClass::kGuard, kCueCoverOpen, nullptr);
+}
+consteval Control Switch(std::string_view name, int min, int max, ControlFollower follow = nullptr,
+                         int cue = kCueSwitch) {
+    return WithEnds(WithPosition(name, ControlClass::kSwitch, cue, follow), min, max);
+}
+consteval Control Knob(std::string_view name, ControlFollower follow = nullptr) {
+    return WithPosition(name, ControlClass::kKnob, kCueSwitch, follow);
+}
+/// A turning knob stands at 0 to 18.
+consteval Control Rotary(std::string_view name, ControlFollower follow) {
+    return WithEnds(WithPosition(name, ControlClass::kRotary, 0, follow), 0, 18);
+}
+consteval Control Mirrored(std::string_view name, ControlFollower follow = nullptr, int min = 0,
+                           int max = 1) {
+    return WithEnds(WithPosition(name, ControlClass::kMirrored, 0, follow), min, max);
+}
+consteval Control Momentary(std::string_view name, ControlFollower follow, int cue = 0) {
+    const NamedVarRef variable = NamedVar(name);
+    if (ShadowOf(variable) != nullptr) throw "a key springs back";
+    if (follow == nullptr) throw "a key that does nothing";
+    return {variable, ControlClass::kMomentary, nullptr, cue, follow};
+}
+/// A key that gives its act the click of keys.
+consteval Control Key(std::string_view name, ControlFollower follow) {
+    return Momentary(name, follow, kCueKeyClick);
+}
+consteval Control KeptByModel(Control control) {
+    control.kept_by_model = true;
+    return control;
 }

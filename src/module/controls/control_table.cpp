@@ -1,9 +1,9 @@
 #include "module/controls/control_table.h"
 
+#include <array>
 #include <initializer_list>
 
 #include "module/controls/panels.h"
-#include "state/cockpit.h"
 #include "state/module_life.h"
 
 namespace {
@@ -24,7 +24,8 @@ const PollSet kSets[] = {
     {"overhead_forward", At({0, 4, 8, 12}), ForwardOverheadControls()},
     {"overhead_middle", At({1, 5, 9, 13}), MiddleOverheadControls()},
     {"overhead_engine", At({2, 6, 10, 14}), EngineOverheadControls()},
-    {"air_and_tablets", At({3, 7, 11, 15}), AirAndTabletControls()},
+    {"air", At({3, 7, 11, 15}), AirControls()},
+    {"tablets", At({3, 7, 11, 15}), TabletControls()},
     {"keypads", kAlways, KeypadControls()},
     {"pedestal", At({4, 8, 12, 16}), PedestalControls()},
     {"displays", At({5, 9, 13, 17}), DisplayControls()},
@@ -33,20 +34,21 @@ const PollSet kSets[] = {
     {"selector", 0, SelectorControls()},
 };
 
-struct PanelLamp {
-    NamedVarRef variable;
-    const int* lit;
-};
-constexpr PanelLamp kLamps[] = {
-    {NamedVar("TZ_MCP_L_MFD_L_GREEN"), &cockpit.TZ_MCP_L_MFD_L_GREEN},
-    {NamedVar("TZ_MCP_L_MFD_R_GREEN"), &cockpit.TZ_MCP_L_MFD_R_GREEN},
-    {NamedVar("TZ_MCP_R_MFD_L_GREEN"), &cockpit.TZ_MCP_R_MFD_L_GREEN},
-    {NamedVar("TZ_MCP_R_MFD_R_GREEN"), &cockpit.TZ_MCP_R_MFD_R_GREEN},
-    {NamedVar("TZ_MCP_Annun_CAUT"), &cockpit.TZ_MCP_Annun_CAUT},
-    {NamedVar("TZ_MCP_Annun_WARN"), &cockpit.TZ_MCP_Annun_WARN},
-    {NamedVar("TZ_MCP_AnnunR_CAUT"), &cockpit.TZ_MCP_AnnunR_CAUT},
-    {NamedVar("TZ_MCP_AnnunR_WARN"), &cockpit.TZ_MCP_AnnunR_WARN},
-};
+// Each named variable's control, by its row in the catalogue.
+using ControlByRow = std::array<const Control*, kNamedVariableCount>;
+ControlByRow IndexControls() {
+    ControlByRow index{};
+    for (const PollSet& set : kSets)
+        for (const Control& control : set.controls)
+            index[static_cast<std::size_t>(control.variable.row)] = &control;
+    return index;
+}
+
+bool IsModelsOwn(const Control& control) {
+    // After the start its position is known here, and a variable registered anew isn't.
+    const bool kept_by_model = control.kept_by_model && module_life.startup_done == 0;
+    return kept_by_model || control.kind == ControlClass::kMirrored;
+}
 
 }  // namespace
 
@@ -55,23 +57,8 @@ std::span<const PollSet> PollSets() {
 }
 
 const Control* FindControl(NamedVarRef variable) {
-    for (const PollSet& set : kSets)
-        for (const Control& control : set.controls)
-            if (control.variable.row == variable.row) return &control;
-    return nullptr;
-}
-
-const Control* FindGuard(const int* shadow) {
-    for (const PollSet& set : kSets)
-        for (const Control& control : set.controls)
-            if (control.shadow == shadow && control.kind == ControlClass::kGuard) return &control;
-    return nullptr;
-}
-
-void ShowShadow(const int* shadow) {
-    for (const PollSet& set : kSets)
-        for (const Control& control : set.controls)
-            if (control.shadow == shadow) WriteNamedVar(control.variable, *shadow);
+    static const ControlByRow index = IndexControls();
+    return index[static_cast<std::size_t>(variable.row)];
 }
 
 const char* ClassName(ControlClass kind) {
@@ -81,12 +68,10 @@ const char* ClassName(ControlClass kind) {
 }
 
 void WriteControlVariables() {
-    for (const PollSet& set : kSets)
-        for (const Control& control : set.controls) {
-            // After the start its position is known here, and a variable registered anew isn't.
-            const bool kept_by_model = control.kept_by_model && module_life.startup_done == 0;
-            const bool models_own = kept_by_model || control.kind == ControlClass::kMirrored;
-            if (control.shadow != nullptr && !models_own) WriteNamedVar(control.variable, *control.shadow);
-        }
-    for (const PanelLamp& lamp : kLamps) WriteNamedVar(lamp.variable, *lamp.lit);
+    for (int row = 0; row < kNamedVariableCount; ++row) {
+        const NamedVarRef variable{row};
+        const Control* control = FindControl(variable);
+        if (ShadowOf(variable) == nullptr || (control != nullptr && IsModelsOwn(*control))) continue;
+        WriteNamedVar(variable, *ShadowOf(variable));
+    }
 }

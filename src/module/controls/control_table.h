@@ -17,15 +17,9 @@ std::span<const PollSet> PollSets();
 /// The control of a named variable; null for one that is no control's.
 const Control* FindControl(NamedVarRef variable);
 
-/// The guard whose position stands in `shadow`; null when none does.
-const Control* FindGuard(const int* shadow);
-
 /// The word for a class as the inspection table has it.
 const char* ClassName(ControlClass kind);
 
-/// Writes a shadow into the variable of each control that shows it.
-void ShowShadow(const int* shadow);
-
-/// Writes each shadow and panel lamp into its named variable, so that the model agrees with it. What the
-/// model knows better is left out.
+/// Writes what the system keeps of each control and lamp into its named variable, so that the model agrees
+/// with it. What the model knows better is left out.
 void WriteControlVariables();

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/numbers.h"
+#include "frame/controls.h"
 #include "frame/cues.h"
 #include "module/controls/control_table.h"
 #include "platform/host.h"
@@ -23,17 +24,24 @@ void Ask(int cue) {
     if (cue != 0) RequestCue(cue);
 }
 
+bool IsGuarded(const Control& control) {
+    return control.guard != kNoVariable;
+}
+
+bool IsFree(const Control& control) {
+    return !IsGuarded(control) || *ShadowOf(control.guard) != 0;
+}
+
 // A move that the end stop, the guard or the follower refuses makes no sound.
 void MoveTo(const Control& control, int position) {
     int& shadow = *control.shadow;
     const int before = shadow;
-    const bool guard_open = control.guard == nullptr || *control.guard != 0;
-    if (guard_open && position != before) {
+    if (IsFree(control) && position != before) {
         shadow = position;
         Follow(control, before);
         if (shadow != before) Ask(CueOf(control));
     }
-    ShowShadow(&shadow);
+    ShowControl(&shadow);
 }
 
 // A position that has been set from outside may be any number.
@@ -59,7 +67,7 @@ void Turn(const Control& control, int position, int step) {
     *control.shadow = position;
     Follow(control, step);
     Ask(control.cue);
-    ShowShadow(control.shadow);
+    ShowControl(control.shadow);
 }
 
 int TurnedBy(const Control& control, double from, double to) {
@@ -76,10 +84,7 @@ int Wrapped(const Control& control, int position) {
 
 void ClickControl(const Control& control, std::uint32_t mouse_flag) {
     const bool right = mouse_flag == kMouseRightSingle;
-    if (right && control.guard != nullptr) {
-        if (const Control* guard = FindGuard(control.guard)) Toggle(*guard);
-        return;
-    }
+    if (right && IsGuarded(control)) return Toggle(*FindControl(control.guard));
     switch (control.kind) {
         case ControlClass::kLatching:
         case ControlClass::kKnob:
@@ -103,6 +108,10 @@ void ClickControl(const Control& control, std::uint32_t mouse_flag) {
         case ControlClass::kMirrored:
             break;
     }
+}
+
+void ClickControl(NamedVarRef variable, std::uint32_t mouse_flag) {
+    if (const Control* control = FindControl(variable)) ClickControl(*control, mouse_flag);
 }
 
 void PollControl(const Control& control) {

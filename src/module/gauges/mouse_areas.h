@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "frame/named_variables.h"
+#include "module/controls/operate.h"
 #include "platform/panel_gauges.h"
 #include "platform/state_lock.h"
 
@@ -17,27 +18,22 @@ struct MouseArea {
     MouseCallback callback;
 };
 
-/// Clicks the control of a named variable, by its row in the catalogue.
-void ClickVariable(NamedVarRef variable, uint32_t flags);
-
-template <int kRow>
-int32_t OnControlPress(GaugeInstance*, uint32_t flags) {
-    const StateLock lock;
-    ClickVariable({kRow}, flags);
-    return 0;
-}
-
-/// The area of a control bears its variable's name: ControlArea<NamedVar("TZ_MCP_L_WXR_Button").row>().
-template <int kRow>
-constexpr MouseArea ControlArea() {
-    return {kNamedVariables[kRow].name.data(), OnControlPress<kRow>};
-}
-
 template <void (*kPress)(uint32_t flags)>
 int32_t OnPress(GaugeInstance*, uint32_t flags) {
     const StateLock lock;
     kPress(flags);
     return 0;
+}
+
+template <NamedVarRef kVariable>
+void PressControl(uint32_t flags) {
+    ClickControl(kVariable, flags);
+}
+
+/// The area of a control bears its variable's name: ControlArea<NamedVar("TZ_MCP_L_WXR_Button")>().
+template <NamedVarRef kVariable>
+constexpr MouseArea ControlArea() {
+    return {NameOf(kVariable).data(), OnPress<PressControl<kVariable>>};
 }
 
 /// Areas stand in a grid of eight columns from a gauge's `left` edge on.

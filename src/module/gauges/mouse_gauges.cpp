@@ -6,15 +6,15 @@
 #include <utility>
 
 #include "display/formats/clicks.h"
+#include "efb/tablet_input.h"
 #include "frame/key_events.h"
 #include "module/controls/control_table.h"
 #include "module/controls/operate.h"
 #include "module/gauges/mouse_areas.h"
 #include "platform/host.h"
-#include "state/cockpit.h"
-#include "state/efb.h"
 #include "state/side.h"
 #include "systems/engine_controls.h"
+#include "systems/wheels.h"
 
 namespace {
 
@@ -37,16 +37,6 @@ constexpr bool IsBezelKey(std::string_view name) {
     return name.starts_with(kSide == 'L' ? "TZ_EFB_L_" : "TZ_EFB_R_");
 }
 
-// What a display select panel has: the side buttons, the formats, the engine key and cancel/recall.
-template <char kSide>
-constexpr bool IsDisplaySelectKey(std::string_view name) {
-    constexpr std::string_view kKeys[] = {"MFD_L_Button", "MFD_R_Button", "CDU_Button",   "CHKL_Button",
-                                          "COMM_Button",  "INFO_Button",  "ND_Button",    "SYS_Button",
-                                          "EICAS_Button", "ENG_Button",   "CANRCL_Button"};
-    constexpr std::string_view kPrefix = kSide == 'L' ? "TZ_MCP_L_" : "TZ_MCP_R_";
-    return name.starts_with(kPrefix) && std::ranges::count(kKeys, name.substr(kPrefix.size())) == 1;
-}
-
 using PassesName = bool (*)(std::string_view name);
 
 template <PassesName kPasses>
@@ -65,7 +55,7 @@ constexpr auto kRowsWhere = RowsWhere<kPasses>();
 
 template <PassesName kPasses, int kLeft, std::size_t... kIndex>
 consteval auto AreasOfRows(std::index_sequence<kIndex...>) {
-    return LayOut({ControlArea<kRowsWhere<kPasses>[kIndex]>()...}, kLeft);
+    return LayOut({ControlArea<NamedVarRef{kRowsWhere<kPasses>[kIndex]}>()...}, kLeft);
 }
 
 /// An area for each of them, from a left edge on.
@@ -75,11 +65,38 @@ constexpr auto kAreasWhere =
 
 // One area for the control of a variable.
 template <NamedVarRef kVariable>
-constexpr auto kSingle = LayOut({ControlArea<kVariable.row>()});
+constexpr auto kSingle = LayOut({ControlArea<kVariable>()});
+
+constexpr auto kCaptainDisplaySelect = LayOut({
+    ControlArea<NamedVar("TZ_MCP_L_CANRCL_Button")>(),
+    ControlArea<NamedVar("TZ_MCP_L_CDU_Button")>(),
+    ControlArea<NamedVar("TZ_MCP_L_CHKL_Button")>(),
+    ControlArea<NamedVar("TZ_MCP_L_COMM_Button")>(),
+    ControlArea<NamedVar("TZ_MCP_L_EICAS_Button")>(),
+    ControlArea<NamedVar("TZ_MCP_L_ENG_Button")>(),
+    ControlArea<NamedVar("TZ_MCP_L_INFO_Button")>(),
+    ControlArea<NamedVar("TZ_MCP_L_MFD_L_Button")>(),
+    ControlArea<NamedVar("TZ_MCP_L_MFD_R_Button")>(),
+    ControlArea<NamedVar("TZ_MCP_L_ND_Button")>(),
+    ControlArea<NamedVar("TZ_MCP_L_SYS_Button")>(),
+});
+constexpr auto kFirstOfficerDisplaySelect = LayOut({
+    ControlArea<NamedVar("TZ_MCP_R_CANRCL_Button")>(),
+    ControlArea<NamedVar("TZ_MCP_R_CDU_Button")>(),
+    ControlArea<NamedVar("TZ_MCP_R_CHKL_Button")>(),
+    ControlArea<NamedVar("TZ_MCP_R_COMM_Button")>(),
+    ControlArea<NamedVar("TZ_MCP_R_EICAS_Button")>(),
+    ControlArea<NamedVar("TZ_MCP_R_ENG_Button")>(),
+    ControlArea<NamedVar("TZ_MCP_R_INFO_Button")>(),
+    ControlArea<NamedVar("TZ_MCP_R_MFD_L_Button")>(),
+    ControlArea<NamedVar("TZ_MCP_R_MFD_R_Button")>(),
+    ControlArea<NamedVar("TZ_MCP_R_ND_Button")>(),
+    ControlArea<NamedVar("TZ_MCP_R_SYS_Button")>(),
+});
 
 constexpr auto kEngineStart = LayOut({
-    ControlArea<NamedVar("TZ_OH_ENG_L_START_Switch").row>(),
-    ControlArea<NamedVar("TZ_OH_ENG_R_START_Switch").row>(),
+    ControlArea<NamedVar("TZ_OH_ENG_L_START_Switch")>(),
+    ControlArea<NamedVar("TZ_OH_ENG_R_START_Switch")>(),
     {"fuel control 1", OnPress<[](uint32_t) { ToggleFuelControl(1); }>},
     {"fuel control 2", OnPress<[](uint32_t) { ToggleFuelControl(2); }>},
 });
@@ -100,17 +117,12 @@ constexpr auto kWindowToggles = LayOut({
     {"window 8", OnPress<Toggle<8>>},
 });
 
-// The model owns the selector: -1 RTO, 0 OFF, 1 DISARM, 2 to 5 for 1 to 4, 6 MAX.
-void TurnAutobrake(uint32_t flags) {
-    const Control& selector = *FindControl(NamedVar("auto_brake_switch"));
-    const int step = flags == kMouseRightSingle ? 1 : -1;
-    const int now = std::clamp(cockpit.autobrake_switch, selector.min, selector.max);
-    cockpit.autobrake_switch = std::clamp(now + step, selector.min, selector.max);
-    WriteNamedVar(NamedVar("auto_brake_switch"), cockpit.autobrake_switch);
+void PressAutobrake(uint32_t flags) {
+    TurnAutobrake(flags == kMouseRightSingle ? 1 : -1);
 }
 constexpr auto kGearAutobrake = LayOut({
     {"gear lever", OnPress<[](uint32_t) { SendKeyEvent(kKeyPanelButton, 0); }>},
-    {"autobrake", OnPress<TurnAutobrake>},
+    {"autobrake", OnPress<PressAutobrake>},
 });
 
 template <int kUnit>
@@ -128,7 +140,7 @@ constexpr MouseRectangle kScreens[] = {
 template <int kSide>
 int32_t OnTabletTouch(GaugeInstance* instance, uint32_t) {
     const StateLock lock;
-    OnEfbTouch(instance->mouse_x, instance->mouse_y, kSide);
+    TouchTablet(kSide, instance->mouse_x, instance->mouse_y);
     return 0;
 }
 
@@ -163,23 +175,12 @@ class Elements {
 
 }  // namespace
 
-void ClickVariable(NamedVarRef variable, uint32_t flags) {
-    if (const Control* control = FindControl(variable)) ClickControl(*control, flags);
-}
-
-void OnEfbTouch(int x, int y, int side) {
-    EfbSide& tablet = EfbOf(side);
-    tablet.EfbMouseX = x;
-    tablet.EfbMouseY = y;
-    tablet.touch_pending = 1;
-}
-
 std::span<const MouseRectangle> OverheadAreas() {
     return kAreasWhere<IsOverheadControl>;
 }
 std::span<const MouseRectangle> DisplaySelectAreas(int side) {
-    if (side == kCaptain) return kAreasWhere<IsDisplaySelectKey<'L'>>;
-    return kAreasWhere<IsDisplaySelectKey<'R'>>;
+    if (side == kCaptain) return kCaptainDisplaySelect;
+    return kFirstOfficerDisplaySelect;
 }
 std::span<const MouseRectangle> KeypadAreas(int side) {
     if (side == kCaptain) return kAreasWhere<IsKeypadKey<'L'>>;

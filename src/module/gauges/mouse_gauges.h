@@ -25,12 +25,6 @@ std::span<const MouseRectangle> DisplayUnitAreas(int unit);
 /// A tablet's canvas, and beside it the keys of its bezel.
 std::span<const MouseRectangle> TabletAreas(int side);
 
-/// A tablet's canvas.
-constexpr int kTabletWidth = 340, kTabletHeight = 448;
-
-/// A touch on a side's tablet, in its canvas: it waits for the page. Under the state lock.
-void OnEfbTouch(int x, int y, int side);
-
 /// The service of OVERHEAD. Its elements are pictures of controls and lamps, shown and hidden by what they
 /// stand for: one for each position above the lowest of each overhead control, in the order of the poll, then
 /// one for each overhead lamp.
