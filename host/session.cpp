@@ -5,9 +5,9 @@
 #include <filesystem>
 #include <string_view>
 
+#include "host/inspection.h"
 #include "host/module_library.h"
 #include "host/root_folder.h"
-#include "host/world/cockpit_model.h"
 #include "host/world/terrain.h"
 #include "host/world/world.h"
 
@@ -155,7 +155,6 @@ bool PrepareSession(Session& session, std::string& error) {
         for (const AirframeTitle& airframe : titles) error += "\n  " + airframe.title;
         return false;
     }
-    CreateCockpitModel();
     world.root = settings.root;
     world.app_data = settings.root;
     world.navdata = settings.navdata;
@@ -182,6 +181,8 @@ bool StartSession(Session& session, std::string& error) {
         session.settings.module_file.empty() ? ModuleBesideProgram() : session.settings.module_file;
     session.linkage = LoadModule(file, session.library, error);
     if (session.linkage == nullptr) return false;
+    for (const auto& [name, nothing] : Ask(session.linkage->inspection->list_model_variables).results)
+        CreateModelVariable(name);
     FillClockTokens();
     PlaceAircraft(session.settings.placed ? session.settings.placement : DemonstrationStand());
     session.linkage->module_init();

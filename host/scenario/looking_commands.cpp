@@ -75,6 +75,17 @@ void Lvars(Scenario& scenario, const std::vector<Word>& words) {
         scenario.out << variable->name << " = " << NumberText(variable->value) << '\n';
 }
 
+void Controls(Scenario& scenario, const std::vector<Word>& words) {
+    const InspectionTable& table = InspectionOf(scenario);
+    for (const auto& [name, told] : Inspect(table.list_controls)) {
+        if (!MatchesPattern(name, Rest(words))) continue;
+        const std::string kind = told.substr(0, told.find(' ')), state = told.substr(told.rfind(' ') + 1);
+        const std::string value = state == "-" ? NumberText(NamedValue(name))
+                                               : Inspect(table.read_variable, state.c_str()).front().second;
+        scenario.out << name << ' ' << kind << ' ' << state << ' ' << value << '\n';
+    }
+}
+
 void PrintResults(Scenario& scenario, const Results& results) {
     for (const auto& [name, value] : results) scenario.out << name << " = " << value << '\n';
 }
@@ -110,6 +121,7 @@ std::vector<Command> LookingCommands() {
         {"sounds", "", "", Command::kAfter, 0, 0, nullptr},
         {"events", "", "events", Command::kAfter, 0, 0, Events},
         {"lvars", "[PATTERN]", "lvars TZ_OH_*", Command::kAfter, 0, 1, Lvars},
+        {"controls", "[PATTERN]", "controls TZ_OH_ELE_*", Command::kAfter, 0, 1, Controls},
         {"call", "FUNCTION ARG...", "call GreatCircle 47 -122 45 -122", Command::kAfter, 1, 20, Call},
         {"op", "FUNCTION ARG...", "op RebuildRouteRows", Command::kAfter, 1, 20, Op},
         {"log", "\"TEXT\"", "log \"half way\"", Command::kAnytime, 0, 100, Log},

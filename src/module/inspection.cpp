@@ -5,6 +5,7 @@
 
 #include "cdu/unit/items.h"
 #include "fmc/route/route_text.h"
+#include "frame/named_variables.h"
 #include "module/called_functions.h"
 #include "module/controls/control_table.h"
 #include "module/pictures.h"
@@ -101,12 +102,19 @@ int ListControls(ResultSink sink, void* context) {
     const Results results{sink, context};
     for (const PollSet& set : PollSets())
         for (const Control& control : set.controls) {
-            const std::string_view guard_name = control.guard == kNoVariable ? "-" : NameOf(control.guard);
-            results.Add(NameOf(control.variable), std::string(ClassName(control.kind)) + " " + set.name +
-                                                      " " + std::to_string(control.min) + " " +
-                                                      std::to_string(control.max) + " " +
-                                                      std::string(guard_name));
+            std::string told(ClassName(control.kind));
+            told.append(" ").append(set.name);
+            for (const int end : {control.min, control.max}) told.append(" ").append(std::to_string(end));
+            told.append(" ").append(control.guard == kNoVariable ? "-" : NameOf(control.guard));
+            told.append(" ").append(control.shadow == nullptr ? "-" : NameOfVariable(control.shadow));
+            results.Add(NameOf(control.variable), told);
         }
+    return 1;
+}
+
+int ListModelVariables(ResultSink sink, void* context) {
+    for (const NamedVariable& variable : kNamedVariables)
+        if (variable.owner == NamedVariable::kModel) Results{sink, context}.Add(variable.name, "");
     return 1;
 }
 
@@ -133,6 +141,7 @@ constexpr InspectionTable kInspection = {
     .list_controls = ListControls,
     .press_clear_message = PressClearMessage,
     .stream_image = CopyStreamImage,
+    .list_model_variables = ListModelVariables,
 };
 
 }  // namespace

@@ -69,6 +69,13 @@ std::optional<VariableRef> FindVariable(std::string_view path) {
     return at;
 }
 
+std::string_view NameOfVariable(const void* address) {
+    for (const StateGroup& group : StateGroups())
+        for (const Variable& variable : *group.variables)
+            if (variable.address == address) return variable.name;
+    return {};
+}
+
 std::string FormatNumber(double value) {
     if (std::isnan(value)) return "nan";
     if (std::isinf(value)) return value > 0 ? "inf" : "-inf";

@@ -16,6 +16,9 @@ struct VariableRef {
 /// Finds a variable by its path; nothing for an unknown name, a field that isn't there or an index outside.
 std::optional<VariableRef> FindVariable(std::string_view path);
 
+/// The name under which a variable without a path stands in the directory; empty for an address without one.
+std::string_view NameOfVariable(const void* address);
+
 /// The value as text, with as many digits as it takes to read it back; an integer without a point.
 /// A record or a list gives an empty text.
 std::string FormatValue(const VariableRef& variable);

@@ -35,6 +35,20 @@ TEST(Inspection, ReadsWritesAndListsVariables) {
     EXPECT_EQ(Call(table.list_variables, "WeightUn"), "1\nWeightUnit=text cfg\n");
 }
 
+TEST(Inspection, TellsControlsAndWhatTheModelMustBring) {
+    const std::string controls = Call(Inspection().list_controls);
+    for (const char* line :
+         {"\nTZ_OH_ELE_BAT_Button=latching overhead_forward 0 1 - battery_button\n",
+          "\nTZ_OH_DRVDISC_L1_Button=guarded overhead_forward 0 1 TZ_OH_GEN_L1_Guard_Switch drive_disc_l1\n",
+          "\nTZ_MCP_R_RANGE_Knob=switch displays 0 11 - du_fo_rng_knob\n",
+          "\nTZ_EFB_L_MENU_Button=momentary tablets 0 1 - -\n",
+          "\nauto_brake_switch=mirrored glareshield -1 6 - autobrake_switch\n"})
+        EXPECT_NE(controls.find(line), std::string::npos) << line;
+    const std::string model = "\n" + Call(Inspection().list_model_variables);
+    EXPECT_NE(model.find("\nTZ_EFB_L_MENU_Button=\n"), std::string::npos);
+    EXPECT_EQ(model.find("\nTZ_OH_ELE_BAT_Button=\n"), std::string::npos) << "the module's own";
+}
+
 TEST(Inspection, CallsPureFunctions) {
     const auto call = Inspection().call_function;
     EXPECT_EQ(Call(call, "AngleBetween 350 20"), "1\nresult=30\n");
