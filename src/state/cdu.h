@@ -93,8 +93,3 @@ extern const std::span<const Variable> kRoutePageVariables;
 inline CduState& CduOf(int side) {
     return cdu[side == 2 ? 1 : 0];
 }
-
-/// LEGS goes back to its normal view; what was picked in another is forgotten.
-inline void LeaveLegsView() {
-    route_pages.LegsView = route_pages.HoldSelectIndex = route_pages.DirectSelectIndex = 0;
-}

@@ -4,9 +4,15 @@ RequestState requests;
 
 namespace {
 constexpr Variable kRows[] = {
-    {"cancel_recall_request", &requests.cancel_recall}, {"warning_reset_request", &requests.warning_reset},
-    {"uplink_accept_request", &requests.uplink_accept}, {"uplink_reject_request", &requests.uplink_reject},
-    {"uplink_cancel_request", &requests.uplink_cancel}, {"mcp_alt_push_request", &requests.mcp_alt_push},
+    {"cancel_recall_request", &requests.cancel_recall},
+    {"warning_reset_request", &requests.warning_reset},
+    {"uplink_accept_request", &requests.uplink_accept},
+    {"uplink_reject_request", &requests.uplink_reject},
+    {"uplink_cancel_request", &requests.uplink_cancel},
+    {"mcp_alt_push_request", &requests.mcp_alt_push},
+    {"leave_legs_view", &requests.leave_legs_view},
+    {"leave_hold_page", &requests.leave_hold_page},
+    {"show_rte", &requests.show_rte},
 };
 }  // namespace
 

@@ -4,14 +4,19 @@
 
 #include "state/variable.h"
 
-/// What the crew has pressed for an owner that takes it at its next step and sets it back to 0.
+/// What somebody wants of an owner that stands behind: it takes that at its next step and sets it back to 0.
 struct RequestState {
+    // pressed by the crew
     int cancel_recall = 0;  // CANC/RCL of either side
     int warning_reset = 0;  // master warning and caution button of either side
     int uplink_accept = 0;  // ACPT, RJCT, CANC: the answer to a datalink message
     int uplink_reject = 0;
     int uplink_cancel = 0;
     int mcp_alt_push = 0;  // the altitude knob of the MCP has been pressed
+    // from the route to the CDUs, whose pages show what has gone
+    int leave_legs_view = 0;  // LEGS goes back to its normal view, and a pick for it is forgotten
+    int leave_hold_page = 0;  // the last hold has gone: HOLD gives way to LEGS
+    int show_rte = 0;         // a side, whose CDU goes to RTE
 };
 
 extern RequestState requests;

@@ -14,6 +14,7 @@
 #include "state/cfg.h"
 #include "state/leg_words.h"
 #include "state/perf.h"
+#include "state/requests.h"
 #include "state/side.h"
 
 namespace {
@@ -154,12 +155,12 @@ TEST_F(HostGps, ARouteIsTaken) {
     EXPECT_EQ(plan.mod.legs[1].type, "VOR");
     EXPECT_EQ(plan.mod.legs[1].freq, "115.00");
     EXPECT_EQ(plan.mod.legs[1].via, "DIRECT");
-    EXPECT_NEAR(plan.mod.entries.cruise_alt, 35000, 1);
+    EXPECT_NEAR(perf.pending_cruise_alt, 35000, 1);
     EXPECT_EQ(plan.active.ends.origin, "ORIG");
     EXPECT_EQ(plan.active.ends.dest, "DEST");
     EXPECT_EQ(plan.fms_fpln_active, kRouteEntered);
     EXPECT_EQ(plan.new_route, 1);
-    EXPECT_EQ(cdu[0].fms_page, 22);
+    EXPECT_EQ(requests.show_rte, 1);
     EXPECT_EQ(host.calls["bind_shared_pointer"], 1);
     PutWaypoint(1, u"ABCDEFGHIJ", 41, 10, 1e300);  // no end, no altitude
     ImportHostGpsRoute(kCaptain);

@@ -21,6 +21,7 @@
 #include "state/lnav.h"
 #include "state/perf.h"
 #include "state/plan.h"
+#include "state/requests.h"
 #include "state/side.h"
 #include "state/sim.h"
 #include "state/weights.h"
@@ -37,10 +38,10 @@ TEST_F(RouteModel, StateAdvancesInItsCircleAndPreparesTheAircraftOnTheGround) {
     }
     EXPECT_EQ(plan.pending_stpos, 4);
     EXPECT_TRUE(host.events.empty());
-    plan.mod.entries.cruise_alt = 999;
+    perf.pending_cruise_alt = 999;
     AdvanceRouteState();
     EXPECT_TRUE(host.events.empty());
-    plan.mod.entries.cruise_alt = 35000;
+    perf.pending_cruise_alt = 35000;
     perf.planned_fuel = 90000;
     host.tokens = {{290, 20000}, {292, 5000}, {298, 5000}, {306, 6.7}};
     AdvanceRouteState();
@@ -231,24 +232,23 @@ TEST_F(RouteModel, HoldsFollowTheirLegs) {
     // The hold being flown is left when its leg has gone by EXEC; the page of the last hold closes.
     plan.active.stpos = plan.mod.stpos = 4;
     lnav.holding = 1;
-    cdu[0].fms_page = 39;
     RemoveHold(1);
-    EXPECT_EQ(cdu[0].fms_page, 39);
+    EXPECT_EQ(requests.leave_hold_page, 0);
     DeleteLegWithDiscontinuity(4, false, kCaptain);
     OpenModification();
     EXPECT_EQ(lnav.holding, 1);
     EXPECT_EQ(plan.mod.legs[4].hold_pos, 0);
     EraseModification();
-    EXPECT_EQ(plan.mod.legs[4].hold_pos, 2);  // guidance has yet to pass the first
+    EXPECT_EQ(plan.mod.legs[4].hold_pos, 1);
+    RemoveHold(1);
     ConnectLegs(4, 5, kCaptain);
-    EXPECT_EQ(plan.hold_cnt, 0);
-    EXPECT_EQ(plan.active.legs[4].hold_pos, 2);  // flown until EXEC
+    EXPECT_EQ(plan.hold_cnt, 1);
     EXPECT_EQ(lnav.holding, 1);
     ExecuteRoute();
     EXPECT_EQ(plan.hold_cnt, 0);
     EXPECT_EQ(lnav.holding, 0);
     EXPECT_EQ(lnav.hold_exit, 4);
-    EXPECT_EQ(cdu[0].fms_page, 6);
+    EXPECT_EQ(requests.leave_hold_page, 1);
     Enter("ORIG AAA AAFIX BBFIX CCC DDFIX EEE LONER EASTX WWFIX DEST");
     for (int leg = 1; leg <= 9; ++leg) MarkHold(leg, false, leg - 1);
     EXPECT_EQ(plan.hold_cnt, kMostHolds);

@@ -6,6 +6,7 @@
 #include "cdu/unit/items.h"
 #include "cdu/unit/page_table.h"
 #include "cdu/words/page.h"
+#include "cdu/words/views.h"
 #include "frame/crew_messages.h"
 #include "state/keyboard.h"
 #include "state/lnav.h"
@@ -73,6 +74,7 @@ void StepCdu(int side, bool shown) {
     CountDownPresses(unit);
     StepClearMessage(side);
     QueueKeyboardCommand(unit);
+    TakeViewRequests();
     if (lnav.hold_select_due == side) {
         lnav.hold_select_due = 0;
         OpenHoldSelection(side);
@@ -83,4 +85,5 @@ void StepCdu(int side, bool shown) {
     DrawList unseen;
     Graphics graphics = GdipCreateGraphics(unseen, 564, 424);
     CallPage(graphics, side, std::exchange(unit.PendingLine, 0));
+    TakeViewRequests();  // of an edit that the page has just made
 }

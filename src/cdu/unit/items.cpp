@@ -5,6 +5,7 @@
 #include "cdu/unit/keypad.h"
 #include "cdu/unit/page_table.h"
 #include "cdu/words/page.h"
+#include "cdu/words/views.h"
 #include "fmc/legs/route_rows.h"
 #include "frame/cues.h"
 #include "navdata/nearest.h"

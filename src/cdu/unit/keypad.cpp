@@ -1,5 +1,6 @@
 #include "cdu/unit/keypad.h"
 
+#include "cdu/words/views.h"
 #include "fmc/route/execute_route.h"
 #include "state/cdu.h"
 #include "state/cfg.h"

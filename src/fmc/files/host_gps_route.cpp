@@ -13,10 +13,10 @@
 #include "frame/crew_messages.h"
 #include "navdata/airport_file.h"
 #include "platform/host.h"
-#include "state/cdu.h"
 #include "state/leg_words.h"
 #include "state/perf.h"
 #include "state/plan.h"
+#include "state/requests.h"
 #include "state/route_files.h"
 
 namespace {
@@ -99,8 +99,7 @@ void ImportHostGpsRoute(int side) {
         FlightPlanLeg leg = LegOf(waypoint, at == 0 || at == last);
         if (!leg.ident.empty() && std::fabs(leg.lat) <= 90) AddLoadedLeg(std::move(leg));
     }
-    plan.mod.entries.cruise_alt = highest;
+    perf.pending_cruise_alt = highest;
     FinishLoadedRoute("");
-    CduOf(side).fms_page = kPageRte;
-    CduOf(side).rte_index = 1;
+    requests.show_rte = side;
 }

@@ -54,6 +54,10 @@ void SetFinalPoint() {
     perf.final_point_set = 1;
 }
 
+void Take(double value, int manual, double& speed) {
+    if (manual == 0) speed = value;
+}
+
 }  // namespace
 
 double DisplayWeight(double lb) {
@@ -70,9 +74,9 @@ void ComputeProfile(double cruise_alt, int) {
     if (cruise_alt <= 0) perf.cruise_alt = perf.init_cruise_alt = cruise_alt = BestAltitude();
     if (cruise_alt <= 0) return;
     const double mean_altitude = cruise_alt / 2;
-    perf.clb_tas = PlanningTas(perf.speeds.climb_ias, mean_altitude);
-    perf.des_tas = PlanningTas(perf.speeds.descent_ias, mean_altitude);
-    perf.crz_tas = PlanningTas(perf.speeds.cruise_ias, cruise_alt);
+    perf.clb_tas = PlanningTas(perf.climb_ias, mean_altitude);
+    perf.des_tas = PlanningTas(perf.descent_ias, mean_altitude);
+    perf.crz_tas = PlanningTas(perf.cruise_ias, cruise_alt);
 }
 
 void ComputeDistances(int) {
@@ -108,9 +112,13 @@ void ComputeDistances(int) {
 void ApplyCostIndexRow(bool active, int index) {
     for (const CostIndexRow& row : kCostIndexTable) {
         if (row.cost_index != index) continue;
-        PlannedSpeeds& set = active ? perf.speeds : plan.mod.entries.speeds;
-        for (const auto& [speed, selected] : kPlannedSpeeds)
-            if (plan.mod.selected.*selected == 0) set.*speed = row.speeds.*speed;
+        Take(row.climb_ias, perf.climb_ias_manual, active ? perf.climb_ias : perf.pending_climb_ias);
+        Take(row.climb_mach, perf.climb_mach_manual, active ? perf.climb_mach : perf.pending_climb_mach);
+        Take(row.cruise_ias, perf.cruise_ias_manual, active ? perf.cruise_ias : perf.pending_cruise_ias);
+        Take(row.cruise_mach, perf.cruise_mach_manual, active ? perf.cruise_mach : perf.pending_cruise_mach);
+        Take(row.descent_ias, perf.descent_ias_manual, active ? perf.descent_ias : perf.pending_descent_ias);
+        Take(row.descent_mach, perf.descent_mach_manual,
+             active ? perf.descent_mach : perf.pending_descent_mach);
         return;
     }
 }

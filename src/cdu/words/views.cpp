@@ -1,0 +1,25 @@
+#include "cdu/words/views.h"
+
+#include <utility>
+
+#include "state/cdu.h"
+#include "state/requests.h"
+#include "state/side.h"
+
+void LeaveLegsView() {
+    route_pages.LegsView = route_pages.HoldSelectIndex = route_pages.DirectSelectIndex = 0;
+}
+
+void TakeViewRequests() {
+    if (std::exchange(requests.leave_legs_view, 0) == 1) {
+        LeaveLegsView();
+        route_pages.PendingSelectRow = 0;
+    }
+    if (std::exchange(requests.leave_hold_page, 0) == 1)
+        for (CduState& unit : cdu)
+            if (unit.fms_page == kPageHold) unit.fms_page = kPageLegs;
+    const int side = std::exchange(requests.show_rte, 0);
+    if (side != kCaptain && side != kFirstOfficer) return;
+    CduOf(side).fms_page = kPageRte;
+    CduOf(side).rte_index = 1;
+}
