@@ -9,15 +9,14 @@
 #include "module/controls/control_table.h"
 #include "navdata/airport_file.h"
 #include "navdata/nav_tables.h"
-#include "state/identity.h"
+#include "navdata/nearest.h"
 #include "state/module_life.h"
-#include "state/nav.h"
 #include "systems/start_up.h"
 
 void DelayedStart() {
     ChooseTakeoffFlaps();
     ReadFuelControls();
-    identity.selcal = FindSelcal(identity.registration);
+    ReadSelcal();
     SwitchRecirculationOn();
     WriteControlVariables();
     StartIrsOfKnobs();
@@ -29,6 +28,6 @@ void DelayedStart() {
     ChooseWeatherFolder();
     LoadFuelAtStart();
     OpenConfiguredBridge();
-    nav.nearest_refresh_due = 1;
+    RefreshNearestAtOnce();
     module_life.startup_done = 1;
 }

@@ -80,7 +80,7 @@ int PrintCandidates(std::string_view entry, const Results& results) {
 
 int PrintMessages(std::string_view side, const Results& results) {
     if (side != "L" && side != "R") return results.Fail("messages takes L or R");
-    CduState& unit = CduOf(side == "L" ? kCaptain : kFirstOfficer);
+    const CduState& unit = CduOf(side == "L" ? kCaptain : kFirstOfficer);
     for (int i = unit.CduMessageCount; i >= 1; --i) {
         const CduMessage& message = unit.CduMessages[i];
         Line line(message.kind);

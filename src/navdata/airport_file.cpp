@@ -4,6 +4,7 @@
 #include "navdata/geodesy.h"
 #include "navdata/ident_index.h"
 #include "navdata/navdata_file.h"
+#include "state/identity.h"
 #include "state/nav_tables.h"
 
 namespace {
@@ -151,4 +152,8 @@ std::string FindSelcal(std::string_view registration) {
         return code.size() == 4 ? code.substr(0, 2) + "-" + code.substr(2) : std::string();
     }
     return {};
+}
+
+void ReadSelcal() {
+    identity.selcal = FindSelcal(identity.registration);
 }

@@ -23,3 +23,6 @@ std::vector<AirportComm> LoadAirportComms(std::string_view ident);
 /// The aircraft's selective calling code from selcal.txt, in the form "AB-CD"; empty for an unknown
 /// registration or a code that isn't four letters.
 std::string FindSelcal(std::string_view registration);
+
+/// Looks up the selective calling code of the aircraft's registration.
+void ReadSelcal();

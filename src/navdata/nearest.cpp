@@ -142,3 +142,7 @@ void RefreshNearest() {
     BringVors();
     AutoTuneRadios();
 }
+
+void RefreshNearestAtOnce() {
+    nav.nearest_refresh_due = 1;
+}

@@ -15,3 +15,6 @@ bool NearNavaids(double lat, double lon);
 /// Fills `nearest.AltnRows` with the airports nearest to the aircraft, nearest first: runway of at least 4800
 /// ft, neither origin nor destination. Rows that the crew has fixed keep their place.
 void BuildAltnList();
+
+/// Lets the lists be made anew at the next tick.
+void RefreshNearestAtOnce();

@@ -61,6 +61,8 @@ constexpr Variable kRows[] = {
     {"tablet_to_airport", &airports.tablet_to_airport},
     {"tablet_ldg_airport", &airports.tablet_ldg_airport},
     {"ai_runways", &airports.ai_runways},
+    {"elevation_text", &airports.elevation_text},
+    {"airport_loading", &airports.loading},
 };
 }  // namespace
 

@@ -4,7 +4,8 @@
 
 #include "state/plan.h"
 
-// The words in which routes, legs and constraints are spoken of: every file that asks what a leg is, asks here.
+// The words in which routes, legs and constraints are spoken of: every file that asks what a leg is, asks
+// here.
 
 // --- how far the route is
 

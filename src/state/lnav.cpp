@@ -45,6 +45,11 @@ constexpr Variable kRows[] = {
     {"lnav_join_trk", &lnav.lnav_join_trk},
     {"report_due", &lnav.report_due},
     {"report_ident", &lnav.report_ident},
+    {"passed_chg_dist", &lnav.passed_chg_dist},
+    {"located_leg", &lnav.located_leg},
+    {"located", &lnav.located},
+    {"sent_fms_hdg", &lnav.sent_fms_hdg},
+    {"turn_log_begun", &lnav.turn_log_begun},
 };
 }  // namespace
 

@@ -10,6 +10,13 @@ struct Describe<LandmarkRow> {
     static constexpr ValueType type{.kind = ValueKind::kRecord, .fields = fields};
 };
 
+template <>
+struct Describe<AirwayRun> {
+    static constexpr Field fields[] = {FieldRow<&AirwayRun::name>("name"),
+                                       FieldRow<&AirwayRun::lines>("lines")};
+    static constexpr ValueType type{.kind = ValueKind::kRecord, .fields = fields};
+};
+
 NavTables nav_tables;
 
 namespace {
@@ -24,6 +31,10 @@ constexpr Variable kRows[] = {
     {"nav_cnt", &nav_tables.nav_cnt},
     {"LandmarkTable", &nav_tables.LandmarkTable},
     {"landmark_cnt", &nav_tables.landmark_cnt},
+    {"airway_runs", &nav_tables.airway_runs},
+    {"airway_run_cnt", &nav_tables.airway_run_cnt},
+    {"airport_lines", &nav_tables.airport_lines},
+    {"airport_line_cnt", &nav_tables.airport_line_cnt},
 };
 }  // namespace
 

@@ -45,6 +45,9 @@ constexpr Variable kRows[] = {
     {"vor_right", &nearest.vor_right},
     {"VorLeftMode", &nearest.VorLeftMode},
     {"VorRightMode", &nearest.VorRightMode},
+    {"map_centre_set", &nearest.map_centre_set},
+    {"map_centre_lat", &nearest.map_centre_lat},
+    {"map_centre_lon", &nearest.map_centre_lon},
 };
 }  // namespace
 

@@ -4,12 +4,27 @@ PerfState perf;
 
 namespace {
 constexpr Variable kRows[] = {
-    {"climb_ias", &perf.speeds.climb_ias},
-    {"climb_mach", &perf.speeds.climb_mach},
-    {"cruise_ias", &perf.speeds.cruise_ias},
-    {"cruise_mach", &perf.speeds.cruise_mach},
-    {"descent_ias", &perf.speeds.descent_ias},
-    {"descent_mach", &perf.speeds.descent_mach},
+    {"climb_ias", &perf.climb_ias},
+    {"climb_mach", &perf.climb_mach},
+    {"cruise_ias", &perf.cruise_ias},
+    {"cruise_mach", &perf.cruise_mach},
+    {"descent_ias", &perf.descent_ias},
+    {"descent_mach", &perf.descent_mach},
+    {"climb_ias_manual", &perf.climb_ias_manual},
+    {"climb_mach_manual", &perf.climb_mach_manual},
+    {"cruise_ias_manual", &perf.cruise_ias_manual},
+    {"cruise_mach_manual", &perf.cruise_mach_manual},
+    {"descent_ias_manual", &perf.descent_ias_manual},
+    {"descent_mach_manual", &perf.descent_mach_manual},
+    {"pending_climb_ias", &perf.pending_climb_ias},
+    {"pending_climb_mach", &perf.pending_climb_mach},
+    {"pending_cruise_ias", &perf.pending_cruise_ias},
+    {"pending_cruise_mach", &perf.pending_cruise_mach},
+    {"pending_descent_ias", &perf.pending_descent_ias},
+    {"pending_descent_mach", &perf.pending_descent_mach},
+    {"pending_step_size", &perf.pending_step_size},
+    {"pending_cost_index", &perf.pending_cost_index},
+    {"pending_cruise_alt", &perf.pending_cruise_alt},
     {"cost_index", &perf.cost_index},
     {"cruise_alt", &perf.cruise_alt},
     {"init_cruise_alt", &perf.init_cruise_alt},
@@ -74,6 +89,7 @@ constexpr Variable kRows[] = {
     {"ldg_flaps", &perf.ldg_flaps},
     {"takeoff_flap_list", &perf.takeoff_flap_list},
     {"fplog_mode", &perf.fplog_mode},
+    {"final_point_set", &perf.final_point_set},
 };
 }  // namespace
 

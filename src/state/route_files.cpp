@@ -6,6 +6,7 @@ namespace {
 constexpr Variable kRows[] = {
     {"RouteFiles", &route_files.RouteFiles},
     {"route_file_cnt", &route_files.route_file_cnt},
+    {"route_files_listed", &route_files.route_files_listed},
 };
 }  // namespace
 

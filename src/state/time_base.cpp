@@ -20,6 +20,7 @@ constexpr Variable kRows[] = {
     {"et_clock_running", &time_base.et_clock_running},
     {"et_seconds", &time_base.et_seconds},
     {"et_minutes", &time_base.et_minutes},
+    {"last_seconds", &time_base.last_seconds},
 };
 }  // namespace
 

@@ -1,48 +1,15 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <filesystem>
-#include <fstream>
 #include <map>
 #include <regex>
 #include <set>
 #include <string>
-#include <vector>
 
-#include "support/paths.h"
+#include "tidy/source_lines.h"
 
 // The house rules, each with its remedy in the message.
 
 namespace {
-
-namespace fs = std::filesystem;
-
-struct Line {
-    std::string where;  // "src/fmc/route.cpp:12"
-    std::string text;
-};
-
-std::vector<fs::path> SourceFiles(const std::string& top) {
-    std::vector<fs::path> files;
-    for (const auto& entry : fs::recursive_directory_iterator(fs::path(SourceDir()) / top)) {
-        const std::string extension = entry.path().extension();
-        if (entry.path().string().find("node_modules") != std::string::npos) continue;
-        if (extension == ".cpp" || extension == ".h" || extension == ".js" || extension == ".mjs")
-            files.push_back(entry.path());
-    }
-    std::sort(files.begin(), files.end());
-    return files;
-}
-
-std::vector<Line> LinesOf(const fs::path& file) {
-    std::vector<Line> lines;
-    std::ifstream in(file);
-    const std::string name = fs::relative(file, SourceDir()).string();
-    int number = 0;
-    for (std::string text; std::getline(in, text);)
-        lines.push_back({name + ":" + std::to_string(++number), text});
-    return lines;
-}
 
 // Each room of src/ may include what stands before it in this order, and state/; base/ knows no state.
 const std::vector<std::string> kOrder = {"base",
@@ -91,7 +58,7 @@ TEST(Tidy, IncludesPointForward) {
         return std::find(kOrder.begin(), kOrder.end(), room) - kOrder.begin();
     };
     for (const fs::path& file : SourceFiles("src")) {
-        const std::string room = RoomOf(fs::relative(file, fs::path(SourceDir()) / "src").string());
+        const std::string room = RoomOf(NameInSource(file));
         EXPECT_LT(place(room), static_cast<long>(kOrder.size())) << room << ": a room that the order lacks";
         for (const Line& line : LinesOf(file)) {
             const std::string name = IncludedName(line.text);
@@ -112,7 +79,7 @@ std::string PairOf(const std::string& name) {
 TEST(Tidy, NoCircleOfIncludesInsideARoom) {
     std::map<std::string, std::set<std::string>> includes;
     for (const fs::path& file : SourceFiles("src")) {
-        const std::string name = fs::relative(file, fs::path(SourceDir()) / "src").string();
+        const std::string name = NameInSource(file);
         for (const Line& line : LinesOf(file)) {
             const std::string other = IncludedName(line.text);
             if (!other.empty() && PairOf(other) != PairOf(name)) includes[PairOf(name)].insert(PairOf(other));
@@ -167,19 +134,42 @@ TEST(Tidy, OnlyPlatformTouchesTheOperatingSystem) {
     }
 }
 
+TEST(Tidy, NoObjectOfANamespaceChangesOutsideState) {
+    // Resources that guard themselves, not state of the aircraft.
+    const std::set<std::string> kResources = {"state_mutex",  // the state lock itself
+                                              "host_in_force", "bridge", "living", "store", "raster_fonts"};
+    const std::regex object(
+        R"(^(?!using|const|extern|return|namespace|static_assert|inline const|template|typedef|enum)"
+        R"(|#|friend|struct \w+;|class \w+;)[A-Za-z_][\w:<>, ]*[ *&]+([a-z_]\w*)( = [^;(]*|\{[^;]*\})?;)");
+    for (const fs::path& file : SourceFiles("src")) {
+        if (NameInSource(file).starts_with("state/")) continue;
+        for (const Line& line : LinesOf(file)) {
+            std::smatch found;
+            const bool is_object = std::regex_search(line.text, found, object) &&
+                                   line.text.find("constexpr") == std::string::npos;
+            if (!is_object || kResources.contains(found[1])) continue;
+            ADD_FAILURE() << line.where << ": " << found[1] << " can change: put it into a group in state/";
+        }
+    }
+}
+
 TEST(Tidy, WordsThatDoNotBelong) {
     // Spelled apart, so that this file passes its own test.
     const std::regex words(std::string("\\b(TO") + "DO|FIX" + "ME|HA" + "CK|specifi" + "cation|spec\\" +
                            ".md|Part [0-9]{1,2}\\.[0-9]{1,2})\\b");
-    for (const char* top : {"src", "host", "tests", "bench"})
-        for (const fs::path& file : SourceFiles(top))
-            for (const Line& line : LinesOf(file)) {
-                EXPECT_FALSE(std::regex_search(line.text, words))
-                    << line.where << ": say it in the code's own words";
-                EXPECT_TRUE(std::all_of(line.text.begin(), line.text.end(),
-                                        [](char c) { return static_cast<unsigned char>(c) < 0x80; }))
-                    << line.where << ": text of the system is ASCII";
-            }
+    std::vector<fs::path> files;
+    for (const char* top : {"src", "host", "tests", "bench", "tools", "docs"})
+        for (const fs::path& file : AllFiles(top)) files.push_back(file);
+    for (const char* name : {"README.md", "CMakeLists.txt", "CMakePresets.json", "dev", ".ci/run"})
+        files.push_back(fs::path(SourceDir()) / name);
+    for (const fs::path& file : files)
+        for (const Line& line : LinesOf(file)) {
+            EXPECT_FALSE(std::regex_search(line.text, words))
+                << line.where << ": say it in the code's own words";
+            EXPECT_TRUE(std::all_of(line.text.begin(), line.text.end(),
+                                    [](char c) { return static_cast<unsigned char>(c) < 0x80; }))
+                << line.where << ": text of the system is ASCII";
+        }
 }
 
 }  // namespace
