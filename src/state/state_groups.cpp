@@ -77,7 +77,7 @@ constexpr StateGroup kGroups[] = {
      "cdu/unit/keypad"},
     {"flight_log", Reset<&flight_log>, &kFlightLogVariables, "fmc/performance/flight_log"},
     {"vnav", Reset<&vnav>, &kVnavVariables,
-     "frame/crew_messages fmc/performance/vertical_segment fmc/route/ guidance/"},
+     "frame/crew_messages fmc/performance/ fmc/route/ guidance/"},
     {"lnav", Reset<&lnav>, &kLnavVariables, "fmc/legs/holds fmc/route/ guidance/ cdu/unit/cdu_service"},
     {"pause_points", Reset<&pause_points>, &kPausePointVariables, "guidance/pause_points"},
     {"autoflight", Reset<&autoflight>, &kAutoflightVariables, "guidance/"},

@@ -2,8 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include "fmc/performance/profile.h"
+#include "state/cdu.h"
 #include "state/cfg.h"
 #include "state/identity.h"
+#include "state/leg_words.h"
 #include "state/perf.h"
 #include "state/plan.h"
 #include "state/sim.h"
@@ -130,6 +133,100 @@ TEST_F(Predictions, DistancesPassOverWhatIsNotFlown) {
     EXPECT_NEAR(perf.dist_to_toc, 15, 1e-6);
     EXPECT_NEAR(perf.dist_to_tod, 120, 1e-6);
     EXPECT_NEAR(perf.dest_brg, 357, 1e-6);
+}
+
+// A route along a meridian, sixty miles to the degree: 300 kt and 280 kt make 367.5 and 343 kt at half of
+// 30000 ft, and the path falls 1400 ft a minute, 244.9 ft a mile.
+class Profile : public Predictions {
+  protected:
+    Profile() {
+        const struct {
+            const char *ident, *type;
+            double lat;
+        } kLegs[] = {{"ORIG", "APT", 40},  {"AAA", "INT", 41},    {"BBB", "INT", 43},   {"CCC", "INT", 45},
+                     {"DDD", "INT", 46.5}, {"DEST", "APT", 47.5}, {"MISS", "INT", 47.8}};
+        for (const auto& leg : kLegs) {
+            FlightPlanLeg& to = plan.active.legs[plan.active.leg_cnt++];
+            to.ident = leg.ident;
+            to.type = leg.type;
+            to.lat = leg.lat;
+            if (to.type == "APT") to.alt = 0;
+        }
+        plan.active.legs[6].via = "MISSED APPR";
+        --plan.active.leg_cnt;
+        plan.active.stpos = 1;
+        cfg.RocTest = 0;
+        perf.climb_ias = 300;
+        perf.cruise_ias = 290;
+        perf.descent_ias = 280;
+        perf.gross_weight = 450000;
+        perf.cruise_alt = 30000;
+    }
+    static const FlightPlanLeg& Leg(int index) { return plan.active.legs[index]; }
+};
+
+TEST_F(Profile, PlacesTopsAltitudesSpeedsAndBurns) {
+    ComputeProfile(30000, 0);
+    // AAA would be passed at 32320 ft, 2320 / 3300 minutes late.
+    EXPECT_NEAR(perf.dist_to_toc, 60 - 2320 / 3300.0 * 6.125, 1e-3);
+    EXPECT_NEAR(vnav.toc_lat, 40 + perf.dist_to_toc / 60, 1e-6);
+    EXPECT_EQ(vnav.toc_stpos, 0);
+    EXPECT_EQ(perf.tod_rod, 1400);
+    EXPECT_EQ(Leg(4).alt, 14690);  // 60 nm out
+    EXPECT_NEAR(perf.dist_to_tod, 300 + (14690 + 90 * 1400 / (343 / 60.0) - 30000) / (1400 / (343 / 60.0)),
+                1e-3);
+    EXPECT_EQ(vnav.tod_stpos, 3);
+    for (const int cruise : {1, 2, 3}) {
+        EXPECT_EQ(Leg(cruise).alt, 30000) << cruise;
+        EXPECT_EQ(Leg(cruise).ias_restr, 290) << cruise;
+    }
+    EXPECT_EQ(Leg(4).ias_restr, 280);
+    EXPECT_EQ(Leg(5).ias_restr, 240);  // below the transition
+    EXPECT_EQ(Leg(5).alt, 0);
+    EXPECT_EQ(perf.clb_burn, 25200 * 0.9);
+    EXPECT_NEAR(perf.crz_burn, 11500 * 1.1, 1e-6);
+    EXPECT_EQ(perf.des_burn, (4000 + 5800) / 2);  // 22345 ft and 7345 ft in the mean
+    EXPECT_NEAR(perf.des_burn_per_nm, 4900 / 343.0, 1e-9);
+    EXPECT_EQ(cdu[0].CduMessageCount, 0);
+}
+
+TEST_F(Profile, ConstraintsBendIt) {
+    plan.active.legs[4].restr_code = kAltitudeRestr;
+    plan.active.legs[4].restr_type = kAtOrBelow;
+    plan.active.legs[4].alt_restr = 10000;
+    ComputeProfile(30000, 0);
+    EXPECT_EQ(Leg(4).alt, 10000);
+    EXPECT_EQ(Leg(4).ias_restr, 240);
+    EXPECT_NEAR(perf.dist_to_tod, 390 - 20000 / (1400 / (343 / 60.0)), 1e-3);
+    // A wide window holds the path where it is, a narrow one clips it.
+    plan.active.legs[4].restr_type = kBetween;
+    plan.active.legs[4].alt_restr = 0;
+    plan.active.legs[4].block_above = 11000;
+    plan.active.legs[4].block_below = 12000;
+    ComputeProfile(30000, 0);
+    EXPECT_EQ(Leg(4).alt, 12000);
+    // In the climb the first fix is held low, and is what is to be crossed.
+    plan.active.legs[1].restr_code = kAltitudeRestr;
+    plan.active.legs[1].restr_type = kAt;
+    plan.active.legs[1].alt_restr = 7000;
+    ComputeProfile(30000, 0);
+    EXPECT_EQ(Leg(1).alt, 7000);
+    EXPECT_EQ(vnav.cross_at_elev, 7000);
+    EXPECT_EQ(Leg(1).ias_restr, 250);
+    EXPECT_GT(perf.dist_to_toc, 60 + 23000 / 3300.0 * 6.125 - 0.1);
+}
+
+TEST_F(Profile, TooShortARouteIsTold) {
+    plan.active.legs[2] = plan.active.legs[5];
+    plan.active.legs[2].lat = 42;
+    plan.active.leg_cnt = 2;
+    ComputeProfile(41000, 0);
+    EXPECT_EQ(cdu[0].CduMessages[1].title, "UNABLE CRZ ALT");
+    EXPECT_EQ(cdu[1].CduMessageCount, 1);
+    perf.cruise_alt = 0;
+    plan.active.leg_cnt = 0;
+    ComputeProfile(30000, 0);  // nothing to do
+    EXPECT_EQ(Leg(2).alt, 0);
 }
 
 }  // namespace

@@ -220,7 +220,7 @@ void DrawConstraint(PageCall& call, int line, int leg) {
     if (!IsPlace(shown)) return;
     const double y = DataY(line);
     EntryFrame(call, 155, static_cast<int>(y), 90);
-    const bool speed = shown.ias_restr > 0 || shown.mach_restr > 0;
+    const bool speed = HasSpeedRestr(shown);
     if (HasWindow(shown))
         return PageText(call, kWindowX, y, SpeedText(shown) + "/" + ConstraintAltitude(shown), kWhite,
                         kEnteredSize);

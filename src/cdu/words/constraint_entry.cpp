@@ -97,9 +97,10 @@ bool IsOnDescent(int leg) {
     return of_arrival || (vnav.tod_stpos > 0 && leg >= vnav.tod_stpos);
 }
 
-void SetCode(FlightPlanLeg& leg) {
+// A speed without its bit is a prediction.
+void SetCode(FlightPlanLeg& leg, bool speed_entered) {
     const bool altitude = leg.alt_restr > 0 || leg.restr_type == kBetween;
-    const bool speed = leg.ias_restr > 0 || leg.mach_restr > 0;
+    const bool speed = speed_entered || HasSpeedRestr(leg);
     leg.restr_code = (altitude ? kAltitudeRestr : kFree) | (speed ? kSpeedRestr : kFree);
 }
 
@@ -156,7 +157,7 @@ void StoreConstraint(int leg, const ConstraintEntry& entry) {
         }
         if (entry.alt_type != kAtOrBelow) Propagate(leg, old_altitude);
     }
-    SetCode(at);
+    SetCode(at, entry.speed > 0);
     at.mod_flag = kCrewEntered;
 }
 

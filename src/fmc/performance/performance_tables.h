@@ -26,6 +26,19 @@ constexpr std::array<ClimbPerfRow, 7> kClimbPerf = {{
     {35000, {900, 700, 650, 600}, 460, 14800},
 }};
 
+constexpr std::size_t kCruisePerfWeightCount = 4;
+
+struct CruisePerfRow {
+    double altitude, speed;
+    std::array<double, kCruisePerfWeightCount> fuel_flow;  // by kCruisePerfWeights
+};
+constexpr std::array<double, kCruisePerfWeightCount> kCruisePerfWeights = {350000, 400000, 450000, 500000};
+constexpr std::array<CruisePerfRow, 3> kCruisePerf = {{
+    {30000, 434, {10900, 11200, 11500, 11800}},
+    {35000, 435, {10200, 10400, 10800, 11300}},
+    {40000, 405, {9100, 9200, 9400, 9600}},
+}};
+
 struct DescentPerfRow {
     double altitude, fuel_flow, speed;
 };
@@ -38,6 +51,24 @@ constexpr std::array<DescentPerfRow, 7> kDescentPerf = {{
     {7000, 5800, 211},
     {5000, 8000, 211},
 }};
+
+/// The place of the value nearest to the one wanted, the first of two as near.
+template <std::size_t N>
+constexpr std::size_t NearestPlace(const std::array<double, N>& values, double wanted) {
+    std::size_t best = 0;
+    for (std::size_t i = 1; i < N; ++i)
+        if (std::fabs(values[i] - wanted) < std::fabs(values[best] - wanted)) best = i;
+    return best;
+}
+
+/// The row nearest to an altitude, the first of two as near.
+template <class Row, std::size_t N>
+constexpr const Row& NearestRow(const std::array<Row, N>& rows, double altitude) {
+    std::size_t best = 0;
+    for (std::size_t i = 1; i < N; ++i)
+        if (std::fabs(rows[i].altitude - altitude) < std::fabs(rows[best].altitude - altitude)) best = i;
+    return rows[best];
+}
 
 struct WeightAltitude {
     double altitude, weight;

@@ -22,15 +22,6 @@
 
 namespace {
 
-// The row nearest by `key`, the first of two as near.
-template <class Rows, class Key>
-std::size_t Nearest(const Rows& rows, double wanted, Key key) {
-    std::size_t best = 0;
-    for (std::size_t i = 1; i < rows.size(); ++i)
-        if (std::fabs(key(rows[i]) - wanted) < std::fabs(key(rows[best]) - wanted)) best = i;
-    return best;
-}
-
 double LimitedRound(double value, double low, double high) {
     return std::clamp(std::round(value), low, high);
 }
@@ -69,16 +60,6 @@ double GrossWeight() {
     return sim.empty_weight + sim.payload_weight + sim.total_fuel;
 }
 
-void ComputeProfile(double cruise_alt, int) {
-    perf.start_weight = std::max(perf.start_weight, GrossWeight() + perf.reserves);
-    if (cruise_alt <= 0) perf.cruise_alt = perf.init_cruise_alt = cruise_alt = BestAltitude();
-    if (cruise_alt <= 0) return;
-    const double mean_altitude = cruise_alt / 2;
-    perf.clb_tas = PlanningTas(perf.climb_ias, mean_altitude);
-    perf.des_tas = PlanningTas(perf.descent_ias, mean_altitude);
-    perf.crz_tas = PlanningTas(perf.cruise_ias, cruise_alt);
-}
-
 void ComputeDistances(int) {
     perf.dist_to_dest = 0;
     if (plan.active.stpos == kNoPlan || plan.active.stpos < 1) return;
@@ -92,7 +73,7 @@ void ComputeDistances(int) {
         const FlightPlanLeg& leg = legs[i];
         if (!IsPlace(leg) || IsMissedApproach(leg)) continue;
         const auto measure = [&](int passed, int before, double at_lat, double at_lon, double& dist) {
-            if (passed == 0 && before == from && (at_lat != 0 || at_lon != 0))
+            if (passed == 0 && before >= from && before < i && (at_lat != 0 || at_lon != 0))
                 dist = sum + GreatCircle(lat, lon, at_lat, at_lon).dist;
         };
         measure(vnav.toc, vnav.toc_stpos, vnav.toc_lat, vnav.toc_lon, perf.dist_to_toc);
@@ -174,9 +155,8 @@ double BestAltitude() {
     // Both ends are walked towards each other, the lower one first, until they have used up the route.
     for (double used = 0; used < route && std::min(climbed, descended) < ceiling; used += kStep) {
         const bool climbing = climbed <= descended;
-        const auto altitude_of = [](const auto& row) { return row.altitude; };
-        const ClimbPerfRow& climb = kClimbPerf[Nearest(kClimbPerf, climbed, altitude_of)];
-        const DescentPerfRow& descent = kDescentPerf[Nearest(kDescentPerf, descended, altitude_of)];
+        const ClimbPerfRow& climb = NearestRow(kClimbPerf, climbed);
+        const DescentPerfRow& descent = NearestRow(kDescentPerf, descended);
         constexpr double kSpeedLimitAltitude = 10000, kFastestBelow = 300;
         double speed = climbing ? climb.speed : descent.speed;
         if (climbing && climbed < kSpeedLimitAltitude)
@@ -186,18 +166,16 @@ double BestAltitude() {
             descended += cfg.DescFpa * 100 * descent.speed / 60 * minutes;
             continue;
         }
-        const auto weight_at = [](double w) { return w; };
-        climbed += climb.rate[Nearest(kClimbPerfWeights, weight, weight_at)] * minutes;
+        climbed += climb.rate[NearestPlace(kClimbPerfWeights, weight)] * minutes;
         weight -= climb.fuel_flow / 60 * minutes;
     }
     return std::floor(std::min({climbed, descended, ceiling}) / 100) * 100;
 }
 
 ClimbPerformance ClimbRate(double weight, double altitude) {
-    const ClimbPerfRow& row =
-        kClimbPerf[Nearest(kClimbPerf, altitude, [](const ClimbPerfRow& r) { return r.altitude; })];
+    const ClimbPerfRow& row = NearestRow(kClimbPerf, altitude);
     if (cfg.RocTest != 1) return {perf.default_climb_rate, row.fuel_flow};
-    const double rate = row.rate[Nearest(kClimbPerfWeights, weight, [](double w) { return w; })];
+    const double rate = row.rate[NearestPlace(kClimbPerfWeights, weight)];
     return {rate > 0 ? rate : perf.default_climb_rate, row.fuel_flow};
 }
 

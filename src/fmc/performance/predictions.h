@@ -11,10 +11,6 @@ double DisplayWeight(double lb);
 /// Gross weight (lb): as the performance pages have it, else empty weight, payload and fuel of the aircraft.
 double GrossWeight();
 
-/// The whole vertical profile for a cruise altitude: top of climb and of descent, altitudes and speeds at the
-/// legs, burns. Runs on EXEC and on changes of its inputs. Without a cruise altitude the old one stands.
-void ComputeProfile(double cruise_alt, int mode);
-
 /// Distances along the route from the aircraft to the top of climb, the top of descent and the destination,
 /// and the bearing to it. With `at_exec` 0, at a sequencing, the step point is looked at as well.
 void ComputeDistances(int at_exec);

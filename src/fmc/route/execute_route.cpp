@@ -13,6 +13,7 @@
 #include "fmc/legs/route_rows.h"
 #include "fmc/performance/default_speeds.h"
 #include "fmc/performance/predictions.h"
+#include "fmc/performance/profile.h"
 #include "fmc/performance/vertical_segment.h"
 #include "fmc/procedures/end_airports.h"
 #include "fmc/route/modification.h"
