@@ -16,6 +16,7 @@
 #include "state/cfg.h"
 #include "state/cockpit.h"
 #include "state/perf.h"
+#include "state/plan.h"
 #include "state/sim.h"
 #include "state/variable_directory.h"
 
@@ -108,10 +109,10 @@ void ApplyReadRule(const ConfigKey& key) {
                              std::string(FamilyName(0)).c_str());
             break;
         case ReadRule::kDescentIas:
-            perf.pending_descent_ias = cfg.ClimbIas;
+            plan.mod.entries.speeds.descent_ias = cfg.ClimbIas;
             break;
         case ReadRule::kCruiseIas:
-            perf.pending_cruise_ias = cfg.ClimbIas;
+            plan.mod.entries.speeds.cruise_ias = cfg.ClimbIas;
             break;
     }
 }

@@ -32,11 +32,14 @@ struct Pattern {
 
 const char* const kPointNames[] = {"", "Xwind", "Dwind", "Base", "Final"};
 
-// The active plan's first hold; those of a modification have no leg in it yet.
-int FirstHold() {
-    for (int i = 1; i <= plan.hold_cnt; ++i)
-        if (plan.HoldList[i].leg > 0) return i;
-    return 0;
+// The active plan's next hold; those of a modification have no leg in it yet. 0 = none.
+int HoldAhead() {
+    int next = 0;
+    for (int i = 1; i <= HoldRecordCount(); ++i) {
+        const int leg = plan.HoldList[i].leg;
+        if (leg > 0 && leg >= plan.active.stpos && (next == 0 || leg < plan.HoldList[next].leg)) next = i;
+    }
+    return next;
 }
 
 void TakeVariation(HoldRecord& hold) {
@@ -125,7 +128,6 @@ void StopHolding() {
 
 // The aircraft leaves from where it is in the pattern. At the plan's last fix it flies there once more.
 void LeaveHold(int index) {
-    plan.HoldList[index].pending_leg = plan.HoldList[index].leg;
     RemoveHoldRecord(index);
     StopHolding();
     lnav.hold_exit = 0;
@@ -138,7 +140,7 @@ void LeaveHold(int index) {
 }  // namespace
 
 void HoldUpdate() {
-    const int index = FirstHold();
+    const int index = HoldAhead();
     if (index == 0) {
         if (lnav.holding == 1) StopHolding();
         return;

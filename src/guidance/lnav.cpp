@@ -238,7 +238,7 @@ void RunPass(bool overflown) {
 }
 
 void RemovePassedHolds() {
-    for (int i = plan.hold_cnt; i >= 1; --i)
+    for (int i = HoldRecordCount(); i >= 1; --i)
         if (plan.HoldList[i].leg < plan.active.stpos && plan.HoldList[i].pending_leg == 0)
             RemoveHoldRecord(i);
 }

@@ -8,7 +8,11 @@
 void VnavSpeedStep() {
     if (vnav.vnav_engaged != 1 || !IsRouteActive() || plan.active.stpos == kNoPlan) return;
     const bool climb = vnav.toc == 0, descent = vnav.tod == 1 || vnav.init_tod == 1;
-    vnav.vnav_ias = descent ? perf.descent_ias : climb ? perf.climb_ias : perf.cruise_ias;
-    vnav.vnav_mach = descent ? perf.descent_mach : climb ? perf.climb_mach : perf.cruise_mach;
+    vnav.vnav_ias = descent ? perf.speeds.descent_ias
+                    : climb ? perf.speeds.climb_ias
+                            : perf.speeds.cruise_ias;
+    vnav.vnav_mach = descent ? perf.speeds.descent_mach
+                     : climb ? perf.speeds.climb_mach
+                             : perf.speeds.cruise_mach;
     vnav.vnav_spd_pending = 1;
 }

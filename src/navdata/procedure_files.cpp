@@ -219,7 +219,7 @@ bool PlaceLeg(const Reading& reading, const ProcedureRecord& record, ProcedureLe
                        .altitude = leg.code_alt,
                        .elevation = static_cast<double>(reading.airport.elevation_ft),
                        .variation = reading.variation,
-                       .climb_speed = perf.climb_ias > 0 ? perf.climb_ias : 250,
+                       .climb_speed = perf.speeds.climb_ias > 0 ? perf.speeds.climb_ias : 250,
                        .role = leg.applies_to};
     LatLon end;
     if (compute(code, input, end) != 0) return false;

@@ -3,29 +3,17 @@
 #include <span>
 #include <string>
 
+#include "state/planned_speeds.h"
 #include "state/variable.h"
 
 /// Speeds, altitudes and weights that the crew or the cost index sets, and what predictions make of them.
 /// Filled by the performance pages, ExecuteRoute and fmc/predictions. Pounds, feet, knots, nm.
 struct PerfState {
-    double climb_ias = 0, climb_mach = 0;
-    double cruise_ias = 0, cruise_mach = 0;
-    double descent_ias = 0, descent_mach = 0;
-    // 1 = the speed was set by hand, so that a cost index leaves it
-    int climb_ias_manual = 0, climb_mach_manual = 0;
-    int cruise_ias_manual = 0, cruise_mach_manual = 0;
-    int descent_ias_manual = 0, descent_mach_manual = 0;
-    // entered on the pages, applied by EXEC; 0 = nothing pending
-    double pending_climb_ias = 0, pending_climb_mach = 0;
-    double pending_cruise_ias = 0, pending_cruise_mach = 0;
-    double pending_descent_ias = 0, pending_descent_mach = 0;
-    int pending_step_size = -99;    // -99 = nothing pending
-    int pending_cost_index = -1;    // -1 = none
-    double pending_cruise_alt = 0;  // ft
-    int cost_index = -1;            // negative = none
-    double cruise_alt = 0;          // ft, 0 = none
-    double init_cruise_alt = 0;     // the altitude planned before the first step
-    int fms_step_size = 0;          // ft; 0 entered step-to altitude, -1 ICAO, -2 RVSM
+    PlannedSpeeds speeds;        // in force
+    int cost_index = -1;         // negative = none
+    double cruise_alt = 0;       // ft, 0 = none
+    double init_cruise_alt = 0;  // the altitude planned before the first step
+    int fms_step_size = 0;       // ft; 0 entered step-to altitude, -1 ICAO, -2 RVSM
     double fms_step_to_alt = 0;
     double entered_step_to_alt = 0;
     double clb_spd_trans_alt = 10000, clb_spd_trans_spd = 250;

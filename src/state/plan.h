@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "state/growing_list.h"
+#include "state/planned_speeds.h"
 #include "state/variable.h"
 #include "state/wind_level.h"
 
@@ -31,7 +32,7 @@ struct FlightPlanLeg {
     double rad_int = -1;  // radial of an intercept, -1 = none
     int flyover = 0;
     int dep_turn = 0;     // turn demanded at this fix: 1 left, 2 right
-    int hold_pos = 0;     // index into HoldList, 0 = none
+    int hold_pos = 0;     // index into HoldList of the hold at this leg, 0 = none
     double step_alt = 0;  // 0 = none
     std::string vector;   // leg code of a coded leg, "Vector" for a heading leg
     double until_alt = 0;
@@ -71,8 +72,8 @@ struct HoldPoint {
 
 struct HoldRecord {
     std::string ident;
-    int leg = 0;             // leg index in FlightPlan
-    int pending_leg = 0;     // leg index in FlightPlanMod; 0 once promoted
+    int leg = 0;             // leg index in FlightPlan, 0 = not in force yet
+    int pending_leg = 0;     // leg index in FlightPlanMod; 0 once promoted, that is where it is `leg`
     int right_turn = 1;      // 1 right, other left
     double leg_dist = 0;     // nm
     double leg_time = 1;     // minutes
@@ -110,6 +111,17 @@ struct ProcedureSelections {
     FlightPlanLeg shared_leg = {};  // the approach's first leg stands in its place; no ident = none
 };
 
+constexpr int kNoStepEntry = -99;
+
+/// What the crew has typed on the performance pages for EXEC to apply; 0 = nothing, where nothing else is
+/// told.
+struct PerfEntries {
+    PlannedSpeeds speeds;
+    int step_size = kNoStepEntry;  // ft, or a kind of step
+    int cost_index = -1;           // -1 = nothing
+    double cruise_alt = 0;         // ft
+};
+
 /// All that a modification may change. It stands twice: `active` is what is flown and what ERASE brings back,
 /// `mod` is what the pages edit; EXEC makes `mod` the active one. The world knows the legs as FlightPlan and
 /// FlightPlanMod.
@@ -119,8 +131,11 @@ struct RouteVersion {
     int stpos = kNoPlan;              // index of the TO leg
     int bod_pos = 0;                  // leg index that ends the present vertical segment
     ActiveLegRecord active_leg;
-    RouteEnds ends;                  // below state 3 the pages write both
-    ProcedureSelections procedures;  // a selection acts at once: `mod` is what the whole system reads
+    RouteEnds ends;  // below state 3 the pages write both
+    // Selections act at once: `mod` is what the whole system reads.
+    ProcedureSelections procedures;
+    SpeedSelections selected;
+    PerfEntries entries;  // always empty in `active`
 };
 
 /// The route; only fmc/ and guidance/ change it.
@@ -129,11 +144,13 @@ struct PlanState {
     std::string fms_fltno;        // flight number, at most 10 characters; empty = none
     GrowingList<RouteRow> Route;  // rows of the RTE page, from 1
     int route_cnt = 0;
-    int pending_stpos = 0;             // the pending active leg, taken by EXEC when 1 or more
-    GrowingList<HoldRecord> HoldList;  // from 1, in the order of their legs
-    int hold_cnt = 0;
-    GrowingList<HoldRecord> executed_holds;  // as EXEC left them: what ERASE brings back
-    int executed_hold_cnt = 0;
+    int pending_stpos = 0;  // the pending active leg, taken by EXEC when 1 or more
+    // From 1: the holds of `mod` in the order of their legs, then those that `mod` has lost and that are
+    // flown until EXEC. Where a hold stands, the legs of either version tell (`hold_pos`), and `leg` and
+    // `pending_leg` repeat it; its figures act at once, for both.
+    GrowingList<HoldRecord> HoldList;
+    int hold_cnt = 0;         // of `mod`
+    int lost_hold_cnt = 0;    // behind them
     int fms_fpln_active = 0;  // a RouteStatus
     GrowingList<PositionReport> PositionReports;
     int position_report_cnt = 0;

@@ -66,8 +66,8 @@ constexpr StateGroup kGroups[] = {
     {"airports", Reset<&airports>, &kAirportVariables,
      "navdata/ fmc/procedures/select_procedures fmc/route/ fmc/files/loaded_route"},
     {"plan", Reset<&plan>, &kPlanVariables,
-     "fmc/legs/ fmc/performance/ fmc/procedures/ fmc/route/ fmc/files/ guidance/ cdu/words/constraint_entry "
-     "cdu/pages/ module/lifecycle"},
+     "frame/configuration fmc/legs/ fmc/performance/ fmc/procedures/ fmc/route/ fmc/files/ guidance/ "
+     "cdu/words/constraint_entry cdu/pages/ module/lifecycle"},
     {"procedure_lists", Reset<&procedure_lists>, &kProcedureListVariables,
      "fmc/procedures/ fmc/route/ fmc/files/loaded_route"},
     {"winds", Reset<&winds>, &kWindsVariables, "fmc/performance/winds cdu/pages/"},

@@ -25,7 +25,7 @@ namespace {
 class ExecuteRouteTest : public RouteModel {};
 
 TEST_F(ExecuteRouteTest, ExecStepsOverADiscontinuityAndKeepsThePlanInBounds) {
-    perf.pending_cruise_alt = 35000;
+    plan.mod.entries.cruise_alt = 35000;
     EnterAndExecute("ORIG AAA CCC DEST");
     EXPECT_EQ(plan.active.stpos, 1);
     EXPECT_EQ(plan.pending_stpos, 0);
@@ -203,8 +203,8 @@ TEST_F(ExecuteRouteTest, EraseBringsEverythingBack) {
     SelectOriginRunway("34");
     RemoveToRow(2);
     MarkHold(1, false, 0);
-    perf.pending_climb_ias = 300;
-    perf.pending_cruise_alt = 39000;
+    plan.mod.entries.speeds.climb_ias = 300;
+    plan.mod.entries.cruise_alt = 39000;
     EXPECT_EQ(ModLegs(), "ORIG AAA DISCO CCC ALTN");
     EXPECT_EQ(plan.active.ends.dest, "DEST");
     EXPECT_EQ(plan.mod.ends.dest, "ALTN");
@@ -217,8 +217,8 @@ TEST_F(ExecuteRouteTest, EraseBringsEverythingBack) {
     ASSERT_EQ(plan.hold_cnt, 1);
     EXPECT_EQ(plan.HoldList[1].ident, "BBFIX");
     EXPECT_EQ(plan.mod.legs[2].hold_pos, 1);
-    EXPECT_EQ(perf.pending_climb_ias, 0);
-    EXPECT_EQ(perf.pending_cruise_alt, 0);
+    EXPECT_EQ(plan.mod.entries.speeds.climb_ias, 0);
+    EXPECT_EQ(plan.mod.entries.cruise_alt, 0);
     EXPECT_EQ(plan.fms_fpln_active, kRouteActive);
 }
 
@@ -249,28 +249,28 @@ TEST_F(ExecuteRouteTest, SequencingMovesAPendingModificationOn) {
 
 TEST_F(ExecuteRouteTest, SpeedsAndLevelsFollowAtExec) {
     Enter("ORIG AAA DEST");
-    perf.climb_ias = perf.cruise_ias = perf.descent_ias = 280;
-    perf.cruise_mach_manual = 1;
-    perf.cruise_mach = 0.81;
-    perf.pending_cruise_alt = 35000;
-    perf.pending_step_size = -1;
+    perf.speeds.climb_ias = perf.speeds.cruise_ias = perf.speeds.descent_ias = 280;
+    plan.mod.selected.cruise_mach = 1;
+    perf.speeds.cruise_mach = 0.81;
+    plan.mod.entries.cruise_alt = 35000;
+    plan.mod.entries.step_size = -1;
     perf.gross_weight = 400000;
     perf.cruise_alt = 12000;  // of the flight before
     std::string error;
     ExecuteEnteredRoute(error);
     // 280 kt at 30000 ft: 228.714 K, speed of sound 589.33 kt, and 1.54 x 280 of it.
-    EXPECT_NEAR(perf.climb_mach, 0.7317, 1e-4);
-    EXPECT_EQ(perf.cruise_mach, 0.81);
+    EXPECT_NEAR(perf.speeds.climb_mach, 0.7317, 1e-4);
+    EXPECT_EQ(perf.speeds.cruise_mach, 0.81);
     EXPECT_EQ(perf.cruise_alt, 35000);
     EXPECT_EQ(perf.init_cruise_alt, 35000);
     EXPECT_EQ(perf.fms_step_to_alt, 39000);
     EXPECT_EQ(vnav.cross_at_elev, 35000);
-    perf.pending_cost_index = 100;
-    perf.pending_step_size = 7000;
+    plan.mod.entries.cost_index = 100;
+    plan.mod.entries.step_size = 7000;
     AdvanceRouteState();
     ExecuteRoute();
     EXPECT_EQ(perf.cost_index, 100);
-    EXPECT_EQ(perf.cruise_mach_manual, 0);
+    EXPECT_EQ(plan.mod.selected.cruise_mach, 0);
     EXPECT_EQ(perf.fms_step_to_alt, 0);  // 42000 is above the maximum of 41800
     EXPECT_NEAR(perf.perf_factor, 10 * 0.0071 - 0.03, 1e-9);
 }

@@ -155,7 +155,7 @@ TEST_F(HostGps, ARouteIsTaken) {
     EXPECT_EQ(plan.mod.legs[1].type, "VOR");
     EXPECT_EQ(plan.mod.legs[1].freq, "115.00");
     EXPECT_EQ(plan.mod.legs[1].via, "DIRECT");
-    EXPECT_NEAR(perf.pending_cruise_alt, 35000, 1);
+    EXPECT_NEAR(plan.mod.entries.cruise_alt, 35000, 1);
     EXPECT_EQ(plan.active.ends.origin, "ORIG");
     EXPECT_EQ(plan.active.ends.dest, "DEST");
     EXPECT_EQ(plan.fms_fpln_active, kRouteEntered);

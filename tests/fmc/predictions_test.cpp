@@ -91,16 +91,16 @@ TEST_F(Predictions, ClimbTakesTheNearestRowAndWeight) {
 }
 
 TEST_F(Predictions, CostIndexRowsSpareSpeedsSetByHand) {
-    perf.climb_mach_manual = 1;
+    plan.mod.selected.climb_mach = 1;
     ApplyCostIndexRow(true, 155);
-    EXPECT_EQ(perf.climb_ias, 332);
-    EXPECT_EQ(perf.climb_mach, 0);
-    EXPECT_EQ(perf.descent_mach, 0.843);
+    EXPECT_EQ(perf.speeds.climb_ias, 332);
+    EXPECT_EQ(perf.speeds.climb_mach, 0);
+    EXPECT_EQ(perf.speeds.descent_mach, 0.843);
     ApplyCostIndexRow(false, 40);
-    EXPECT_EQ(perf.pending_cruise_mach, 0.830);
-    EXPECT_EQ(perf.cruise_mach, 0.853);
+    EXPECT_EQ(plan.mod.entries.speeds.cruise_mach, 0.830);
+    EXPECT_EQ(perf.speeds.cruise_mach, 0.853);
     ApplyCostIndexRow(true, 41);
-    EXPECT_EQ(perf.climb_ias, 332);
+    EXPECT_EQ(perf.speeds.climb_ias, 332);
 }
 
 TEST_F(Predictions, DistancesPassOverWhatIsNotFlown) {
@@ -156,9 +156,9 @@ class Profile : public Predictions {
         --plan.active.leg_cnt;
         plan.active.stpos = 1;
         cfg.RocTest = 0;
-        perf.climb_ias = 300;
-        perf.cruise_ias = 290;
-        perf.descent_ias = 280;
+        perf.speeds.climb_ias = 300;
+        perf.speeds.cruise_ias = 290;
+        perf.speeds.descent_ias = 280;
         perf.gross_weight = 450000;
         perf.cruise_alt = 30000;
     }

@@ -85,7 +85,7 @@ TEST_F(RouteFiles, AShortRowGivesTheFieldsThatItHas) {
              "ORIG 39 10 APT\r\nAAA 40 10\r\nUSERP 41.5 9 WPT\r\nDEST 45 10 APT\r\n"),
         1);
     EXPECT_EQ(Idents(plan.mod.legs, plan.mod.leg_cnt), "ORIG AAA USERP DEST");
-    EXPECT_EQ(perf.pending_cruise_alt, 35000);
+    EXPECT_EQ(plan.mod.entries.cruise_alt, 35000);
     EXPECT_EQ(perf.cost_index, 80);
     EXPECT_EQ(perf.planned_fuel, 10500);
     EXPECT_EQ(perf.resv_fuel, 500);
@@ -105,8 +105,8 @@ TEST_F(RouteFiles, AShortRowGivesTheFieldsThatItHas) {
     EXPECT_EQ(plan.fms_fpln_active, kRouteEntered);
     EXPECT_EQ(plan.new_route, 1);
     EXPECT_EQ(plan.pending_stpos, 1);
-    EXPECT_EQ(perf.climb_ias, 300);
-    EXPECT_EQ(perf.descent_mach, 0.74);
+    EXPECT_EQ(perf.speeds.climb_ias, 300);
+    EXPECT_EQ(perf.speeds.descent_mach, 0.74);
     EXPECT_EQ(perf.fplog_mode, -1);
     AdvanceRouteState();
     ExecuteRoute();
@@ -198,7 +198,7 @@ TEST_F(RouteFiles, AnActiveRouteIsModifiedAndComesBack) {
     AdvanceRouteState();
     ExecuteRoute();
     ASSERT_EQ(plan.hold_cnt, 1);
-    perf.climb_ias = 250;
+    perf.speeds.climb_ias = 250;
     const std::string before = Idents(plan.active.legs, plan.active.leg_cnt);
     ASSERT_EQ(Load("CostIndex=90\nFuel=50\n[FlightPlan]\nDEST 45 10 APT\nEEE 44 10\nALTN 45 12 APT\n"), 1);
     EXPECT_EQ(plan.fms_fpln_active, kRouteModified);
@@ -206,7 +206,7 @@ TEST_F(RouteFiles, AnActiveRouteIsModifiedAndComesBack) {
     EXPECT_EQ(plan.active.ends.origin, "DEST");
     EXPECT_EQ(plan.active.ends.dest, "DEST");
     EXPECT_EQ(plan.mod.ends.dest, "ALTN");
-    EXPECT_EQ(perf.climb_ias, 250);  // what is flown stays until EXEC
+    EXPECT_EQ(perf.speeds.climb_ias, 250);  // what is flown stays until EXEC
     EraseModification();
     ExpectInvariants("ERASE");
     EXPECT_EQ(Idents(plan.mod.legs, plan.mod.leg_cnt), before);
@@ -279,7 +279,7 @@ TEST_F(RouteFiles, HostileFiles) {
         ExpectInvariants(row.idents.substr(0, 80));
         plan.fms_fpln_active = kRouteNone;
     }
-    EXPECT_EQ(perf.pending_cruise_alt, 0);
+    EXPECT_EQ(plan.mod.entries.cruise_alt, 0);
     EXPECT_EQ(perf.cost_index, -1);
     Load(many + end);
     EXPECT_EQ(plan.mod.leg_cnt, 100001);
@@ -379,7 +379,7 @@ void SaveAndLoad(const std::string& route, int approach) {
     edited.block_above = 9000;
     edited.block_below = 11000;
     edited.vector_trk_lat = -9.123456;
-    perf.pending_cruise_alt = 35000;
+    plan.mod.entries.cruise_alt = 35000;
     ASSERT_EQ(ExecuteEnteredRoute(error), 1) << error;
     ASSERT_EQ(SaveCompanyRoute("SAVED.RTE"), 1);
     const auto saved = plan.active.legs;
@@ -393,7 +393,7 @@ void SaveAndLoad(const std::string& route, int approach) {
         for (int i = 1; i <= count; ++i) ExpectSameLeg(saved[i], plan.mod.legs[i]);
         EXPECT_EQ(plan.hold_cnt, holds);
         EXPECT_EQ(Rows(), rows);
-        EXPECT_EQ(perf.pending_cruise_alt, 35000);
+        EXPECT_EQ(plan.mod.entries.cruise_alt, 35000);
         ExecuteRoute();
         ExpectInvariants(route);
         ASSERT_EQ(plan.active.leg_cnt, count);

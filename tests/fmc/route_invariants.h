@@ -38,15 +38,17 @@ inline void ExpectInvariants(const std::string& after) {
     }
     for (int i = 0; i <= plan.active.leg_cnt; ++i) ASSERT_NE(plan.active.legs[i].ident, "THEN") << after;
     ASSERT_LE(plan.hold_cnt, kMostHolds) << after;
+    const auto mod_leg = [](const HoldRecord& hold) {
+        return hold.pending_leg > 0 ? hold.pending_leg : hold.leg;
+    };
     for (int i = 1; i <= plan.hold_cnt; ++i) {
-        if (plan.HoldList[i].pending_leg == kHoldTakenOut) continue;
-        const int leg = HoldLegInModification(plan.HoldList[i]);
+        const int leg = mod_leg(plan.HoldList[i]);
         ASSERT_GE(leg, 1) << after;
         ASSERT_LE(leg, plan.mod.leg_cnt) << after;
         ASSERT_LE(plan.HoldList[i].leg, plan.active.leg_cnt) << after;
         ASSERT_EQ(plan.mod.legs[leg].hold_pos, i) << after;
         ASSERT_EQ(plan.mod.legs[leg].ident, plan.HoldList[i].ident) << after;
-        const int before = i > 1 ? HoldLegInModification(plan.HoldList[i - 1]) : 0;
+        const int before = i > 1 ? mod_leg(plan.HoldList[i - 1]) : 0;
         ASSERT_LT(before, leg) << after;
     }
     if (plan.fms_fpln_active >= kRouteActive) {

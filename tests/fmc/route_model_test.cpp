@@ -38,10 +38,10 @@ TEST_F(RouteModel, StateAdvancesInItsCircleAndPreparesTheAircraftOnTheGround) {
     }
     EXPECT_EQ(plan.pending_stpos, 4);
     EXPECT_TRUE(host.events.empty());
-    perf.pending_cruise_alt = 999;
+    plan.mod.entries.cruise_alt = 999;
     AdvanceRouteState();
     EXPECT_TRUE(host.events.empty());
-    perf.pending_cruise_alt = 35000;
+    plan.mod.entries.cruise_alt = 35000;
     perf.planned_fuel = 90000;
     host.tokens = {{290, 20000}, {292, 5000}, {298, 5000}, {306, 6.7}};
     AdvanceRouteState();
@@ -239,10 +239,10 @@ TEST_F(RouteModel, HoldsFollowTheirLegs) {
     EXPECT_EQ(lnav.holding, 1);
     EXPECT_EQ(plan.mod.legs[4].hold_pos, 0);
     EraseModification();
-    EXPECT_EQ(plan.mod.legs[4].hold_pos, 1);
-    RemoveHold(1);
+    EXPECT_EQ(plan.mod.legs[4].hold_pos, 2);  // guidance has yet to pass the first
     ConnectLegs(4, 5, kCaptain);
-    EXPECT_EQ(plan.hold_cnt, 1);
+    EXPECT_EQ(plan.hold_cnt, 0);
+    EXPECT_EQ(plan.active.legs[4].hold_pos, 2);  // flown until EXEC
     EXPECT_EQ(lnav.holding, 1);
     ExecuteRoute();
     EXPECT_EQ(plan.hold_cnt, 0);

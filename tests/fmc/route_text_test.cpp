@@ -107,7 +107,7 @@ TEST_F(RouteText, TakesTypesRunwaysAndTheFirstLevel) {
     EXPECT_EQ(plan.mod.legs[6].type, "NDB");
     EXPECT_EQ(plan.mod.legs[6].freq, "300.0");
     EXPECT_EQ(plan.mod.legs[6].via_type, "AWY");
-    EXPECT_EQ(perf.pending_cruise_alt, 35000);
+    EXPECT_EQ(plan.mod.entries.cruise_alt, 35000);
     EXPECT_EQ(plan.fms_fpln_active, kRouteEntered);
     std::string error;
     ASSERT_EQ(ExecuteEnteredRoute(error), 1) << error;
@@ -122,7 +122,7 @@ TEST_F(RouteText, TakesTypesRunwaysAndTheFirstLevel) {
 
 TEST_F(RouteText, MetricLevelsAreRoundedToHundredsOfFeet) {
     Enter("ORIG K0900S1130 AAA DEST");
-    EXPECT_EQ(perf.pending_cruise_alt, 37100);  // 11,300 m are 37,073 ft
+    EXPECT_EQ(plan.mod.entries.cruise_alt, 37100);  // 11,300 m are 37,073 ft
 }
 
 TEST_F(RouteText, SurvivesAnyBytes) {

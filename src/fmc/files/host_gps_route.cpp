@@ -99,7 +99,7 @@ void ImportHostGpsRoute(int side) {
         FlightPlanLeg leg = LegOf(waypoint, at == 0 || at == last);
         if (!leg.ident.empty() && std::fabs(leg.lat) <= 90) AddLoadedLeg(std::move(leg));
     }
-    perf.pending_cruise_alt = highest;
+    plan.mod.entries.cruise_alt = highest;
     FinishLoadedRoute("");
     requests.show_rte = side;
 }

@@ -74,24 +74,23 @@ void TakeDestination(std::string_view company_route) {
     plan.mod.ends.dest = last.ident;
     plan.mod.ends.company_route = company_route;
     if (!IsRouteActive()) plan.active.ends = plan.mod.ends;
-    plan.mod.procedures = {.dep_sid = plan.mod.procedures.dep_sid,
-                           .dep_trans = plan.mod.procedures.dep_trans};
+    ClearArrivalSelections();
     if (LoadDestinationAirport(last.ident) == 0) airports.dest_airport = UnknownAirport(last);
 }
 
 }  // namespace
 
 void BeginLoadedRoute() {
-    for (int i = plan.hold_cnt; i >= 1; --i) RemoveHold(HoldLegInModification(plan.HoldList[i]));
     for (int i = 0; i <= plan.mod.leg_cnt; ++i) plan.mod.legs[i] = {};
     plan.mod.leg_cnt = -1;
     plan.mod.bod_pos = 0;
+    RenumberHolds();
     plan.direct_to_pending = 0;
     plan.mod.active_leg = plan.active.active_leg;
     plan.awy_list_cnt = plan.awy_start_pos = plan.awy_start_leg = 0;
     plan.along_track_nm = 0;
     procedure_lists = {};
-    perf.pending_cruise_alt = 0;
+    plan.mod.entries.cruise_alt = 0;
     perf.planned_fuel = 0;
     if (cfg.CostIndex > kNoCostIndex) PlanCostIndex(cfg.CostIndex);
     requests.leave_legs_view = 1;
@@ -107,7 +106,7 @@ void MarkLoadedRouteNew() {
 void PlanCostIndex(double index) {
     constexpr int kMost = 999;
     if (index < kNoCostIndex || index > kMost) return;
-    (IsRouteActive() ? perf.pending_cost_index : perf.cost_index) = static_cast<int>(index);
+    (IsRouteActive() ? plan.mod.entries.cost_index : perf.cost_index) = static_cast<int>(index);
 }
 
 void AddLoadedLeg(FlightPlanLeg leg) {
@@ -126,6 +125,5 @@ void FinishLoadedRoute(std::string_view company_route) {
     FlightLogStep(false);
     TakeOrigin();
     TakeDestination(company_route);
-    if (!IsRouteActive()) plan.active.procedures = plan.mod.procedures;
     if (sim.on_ground == 1) perf.fplog_mode = -1;
 }

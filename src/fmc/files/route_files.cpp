@@ -229,7 +229,7 @@ class RouteReader {
         const double value = LeadingDouble(text);
         const double fuel = value >= 0 && value <= kMostFuel ? value : 0;
         if (EqualIgnoringCase(key, "CruiseAlt")) {
-            if (value >= 0 && value <= kHighest) perf.pending_cruise_alt = value;
+            if (value >= 0 && value <= kHighest) plan.mod.entries.cruise_alt = value;
         } else if (EqualIgnoringCase(key, "CostIndex")) {
             PlanCostIndex(value);
         } else if (EqualIgnoringCase(key, "TripFuel")) {

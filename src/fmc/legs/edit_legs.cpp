@@ -143,7 +143,7 @@ void RecomputeCodedLeg(int index) {
                        .altitude = leg.until_alt,
                        .elevation = static_cast<double>(airport.elevation_ft),
                        .variation = variation,
-                       .climb_speed = perf.climb_ias > 0 ? perf.climb_ias : 250,
+                       .climb_speed = perf.speeds.climb_ias > 0 ? perf.speeds.climb_ias : 250,
                        .role = leg.appr_wpt_type};
     LatLon end;
     const int failed = leg.via_type == kApproachViaType ? ComputeApproachLeg(code, input, end)

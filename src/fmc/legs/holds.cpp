@@ -1,7 +1,9 @@
 #include "fmc/legs/holds.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
+#include <vector>
 
 #include "base/angles.h"
 #include "fmc/legs/find_leg.h"
@@ -14,18 +16,25 @@
 
 namespace {
 
-int HoldAt(int leg) {
-    for (int i = 1; i <= plan.hold_cnt; ++i)
-        if (HoldLegInModification(plan.HoldList[i]) == leg) return i;
-    return 0;
-}
-
 bool IsFlown(const HoldRecord& hold) {
     return lnav.holding == 1 && hold.leg > 0 && hold.leg == plan.active.stpos;
 }
 
-void ClearHoldPositions(GrowingList<FlightPlanLeg>& legs, int count) {
-    for (int i = 0; i <= count; ++i) legs[i].hold_pos = 0;
+// Calls visit(leg, hold_pos) for the legs of a version that bear a hold of the list; what isn't one of its
+// places, or stands at an earlier leg already, is cleared.
+template <class Visit>
+void VisitHoldLegs(RouteVersion& version, int records, Visit visit) {
+    std::array<bool, kMostHoldRecords + 1> seen = {};
+    for (int leg = 1; leg <= version.leg_cnt; ++leg) {
+        int& place = version.legs[leg].hold_pos;
+        if (place == 0) continue;
+        const bool stands =
+            place > 0 && place <= records && !std::exchange(seen[static_cast<std::size_t>(place)], true);
+        if (stands)
+            visit(leg, place);
+        else
+            place = 0;
+    }
 }
 
 // Where a leg of the active plan stands in the working copy: a modification may have moved it, or taken it
@@ -36,24 +45,35 @@ int SameModLeg(const FlightPlanLeg& fix, int leg) {
 
 }  // namespace
 
-int HoldLegInModification(const HoldRecord& hold) {
-    if (hold.pending_leg == kHoldTakenOut) return 0;
-    return hold.pending_leg > 0 ? hold.pending_leg : hold.leg;
+int HoldRecordCount() {
+    return std::clamp(plan.hold_cnt + plan.lost_hold_cnt, 0, kMostHoldRecords);
 }
 
 void RenumberHolds() {
-    GrowingList<HoldRecord>& holds = plan.HoldList;
-    const auto place = [&](int i) { return holds[i].pending_leg > 0 ? holds[i].pending_leg : holds[i].leg; };
-    for (int i = 2; i <= plan.hold_cnt; ++i)
-        for (int j = i; j > 1 && place(j) < place(j - 1); --j) std::swap(holds[j], holds[j - 1]);
-    ClearHoldPositions(plan.active.legs, plan.active.leg_cnt);
-    ClearHoldPositions(plan.mod.legs, plan.mod.leg_cnt);
-    for (int i = 1; i <= plan.hold_cnt; ++i) {
-        const int leg = holds[i].leg;
-        const int mod_leg = HoldLegInModification(holds[i]);
-        if (leg > 0 && leg <= plan.active.leg_cnt) plan.active.legs[leg].hold_pos = i;
-        if (mod_leg > 0 && mod_leg <= plan.mod.leg_cnt) plan.mod.legs[mod_leg].hold_pos = i;
-    }
+    const int records = HoldRecordCount();
+    std::vector<HoldRecord> before;
+    for (int i = 0; i <= records; ++i) before.push_back(std::exchange(plan.HoldList[i], HoldRecord{}));
+    std::array<int, kMostHoldRecords + 1> place_now = {};
+    int count = 0;
+    const auto keep = [&](int& place) -> HoldRecord& {
+        int& now = place_now[static_cast<std::size_t>(place)];
+        if (now == 0) {
+            now = ++count;
+            plan.HoldList[now] = std::move(before[static_cast<std::size_t>(place)]);
+            plan.HoldList[now].leg = plan.HoldList[now].pending_leg = 0;
+        }
+        place = now;
+        return plan.HoldList[now];
+    };
+    VisitHoldLegs(plan.mod, records, [&](int leg, int& place) { keep(place).pending_leg = leg; });
+    plan.hold_cnt = count;
+    VisitHoldLegs(plan.active, records, [&](int leg, int& place) {
+        HoldRecord& hold = keep(place);
+        hold.leg = leg;
+        if (hold.pending_leg == leg) hold.pending_leg = 0;
+    });
+    plan.lost_hold_cnt = count - plan.hold_cnt;
+    if (records > 0 && plan.hold_cnt == 0) requests.leave_hold_page = 1;
 }
 
 void MarkHold(int leg, bool active, int prev_leg) {
@@ -62,10 +82,9 @@ void MarkHold(int leg, bool active, int prev_leg) {
     if (plan.hold_cnt >= kMostHolds || leg < 1 || leg > last || !IsPlace(legs[leg])) return;
     const FlightPlanLeg& fix = legs[leg];
     const int mod_leg = active ? SameModLeg(fix, leg) : leg;
-    if (mod_leg == 0 || HoldAt(mod_leg) > 0) return;
+    if (mod_leg == 0 || plan.mod.legs[mod_leg].hold_pos > 0) return;
     HoldRecord hold;
     hold.ident = fix.ident;
-    hold.pending_leg = mod_leg;
     hold.magvar = MagVarAt(fix.lat, fix.lon);
     const int start = PlaceBefore(legs, std::min(prev_leg, last) + 1);
     if (start >= 0) {
@@ -78,63 +97,36 @@ void MarkHold(int leg, bool active, int prev_leg) {
                     {0, 0, "Dwind", 0},
                     {0, 0, "Base", 0},
                     {0, 0, "Final", 0}}};
-    plan.HoldList[++plan.hold_cnt] = std::move(hold);
+    ++plan.hold_cnt;
+    plan.mod.legs[mod_leg].hold_pos = HoldRecordCount();
+    plan.HoldList[HoldRecordCount()] = std::move(hold);
     RenumberHolds();
 }
 
 void RemoveHold(int leg) {
-    const int index = leg > 0 ? HoldAt(leg) : 0;
-    if (index == 0) return;
-    HoldRecord& hold = plan.HoldList[index];
-    if (!IsFlown(hold)) return RemoveHoldRecord(index);
-    hold.pending_leg = kHoldTakenOut;
+    if (leg < 1 || leg > plan.mod.leg_cnt) return;
+    plan.mod.legs[leg].hold_pos = 0;
     RenumberHolds();
 }
 
 void RemoveHoldRecord(int hold) {
-    if (hold < 1 || hold > plan.hold_cnt) return;
-    GrowingList<HoldRecord>& holds = plan.HoldList;
-    if (IsFlown(holds[hold])) {
+    if (hold < 1 || hold > HoldRecordCount()) return;
+    if (IsFlown(plan.HoldList[hold])) {
         lnav.hold_exit = 4;
         lnav.holding = 0;
         lnav.hold_point = 0;
     }
-    static_cast<void>(holds[plan.hold_cnt + 1]);
-    for (int i = hold; i < plan.hold_cnt; ++i) holds[i] = std::move(holds[i + 1]);
-    holds[plan.hold_cnt] = HoldRecord{};
-    --plan.hold_cnt;
+    for (RouteVersion* version : {&plan.active, &plan.mod})
+        VisitHoldLegs(*version, HoldRecordCount(), [hold](int, int& place) {
+            if (place == hold) place = 0;
+        });
     RenumberHolds();
-    if (plan.hold_cnt == 0) requests.leave_hold_page = 1;
+}
+
+void RemoveLostHolds() {
+    for (int i = HoldRecordCount(); i > plan.hold_cnt; --i) RemoveHoldRecord(i);
 }
 
 void RemoveAllHolds() {
-    while (plan.hold_cnt > 0) RemoveHoldRecord(plan.hold_cnt);
-}
-
-void PromoteHolds() {
-    for (int i = plan.hold_cnt; i >= 1; --i)
-        if (plan.HoldList[i].pending_leg == kHoldTakenOut) RemoveHoldRecord(i);
-    for (int i = 1; i <= plan.hold_cnt; ++i) {
-        HoldRecord& hold = plan.HoldList[i];
-        if (hold.pending_leg > 0) hold.leg = std::exchange(hold.pending_leg, 0);
-    }
-    RenumberHolds();
-    for (int i = 1; i <= plan.hold_cnt; ++i) plan.executed_holds[i] = plan.HoldList[i];
-    plan.executed_hold_cnt = plan.hold_cnt;
-}
-
-void DropPendingHolds() {
-    for (int i = plan.hold_cnt; i >= 1; --i) {
-        plan.HoldList[i].pending_leg = 0;
-        if (plan.HoldList[i].leg == 0) RemoveHoldRecord(i);
-    }
-    RenumberHolds();
-}
-
-void RestoreExecutedHolds() {
-    plan.hold_cnt = 0;
-    for (int i = 1; i <= plan.executed_hold_cnt; ++i)
-        if (plan.executed_holds[i].leg >= plan.active.stpos)
-            plan.HoldList[++plan.hold_cnt] = plan.executed_holds[i];
-    RenumberHolds();
+    for (int i = HoldRecordCount(); i >= 1; --i) RemoveHoldRecord(i);
 }

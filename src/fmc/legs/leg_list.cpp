@@ -15,11 +15,6 @@ bool HasActiveLeg() {
 
 // Moves what points at legs from `first` on by `offset` places.
 void ShiftReferences(int first, int offset) {
-    for (int i = 1; i <= plan.hold_cnt; ++i) {
-        HoldRecord& hold = plan.HoldList[i];
-        const int leg = HoldLegInModification(hold);
-        if (leg >= first) hold.pending_leg = leg + offset;
-    }
     if (plan.mod.bod_pos >= first) plan.mod.bod_pos += offset;
     if (plan.awy_start_leg >= first) plan.awy_start_leg += offset;
 }
@@ -53,7 +48,6 @@ void RemoveModLegs(int first, int count) {
     count = std::min(count, plan.mod.leg_cnt - first + 1);
     if (count <= 0) return;
     const int behind = first + count;
-    for (int i = first; i < behind; ++i) RemoveHold(i);
     if (plan.awy_start_leg >= first && plan.awy_start_leg < behind) plan.awy_start_pos = 0;
     GrowingList<FlightPlanLeg>& legs = plan.mod.legs;
     static_cast<void>(legs[plan.mod.leg_cnt + 1]);

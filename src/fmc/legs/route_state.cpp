@@ -22,8 +22,8 @@ void PrepareAircraftForRoute() {
     if (sim.ground_speed_kt >= kStanding) return;
     if (cfg.LoadFuelonFlightPlanLoad == 1 && perf.planned_fuel > 0)
         LoadTotalFuel(std::exchange(perf.planned_fuel, 0));
-    if (cfg.SetMCPCruiseAltonFlightPlanLoad == 1 && perf.pending_cruise_alt >= kLowestCruise)
-        SendKeyEvent(kKeyAltitudeSet, static_cast<int>(std::min(perf.pending_cruise_alt, 99999.0)));
+    if (cfg.SetMCPCruiseAltonFlightPlanLoad == 1 && plan.mod.entries.cruise_alt >= kLowestCruise)
+        SendKeyEvent(kKeyAltitudeSet, static_cast<int>(std::min(plan.mod.entries.cruise_alt, 99999.0)));
 }
 
 }  // namespace

@@ -5,6 +5,8 @@
 #include <cmath>
 #include <cstddef>
 
+#include "state/planned_speeds.h"
+
 // The aircraft's built-in performance, the same for all variants. Feet, pounds, knots, pounds an hour, feet a
 // minute.
 
@@ -91,7 +93,7 @@ constexpr std::array<WeightAltitude, 11> kAltitudeByWeight = {{
 
 struct CostIndexRow {
     int cost_index;
-    double climb_ias, climb_mach, cruise_ias, cruise_mach, descent_ias, descent_mach;
+    PlannedSpeeds speeds;
 };
 constexpr std::array<CostIndexRow, 21> kCostIndexTable = {{
     {0, 300, 0.809, 300, 0.812, 290, 0.806},   {10, 302, 0.814, 302, 0.817, 292, 0.811},

@@ -45,10 +45,6 @@ void SetFinalPoint() {
     perf.final_point_set = 1;
 }
 
-void Take(double value, int manual, double& speed) {
-    if (manual == 0) speed = value;
-}
-
 }  // namespace
 
 double DisplayWeight(double lb) {
@@ -93,13 +89,9 @@ void ComputeDistances(int) {
 void ApplyCostIndexRow(bool active, int index) {
     for (const CostIndexRow& row : kCostIndexTable) {
         if (row.cost_index != index) continue;
-        Take(row.climb_ias, perf.climb_ias_manual, active ? perf.climb_ias : perf.pending_climb_ias);
-        Take(row.climb_mach, perf.climb_mach_manual, active ? perf.climb_mach : perf.pending_climb_mach);
-        Take(row.cruise_ias, perf.cruise_ias_manual, active ? perf.cruise_ias : perf.pending_cruise_ias);
-        Take(row.cruise_mach, perf.cruise_mach_manual, active ? perf.cruise_mach : perf.pending_cruise_mach);
-        Take(row.descent_ias, perf.descent_ias_manual, active ? perf.descent_ias : perf.pending_descent_ias);
-        Take(row.descent_mach, perf.descent_mach_manual,
-             active ? perf.descent_mach : perf.pending_descent_mach);
+        PlannedSpeeds& set = active ? perf.speeds : plan.mod.entries.speeds;
+        for (const auto& [speed, selected] : kPlannedSpeeds)
+            if (plan.mod.selected.*selected == 0) set.*speed = row.speeds.*speed;
         return;
     }
 }

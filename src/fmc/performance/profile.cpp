@@ -281,21 +281,23 @@ void FillSpeeds(const Route& route) {
         if (HasSpeedRestr(leg)) continue;
         switch (PhaseAt(stretch.begins + stretch.dist)) {
             case Phase::kClimb:
-                leg.ias_restr = perf.climb_ias;
-                leg.mach_restr = perf.climb_mach;
+                leg.ias_restr = perf.speeds.climb_ias;
+                leg.mach_restr = perf.speeds.climb_mach;
                 if (leg.alt <= perf.clb_spd_trans_alt)
-                    leg.ias_restr = Lower(Lower(perf.climb_ias, perf.clb_spd_trans_spd), perf.spd_limit);
+                    leg.ias_restr =
+                        Lower(Lower(perf.speeds.climb_ias, perf.clb_spd_trans_spd), perf.spd_limit);
                 if (leg.alt <= perf.clb_restr_alt) leg.ias_restr = Lower(leg.ias_restr, perf.clb_restr_spd);
                 break;
             case Phase::kCruise:
-                leg.ias_restr = perf.cruise_ias;
-                leg.mach_restr = perf.cruise_mach;
+                leg.ias_restr = perf.speeds.cruise_ias;
+                leg.mach_restr = perf.speeds.cruise_mach;
                 break;
             case Phase::kDescent:
-                leg.ias_restr = perf.descent_ias;
-                leg.mach_restr = perf.descent_mach;
+                leg.ias_restr = perf.speeds.descent_ias;
+                leg.mach_restr = perf.speeds.descent_mach;
                 if (leg.alt <= perf.des_spd_trans_alt)
-                    leg.ias_restr = Lower(Lower(perf.descent_ias, perf.des_spd_trans_spd), perf.spd_limit);
+                    leg.ias_restr =
+                        Lower(Lower(perf.speeds.descent_ias, perf.des_spd_trans_spd), perf.spd_limit);
                 if (leg.alt <= perf.des_restr_alt) leg.ias_restr = Lower(leg.ias_restr, perf.des_restr_spd);
                 break;
         }
@@ -399,9 +401,9 @@ void ComputeBurns(const Route& route) {
 
 void PlanTas(double cruise_alt) {
     const double percent = cruise_alt / 2 / 1000 * 1.5;
-    perf.clb_tas = perf.climb_ias * (1 + percent / 100);
-    perf.des_tas = perf.descent_ias * (1 + percent / 100);
-    perf.crz_tas = PlanningTas(perf.cruise_ias, cruise_alt);
+    perf.clb_tas = perf.speeds.climb_ias * (1 + percent / 100);
+    perf.des_tas = perf.speeds.descent_ias * (1 + percent / 100);
+    perf.crz_tas = PlanningTas(perf.speeds.cruise_ias, cruise_alt);
 }
 
 }  // namespace

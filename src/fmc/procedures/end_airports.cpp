@@ -56,11 +56,15 @@ int SelectOriginRunway(std::string_view runway) {
     return 1;
 }
 
+void ClearArrivalSelections() {
+    ProcedureSelections& chosen = plan.mod.procedures;
+    chosen = {.dep_sid = chosen.dep_sid, .dep_trans = chosen.dep_trans};
+}
+
 int SelectDestinationRunway(std::string_view runway) {
     const int place = FindRunway(airports.dest_airport, runway);
     if (place == 0) return 0;
     plan.mod.procedures.arr_appr_rwy = runway;
     plan.mod.procedures.fms_dest_rwy_pos = place;
-    if (!IsRouteActive()) plan.active.procedures = plan.mod.procedures;
     return 1;
 }

@@ -13,6 +13,9 @@ int LoadDestinationAirport(std::string_view ident);
 /// both lists moves to its threshold; afterwards it is a modification, and EXEC moves the leg.
 int SelectOriginRunway(std::string_view runway);
 
+/// No arrival and no approach is selected any more, as after a change of the destination.
+void ClearArrivalSelections();
+
 /// Selects a runway of the destination for the working copy; EXEC puts the last leg on its threshold. 0 when
 /// it has none of that name.
 int SelectDestinationRunway(std::string_view runway);

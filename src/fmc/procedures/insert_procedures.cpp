@@ -215,13 +215,19 @@ void UnshareApproach() {
     OpenDisco(first + 1);
 }
 
+// Its hold isn't kept.
+void KeepSharedLeg(const FlightPlanLeg& leg) {
+    plan.mod.procedures.shared_leg = leg;
+    plan.mod.procedures.shared_leg.hold_pos = 0;
+}
+
 // Where the approach begins with the fix before it, nothing stands between them.
 void ShareWithApproach(int last) {
     GrowingList<FlightPlanLeg>& legs = plan.mod.legs;
     const int first = last + 2;
     if (last < 1 || first > plan.mod.leg_cnt || !IsDisco(legs[last + 1])) return;
     if (!IsOfApproach(legs[first]) || !IsSameFix(legs[last], legs[first])) return;
-    plan.mod.procedures.shared_leg = legs[last];
+    KeepSharedLeg(legs[last]);
     if (legs[first].via == kDirectVia) legs[first].via = ApproachVia();
     RemoveModLegs(last, 2);
 }
@@ -367,7 +373,7 @@ void WriteApproachLegs(int end) {
     const bool reuse = end > 0 && plan.mod.legs[end].ident == first && !IsCoded(lists.ApproachLegs[1]);
     int position = end + 1;
     if (reuse) {
-        plan.mod.procedures.shared_leg = plan.mod.legs[end];
+        KeepSharedLeg(plan.mod.legs[end]);
         RemoveHold(end);
         position = end;
     } else {

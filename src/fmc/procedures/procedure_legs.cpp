@@ -55,7 +55,7 @@ void RecomputeForRunway(GrowingList<ProcedureLeg>& legs, int count, const std::s
                        .reference = {},
                        .elevation = static_cast<double>(airport.elevation_ft),
                        .variation = MagVarAt(airport.lat, airport.lon),
-                       .climb_speed = perf.climb_ias > 0 ? perf.climb_ias : 250};
+                       .climb_speed = perf.speeds.climb_ias > 0 ? perf.speeds.climb_ias : 250};
     if (!StartOfClimb(airport, runway, input.variation, input.start.lat, input.start.lon, input.entry_course))
         return;
     for (int i = 1; i <= count; ++i) {

@@ -88,28 +88,20 @@ std::string At(const Names& names, int index) {
                                                                  : std::string();
 }
 
-// Before EXEC there is nothing that ERASE could bring back.
-void KeepBelowActive() {
-    if (!IsRouteActive()) plan.active.procedures = plan.mod.procedures;
-}
-
 void WriteDeparture() {
     BuildDepartureLegs();
     InsertDeparture();
-    KeepBelowActive();
 }
 
 void WriteArrival() {
     BuildArrivalLegs();
     InsertArrival();
-    KeepBelowActive();
 }
 
 void WriteApproach() {
     BuildApproachTransitions();
     BuildApproachLegs();
     InsertApproach();
-    KeepBelowActive();
 }
 
 // The second press on a name takes it back.

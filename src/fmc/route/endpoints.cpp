@@ -1,6 +1,7 @@
 #include "fmc/route/endpoints.h"
 
 #include <string>
+#include <utility>
 
 #include "fmc/legs/holds.h"
 #include "fmc/legs/leg_list.h"
@@ -30,31 +31,23 @@ FlightPlanLeg AirportLeg(const AirportData& airport) {
     return leg;
 }
 
-void ClearLegs(GrowingList<FlightPlanLeg>& legs, int count) {
-    for (int i = 0; i <= count; ++i) legs[i] = {};
-}
-
 }  // namespace
 
 int EnterOrigin(std::string_view ident) {
     if (LoadOriginAirport(ident) == 0) return 0;
     RemoveAllHolds();
-    plan.executed_hold_cnt = 0;
-    ClearLegs(plan.active.legs, plan.active.leg_cnt);
-    ClearLegs(plan.mod.legs, plan.mod.leg_cnt);
-    plan.active.legs[0] = plan.mod.legs[0] = AirportLeg(airports.origin_airport);
-    plan.active.leg_cnt = plan.mod.leg_cnt = 1;
-    plan.active.stpos = plan.mod.stpos = kNoPlan;
+    RouteVersion fresh;
+    fresh.selected = plan.mod.selected;
+    fresh.legs[0] = AirportLeg(airports.origin_airport);
+    fresh.leg_cnt = 1;
+    fresh.ends.origin = airports.origin_airport.ident;
+    plan.active = fresh;
+    fresh.entries = plan.mod.entries;
+    plan.mod = std::move(fresh);
     plan.pending_stpos = 0;
-    plan.mod.bod_pos = plan.active.bod_pos = 0;
-    plan.active.active_leg = plan.mod.active_leg = {};
     plan.direct_to_pending = 0;
     plan.awy_list_cnt = plan.awy_start_pos = 0;
     plan.along_track_nm = 0;
-    plan.active.ends = {};
-    plan.active.ends.origin = airports.origin_airport.ident;
-    plan.mod.ends = plan.active.ends;
-    plan.mod.procedures = plan.active.procedures = {};
     procedure_lists = {};
     plan.fms_fpln_active = kRouteNone;
     plan.new_route = 1;
@@ -75,17 +68,13 @@ int EnterDestination(std::string_view ident) {
     last = AirportLeg(airports.dest_airport);
     last.mod_flag = IsRouteModified();
     plan.mod.ends.dest = airports.dest_airport.ident;
+    ClearArrivalSelections();
     if (!IsRouteActive()) {
         plan.active.ends.dest = plan.mod.ends.dest;
-        plan.active.procedures = plan.mod.procedures = {.dep_sid = plan.mod.procedures.dep_sid,
-                                                        .dep_trans = plan.mod.procedures.dep_trans};
         plan.new_route = 1;
         if (plan.active.leg_cnt < 1) plan.active.leg_cnt = 1;
         if (plan.active.stpos == kNoPlan) plan.active.stpos = 1;
         plan.active.bod_pos = plan.active.leg_cnt;
-    } else {
-        plan.mod.procedures = {.dep_sid = plan.mod.procedures.dep_sid,
-                               .dep_trans = plan.mod.procedures.dep_trans};
     }
     RebuildRouteRows();
     return 1;

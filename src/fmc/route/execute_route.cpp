@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "base/angles.h"
+#include "fmc/legs/active_leg.h"
 #include "fmc/legs/edit_legs.h"
 #include "fmc/legs/find_leg.h"
 #include "fmc/legs/holds.h"
@@ -32,27 +33,14 @@ namespace {
 
 constexpr double kLowestCruise = 1000;
 
-void TakePending(double& pending, double& value) {
-    if (pending > 0) value = pending;
-    pending = 0;
-}
-
-void ApplyPendingEntries() {
-    TakePending(perf.pending_climb_ias, perf.climb_ias);
-    TakePending(perf.pending_climb_mach, perf.climb_mach);
-    TakePending(perf.pending_cruise_ias, perf.cruise_ias);
-    TakePending(perf.pending_cruise_mach, perf.cruise_mach);
-    TakePending(perf.pending_descent_ias, perf.descent_ias);
-    TakePending(perf.pending_descent_mach, perf.descent_mach);
-    constexpr int kNoStepSize = -99;
-    if (perf.pending_step_size > kNoStepSize) perf.fms_step_size = perf.pending_step_size;
-    perf.pending_step_size = kNoStepSize;
-    if (perf.pending_cost_index < 0) return;
-    perf.cost_index = perf.pending_cost_index;
-    perf.pending_cost_index = -1;
-    perf.climb_ias_manual = perf.climb_mach_manual = 0;
-    perf.cruise_ias_manual = perf.cruise_mach_manual = 0;
-    perf.descent_ias_manual = perf.descent_mach_manual = 0;
+void ApplyEntries() {
+    const PerfEntries& entries = plan.mod.entries;
+    for (const auto& [speed, selected] : kPlannedSpeeds)
+        if (entries.speeds.*speed > 0) perf.speeds.*speed = entries.speeds.*speed;
+    if (entries.step_size > kNoStepEntry) perf.fms_step_size = entries.step_size;
+    if (entries.cost_index < 0) return;
+    perf.cost_index = entries.cost_index;
+    plan.mod.selected = {};
 }
 
 void BeginNewRoute() {
@@ -70,26 +58,30 @@ void BeginNewRoute() {
 }
 
 void FillSpeeds() {
+    const SpeedSelections& selected = plan.mod.selected;
+    PlannedSpeeds& speeds = perf.speeds;
     if (perf.cost_index < 0) {
         constexpr double kUsualCruise = 30000;
         const double altitude = perf.cruise_alt > 0 ? perf.cruise_alt : kUsualCruise;
-        if (perf.climb_mach_manual == 0) perf.climb_mach = IasToMach(perf.climb_ias, altitude);
-        if (perf.cruise_mach_manual == 0) perf.cruise_mach = IasToMach(perf.cruise_ias, altitude);
-        if (perf.descent_mach_manual == 0) perf.descent_mach = IasToMach(perf.descent_ias, altitude);
+        if (selected.climb_mach == 0) speeds.climb_mach = IasToMach(speeds.climb_ias, altitude);
+        if (selected.cruise_mach == 0) speeds.cruise_mach = IasToMach(speeds.cruise_ias, altitude);
+        if (selected.descent_mach == 0) speeds.descent_mach = IasToMach(speeds.descent_ias, altitude);
         return;
     }
-    if (perf.climb_ias_manual == 0) perf.climb_ias = EconClimbSpeed(perf.cost_index);
-    if (perf.cruise_mach_manual == 0) perf.cruise_mach = EconCruiseMach(perf.cost_index, perf.cruise_alt);
-    if (perf.descent_ias_manual == 0) perf.descent_ias = EconDescentSpeed(perf.cost_index);
+    if (selected.climb_ias == 0) speeds.climb_ias = EconClimbSpeed(perf.cost_index);
+    if (selected.cruise_mach == 0) speeds.cruise_mach = EconCruiseMach(perf.cost_index, perf.cruise_alt);
+    if (selected.descent_ias == 0) speeds.descent_ias = EconDescentSpeed(perf.cost_index);
 }
 
-void TakeOverLegs() {
-    for (int i = plan.mod.leg_cnt + 1; i <= plan.active.leg_cnt; ++i) plan.active.legs[i] = {};
-    for (int i = 0; i <= plan.mod.leg_cnt; ++i) {
-        plan.mod.legs[i].mod_flag = 0;
-        plan.active.legs[i] = plan.mod.legs[i];
-    }
-    plan.active.leg_cnt = plan.mod.leg_cnt;
+void TakeOverModification() {
+    RemoveLostHolds();
+    SetPendingActiveLeg(PendingActiveLeg());
+    const int bod_pos = plan.active.bod_pos;  // searched anew, against the old one
+    plan.active = plan.mod;
+    plan.active.bod_pos = bod_pos;
+    plan.active.entries = {};
+    for (int i = 0; i <= plan.active.leg_cnt; ++i) plan.active.legs[i].mod_flag = 0;
+    RenumberHolds();
 }
 
 void KeepFinalApproach() {
@@ -107,14 +99,12 @@ void KeepFinalApproach() {
 }
 
 void ChooseActiveLeg() {
-    if (plan.pending_stpos >= 1) plan.active.stpos = plan.pending_stpos;
-    plan.pending_stpos = 0;
-    if (plan.active.stpos == kNoPlan) plan.active.stpos = 1;
-    plan.active.stpos = std::clamp(plan.active.stpos, 1, plan.active.leg_cnt);
-    if (!IsDisco(plan.active.legs[plan.active.stpos]) || plan.active.stpos == plan.active.leg_cnt) return;
-    ++plan.active.stpos;
-    if (IsRouteSettled()) plan.mod.stpos = plan.active.stpos;
-    perf.cruise_alt = std::max(perf.cruise_alt, plan.active.legs[plan.active.stpos].step_alt);
+    int& to = plan.active.stpos;
+    if (to == kNoPlan) to = 1;
+    to = std::clamp(to, 1, plan.active.leg_cnt);
+    if (!IsDisco(plan.active.legs[to]) || to == plan.active.leg_cnt) return;
+    ++to;
+    perf.cruise_alt = std::max(perf.cruise_alt, plan.active.legs[to].step_alt);
 }
 
 // Where a direct-to begins: past the turn that the aircraft has yet to fly.
@@ -133,10 +123,12 @@ LatLon DirectToStart(const ActiveLegRecord& leg) {
     return ProjectPoint(here.lat, here.lon, FoldBearing(sim.true_hdg + half), ahead);
 }
 
-void AimActiveLeg() {
+// Of the modification's leg only a direct-to counts; else the leg that has been flown goes on as far as it
+// can.
+void AimActiveLeg(const ActiveLegRecord& flown) {
     ActiveLegRecord& leg = plan.active.active_leg;
-    const bool direct_to = plan.mod.active_leg.from == "DIRECT";
-    if (direct_to) leg = plan.mod.active_leg;
+    const bool direct_to = leg.from == "DIRECT";
+    if (!direct_to) leg = flown;
     const FlightPlanLeg& to = plan.active.legs[plan.active.stpos];
     const bool is_flown = leg.to == to.ident && leg.to_lat == to.lat && leg.to_lon == to.lon;
     leg.to = to.ident;
@@ -181,15 +173,14 @@ void MoveToRunway(FlightPlanLeg& leg, const AirportData& airport, const std::str
 }
 
 void PlaceEndsOnRunways() {
-    plan.active.ends = plan.mod.ends;
-    plan.active.procedures = plan.mod.procedures;
     MoveToRunway(plan.active.legs[0], airports.origin_airport, plan.active.ends.dep_runway);
     MoveToRunway(plan.active.legs[plan.active.leg_cnt], airports.dest_airport,
-                 plan.mod.procedures.arr_appr_rwy);
+                 plan.active.procedures.arr_appr_rwy);
 }
 
 void FillDefaultSpeeds() {
-    if (perf.climb_ias > 0 || perf.cruise_ias > 0 || perf.descent_ias > 0) return;
+    const PlannedSpeeds& speeds = perf.speeds;
+    if (speeds.climb_ias > 0 || speeds.cruise_ias > 0 || speeds.descent_ias > 0) return;
     SetDefaultSpeeds(SpeedsCount::kNow);
 }
 
@@ -198,10 +189,9 @@ void SettleDestination() {
     if (!IsAirport(last)) return;
     const bool changed = airports.dest_airport.ident != last.ident;
     if (changed || !IsRouteActive()) LoadDestinationAirport(last.ident);
-    plan.active.ends.dest = plan.mod.ends.dest = last.ident;
+    plan.active.ends.dest = last.ident;
     if (!changed) return;
-    plan.mod.procedures = {.dep_sid = plan.mod.procedures.dep_sid,
-                           .dep_trans = plan.mod.procedures.dep_trans};
+    ClearArrivalSelections();
     plan.active.procedures = plan.mod.procedures;
 }
 
@@ -216,12 +206,10 @@ void SettleOrigin() {
         plan.active.ends = {.origin = first.ident,
                             .dest = plan.active.ends.dest,
                             .company_route = plan.active.ends.company_route};
-        plan.mod.procedures.dep_sid = plan.mod.procedures.dep_trans = kNotSelected;
-        plan.active.procedures = plan.mod.procedures;
+        plan.active.procedures.dep_sid = plan.active.procedures.dep_trans = kNotSelected;
         RemoveAllHolds();
     }
     plan.active.ends.origin = first.ident;
-    plan.mod.ends = plan.active.ends;
 }
 
 constexpr int kEnteredStep = 0, kIcaoStep = -1, kRvsmStep = -2;
@@ -267,19 +255,19 @@ double StepToAltitude(double cruise_alt, int size, double entered) {
 void ExecuteRoute() {
     NormalizeLegs();
     if (plan.mod.leg_cnt < 1 || !IsPlace(plan.mod.legs[plan.mod.leg_cnt])) return;
-    ApplyPendingEntries();
+    ApplyEntries();
     BeginNewRoute();
     FillSpeeds();
-    TakeOverLegs();
+    const ActiveLegRecord flown = plan.active.active_leg;
+    TakeOverModification();
     KeepFinalApproach();
-    PromoteHolds();
     ChooseActiveLeg();
-    AimActiveLeg();
+    AimActiveLeg(flown);
     PlaceEndsOnRunways();
     SettleDestination();
     SettleOrigin();
     plan.fms_fpln_active = kRouteActive;
-    TakePending(perf.pending_cruise_alt, perf.cruise_alt);
+    if (plan.mod.entries.cruise_alt > 0) perf.cruise_alt = plan.mod.entries.cruise_alt;
     if (perf.cruise_alt >= kLowestCruise) PlanCruise();
     ComputeProfile(perf.cruise_alt, 0);
     ComputeDistances(1);

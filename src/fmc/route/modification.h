@@ -5,8 +5,7 @@
 // The life of the route: entered, activated, executed, modified, erased, thrown away. The legs that are flown
 // stand in plan.active.legs; every edit works on plan.mod.legs, and EXEC (execute_route.h) takes it over.
 
-/// Makes FlightPlanMod a copy of FlightPlan, without `ata` and `mod_flag`; the TO leg and the bottom of
-/// descent follow, holds that exist in the working copy only are dropped.
+/// Makes the working copy one of the active route, but for the `ata` and `mod_flag` of its legs.
 void RefreshLegsForModification();
 
 /// Throws the modification away: selections, pending values, holds and legs are again those of the active

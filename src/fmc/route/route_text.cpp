@@ -4,6 +4,7 @@
 #include <charconv>
 #include <cmath>
 #include <cstdlib>
+#include <tuple>
 #include <vector>
 
 #include "base/text_fields.h"
@@ -311,7 +312,7 @@ bool EnterWords(const RouteWords& words, std::string& error) {
         return false;
     }
     if (!EnterEnds(words, error)) return false;
-    if (words.cruise_alt > 0) perf.pending_cruise_alt = words.cruise_alt;
+    if (words.cruise_alt > 0) plan.mod.entries.cruise_alt = words.cruise_alt;
     const std::size_t last = words.text.size() - 1;
     const std::size_t of_departure = last > 1 ? EnterDeparture(words) : 0;
     for (std::size_t i = 1 + of_departure; i < last; ++i) {
@@ -325,31 +326,12 @@ bool EnterWords(const RouteWords& words, std::string& error) {
     return true;
 }
 
-// Everything that entering a route changes.
-struct RouteBefore {
-    PlanState plan_before = plan;
-    PerfState perf_before = perf;
-    VnavState vnav_before = vnav;
-    LnavState lnav_before = lnav;
-    AirportSlots airports_before = airports;
-    ProcedureLists lists_before = procedure_lists;
-
-    void Restore() {
-        plan = std::move(plan_before);
-        perf = perf_before;
-        vnav = vnav_before;
-        lnav = lnav_before;
-        airports = std::move(airports_before);
-        procedure_lists = std::move(lists_before);
-    }
-};
-
 }  // namespace
 
 int EnterRouteText(std::string_view text, std::string& error) {
-    RouteBefore before;
+    const auto before = std::tuple(plan, perf, vnav, lnav, airports, procedure_lists);
     if (EnterWords(SplitRoute(text), error)) return 1;
-    before.Restore();
+    std::tie(plan, perf, vnav, lnav, airports, procedure_lists) = before;
     return 0;
 }
 
