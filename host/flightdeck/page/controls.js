@@ -3,15 +3,6 @@
 
 const LONG_PRESS = 500;  // ms on touch: a right click
 
-// What a control does when the module hasn't told, by how it looks.
-const DEFAULTS = {
-  button: {kind: 'latching', min: 0, max: 1},
-  switch: {kind: 'switch', min: 0, max: 1},
-  key: {kind: 'momentary', min: 0, max: 1},
-  handle: {kind: 'switch', min: 0, max: 1},
-  guard: {kind: 'guard', min: 0, max: 1},
-};
-
 export function element(tag, className, text, ...children) {
   const made = document.createElement(tag);
   if (className) made.className = className;
@@ -54,30 +45,22 @@ export function bindPress(target, press, {halves = false} = {}) {
 export class Panels {
   constructor(link) {
     this.link = link;
-    this.classes = {};
-    this.elements = new Map();
+    this.controls = new Map();
   }
 
-  /** The controls as the module tells them, name to "CLASS SET MIN MAX GUARD", and all named variables. */
-  setClasses(controls, named) {
-    this.classes = controls;
-    this.named = new Set(named);
-    for (const [name, made] of this.elements) made.classList.toggle('unknown', !this.isKnown(name));
-  }
-  isKnown(name) { return name in this.classes || this.named.has(name); }
-
-  behaviour(entry) {
-    const told = this.classes[entry.name], own = {min: entry.min, max: entry.max};
-    if (!told) return {...DEFAULTS[entry.look] ?? DEFAULTS.key, ...entry.max && own};
-    const [kind, , min, max] = told.split(' ');
-    return {kind, min: entry.min ?? Number(min), max: entry.max ?? Number(max)};
+  /** The controls as the module tells them: name to "CLASS SET MIN MAX GUARD STATE". */
+  setControls(controls) {
+    this.controls = new Map(Object.entries(controls).map(([name, told]) => {
+      const [kind, , min, max, guard] = told.split(' ');
+      return [name, {kind, min: Number(min), max: Number(max), guard: guard === '-' ? null : guard}];
+    }));
   }
 
   write(name, value) { this.link.send({type: 'lvar', name, value}); }
 
   /** One click on a control's variable, `up` for the right button's sense. */
   operate(entry, up) {
-    const {kind, min, max} = this.behaviour(entry), now = this.link.number(`lvar:${entry.name}`);
+    const {kind, min, max} = this.controls.get(entry.name), now = this.link.number(`lvar:${entry.name}`);
     if (kind === 'momentary') return this.link.send({type: 'press', name: entry.name, value: up ? 2 : 1});
     if (kind === 'guard') return this.write(entry.name, now === 0 ? 1 : 0);
     if (kind === 'rotary') return this.write(entry.name, up ? (now >= max ? min : now + 1) : now <= min ? max : now - 1);
@@ -104,32 +87,36 @@ export class Panels {
     if (entry.name) {
       made.dataset.name = entry.name;
       made.title = entry.name;
-      if (['button', 'switch', 'key', 'handle'].includes(entry.look)) this.elements.set(entry.name, made);
     }
     return made;
+  }
+
+  /** The elements of entries, without the controls that the module doesn't tell. */
+  makeAll(entries) {
+    return entries.filter(({name}) => !name || this.controls.has(name)).map((entry) => this.make(entry));
   }
 
   // A control with its label above; what is pressed is its face.
   frame(className, entry, face) {
     const made = element('div', `control ${className}`);
     made.append(element('span', 'label', entry.label), face);
-    if (entry.guard) this.cover(entry, made, face);
+    if (this.isGuarded(entry)) this.cover(entry, face);
     return made;
   }
+  isGuarded(entry) { return Boolean(this.controls.get(entry.name)?.guard); }
 
-  cover(entry, made, face) {
+  cover(entry, face) {
+    const {guard} = this.controls.get(entry.name);
     const cover = element('span', 'cover');
     const wrap = element('div', 'guarded');
     face.replaceWith(wrap);
     wrap.append(face, cover);
-    wrap.dataset.guard = entry.guard;
-    this.elements.set(entry.guard, wrap);
-    this.link.watch(`lvar:${entry.guard}`, (value) => wrap.classList.toggle('open', Number(value) !== 0));
-    const guard = {look: 'guard', name: entry.guard};
+    wrap.dataset.guard = guard;
+    this.link.watch(`lvar:${guard}`, (value) => wrap.classList.toggle('open', Number(value) !== 0));
     bindPress(wrap, (up, event) => {
       event.stopPropagation();
       // A cover that stands open is shut at its edge, or by the right button like it was opened.
-      if (up || event.target === cover && wrap.classList.contains('open')) this.operate(guard, up);
+      if (up || event.target === cover && wrap.classList.contains('open')) this.operate({name: guard}, up);
       else this.operate(entry, entry.look === 'switch' && this.link.number(`lvar:${entry.name}`) === 0);
     });
   }
@@ -146,7 +133,7 @@ export class Panels {
     if (entry.areas)
       bindPress(face, () => this.link.send({type: 'area', gauge: 'MCP', button: 'left',
                                              area: entry.areas[this.link.number(`lvar:${entry.name}`) === 0 ? 1 : 0]}));
-    else if (!entry.guard) bindPress(face, () => this.operate(entry, false));
+    else if (!this.isGuarded(entry)) bindPress(face, () => this.operate(entry, false));
     return this.frame('push', entry, face);
   }
 
@@ -157,14 +144,14 @@ export class Panels {
     made.append(text);
     for (const lamp of entry.lamps) this.lamp(lamp, made);
     this.link.watch(`lvar:${entry.name}`, (value) => {
-      const {kind, min, max} = this.behaviour(entry), at = Number(value);
+      const {kind, min, max} = this.controls.get(entry.name), at = Number(value);
       const count = Math.max(1, Math.max(max, at) - min);
       const turn = kind === 'rotary' ? (at - min) / (count + 1) * 360 : ((at - min) / count - 0.5) * Math.min(270, 60 * count);
       pointer.style.transform = `rotate(${turn}deg)`;
       text.textContent = entry.positions[at - min] ?? (kind === 'rotary' ? '' : value);
       face.setAttribute('aria-valuetext', text.textContent);
     });
-    if (!entry.guard) {
+    if (!this.isGuarded(entry)) {
       bindPress(face, (up) => this.operate(entry, up), {halves: true});
       face.addEventListener('wheel', (event) => {
         event.preventDefault();
@@ -256,7 +243,7 @@ export class Panels {
     const panel = element('div', `panel ${className}`);
     for (const {title, controls} of list) {
       const group = element('section', 'group', '', element('h3', '', title));
-      group.append(element('div', 'controls', '', ...controls.map((entry) => this.make(entry))));
+      group.append(element('div', 'controls', '', ...this.makeAll(controls)));
       panel.append(group);
     }
     return panel;

@@ -39,20 +39,20 @@ function makeWindow(panels, entry) {
   }, {passive: false});
   made.append(element('span', 'label', entry.label), shown,
               element('div', 'turn', '', step('\u00ab', -10), step('\u2039', -1), knob, step('\u203a', 1), step('\u00bb', 10)),
-              element('div', 'row', '', ...entry.keys.map((key) => panels.make(key))));
+              element('div', 'row', '', ...panels.makeAll(entry.keys)));
   return made;
 }
 
 function column(className, panels, entries) {
-  return element('div', className, '', ...entries.map((entry) => panels.make(entry)));
+  return element('div', className, '', ...panels.makeAll(entries));
 }
 
 function outerPanel(panels, side) {
   const {halves, formats} = displaySelect(side);
   const made = element('div', `outer panel side-${side}`);
-  made.append(element('div', 'efis', '', ...efis[side].map((entry) => panels.make(entry))),
+  made.append(element('div', 'efis', '', ...panels.makeAll(efis(side))),
               element('div', 'dsp', '', column('halves', panels, halves), column('formats', panels, formats)),
-              column('ends', panels, glareshieldEnds[side]));
+              column('ends', panels, glareshieldEnds(side)));
   return made;
 }
 

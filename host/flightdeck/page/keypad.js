@@ -9,16 +9,11 @@ export function makeKeypad(panels, side) {
   const made = element('div', 'keypad panel');
   made.tabIndex = 0;
   made.dataset.side = side;
-  const key = (name, label, lamps = []) => panels.make({look: 'key', name: variable(side, name), label, lamps});
-  const block = (className, keys) => element('div', `keys ${className}`, '', ...keys);
-  const pages = keypad.pages.map(([name, label]) =>
-    key(name, label, name === 'EXEC' ? [[keypad.lamp[side], '', 'green']] : []));
-  made.append(
-      block('formats', keypad.formats.map((name) => key(name, name))),
-      block('pages', pages),
-      element('div', 'alphabet', '', block('letters', [...keypad.letters.map((name) => key(name, name)),
-                                                       ...keypad.last.map(([name, label]) => key(name, label))]),
-              block('digits', keypad.digits.map(([name, label]) => key(name, label)))));
+  const key = (name) => ({look: 'key', name: variable(side, name), label: keypad.labels[name] ?? name,
+                          lamps: name === 'EXEC' ? [[keypad.lamp[side], '', 'green']] : []});
+  const block = (name) => element('div', `keys ${name}`, '', ...panels.makeAll(keypad.blocks[name].map(key)));
+  made.append(block('formats'), block('pages'),
+              element('div', 'alphabet', '', block('letters'), block('digits')));
   made.addEventListener('keydown', (event) => typeKey(panels, side, event));
   return made;
 }

@@ -15,7 +15,9 @@ const link = new Link({
     screens.forget();
     screens.setFamilies(message.fonts ?? []);
     loadFonts(message.fonts ?? []);
-    panels.setClasses(message.controls ?? {}, message.named ?? []);
+    panels.setControls(message.controls ?? {});
+    if (!built) deck();
+    built = true;
     inspector.setNames(message.variables ?? {}, message.named ?? []);
   },
   picture(index, bytes) { screens.take(index, bytes); },
@@ -25,6 +27,7 @@ const link = new Link({
   },
 });
 const panels = new Panels(link);
+let built = Boolean(alone);  // the deck stands once it is known which controls there are
 const screens = new Screens(link, (side, event) => typeKey(panels, side, event));
 const inspector = new Inspector(link);
 
@@ -43,12 +46,10 @@ async function loadFonts(families) {
 }
 
 function tablet(side) {
-  const keys = efbKeys[side];
-  const column = (className, names) => element('div', `efb-keys ${className}`, '', ...names.map((name) => panels.make(
-      {look: 'key', name: `TZ_EFB_${side}_${name}_Button`, label: efbLabels[name] ?? name, lamps: []})));
-  return element('div', `efb panel side-${side}`, '', column('top', keys.top), column('left', keys.left),
-                 screens.unit(side === 'L' ? 'efb_l' : 'efb_r'), column('right', keys.right),
-                 column('bottom', keys.bottom));
+  const column = (place) => element('div', `efb-keys ${place}`, '', ...panels.makeAll(efbKeys[place].map((name) =>
+      ({look: 'key', name: `TZ_EFB_${side}_${name}_Button`, label: efbLabels[name] ?? name, lamps: []}))));
+  return element('div', `efb panel side-${side}`, '', column('top'), column('left'),
+                 screens.unit(side === 'L' ? 'efb_l' : 'efb_r'), column('right'), column('bottom'));
 }
 
 function timeControls() {
@@ -128,8 +129,6 @@ if (alone) {
   document.body.classList.add('alone');
   document.title = `TZ900 ${alone}`;
   document.body.append(screens.canvas(alone));
-} else {
-  deck();
 }
 // For tests and the curious.
 window.deck = {link, screens, panels};
