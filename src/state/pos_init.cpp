@@ -5,8 +5,8 @@ PosInitState pos_init;
 namespace {
 constexpr Variable kRows[] = {
     {"RefAirport", &pos_init.RefAirport},
-    {"inertial_lat", &pos_init.inertial_lat},
-    {"inertial_lon", &pos_init.inertial_lon},
+    {"InertialEntryLat", &pos_init.InertialEntryLat},
+    {"InertialEntryLon", &pos_init.InertialEntryLon},
 };
 }  // namespace
 

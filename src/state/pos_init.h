@@ -8,7 +8,8 @@
 /// What the crew has entered about where the aircraft stands.
 struct PosInitState {
     std::string RefAirport;                     // reference airport, empty = none
-    double inertial_lat = 0, inertial_lon = 0;  // degrees, as entered; a latitude of exactly 0 = none
+    // degrees, given to the inertial reference units; a latitude of exactly 0 = none
+    double InertialEntryLat = 0, InertialEntryLon = 0;
 };
 
 extern PosInitState pos_init;

@@ -6,6 +6,8 @@ namespace {
 constexpr Variable kRows[] = {
     {"plane_lat", &sim.plane_lat},
     {"plane_lon", &sim.plane_lon},
+    {"lat", &sim.plane_lat},
+    {"lon", &sim.plane_lon},
     {"ind_alt_ft", &sim.ind_alt_ft},
     {"radio_alt_ft", &sim.radio_alt_ft},
     {"ias_kt", &sim.ias_kt},

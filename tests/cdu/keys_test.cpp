@@ -73,7 +73,7 @@ TEST_F(CduKeys, InitRefGoesByThePhaseOfFlight) {
     cfg.AccelHt = 1500;
     sim.radio_alt_ft = 1500;
     EXPECT_EQ(page(), 26);
-    pos_init.inertial_lat = 47.4;
+    pos_init.InertialEntryLat = 47.4;
     EXPECT_EQ(page(), 3);
     perf.resv_fuel = 5;
     perf.cruise_alt = 35000;

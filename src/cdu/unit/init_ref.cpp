@@ -12,7 +12,7 @@
 namespace {
 
 int PageBelowAcceleration() {
-    if (pos_init.inertial_lat == 0.0) return kPagePosInit;
+    if (pos_init.InertialEntryLat == 0.0) return kPagePosInit;
     if (perf.resv_fuel <= 0 || perf.cruise_alt < 1) return kPagePerfInit;
     if (plan.active.ends.dep_runway == kNotSelected) return kPagePerfInit;
     return perf.cost_index > -1 ? kPageTakeoffRef : kPagePerfInit;
