@@ -251,6 +251,8 @@ void OnRow(PageCall& call, int row) {
         LeftLine(call.line) > 0 ? OnVia(call, row) : OnTo(call, row);
     else if (IsDelete(call))
         RefuseDelete(call);
+    else if (!Entry(call).empty())
+        Refuse(call, "INVALID ENTRY", kHelpNotAllowed);
 }
 
 void DrawRow(PageCall& call, int line, int row) {
