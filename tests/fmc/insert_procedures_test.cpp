@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 #include "fmc/demo_navdata.h"
 #include "fmc/legs/route_state.h"
@@ -100,6 +101,27 @@ TEST_F(InsertProcedures, AltitudeTokens) {
         EXPECT_EQ(approach.alt_restr, row.approach) << token;
         EXPECT_EQ(approach.restr_code, row.approach > 0 ? 3 : 2) << token;
         EXPECT_EQ(approach.restr_type, row.approach_type) << token;
+    }
+}
+
+// A heading with one runway decides, whatever the legs name; without one the legs do.
+TEST_F(InsertProcedures, ASidOfOneRunwaySelectsItAndListsOnlyIt) {
+    const struct {
+        const char* heading;
+        std::vector<std::string> runways;
+        const char* selected;
+    } kCases[] = {
+        {"T ONE1 RNAV 16\n", {"16"}, "16"},
+        {"T ONE1 RNAV 16,34\n", {"16", "34"}, kNotSelected},
+        {"T ONE1 RNAV ALL\n", {"34", "16"}, kNotSelected},
+        {"", {"34", "16"}, kNotSelected},
+    };
+    for (const auto& test : kCases) {
+        plan = {};
+        Enter(std::string(test.heading) + "ONE1 AAFIX 0 34 40.5 10.0\nONE1 BBFIX 0 16 41.5 10.0\n", "");
+        SelectSid(1, 1, false);
+        EXPECT_EQ(DepartureRunways(), test.runways) << test.heading;
+        EXPECT_EQ(plan.mod.ends.dep_runway, test.selected) << test.heading;
     }
 }
 

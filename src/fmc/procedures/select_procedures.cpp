@@ -59,19 +59,30 @@ Names Transitions(const AirportData& airport, const GrowingList<ProcedureRecord>
     return names;
 }
 
-// The runways that a procedure serves: those of its heading, and those that its legs name. Empty for one that
-// serves all.
+// The runways that a procedure's headings name, those of the airport.
+Names RunwaysOfHeading(const AirportData& airport, const GrowingList<ProcedureRecord>& records, int count,
+                       const std::string& base) {
+    Names names;
+    for (int i = 1; i <= count; ++i)
+        if (records[i].base_name == base)
+            ForEachListed(records[i].runways, [&](std::string_view part) {
+                if (HasRunway(airport, part)) AddOnce(names, part);
+            });
+    return names;
+}
+
+// The runways that a procedure serves: those of its headings, and those that its legs name. Empty for one
+// that serves all.
 Names RunwaysOf(const AirportData& airport, const GrowingList<ProcedureRecord>& records, int count,
                 const std::string& base) {
-    Names names;
+    Names names = RunwaysOfHeading(airport, records, count, base);
     for (int i = 1; i <= count; ++i) {
         const ProcedureRecord& record = records[i];
         if (record.base_name != base) continue;
-        const auto add = [&](std::string_view part) {
-            if (HasRunway(airport, part)) AddOnce(names, part);
-        };
-        ForEachListed(record.runways, add);
-        for (int leg = 1; leg <= record.leg_cnt; ++leg) ForEachListed(record.legs[leg].applies_to, add);
+        for (int leg = 1; leg <= record.leg_cnt; ++leg)
+            ForEachListed(record.legs[leg].applies_to, [&](std::string_view part) {
+                if (HasRunway(airport, part)) AddOnce(names, part);
+            });
     }
     return names;
 }
@@ -117,7 +128,10 @@ std::vector<std::string> SidNames() {
 
 std::vector<std::string> DepartureRunways() {
     const AirportData& origin = airports.origin_airport;
-    const Names served = RunwaysOf(origin, origin.sids, origin.sid_cnt, plan.mod.procedures.dep_sid);
+    const std::string& sid = plan.mod.procedures.dep_sid;
+    const Names named = RunwaysOfHeading(origin, origin.sids, origin.sid_cnt, sid);
+    if (named.size() == 1) return named;  // whatever its legs name
+    const Names served = RunwaysOf(origin, origin.sids, origin.sid_cnt, sid);
     return served.empty() ? AllRunways(origin) : served;
 }
 
