@@ -14,6 +14,7 @@
 #include "fmc/route/modification.h"
 #include "fmc/route_invariants.h"
 #include "fmc/route_model.h"
+#include "navdata/airways.h"
 #include "navdata/parse_entry.h"
 #include "state/cdu.h"
 #include "state/cfg.h"
@@ -105,6 +106,33 @@ TEST_F(RouteModel, AirwaysFillFromTheStartFixInBothDirections) {
     LoadAirway("Q1", 2, 1, kCaptain);
     InsertAirwaySegment(FindFixOnAirway("CCC"));
     EXPECT_EQ(ModLegs(), "ORIG AAA AAFIX BBFIX CCC DEST");
+}
+
+// Text, keys and crossings mean the same of two airways of one name that begin at a fix.
+TEST_F(RouteModel, OfTwoAirwaysThatPassAFixTheEndTellsWhich) {
+    const struct {
+        const char *route, *legs;
+        const char* towards;  // as the keys enter it from the fix
+    } kCases[] = {
+        {"ORIG CCC Q5 LONER DEST", "ORIG CCC LONER DEST", "LONER"},
+        {"ORIG CCC Q5 DDFIX DEST", "ORIG CCC DDFIX DEST", "DDFIX"},
+        {"ORIG CCC Q5 Q3 SOLOX DEST", "ORIG CCC LONER SOLOX DEST", "Q3"},
+    };
+    for (const auto& test : kCases) {
+        Enter(test.route);
+        EXPECT_EQ(ModLegs(), test.legs) << test.route;
+        const std::string joined_to = plan.mod.legs[2].ident;
+        LoadAirway("Q5", 2, 1, kCaptain);  // for the row that has that end
+        EXPECT_EQ(FindFixOnAirway(joined_to), 2) << test.route;
+        Enter("ORIG CCC DEST");
+        LoadAirwayTowards("Q5", 1, test.towards);
+        EXPECT_EQ(FindFixOnAirway(joined_to), 2) << test.towards;
+    }
+    LoadAirway("Q5", 2, 1, kCaptain);
+    EXPECT_EQ(FindFixOnAirway("DDFIX"), 2) << "the first, while no end is known";
+    EXPECT_EQ(FindAirwayCrossing("Q5", "Q3", "CCC").index, 2);
+    EXPECT_EQ(FindAirwayCrossing("Q3", "Q5", "SOLOX").index, 1);
+    EXPECT_EQ(FindAirwayCrossing("Q5", "Q6", "CCC").index, 0);
 }
 
 TEST_F(RouteModel, InsertedFixesOpenADiscontinuityUnlessTheyReplace) {

@@ -152,7 +152,7 @@ TEST_F(NavTablesTest, ValidityOfTheCycle) {
     EXPECT_EQ(nav.airac_range_short, "04JAN - 01FEB");
 }
 
-TEST_F(NavTablesTest, AirwaysAreTheirFirstRun) {
+TEST_F(NavTablesTest, AirwaysAreTheRunThatBearsTheFix) {
     std::string text;
     for (int i = 1; i <= 40; ++i) text += "J1 " + std::to_string(i) + " FIX" + std::to_string(i) + " 1 2\n";
     text +=
@@ -167,8 +167,10 @@ TEST_F(NavTablesTest, AirwaysAreTheirFirstRun) {
     EXPECT_EQ(nav.entry_list_page, 3) << "16 to a page";
     EXPECT_EQ(LoadAirway("J1", "FIX32"), 41);
     EXPECT_EQ(nav.entry_list_page, 2);
-    EXPECT_EQ(LoadAirway("J1", "OTHER"), 41);
+    EXPECT_EQ(LoadAirway("J1", "NOWHERE"), 41) << "the first where none does";
     EXPECT_EQ(nav.entry_list_pos, 0);
+    EXPECT_EQ(LoadAirway("J1", "OTHER"), 1);
+    EXPECT_EQ(nav.entry_list_pos, 1);
     EXPECT_EQ(LoadAirway("J99", "SEA"), 0);
 
     const AirwayCrossing crossing = FindAirwayCrossing("J1", "J10", "FIX5");

@@ -213,7 +213,7 @@ bool ContinuesAirway(int row) {
 }
 
 void OnAirwayEnd(PageCall& call, int row, const std::string& airway, bool is_open) {
-    LoadAirway("#" + airway, row, FindRouteFix(row - 1, false), call.side);
+    LoadAirwayTowards(airway, FindRouteFix(row - 1, false), Entry(call));
     const int end = FindFixOnAirway(Entry(call));
     if (end == 0 || end == plan.awy_start_pos) return Refuse(call, "INVALID ENTRY", kHelpNotAllowed);
     if (!is_open) RemoveToRow(row);

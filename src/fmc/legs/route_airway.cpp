@@ -19,32 +19,10 @@ bool IsNear(double lat1, double lon1, double lat2, double lon2) {
     return GreatCircle(lat1, lon1, lat2, lon2).dist < kSamePlace;
 }
 
-bool CandidatesHold(std::string_view ident) {
-    for (int i = 1; i <= nav.entry_cnt; ++i)
-        if (nav.EntryCandidates[i].ident == ident) return true;
-    return false;
-}
-
-// Which of the airways of that name is meant: the one that passes the fix, before one that only bears its
-// ident; among those, one that bears `end`, before the first. 0 = none.
-int ChooseRun(std::string_view name, const FlightPlanLeg& fix, std::string_view end) {
-    int best = 0, best_rank = 0;
-    for (int run = 1; LoadAirway(name, fix.ident, run) > 0; ++run) {
-        if (nav.entry_list_pos == 0) continue;
-        const NavRecord& found = nav.EntryCandidates[nav.entry_list_pos];
-        const int rank =
-            (IsNear(found.lat, found.lon, fix.lat, fix.lon) ? 3 : 1) + (CandidatesHold(end) ? 1 : 0);
-        if (rank <= best_rank) continue;
-        best = run;
-        best_rank = rank;
-    }
-    return best;
-}
-
 }  // namespace
 
-void LoadAirway(std::string_view name, int, int fix, int) {
-    LoadAirwayTowards(name, fix, "");
+void LoadAirway(std::string_view name, int row, int fix, int) {
+    LoadAirwayTowards(name, fix, row >= 1 && row <= plan.route_cnt ? plan.Route[row].to : std::string());
 }
 
 void LoadAirwayTowards(std::string_view name, int fix, std::string_view end) {
@@ -52,10 +30,10 @@ void LoadAirwayTowards(std::string_view name, int fix, std::string_view end) {
     plan.awy_name.clear();
     if (name.starts_with('#')) name.remove_prefix(1);
     if (fix < 0 || fix > plan.mod.leg_cnt || !IsPlace(plan.mod.legs[fix])) return;
-    const std::string start = plan.mod.legs[fix].ident;
-    const int run = ChooseRun(name, plan.mod.legs[fix], end);
+    const FlightPlanLeg& start = plan.mod.legs[fix];
+    const int run = ChooseAirwayRun(name, {start.ident, LatLon{start.lat, start.lon}}, end);
     if (run == 0) return;
-    plan.awy_list_cnt = LoadAirway(name, start, run);
+    plan.awy_list_cnt = LoadAirway(name, start.ident, run);
     plan.awy_start_pos = nav.entry_list_pos;
     plan.awy_start_leg = fix;
     plan.awy_name = name;

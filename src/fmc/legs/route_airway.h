@@ -7,12 +7,11 @@
 /// Fills AirwayFixList with the fixes of an airway ("#" before the name is taken off) that touches leg `fix`
 /// of FlightPlanMod, and `awy_start_pos` with the place of that leg's fix on it. `awy_list_cnt` is 0 when the
 /// airway is unknown or doesn't touch the fix. Where an airway of that name stands more than once in the
-/// database, it is the one that passes the fix itself, not a namesake. `row` and `side` tell for which row
-/// of whose page.
+/// database, it is the one that leads from the fix to the end of `row`, if that row has one
+/// (ChooseAirwayRun). `side` tells whose page it is.
 void LoadAirway(std::string_view name, int row, int fix, int side);
 
-/// The same, for a filed route that leaves the airway at an ident: of namesakes that pass the fix, the one
-/// that bears that ident is taken.
+/// The same for an end that is known: the ident of a fix, or a further airway. Empty = not known.
 void LoadAirwayTowards(std::string_view name, int fix, std::string_view end);
 
 /// The place of an ident on AirwayFixList, 0 when it isn't there.

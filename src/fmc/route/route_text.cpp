@@ -137,27 +137,6 @@ int NearestCandidate(const LatLon& point) {
     return best;
 }
 
-// Where an airway passes a fix: of namesakes one that bears `end` too, then the nearest to `from`.
-bool FindOnAirway(const std::string& airway, const std::string& fix, const std::string& end, LatLon& from) {
-    bool found = false, found_end = false;
-    double found_dist = 0;
-    LatLon place = from;
-    for (int run = 1; LoadAirway(airway, fix, run) > 0; ++run) {
-        if (nav.entry_list_pos == 0) continue;
-        const NavRecord record = nav.EntryCandidates[nav.entry_list_pos];
-        bool has_end = false;
-        for (int i = 1; i <= nav.entry_cnt; ++i) has_end |= nav.EntryCandidates[i].ident == end;
-        const double dist = DistanceFrom(from, record);
-        if (found && (found_end > has_end || (found_end == has_end && found_dist <= dist))) continue;
-        found = true;
-        found_end = has_end;
-        found_dist = dist;
-        place = {record.lat, record.lon};
-    }
-    from = place;
-    return found;
-}
-
 // ABC090025, as flight plans are filed, for ABC090/25.
 bool ParseFiledEntry(const std::string& word) {
     constexpr std::size_t kDigits = 6, kDistanceDigits = 3;
@@ -171,17 +150,6 @@ bool ParseFiledEntry(const std::string& word) {
     return nav.entry_cnt > 0;
 }
 
-// A fix that stands in the airway's file only.
-bool EnterFromAirway(const std::string& airway, const std::string& fix, const LatLon& place) {
-    for (int run = 1; LoadAirway(airway, fix, run) > 0; ++run) {
-        if (nav.entry_list_pos == 0) continue;
-        if (DistanceFrom(place, nav.EntryCandidates[nav.entry_list_pos]) > 0) continue;
-        InsertDirectRow(nav.entry_list_pos, 0);
-        return true;
-    }
-    return false;
-}
-
 std::string_view WhyNoFix(const std::string& word, bool is_first, bool is_last) {
     if (IsAirway(word))
         return is_last ? "the airway needs a fix where it is left"
@@ -190,23 +158,38 @@ std::string_view WhyNoFix(const std::string& word, bool is_first, bool is_last) 
     return is_last ? "no such fix, airway or arrival" : "no such fix or airway";
 }
 
+// The fix where an airway is joined that stands behind it: its place is that on the airway.
+bool LoadJoinedAirway(const RouteWords& words, std::size_t i, const LatLon& from) {
+    const std::size_t last = words.text.size() - 1;
+    if (i + 1 >= last || !IsAirway(words.text[i + 1])) return false;
+    const std::string& airway = words.text[i + 1];
+    const std::string_view towards = i + 2 < last ? std::string_view(words.text[i + 2]) : std::string_view();
+    const int run = ChooseAirwayRun(airway, {words.text[i], from}, towards);
+    return run > 0 && LoadAirway(airway, words.text[i], run) > 0;
+}
+
 bool EnterFix(const RouteWords& words, std::size_t i, std::string& error) {
     const std::string& word = words.text[i];
     const FlightPlanLeg& before = plan.mod.legs[LastFix()];
-    LatLon place{before.lat, before.lon};
-    const std::size_t last = words.text.size() - 1;
-    const bool on_airway =
-        i + 1 < last && IsAirway(words.text[i + 1]) &&
-        FindOnAirway(words.text[i + 1], word, i + 2 < last ? words.text[i + 2] : std::string(), place);
+    const LatLon from{before.lat, before.lon};
+    LatLon place = from;
+    const bool joins_airway = LoadJoinedAirway(words, i, from);
+    if (joins_airway) {
+        const NavRecord& record = nav.EntryCandidates[nav.entry_list_pos];
+        place = {record.lat, record.lon};
+    }
     if (ParseFiledEntry(word)) {
         const int nearest = NearestCandidate(place);
-        if (!on_airway || DistanceFrom(place, nav.EntryCandidates[nearest]) < kSamePlace) {
+        if (!joins_airway || DistanceFrom(place, nav.EntryCandidates[nearest]) < kSamePlace) {
             InsertDirectRow(nearest, 0);
             return true;
         }
     }
-    if (on_airway && EnterFromAirway(words.text[i + 1], word, place)) return true;
-    error = Told(words, i, WhyNoFix(word, i == 1, i + 1 == last));
+    if (joins_airway && LoadJoinedAirway(words, i, from)) {  // a fix that stands in the airway's file only
+        InsertDirectRow(nav.entry_list_pos, 0);
+        return true;
+    }
+    error = Told(words, i, WhyNoFix(word, i == 1, i + 1 == words.text.size() - 1));
     return false;
 }
 
