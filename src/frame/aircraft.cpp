@@ -13,6 +13,7 @@
 #include "state/identity.h"
 #include "state/perf.h"
 #include "state/sim.h"
+#include "state/takeoff_approach.h"
 #include "state/weights.h"
 
 namespace {
@@ -153,20 +154,20 @@ bool ScanAircraftCfg() {
 
 void LoadAircraft() {
     std::ranges::copy(kFlapSpeeds, weights.flap_speeds.begin() + 1);
-    if (perf.zfw == 0 && cfg.CduAutoCalcZfw == 0)
-        perf.zfw = EvalCalc("(A:EMPTY WEIGHT,pounds)") + SumOfPayloadStations();
+    if (weights.zfw == 0 && cfg.CduAutoCalcZfw == 0)
+        weights.zfw = EvalCalc("(A:EMPTY WEIGHT,pounds)") + SumOfPayloadStations();
 }
 
 void UpdateWeights() {
     sim.payload_weight = SumOfPayloadStations();
     if (perf.ZfwEntry == 0 && cfg.calcpayload == 1)
-        perf.zfw = EvalCalc("(A:EMPTY WEIGHT,pounds)") + sim.payload_weight;
-    perf.gross_weight = sim.total_fuel + perf.agent_fuel + perf.zfw;
+        weights.zfw = EvalCalc("(A:EMPTY WEIGHT,pounds)") + sim.payload_weight;
+    weights.gross_weight = sim.total_fuel + perf.FuelEntry + weights.zfw;
 }
 
 void UpdateFlapSpeedRow() {
     constexpr double kLeastLoss = 1000;
-    const double weight = sim.total_fuel + sim.payload_weight + perf.zfw;
+    const double weight = sim.total_fuel + sim.payload_weight + weights.zfw;
     if (weights.flap_speed_ref_weight - weight < kLeastLoss) return;
     const auto* nearest =
         std::ranges::min_element(weights.flap_speeds.begin() + 1, weights.flap_speeds.end(), {},
@@ -185,5 +186,5 @@ void IdentifyLateAircraft() {
 
 void ChooseTakeoffFlaps() {
     if (identity.aircraft_model == "900-9" || identity.aircraft_model == "900-10")
-        perf.takeoff_flap_list = ",5,10,15,17,18,20,";
+        takeoff_approach.takeoff_flap_list = ",5,10,15,17,18,20,";
 }

@@ -10,7 +10,7 @@
 #include "frame/tokens.h"
 #include "platform/host.h"
 #include "state/cfg.h"
-#include "state/perf.h"
+#include "state/flight_log.h"
 #include "state/sim.h"
 #include "state/sound.h"
 #include "state/time_base.h"
@@ -214,7 +214,8 @@ void StepFlightClock() {
     const bool changed = time_base.last_seconds >= 0 && sim.utc_seconds != time_base.last_seconds;
     time_base.last_seconds = sim.utc_seconds;
     if (!changed) return;
-    if (perf.fplog_mode >= kFirstFlightPhase && perf.fplog_mode <= kLastFlightPhase) time_base.fltsecs += 1;
+    if (flight_log.fplog_mode >= kFirstFlightPhase && flight_log.fplog_mode <= kLastFlightPhase)
+        time_base.fltsecs += 1;
     if (time_base.et_clock_running == 1 && sim.host_paused == 0 && ++time_base.et_seconds == 60) {
         time_base.et_seconds = 0;
         ++time_base.et_minutes;

@@ -5,7 +5,7 @@
 #include "state/cfg.h"
 #include "state/leg_words.h"
 #include "state/pause_points.h"
-#include "state/perf.h"
+#include "state/predictions.h"
 #include "state/sim.h"
 #include "state/vnav.h"
 
@@ -39,7 +39,8 @@ void ActAtTopOfDescent() {
 
 void ActNearDestination() {
     // A distance of 0 is one that isn't known yet.
-    const bool near = IsRouteActive() && perf.dist_to_dest > 0 && perf.dist_to_dest < cfg.PauseAtDistFromDest;
+    const bool near =
+        IsRouteActive() && predictions.dist_to_dest > 0 && predictions.dist_to_dest < cfg.PauseAtDistFromDest;
     if (!near) {
         pause_points.dest_pause_done = pause_points.dest_rate_done = 0;
         return;

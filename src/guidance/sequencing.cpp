@@ -29,7 +29,7 @@ void ReportPosition(const FlightPlanLeg& passed) {
     report.leg = passed;
     report.time = Format("%02d%02dZ", sim.utc_hours, sim.utc_minutes);
     report.altitude = sim.ind_alt_ft;
-    report.fuel = DisplayWeight(sim.total_fuel + perf.reserves);
+    report.fuel = DisplayWeight(sim.total_fuel + perf.FuelEntry);
     if (!lnav.report_ident.empty() && lnav.report_ident == passed.ident) lnav.report_due = 1;
 }
 

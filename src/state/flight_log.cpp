@@ -4,6 +4,7 @@ FlightLogState flight_log;
 
 namespace {
 constexpr Variable kRows[] = {
+    {"fplog_mode", &flight_log.fplog_mode},
     {"fplog_start_fuel", &flight_log.start_fuel},
     {"fplog_landing_fltsecs", &flight_log.landing_fltsecs},
     {"last_row_secs", &flight_log.last_row_secs},

@@ -117,9 +117,9 @@ constexpr int kNoStepEntry = -99;
 /// told.
 struct PerfEntries {
     PlannedSpeeds speeds;
-    int step_size = kNoStepEntry;  // ft, or a kind of step
-    int cost_index = -1;           // -1 = nothing
-    double cruise_alt = 0;         // ft
+    int ActiveStepSize = kNoStepEntry;  // ft, or a kind of step
+    int ActiveCostIndex = -1;           // -1 = nothing
+    double cruise_alt = 0;              // ft
 };
 
 /// All that a modification may change. It stands twice: `active` is what is flown and what ERASE brings back,

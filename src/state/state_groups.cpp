@@ -25,12 +25,14 @@
 #include "state/placement.h"
 #include "state/plan.h"
 #include "state/pos_init.h"
+#include "state/predictions.h"
 #include "state/procedure_lists.h"
 #include "state/remote.h"
 #include "state/requests.h"
 #include "state/route_files.h"
 #include "state/sim.h"
 #include "state/sound.h"
+#include "state/takeoff_approach.h"
 #include "state/time_base.h"
 #include "state/traffic.h"
 #include "state/vnav.h"
@@ -73,11 +75,14 @@ constexpr StateGroup kGroups[] = {
     {"winds", Reset<&winds>, &kWindsVariables, "fmc/performance/winds cdu/pages/"},
     {"route_files", Reset<&route_files>, &kRouteFileVariables, "fmc/files/"},
     {"perf", Reset<&perf>, &kPerfVariables,
-     "frame/ fmc/legs/route_state fmc/performance/ fmc/route/ fmc/files/ cdu/words/constraint_entry "
-     "cdu/unit/keypad"},
-    {"flight_log", Reset<&flight_log>, &kFlightLogVariables, "fmc/performance/flight_log"},
-    {"vnav", Reset<&vnav>, &kVnavVariables,
-     "frame/crew_messages fmc/performance/ fmc/route/ guidance/"},
+     "frame/configuration fmc/legs/route_state fmc/performance/ fmc/route/ fmc/files/ "
+     "cdu/words/constraint_entry"},
+    {"predictions", Reset<&predictions>, &kPredictionVariables, "fmc/performance/ fmc/route/"},
+    {"takeoff_approach", Reset<&takeoff_approach>, &kTakeoffApproachVariables,
+     "frame/aircraft fmc/performance/approach_speeds cdu/unit/keypad"},
+    {"flight_log", Reset<&flight_log>, &kFlightLogVariables,
+     "fmc/performance/flight_log fmc/route/execute_route fmc/files/loaded_route"},
+    {"vnav", Reset<&vnav>, &kVnavVariables, "frame/crew_messages fmc/performance/ fmc/route/ guidance/"},
     {"lnav", Reset<&lnav>, &kLnavVariables, "fmc/legs/holds fmc/route/ guidance/ cdu/unit/cdu_service"},
     {"pause_points", Reset<&pause_points>, &kPausePointVariables, "guidance/pause_points"},
     {"autoflight", Reset<&autoflight>, &kAutoflightVariables, "guidance/"},

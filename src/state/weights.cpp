@@ -15,6 +15,8 @@ struct Describe<FlapSpeedRow> {
 
 namespace {
 constexpr Variable kRows[] = {
+    {"zfw", &weights.zfw},
+    {"gross_weight", &weights.gross_weight},
     {"flap_speeds", &weights.flap_speeds},
     {"flap_speed_row", &weights.flap_speed_row},
     {"flap_speed_ref_weight", &weights.flap_speed_ref_weight},

@@ -14,7 +14,9 @@
 #include "state/plan.h"
 #include "state/pos_init.h"
 #include "state/sim.h"
+#include "state/takeoff_approach.h"
 #include "state/vnav.h"
+#include "state/weights.h"
 #include "support/fake_host.h"
 
 namespace {
@@ -106,28 +108,28 @@ TEST_F(CduKeys, InitRefComputesTheApproachSpeedsThatAreMissing) {
     sim.radio_alt_ft = 30000;
     vnav.toc = 1;
     for (const Row& row : kRows) {
-        perf.Vref20 = perf.Vref25 = perf.Vref30 = 0;
-        perf.gross_weight = row.weight;
-        perf.ApproachWeightEntry = row.entry;
+        takeoff_approach.Vref20 = takeoff_approach.Vref25 = takeoff_approach.Vref30 = 0;
+        weights.gross_weight = row.weight;
+        takeoff_approach.ApproachWeightEntry = row.entry;
         SelectInitRefPage(kCaptain);
-        EXPECT_EQ(perf.Vref20, row.vref20) << row.weight;
-        EXPECT_EQ(perf.Vref25, row.vref25) << row.weight;
-        EXPECT_EQ(perf.Vref30, row.vref30) << row.weight;
+        EXPECT_EQ(takeoff_approach.Vref20, row.vref20) << row.weight;
+        EXPECT_EQ(takeoff_approach.Vref25, row.vref25) << row.weight;
+        EXPECT_EQ(takeoff_approach.Vref30, row.vref30) << row.weight;
     }
-    perf.Vref20 = 0;
-    perf.Vref25 = 133;  // the crew's own
-    perf.gross_weight = 280000;
+    takeoff_approach.Vref20 = 0;
+    takeoff_approach.Vref25 = 133;  // the crew's own
+    weights.gross_weight = 280000;
     SelectInitRefPage(kCaptain);
-    EXPECT_EQ(perf.Vref20, 131);
-    EXPECT_EQ(perf.Vref25, 133);
-    perf.Vref20 = 0;
+    EXPECT_EQ(takeoff_approach.Vref20, 131);
+    EXPECT_EQ(takeoff_approach.Vref25, 133);
+    takeoff_approach.Vref20 = 0;
     cfg.CduAutoCalcVspeeds = 0;
     SelectInitRefPage(kCaptain);
-    EXPECT_EQ(perf.Vref20, 0);
+    EXPECT_EQ(takeoff_approach.Vref20, 0);
     cfg.CduAutoCalcVspeeds = 1;
     vnav.toc = 0;
     SelectInitRefPage(kCaptain);
-    EXPECT_EQ(perf.Vref20, 0) << "THRUST LIM asks for none";
+    EXPECT_EQ(takeoff_approach.Vref20, 0) << "THRUST LIM asks for none";
 }
 
 TEST_F(CduKeys, ExecOfANewRouteCommitsTheTakeoff) {
@@ -161,14 +163,17 @@ TEST_F(CduKeys, ExecOfANewRouteCommitsTheTakeoff) {
                               Press([](int side) { EnterSoftKey(side, kItemExec); })})
         for (const Row& row : kRows) {
             const Takeoff& b = row.before;
-            perf.v1 = b.v1, perf.vr = b.vr, perf.v2 = b.v2;
-            perf.V1Entered = b.v1_entered, perf.VREntered = b.vr_entered, perf.V2Entered = b.v2_entered;
-            perf.to_flaps = b.to_flaps, perf.ldg_flaps = b.ldg_flaps, perf.vref = b.vref;
+            takeoff_approach.v1 = b.v1, takeoff_approach.vr = b.vr, takeoff_approach.v2 = b.v2;
+            takeoff_approach.V1Entered = b.v1_entered, takeoff_approach.VREntered = b.vr_entered,
+            takeoff_approach.V2Entered = b.v2_entered;
+            takeoff_approach.to_flaps = b.to_flaps, takeoff_approach.ldg_flaps = b.ldg_flaps,
+            takeoff_approach.vref = b.vref;
             plan.fms_fpln_active = row.state;
             press(row.side);
-            const Takeoff after = {perf.v1,        perf.vr,        perf.v2,
-                                   perf.V1Entered, perf.VREntered, perf.V2Entered,
-                                   perf.to_flaps,  perf.ldg_flaps, perf.vref};
+            const Takeoff after = {
+                takeoff_approach.v1,        takeoff_approach.vr,        takeoff_approach.v2,
+                takeoff_approach.V1Entered, takeoff_approach.VREntered, takeoff_approach.V2Entered,
+                takeoff_approach.to_flaps,  takeoff_approach.ldg_flaps, takeoff_approach.vref};
             EXPECT_TRUE(after == row.after) << "row " << &row - kRows;
         }
 }

@@ -16,9 +16,11 @@
 #include "state/lnav.h"
 #include "state/perf.h"
 #include "state/plan.h"
+#include "state/predictions.h"
 #include "state/side.h"
 #include "state/sim.h"
 #include "state/vnav.h"
+#include "state/weights.h"
 
 namespace {
 
@@ -205,6 +207,7 @@ TEST_F(ExecuteRouteTest, EraseBringsEverythingBack) {
     MarkHold(1, false, 0);
     plan.mod.entries.speeds.climb_ias = 300;
     plan.mod.entries.cruise_alt = 39000;
+    plan.mod.selected.ClimbSelected = 1;
     EXPECT_EQ(ModLegs(), "ORIG AAA DISCO CCC ALTN");
     EXPECT_EQ(plan.active.ends.dest, "DEST");
     EXPECT_EQ(plan.mod.ends.dest, "ALTN");
@@ -219,6 +222,7 @@ TEST_F(ExecuteRouteTest, EraseBringsEverythingBack) {
     EXPECT_EQ(plan.mod.legs[2].hold_pos, 1);
     EXPECT_EQ(plan.mod.entries.speeds.climb_ias, 0);
     EXPECT_EQ(plan.mod.entries.cruise_alt, 0);
+    EXPECT_EQ(plan.mod.selected.ClimbSelected, 0);
     EXPECT_EQ(plan.fms_fpln_active, kRouteActive);
 }
 
@@ -250,11 +254,11 @@ TEST_F(ExecuteRouteTest, SequencingMovesAPendingModificationOn) {
 TEST_F(ExecuteRouteTest, SpeedsAndLevelsFollowAtExec) {
     Enter("ORIG AAA DEST");
     perf.speeds.climb_ias = perf.speeds.cruise_ias = perf.speeds.descent_ias = 280;
-    plan.mod.selected.cruise_mach = 1;
+    plan.mod.selected.CruiseMachSelected = 1;
     perf.speeds.cruise_mach = 0.81;
     plan.mod.entries.cruise_alt = 35000;
-    plan.mod.entries.step_size = -1;
-    perf.gross_weight = 400000;
+    plan.mod.entries.ActiveStepSize = -1;
+    weights.gross_weight = 400000;
     perf.cruise_alt = 12000;  // of the flight before
     std::string error;
     ExecuteEnteredRoute(error);
@@ -265,14 +269,18 @@ TEST_F(ExecuteRouteTest, SpeedsAndLevelsFollowAtExec) {
     EXPECT_EQ(perf.init_cruise_alt, 35000);
     EXPECT_EQ(perf.fms_step_to_alt, 39000);
     EXPECT_EQ(vnav.cross_at_elev, 35000);
-    plan.mod.entries.cost_index = 100;
-    plan.mod.entries.step_size = 7000;
+    plan.mod.entries.ActiveCostIndex = 100;
+    plan.mod.entries.ActiveStepSize = 7000;
     AdvanceRouteState();
     ExecuteRoute();
     EXPECT_EQ(perf.cost_index, 100);
-    EXPECT_EQ(plan.mod.selected.cruise_mach, 0);
+    EXPECT_EQ(plan.mod.selected.CruiseMachSelected, 0);
     EXPECT_EQ(perf.fms_step_to_alt, 0);  // 42000 is above the maximum of 41800
-    EXPECT_NEAR(perf.perf_factor, 10 * 0.0071 - 0.03, 1e-9);
+    EXPECT_NEAR(predictions.perf_factor, 10 * 0.0071 - 0.03, 1e-9);
+    plan.mod.selected.LrcSelected = 1;
+    AdvanceRouteState();
+    ExecuteRoute();
+    EXPECT_NEAR(perf.speeds.cruise_mach, 0.815, 1e-9);  // long range at 400000 lb and 35000 ft
 }
 
 TEST(StepToAltitude, TakesTheNextLevelOfItsKind) {
@@ -312,10 +320,10 @@ TEST_F(ExecuteRouteTest, ANewOriginStartsANewRoute) {
     ClearFlightPlan();
     EXPECT_EQ(plan.active.stpos, kNoPlan);
     EXPECT_EQ(plan.active.leg_cnt, 0);
-    EXPECT_EQ(perf.clb_burn, 33000);
-    EXPECT_EQ(perf.crz_burn, 8500);
-    EXPECT_EQ(perf.des_burn, 3500);
-    EXPECT_EQ(perf.default_climb_rate, 3300);
+    EXPECT_EQ(predictions.clb_burn, 33000);
+    EXPECT_EQ(predictions.crz_burn, 8500);
+    EXPECT_EQ(predictions.des_burn, 3500);
+    EXPECT_EQ(predictions.default_climb_rate, 3300);
 }
 
 }  // namespace

@@ -5,10 +5,10 @@
 #include "state/cfg.h"
 #include "state/flight_log.h"
 #include "state/identity.h"
-#include "state/perf.h"
 #include "state/plan.h"
 #include "state/sim.h"
 #include "state/time_base.h"
+#include "state/weights.h"
 #include "support/fake_host.h"
 
 namespace {
@@ -26,13 +26,13 @@ class FlightLog : public testing::Test {
         plan.active.legs[1].lat = 5;
         sim.on_ground = 1;
         sim.total_fuel = 90000;
-        perf.gross_weight = 400000;
+        weights.gross_weight = 400000;
     }
     // Steps once a second for a while.
     static void Fly(double seconds) {
         for (int i = 0; i < seconds; ++i) {
             sim.abs_time += 1;
-            if (perf.fplog_mode >= 3) time_base.fltsecs += 1;
+            if (flight_log.fplog_mode >= 3) time_base.fltsecs += 1;
             FlightLogStep(false);
         }
     }
@@ -48,7 +48,7 @@ class FlightLog : public testing::Test {
 TEST_F(FlightLog, PhasesFollowTheFlight) {
     host.PutFile("Velarion/TZ900/fpl.log", "of the flight before\n");
     Fly(1);
-    EXPECT_EQ(perf.fplog_mode, 0);
+    EXPECT_EQ(flight_log.fplog_mode, 0);
     EXPECT_EQ(flight_log.start_fuel, 90000);
     EXPECT_EQ(Log().substr(0, 44), "FlightPlan=ORIG-DEST\nAircraft=tz900-9 test\n-");
     const struct {
@@ -68,7 +68,7 @@ TEST_F(FlightLog, PhasesFollowTheFlight) {
         sim.vs_fpm = leg.vs;
         sim.plane_lat = leg.lat;
         Fly(leg.seconds);
-        EXPECT_EQ(perf.fplog_mode, leg.mode) << leg.ground_speed << " kt, " << leg.vs << " fpm";
+        EXPECT_EQ(flight_log.fplog_mode, leg.mode) << leg.ground_speed << " kt, " << leg.vs << " fpm";
     }
     EXPECT_NE(Log().find("00:00:00 InitLoad     DEST     0      0       0       0      0   90000   400000 0  "
                          "  0.00 0.0\n"),
@@ -81,12 +81,12 @@ TEST_F(FlightLog, PhasesFollowTheFlight) {
 TEST_F(FlightLog, RowsComeWhenTheyAreDue) {
     Fly(1);
     EXPECT_EQ(Rows(), 1);
-    perf.fplog_mode = 4;
+    flight_log.fplog_mode = 4;
     sim.ground_speed_kt = 300;
     sim.vs_fpm = 1000;
     Fly(20);
     EXPECT_EQ(Rows(), 5);  // every five seconds
-    perf.fplog_mode = 5;
+    flight_log.fplog_mode = 5;
     sim.vs_fpm = 0;
     Fly(300);
     EXPECT_EQ(Rows(), 5);  // level
@@ -106,7 +106,7 @@ TEST_F(FlightLog, RowsComeWhenTheyAreDue) {
     sim.ground_speed_kt = 0;
     sim.parking_brake = 32767;
     Fly(1);
-    EXPECT_EQ(perf.fplog_mode, 11);
+    EXPECT_EQ(flight_log.fplog_mode, 11);
 }
 
 }  // namespace

@@ -9,9 +9,11 @@
 #include "state/leg_words.h"
 #include "state/perf.h"
 #include "state/plan.h"
+#include "state/predictions.h"
 #include "state/sim.h"
 #include "state/state_groups.h"
 #include "state/vnav.h"
+#include "state/weights.h"
 
 namespace {
 
@@ -30,14 +32,14 @@ TEST_F(Predictions, EconomySpeedsFollowTheirTables) {
         {100000, -1, 288}, {360000, 999, 343}, {330000, 100, 313}, {600000, 340, 350}, {310000, 0, 298},
     };
     for (const auto& test : kClimb) {
-        perf.gross_weight = test.weight;
+        weights.gross_weight = test.weight;
         EXPECT_EQ(EconClimbSpeed(test.index), test.climb) << test.weight << " " << test.index;
     }
-    perf.gross_weight = 200000;
+    weights.gross_weight = 200000;
     EXPECT_EQ(EconDescentSpeed(0), 282);
     EXPECT_EQ(EconDescentSpeed(80), 289);   // between 287 and 290: 288.5
     EXPECT_EQ(EconDescentSpeed(999), 290);  // held at 119: 290.25
-    perf.gross_weight = 900000;
+    weights.gross_weight = 900000;
     EXPECT_EQ(EconDescentSpeed(20), 311);
 }
 
@@ -45,27 +47,27 @@ TEST_F(Predictions, CruiseMachRisesWithIndexHeightAndWeight) {
     for (double weight = 180000; weight < 560000; weight += 7000)
         for (double altitude = 5000; altitude < 46000; altitude += 1300)
             for (const int index : {0, 149, 150, 999, kLongRangeCruise}) {
-                perf.gross_weight = weight;
+                weights.gross_weight = weight;
                 const double mach = EconCruiseMach(index, altitude);
                 EXPECT_GE(mach, 0.363);
                 EXPECT_LE(mach, 0.89);
                 EXPECT_LE(mach, EconCruiseMach(index, altitude + 1000) + 1e-12);
                 EXPECT_GE(EconCruiseMach(150, altitude), EconCruiseMach(0, altitude));
                 EXPECT_GE(EconCruiseMach(0, altitude), EconCruiseMach(kLongRangeCruise, altitude));
-                perf.gross_weight = weight + 10000;
+                weights.gross_weight = weight + 10000;
                 EXPECT_LE(mach, EconCruiseMach(index, altitude) + 1e-12);
             }
 }
 
 TEST_F(Predictions, LimitsAndFactorsAreThoseOfTheAircraft) {
-    perf.gross_weight = 500000;
+    weights.gross_weight = 500000;
     EXPECT_EQ(MaxAltitude(), 377);
-    perf.gross_weight = 400000;
+    weights.gross_weight = 400000;
     EXPECT_EQ(MaxAltitude(), 418);
     identity.aircraft_model = "900-10";
     EXPECT_EQ(MaxAltitude(), 411);
     identity.aircraft_model = "900-8";
-    perf.gross_weight = 250000;
+    weights.gross_weight = 250000;
     EXPECT_EQ(MaxAltitude(), 431);
     const struct {
         int index;
@@ -91,7 +93,7 @@ TEST_F(Predictions, ClimbTakesTheNearestRowAndWeight) {
 }
 
 TEST_F(Predictions, CostIndexRowsSpareSpeedsSetByHand) {
-    plan.mod.selected.climb_mach = 1;
+    plan.mod.selected.climb_mach_manual = 1;
     ApplyCostIndexRow(true, 155);
     EXPECT_EQ(perf.speeds.climb_ias, 332);
     EXPECT_EQ(perf.speeds.climb_mach, 0);
@@ -122,17 +124,17 @@ TEST_F(Predictions, DistancesPassOverWhatIsNotFlown) {
     sim.plane_lat = 39.5;
     sim.mgvar = 3;
     ComputeDistances(1);
-    EXPECT_EQ(perf.dist_to_dest, 0);  // no plan yet
+    EXPECT_EQ(predictions.dist_to_dest, 0);  // no plan yet
     plan.active.stpos = 1;
     vnav.toc_lat = 39.75;
     vnav.toc_stpos = 0;
     vnav.tod_lat = 41.5;
     vnav.tod_stpos = 3;
     ComputeDistances(1);
-    EXPECT_NEAR(perf.dist_to_dest, 150, 1e-6);
-    EXPECT_NEAR(perf.dist_to_toc, 15, 1e-6);
-    EXPECT_NEAR(perf.dist_to_tod, 120, 1e-6);
-    EXPECT_NEAR(perf.dest_brg, 357, 1e-6);
+    EXPECT_NEAR(predictions.dist_to_dest, 150, 1e-6);
+    EXPECT_NEAR(predictions.dist_to_toc, 15, 1e-6);
+    EXPECT_NEAR(predictions.dist_to_tod, 120, 1e-6);
+    EXPECT_NEAR(predictions.dest_brg, 357, 1e-6);
 }
 
 // A route along a meridian, sixty miles to the degree: 300 kt and 280 kt make 367.5 and 343 kt at half of
@@ -159,7 +161,7 @@ class Profile : public Predictions {
         perf.speeds.climb_ias = 300;
         perf.speeds.cruise_ias = 290;
         perf.speeds.descent_ias = 280;
-        perf.gross_weight = 450000;
+        weights.gross_weight = 450000;
         perf.cruise_alt = 30000;
     }
     static const FlightPlanLeg& Leg(int index) { return plan.active.legs[index]; }
@@ -168,13 +170,13 @@ class Profile : public Predictions {
 TEST_F(Profile, PlacesTopsAltitudesSpeedsAndBurns) {
     ComputeProfile(30000, 0);
     // AAA would be passed at 32320 ft, 2320 / 3300 minutes late.
-    EXPECT_NEAR(perf.dist_to_toc, 60 - 2320 / 3300.0 * 6.125, 1e-3);
-    EXPECT_NEAR(vnav.toc_lat, 40 + perf.dist_to_toc / 60, 1e-6);
+    EXPECT_NEAR(predictions.dist_to_toc, 60 - 2320 / 3300.0 * 6.125, 1e-3);
+    EXPECT_NEAR(vnav.toc_lat, 40 + predictions.dist_to_toc / 60, 1e-6);
     EXPECT_EQ(vnav.toc_stpos, 0);
-    EXPECT_EQ(perf.tod_rod, 1400);
+    EXPECT_EQ(predictions.tod_rod, 1400);
     EXPECT_EQ(Leg(4).alt, 14690);  // 60 nm out
-    EXPECT_NEAR(perf.dist_to_tod, 300 + (14690 + 90 * 1400 / (343 / 60.0) - 30000) / (1400 / (343 / 60.0)),
-                1e-3);
+    EXPECT_NEAR(predictions.dist_to_tod,
+                300 + (14690 + 90 * 1400 / (343 / 60.0) - 30000) / (1400 / (343 / 60.0)), 1e-3);
     EXPECT_EQ(vnav.tod_stpos, 3);
     for (const int cruise : {1, 2, 3}) {
         EXPECT_EQ(Leg(cruise).alt, 30000) << cruise;
@@ -183,10 +185,10 @@ TEST_F(Profile, PlacesTopsAltitudesSpeedsAndBurns) {
     EXPECT_EQ(Leg(4).ias_restr, 280);
     EXPECT_EQ(Leg(5).ias_restr, 240);  // below the transition
     EXPECT_EQ(Leg(5).alt, 0);
-    EXPECT_EQ(perf.clb_burn, 25200 * 0.9);
-    EXPECT_NEAR(perf.crz_burn, 11500 * 1.1, 1e-6);
-    EXPECT_EQ(perf.des_burn, (4000 + 5800) / 2);  // 22345 ft and 7345 ft in the mean
-    EXPECT_NEAR(perf.des_burn_per_nm, 4900 / 343.0, 1e-9);
+    EXPECT_EQ(predictions.clb_burn, 25200 * 0.9);
+    EXPECT_NEAR(predictions.crz_burn, 11500 * 1.1, 1e-6);
+    EXPECT_EQ(predictions.des_burn, (4000 + 5800) / 2);  // 22345 ft and 7345 ft in the mean
+    EXPECT_NEAR(predictions.des_burn_per_nm, 4900 / 343.0, 1e-9);
     EXPECT_EQ(cdu[0].CduMessageCount, 0);
 }
 
@@ -197,7 +199,7 @@ TEST_F(Profile, ConstraintsBendIt) {
     ComputeProfile(30000, 0);
     EXPECT_EQ(Leg(4).alt, 10000);
     EXPECT_EQ(Leg(4).ias_restr, 240);
-    EXPECT_NEAR(perf.dist_to_tod, 390 - 20000 / (1400 / (343 / 60.0)), 1e-3);
+    EXPECT_NEAR(predictions.dist_to_tod, 390 - 20000 / (1400 / (343 / 60.0)), 1e-3);
     // A wide window holds the path where it is, a narrow one clips it.
     plan.active.legs[4].restr_type = kBetween;
     plan.active.legs[4].alt_restr = 0;
@@ -213,7 +215,7 @@ TEST_F(Profile, ConstraintsBendIt) {
     EXPECT_EQ(Leg(1).alt, 7000);
     EXPECT_EQ(vnav.cross_at_elev, 7000);
     EXPECT_EQ(Leg(1).ias_restr, 250);
-    EXPECT_GT(perf.dist_to_toc, 60 + 23000 / 3300.0 * 6.125 - 0.1);
+    EXPECT_GT(predictions.dist_to_toc, 60 + 23000 / 3300.0 * 6.125 - 0.1);
 }
 
 TEST_F(Profile, TooShortARouteIsTold) {

@@ -18,6 +18,7 @@
 #include "platform/files.h"
 #include "state/airports.h"
 #include "state/cfg.h"
+#include "state/flight_log.h"
 #include "state/leg_words.h"
 #include "state/perf.h"
 #include "state/plan.h"
@@ -77,7 +78,7 @@ TEST_F(RouteFiles, TheListHasPlansInTheOrderOfTheFolder) {
 
 TEST_F(RouteFiles, AShortRowGivesTheFieldsThatItHas) {
     sim.on_ground = 1;
-    perf.fplog_mode = 4;
+    flight_log.fplog_mode = 4;
     cfg.ClimbIas = 300;
     ASSERT_EQ(
         Load(std::string("CruiseAlt = 35000\r\nCostIndex=80\r\nFuel=9000\r\nTripFuel=1000\r\nResvFuel=500"
@@ -107,7 +108,7 @@ TEST_F(RouteFiles, AShortRowGivesTheFieldsThatItHas) {
     EXPECT_EQ(plan.pending_stpos, 1);
     EXPECT_EQ(perf.speeds.climb_ias, 300);
     EXPECT_EQ(perf.speeds.descent_mach, 0.74);
-    EXPECT_EQ(perf.fplog_mode, -1);
+    EXPECT_EQ(flight_log.fplog_mode, -1);
     AdvanceRouteState();
     ExecuteRoute();
     EXPECT_EQ(plan.active.stpos, 1);

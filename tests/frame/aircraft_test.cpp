@@ -78,7 +78,7 @@ TEST(Aircraft, TheHostIsKnownByItsFiles) {
 TEST(Aircraft, TheFlapSpeedRowFollowsALossOfWeightOnly) {
     FakeHost host;
     LoadAircraft();
-    perf.zfw = 300000;
+    weights.zfw = 300000;
     sim.total_fuel = 100500;
     UpdateFlapSpeedRow();
     EXPECT_EQ(weights.flap_speed_row, 6);
@@ -104,18 +104,21 @@ TEST(Aircraft, ZeroFuelWeightComesFromTheHostUntilTheCrewEntersOne) {
     host.calc_numbers["(A:Payload Station Weight:1,pounds)"] = 30000;
     host.calc_numbers["(A:Payload Station Weight:20,pounds)"] = 10000;
     LoadAircraft();
-    EXPECT_EQ(perf.zfw, 0);  // the CDU fills it in
+    EXPECT_EQ(weights.zfw, 0);  // the CDU fills it in
     cfg.CduAutoCalcZfw = 0;
     LoadAircraft();
-    EXPECT_EQ(perf.zfw, 300000);
+    EXPECT_EQ(weights.zfw, 300000);
     sim.total_fuel = 50000;
     host.calc_numbers["(A:Payload Station Weight:2,pounds)"] = 1000;
     UpdateWeights();
-    EXPECT_EQ(perf.zfw, 301000);
-    EXPECT_EQ(perf.gross_weight, 351000);
-    perf.ZfwEntry = perf.zfw = 290000;
+    EXPECT_EQ(weights.zfw, 301000);
+    EXPECT_EQ(weights.gross_weight, 351000);
+    perf.ZfwEntry = weights.zfw = 290000;
     UpdateWeights();
-    EXPECT_EQ(perf.gross_weight, 340000);
+    EXPECT_EQ(weights.gross_weight, 340000);
+    perf.FuelEntry = -500;  // the crew knows of less fuel than is sensed
+    UpdateWeights();
+    EXPECT_EQ(weights.gross_weight, 339500);
 }
 
 }  // namespace

@@ -5,7 +5,7 @@
 #include "base/bcd.h"
 #include "frame/tokens.h"
 #include "state/cfg.h"
-#include "state/perf.h"
+#include "state/flight_log.h"
 #include "state/sim.h"
 #include "state/time_base.h"
 #include "support/fake_host.h"
@@ -105,14 +105,14 @@ TEST(Snapshot, FlightSecondsFollowTheSecondsToken) {
         StepFlightClock();
     };
     second(58);
-    perf.fplog_mode = 3;
+    flight_log.fplog_mode = 3;
     second(58);
     second(59);
     second(0);
     EXPECT_EQ(time_base.fltsecs, 2);
     EXPECT_EQ(time_base.et_minutes, 1);
     EXPECT_EQ(time_base.et_seconds, 1);
-    perf.fplog_mode = 11;
+    flight_log.fplog_mode = 11;
     second(1);
     EXPECT_EQ(time_base.fltsecs, 2);
 }

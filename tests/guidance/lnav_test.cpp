@@ -203,7 +203,7 @@ TEST_F(LnavTest, PassingAFix) {
     vnav.toc = 1;
     cfg.WeightUnit = "KGS";
     sim.total_fuel = 50000;
-    perf.reserves = 1000;
+    perf.FuelEntry = 1000;
     lnav.report_ident = "BRAVO";
     PlaceAt(0, 0.495, 90);
     RunASecond();

@@ -22,10 +22,10 @@
 #include "state/cfg.h"
 #include "state/displays.h"
 #include "state/efb.h"
-#include "state/perf.h"
 #include "state/plan.h"
 #include "state/remote.h"
 #include "state/sound.h"
+#include "state/takeoff_approach.h"
 #include "support/fake_host.h"
 #include "support/paths.h"
 
@@ -60,7 +60,7 @@ TEST_F(RemoteInput, CduCodes) {
     plan.fms_fpln_active = 2;
     cfg.V1 = 131;
     Key(1, 52);  // EXEC, the first officer's
-    EXPECT_EQ(perf.v1, 131);
+    EXPECT_EQ(takeoff_approach.v1, 131);
     EXPECT_EQ(remote.cdu.due, 1);
     EXPECT_EQ(remote.efb.due, 0);
 }

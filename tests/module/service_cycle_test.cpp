@@ -16,9 +16,10 @@
 #include "state/identity.h"
 #include "state/irs.h"
 #include "state/module_life.h"
-#include "state/perf.h"
 #include "state/plan.h"
+#include "state/predictions.h"
 #include "state/sim.h"
+#include "state/takeoff_approach.h"
 #include "state/time_base.h"
 #include "state/vnav.h"
 #include "state/weights.h"
@@ -157,7 +158,7 @@ TEST(ServiceCycle, DelayedStartShowsTheShadows) {
     EXPECT_EQ(sim.nav1_freq, 11190);
     EXPECT_EQ(cockpit.eng1_thrott, 1);
     EXPECT_EQ(cockpit.eng2_thrott, 2);
-    EXPECT_EQ(perf.takeoff_flap_list, ",5,10,15,17,18,20,");
+    EXPECT_EQ(takeoff_approach.takeoff_flap_list, ",5,10,15,17,18,20,");
     EXPECT_EQ(irs.irs_timer_l, 180);
     EXPECT_EQ(irs.irs_timer_r, 0);
     sim_host.Run(20);
@@ -327,10 +328,10 @@ TEST(ServiceCycle, DistanceFromDestinationPausesOnce) {
     host.tokens[kTokenSimRate] = 256;
     sim_host.Start();
     plan.fms_fpln_active = 3;
-    perf.dist_to_dest = 51;
+    predictions.dist_to_dest = 51;
     sim_host.Tick();
     EXPECT_TRUE(host.events.empty());
-    perf.dist_to_dest = 49;
+    predictions.dist_to_dest = 49;
     sim_host.Tick(3);
     EXPECT_EQ(host.events, (Events{{0x10019, 0}}));
 }

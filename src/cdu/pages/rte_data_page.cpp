@@ -13,7 +13,7 @@
 #include "state/cfg.h"
 #include "state/leg_words.h"
 #include "state/lnav.h"
-#include "state/perf.h"
+#include "state/predictions.h"
 #include "state/sim.h"
 #include "state/vnav.h"
 #include "state/winds.h"
@@ -33,9 +33,9 @@ struct Arrival {
 };
 
 double BurnPerNm(int leg) {
-    if (vnav.tod_stpos > 0 && leg > vnav.tod_stpos) return perf.des_burn_per_nm;
-    if (vnav.toc == 0 && vnav.toc_stpos > 0 && leg <= vnav.toc_stpos) return perf.clb_burn_per_nm;
-    return perf.crz_burn_per_nm;
+    if (vnav.tod_stpos > 0 && leg > vnav.tod_stpos) return predictions.des_burn_per_nm;
+    if (vnav.toc == 0 && vnav.toc_stpos > 0 && leg <= vnav.toc_stpos) return predictions.clb_burn_per_nm;
+    return predictions.crz_burn_per_nm;
 }
 
 double DistanceTo(int leg) {
@@ -46,7 +46,7 @@ double DistanceTo(int leg) {
 
 // From one leg to the next, as the aircraft goes now.
 void FlyTo(Arrival& arrival, int leg) {
-    const double speed = sim.ground_speed_kt > kUsableGroundSpeed ? sim.ground_speed_kt : perf.avg_gs;
+    const double speed = sim.ground_speed_kt > kUsableGroundSpeed ? sim.ground_speed_kt : predictions.avg_gs;
     const double distance = DistanceTo(leg);
     if (speed > 0) arrival.hours += distance / speed;
     arrival.fuel_lb = std::max(0.0, arrival.fuel_lb - distance * BurnPerNm(leg));

@@ -5,9 +5,9 @@
 #include "state/cdu.h"
 #include "state/cfg.h"
 #include "state/leg_words.h"
-#include "state/perf.h"
 #include "state/plan.h"
 #include "state/side.h"
+#include "state/takeoff_approach.h"
 
 namespace {
 
@@ -28,19 +28,19 @@ void FillFlaps(int& flaps, int setting) {
 // configuration has.
 void CommitTakeoffValues(int side) {
     if (side == kCaptain) {
-        TakeEntered(perf.V1Entered, perf.v1);
-        TakeEntered(perf.VREntered, perf.vr);
-        TakeEntered(perf.V2Entered, perf.v2);
-        FillFlaps(perf.to_flaps, cfg.ToFlaps);
-        FillFlaps(perf.ldg_flaps, cfg.LdgFlaps);
+        TakeEntered(takeoff_approach.V1Entered, takeoff_approach.v1);
+        TakeEntered(takeoff_approach.VREntered, takeoff_approach.vr);
+        TakeEntered(takeoff_approach.V2Entered, takeoff_approach.v2);
+        FillFlaps(takeoff_approach.to_flaps, cfg.ToFlaps);
+        FillFlaps(takeoff_approach.ldg_flaps, cfg.LdgFlaps);
         return;
     }
-    perf.V1Entered = perf.v1 = cfg.V1;
-    perf.VREntered = perf.vr = cfg.VR;
-    perf.V2Entered = perf.v2 = cfg.V2;
-    perf.to_flaps = cfg.ToFlaps;
-    perf.ldg_flaps = cfg.LdgFlaps;
-    perf.vref = cfg.VREF;
+    takeoff_approach.V1Entered = takeoff_approach.v1 = cfg.V1;
+    takeoff_approach.VREntered = takeoff_approach.vr = cfg.VR;
+    takeoff_approach.V2Entered = takeoff_approach.v2 = cfg.V2;
+    takeoff_approach.to_flaps = cfg.ToFlaps;
+    takeoff_approach.ldg_flaps = cfg.LdgFlaps;
+    takeoff_approach.vref = cfg.VREF;
 }
 
 }  // namespace

@@ -14,6 +14,7 @@
 #include "navdata/geodesy.h"
 #include "state/airports.h"
 #include "state/cfg.h"
+#include "state/flight_log.h"
 #include "state/leg_words.h"
 #include "state/perf.h"
 #include "state/plan.h"
@@ -106,7 +107,7 @@ void MarkLoadedRouteNew() {
 void PlanCostIndex(double index) {
     constexpr int kMost = 999;
     if (index < kNoCostIndex || index > kMost) return;
-    (IsRouteActive() ? plan.mod.entries.cost_index : perf.cost_index) = static_cast<int>(index);
+    (IsRouteActive() ? plan.mod.entries.ActiveCostIndex : perf.cost_index) = static_cast<int>(index);
 }
 
 void AddLoadedLeg(FlightPlanLeg leg) {
@@ -125,5 +126,5 @@ void FinishLoadedRoute(std::string_view company_route) {
     FlightLogStep(false);
     TakeOrigin();
     TakeDestination(company_route);
-    if (sim.on_ground == 1) perf.fplog_mode = -1;
+    if (sim.on_ground == 1) flight_log.fplog_mode = -1;
 }

@@ -5,7 +5,7 @@
 #include <cmath>
 
 #include "fmc/performance/predictions.h"
-#include "state/perf.h"
+#include "state/takeoff_approach.h"
 
 namespace {
 
@@ -49,9 +49,10 @@ void FillEmpty(double& speed, const SpeedTable& table, double weight) {
 
 void FillApproachSpeeds(LandingWeight limit) {
     constexpr double kHeaviestLanding = 380000;
-    const double weight = perf.ApproachWeightEntry != 0 ? perf.ApproachWeightEntry : GrossWeight();
+    TakeoffApproachState& approach = takeoff_approach;
+    const double weight = approach.ApproachWeightEntry != 0 ? approach.ApproachWeightEntry : GrossWeight();
     const double landing = limit == LandingWeight::kLimited ? std::min(weight, kHeaviestLanding) : weight;
-    FillEmpty(perf.Vref30, kVref30, landing);
-    FillEmpty(perf.Vref25, kVref25, weight);
-    FillEmpty(perf.Vref20, kVref20, weight);
+    FillEmpty(approach.Vref30, kVref30, landing);
+    FillEmpty(approach.Vref25, kVref25, weight);
+    FillEmpty(approach.Vref20, kVref20, weight);
 }

@@ -13,7 +13,6 @@
 #include "state/cfg.h"
 #include "state/flight_log.h"
 #include "state/identity.h"
-#include "state/perf.h"
 #include "state/plan.h"
 #include "state/sim.h"
 #include "state/time_base.h"
@@ -52,7 +51,7 @@ constexpr double kParkingBrakeSet = 32000;
 void BeginLog() {
     flight_log = {};
     flight_log.start_fuel = sim.total_fuel;
-    perf.fplog_mode = kInitLoad;
+    flight_log.fplog_mode = kInitLoad;
     time_base.fltsecs = 0;
     if (cfg.LogFlightPlan != 1) return;
     const std::string head =
@@ -78,7 +77,7 @@ void WriteRow() {
         Format(
             "%02d:%02d:%02d %-10s %6.16s %5.0f  %5.0f   %5.0f  %6.0f  %5.0f %7.0f  %7.0f %-3.0f  %.2f %.1f\n",
             seconds / 3600, seconds / 60 % 60, seconds % 60,
-            kPhaseTexts[static_cast<std::size_t>(perf.fplog_mode)],
+            kPhaseTexts[static_cast<std::size_t>(flight_log.fplog_mode)],
             FlightPlanLegAt(plan.active.stpos).ident.c_str(), sim.ground_speed_kt, sim.tas_kt, sim.vs_fpm,
             sim.ind_alt_ft, fuel_flow, sim.total_fuel, GrossWeight(), sim.ias_kt, (sim.n1_l + sim.n1_r) / 2,
             FlightPathAngle()));
@@ -104,7 +103,7 @@ bool IsParked() {
 }
 
 bool HasPhaseEnded() {
-    switch (perf.fplog_mode) {
+    switch (flight_log.fplog_mode) {
         case kInitLoad:
             return sim.ground_speed_kt > 2;
         case kPushBack:
@@ -138,7 +137,7 @@ bool HasPhaseEnded() {
 
 bool IsRowDue() {
     const double since_row = sim.abs_time - flight_log.last_row_secs;
-    switch (perf.fplog_mode) {
+    switch (flight_log.fplog_mode) {
         case kClimb:
             return since_row >= 5 && sim.vs_fpm > kSteepFpm;
         case kCruise:
@@ -153,23 +152,23 @@ bool IsRowDue() {
 }
 
 void BeginNextPhase() {
-    if (perf.fplog_mode == kApproach) flight_log.landing_fltsecs = time_base.fltsecs;
-    ++perf.fplog_mode;
-    const bool row_at_change = perf.fplog_mode <= kClimb || perf.fplog_mode == kEndFlight;
+    if (flight_log.fplog_mode == kApproach) flight_log.landing_fltsecs = time_base.fltsecs;
+    ++flight_log.fplog_mode;
+    const bool row_at_change = flight_log.fplog_mode <= kClimb || flight_log.fplog_mode == kEndFlight;
     if (row_at_change) WriteRow();
 }
 
 }  // namespace
 
 void FlightLogStep(bool at_waypoint) {
-    if (sim.sim_rate != 1 || plan.active.stpos == kNoPlan || perf.fplog_mode >= kEndFlight) return;
-    if (perf.fplog_mode <= kNotStarted) {
+    if (sim.sim_rate != 1 || plan.active.stpos == kNoPlan || flight_log.fplog_mode >= kEndFlight) return;
+    if (flight_log.fplog_mode <= kNotStarted) {
         BeginLog();
         WriteRow();
         return;
     }
-    if (perf.fplog_mode >= kTakeoff && perf.fplog_mode <= kDescent && IsParked()) {
-        perf.fplog_mode = kEndFlight;
+    if (flight_log.fplog_mode >= kTakeoff && flight_log.fplog_mode <= kDescent && IsParked()) {
+        flight_log.fplog_mode = kEndFlight;
         WriteRow();
         return;
     }

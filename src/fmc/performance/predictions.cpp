@@ -17,8 +17,10 @@
 #include "state/leg_words.h"
 #include "state/perf.h"
 #include "state/plan.h"
+#include "state/predictions.h"
 #include "state/sim.h"
 #include "state/vnav.h"
+#include "state/weights.h"
 
 namespace {
 
@@ -37,12 +39,12 @@ const RunwayData* DestinationRunway() {
 void SetFinalPoint() {
     constexpr double kNear = 30, kFinal = 5;
     const RunwayData* runway = DestinationRunway();
-    if (perf.final_point_set == 1 || perf.dist_to_dest >= kNear || runway == nullptr) return;
+    if (predictions.final_point_set == 1 || predictions.dist_to_dest >= kNear || runway == nullptr) return;
     const double outbound = FoldBearing(runway->course + MagVarAt(runway->lat, runway->lon) + 180);
     const LatLon point = ProjectPoint(runway->lat, runway->lon, outbound, kFinal);
-    perf.final_point_lat = point.lat;
-    perf.final_point_lon = point.lon;
-    perf.final_point_set = 1;
+    predictions.final_point_lat = point.lat;
+    predictions.final_point_lon = point.lon;
+    predictions.final_point_set = 1;
 }
 
 }  // namespace
@@ -52,15 +54,15 @@ double DisplayWeight(double lb) {
 }
 
 double GrossWeight() {
-    if (perf.gross_weight > 0) return perf.gross_weight;
-    return sim.empty_weight + sim.payload_weight + sim.total_fuel;
+    if (weights.gross_weight > 0) return weights.gross_weight;
+    return sim.empty_weight + sim.payload_weight + sim.total_fuel + perf.FuelEntry;
 }
 
 void ComputeDistances(int) {
-    perf.dist_to_dest = 0;
+    predictions.dist_to_dest = 0;
     if (plan.active.stpos == kNoPlan || plan.active.stpos < 1) return;
-    if (vnav.toc == 0) perf.dist_to_toc = 0;
-    if (vnav.tod == 0) perf.dist_to_tod = 0;
+    if (vnav.toc == 0) predictions.dist_to_toc = 0;
+    if (vnav.tod == 0) predictions.dist_to_tod = 0;
     const GrowingList<FlightPlanLeg>& legs = plan.active.legs;
     double lat = sim.plane_lat, lon = sim.plane_lon;
     int from = PlaceBefore(plan.active.legs, plan.active.stpos);
@@ -72,16 +74,16 @@ void ComputeDistances(int) {
             if (passed == 0 && before >= from && before < i && (at_lat != 0 || at_lon != 0))
                 dist = sum + GreatCircle(lat, lon, at_lat, at_lon).dist;
         };
-        measure(vnav.toc, vnav.toc_stpos, vnav.toc_lat, vnav.toc_lon, perf.dist_to_toc);
-        measure(vnav.tod, vnav.tod_stpos, vnav.tod_lat, vnav.tod_lon, perf.dist_to_tod);
+        measure(vnav.toc, vnav.toc_stpos, vnav.toc_lat, vnav.toc_lon, predictions.dist_to_toc);
+        measure(vnav.tod, vnav.tod_stpos, vnav.tod_lat, vnav.tod_lon, predictions.dist_to_tod);
         sum += GreatCircle(lat, lon, leg.lat, leg.lon).dist;
         lat = leg.lat;
         lon = leg.lon;
         from = i;
     }
-    perf.dist_to_dest = sum;
+    predictions.dist_to_dest = sum;
     const FlightPlanLeg& last = legs[plan.active.leg_cnt];
-    perf.dest_brg =
+    predictions.dest_brg =
         FoldBearing(GreatCircle(sim.plane_lat, sim.plane_lon, last.lat, last.lon).bearing - sim.mgvar);
     SetFinalPoint();
 }
@@ -143,7 +145,7 @@ double BestAltitude() {
     if (route <= kShortest || route > kLongest) return 0;
     const double ceiling = std::max(35000.0, kAltitudeByWeight.back().altitude);
     double climbed = std::max(origin.alt, 0.0), descended = std::max(dest.alt, 0.0);
-    double weight = perf.zfw + 100;
+    double weight = weights.zfw + 100;
     // Both ends are walked towards each other, the lower one first, until they have used up the route.
     for (double used = 0; used < route && std::min(climbed, descended) < ceiling; used += kStep) {
         const bool climbing = climbed <= descended;
@@ -166,9 +168,9 @@ double BestAltitude() {
 
 ClimbPerformance ClimbRate(double weight, double altitude) {
     const ClimbPerfRow& row = NearestRow(kClimbPerf, altitude);
-    if (cfg.RocTest != 1) return {perf.default_climb_rate, row.fuel_flow};
+    if (cfg.RocTest != 1) return {predictions.default_climb_rate, row.fuel_flow};
     const double rate = row.rate[NearestPlace(kClimbPerfWeights, weight)];
-    return {rate > 0 ? rate : perf.default_climb_rate, row.fuel_flow};
+    return {rate > 0 ? rate : predictions.default_climb_rate, row.fuel_flow};
 }
 
 double IasToMach(double ias, double altitude) {

@@ -16,6 +16,7 @@
 #include "state/leg_words.h"
 #include "state/perf.h"
 #include "state/plan.h"
+#include "state/predictions.h"
 #include "state/sim.h"
 #include "state/vnav.h"
 
@@ -128,7 +129,7 @@ double HeldInDescent(const FlightPlanLeg& leg, double altitude) {
 constexpr double kMinutes = 60;
 
 double ClimbSpeed(double wind) {  // nm a minute
-    return std::max(wind + perf.clb_tas, 1.0) / kMinutes;
+    return std::max(wind + predictions.clb_tas, 1.0) / kMinutes;
 }
 
 // Takes the wind of a stretch for the leg that it begins at.
@@ -145,7 +146,7 @@ double ClimbDistance(const Route& route, double cruise_alt) {
     if (altitude >= cruise_alt) return 0;
     const double weight = GrossWeight();
     const double near =
-        1.25 * (cruise_alt - altitude) / ClimbRate(weight, altitude).rate * perf.clb_tas / kMinutes;
+        1.25 * (cruise_alt - altitude) / ClimbRate(weight, altitude).rate * predictions.clb_tas / kMinutes;
     for (const Stretch& stretch : route) {
         const double rate = ClimbRate(weight, altitude).rate;
         const double speed = ClimbSpeed(TakeWind(stretch));
@@ -162,8 +163,8 @@ double ClimbDistance(const Route& route, double cruise_alt) {
 }
 
 void PlaceTopOfClimb(const Route& route, double cruise_alt) {
-    perf.dist_to_toc = ClimbDistance(route, cruise_alt);
-    const LatLon at = PointAt(route, perf.dist_to_toc, vnav.toc_stpos);
+    predictions.dist_to_toc = ClimbDistance(route, cruise_alt);
+    const LatLon at = PointAt(route, predictions.dist_to_toc, vnav.toc_stpos);
     vnav.toc_lat = at.lat;
     vnav.toc_lon = at.lon;
     vnav.cross_at_elev = cruise_alt;
@@ -200,7 +201,7 @@ void FillForward(const Route& route, double cruise_alt) {
 
 double RateOfDescent() {
     constexpr double kFastest = 2100;
-    const double rate = std::floor((cfg.DescFpa * 100 * perf.des_tas / kMinutes + 50) / 100) * 100;
+    const double rate = std::floor((cfg.DescFpa * 100 * predictions.des_tas / kMinutes + 50) / 100) * 100;
     return std::clamp(rate, 100.0, kFastest);
 }
 
@@ -213,15 +214,16 @@ double FillBackward(const Route& route, double top) {
     dest.alt = altitude;
     double pending = 0;  // of stretches whose end is no place of the path
     for (std::size_t i = route.size(); i-- > 0;) {
-        const double speed = std::max(perf.des_tas + DescentWind(route[i].to), 1.0) / kMinutes;
+        const double speed = std::max(predictions.des_tas + DescentWind(route[i].to), 1.0) / kMinutes;
         const double dist = route[i].dist + pending;
-        const double climbed = altitude + perf.tod_rod / speed * dist;
-        if (climbed >= top) return sum + std::max(dist - speed / perf.tod_rod * (climbed - top), 0.0);
+        const double climbed = altitude + predictions.tod_rod / speed * dist;
+        if (climbed >= top) return sum + std::max(dist - speed / predictions.tod_rod * (climbed - top), 0.0);
         if (i == 0) return sum + dist;
         FlightPlanLeg& before = LegOf(route[i - 1]);
         pending = IsMissedPoint(before) ? dist : 0;  // the runway is what is aimed at
         if (pending > 0) {
-            before.alt = std::min(RoundToTen(altitude + perf.tod_rod / speed * route[i].dist), before.alt);
+            before.alt =
+                std::min(RoundToTen(altitude + predictions.tod_rod / speed * route[i].dist), before.alt);
             continue;
         }
         sum += dist;
@@ -233,8 +235,8 @@ double FillBackward(const Route& route, double top) {
 }
 
 void PlaceTopOfDescent(const Route& route, double from_dest) {
-    perf.dist_to_tod = std::max(LengthOf(route) - from_dest, 0.0);
-    const LatLon at = PointAt(route, perf.dist_to_tod, vnav.tod_stpos);
+    predictions.dist_to_tod = std::max(LengthOf(route) - from_dest, 0.0);
+    const LatLon at = PointAt(route, predictions.dist_to_tod, vnav.tod_stpos);
     vnav.tod_lat = at.lat;
     vnav.tod_lon = at.lon;
 }
@@ -260,10 +262,10 @@ enum class Phase { kClimb, kCruise, kDescent };
 
 // 0 behind a top that has been passed; without an end of the climb the descent begins where it would.
 double ClimbEnd() {
-    return vnav.toc == 1 || vnav.tod == 1 ? 0 : perf.dist_to_toc;
+    return vnav.toc == 1 || vnav.tod == 1 ? 0 : predictions.dist_to_toc;
 }
 double DescentStart() {
-    return vnav.tod == 1 ? 0 : perf.dist_to_tod;
+    return vnav.tod == 1 ? 0 : predictions.dist_to_tod;
 }
 
 Phase PhaseAt(double along) {
@@ -361,11 +363,11 @@ void ForEachPart(const Route& route, Visit visit) {
 void ComputeBurns(const Route& route) {
     constexpr double kCruiseWindFrom = 120;  // nm from the start
     PhaseSums climb, cruise, descent;
-    double weight = perf.start_weight;
+    double weight = predictions.start_weight;
     ForEachPart(route, [&](const Stretch& stretch, Phase phase, double dist, double end, double altitude) {
         const FlightPlanLeg& leg = LegOf(stretch);
         const Flow flow = FlowAt(phase, weight, altitude);
-        weight -= dist / flow.knots * flow.pounds_an_hour * (1 + perf.perf_factor);
+        weight -= dist / flow.knots * flow.pounds_an_hour * (1 + predictions.perf_factor);
         PhaseSums& sums = phase == Phase::kClimb ? climb : phase == Phase::kCruise ? cruise : descent;
         sums.flow += flow.pounds_an_hour;
         sums.dist += dist;
@@ -375,41 +377,45 @@ void ComputeBurns(const Route& route) {
         sums.wind += phase == Phase::kDescent ? DescentWind(stretch.to) : LegWind(before, stretch.to);
         ++sums.wind_legs;
     });
-    perf.clb_burn = climb.MeanFlow(kClimbPerf.front().fuel_flow) * 0.9;
-    perf.crz_burn = cruise.MeanFlow(kCruisePerf.front().fuel_flow.front()) * 1.1;
-    perf.des_burn = descent.MeanFlow(kDescentPerf.front().fuel_flow);
+    predictions.clb_burn = climb.MeanFlow(kClimbPerf.front().fuel_flow) * 0.9;
+    predictions.crz_burn = cruise.MeanFlow(kCruisePerf.front().fuel_flow.front()) * 1.1;
+    predictions.des_burn = descent.MeanFlow(kDescentPerf.front().fuel_flow);
     const double whole = climb.dist + cruise.dist + descent.dist;
     if (whole > 0)
-        perf.avg_burn =
-            (perf.clb_burn * climb.dist + perf.crz_burn * cruise.dist + perf.des_burn * descent.dist) / whole;
-    perf.clb_wind = climb.MeanWind();
-    perf.crz_wind = cruise.MeanWind();
-    perf.des_wind = descent.MeanWind();
+        predictions.avg_burn = (predictions.clb_burn * climb.dist + predictions.crz_burn * cruise.dist +
+                                predictions.des_burn * descent.dist) /
+                               whole;
+    predictions.clb_wind = climb.MeanWind();
+    predictions.crz_wind = cruise.MeanWind();
+    predictions.des_wind = descent.MeanWind();
     const double behind_climb = cruise.dist + descent.dist;
     if (behind_climb > 0)
-        perf.avg_gs =
-            ((perf.des_tas + perf.des_wind) * descent.dist + (perf.crz_tas + perf.crz_wind) * cruise.dist) /
-            behind_climb;
+        predictions.avg_gs = ((predictions.des_tas + predictions.des_wind) * descent.dist +
+                              (predictions.crz_tas + predictions.crz_wind) * cruise.dist) /
+                             behind_climb;
     const auto per_nm = [](bool over, double burn, double speed) {
         return over || speed <= 0 ? 0 : burn / speed;
     };
     const bool climbed = vnav.toc == 1 || vnav.tod == 1;
-    perf.clb_burn_per_nm = per_nm(climbed, perf.clb_burn, perf.clb_wind + perf.clb_tas);
-    perf.crz_burn_per_nm = per_nm(vnav.tod == 1, perf.crz_burn, perf.crz_wind + perf.crz_tas);
-    perf.des_burn_per_nm = per_nm(false, perf.des_burn, perf.des_wind + perf.des_tas);
+    predictions.clb_burn_per_nm =
+        per_nm(climbed, predictions.clb_burn, predictions.clb_wind + predictions.clb_tas);
+    predictions.crz_burn_per_nm =
+        per_nm(vnav.tod == 1, predictions.crz_burn, predictions.crz_wind + predictions.crz_tas);
+    predictions.des_burn_per_nm =
+        per_nm(false, predictions.des_burn, predictions.des_wind + predictions.des_tas);
 }
 
 void PlanTas(double cruise_alt) {
     const double percent = cruise_alt / 2 / 1000 * 1.5;
-    perf.clb_tas = perf.speeds.climb_ias * (1 + percent / 100);
-    perf.des_tas = perf.speeds.descent_ias * (1 + percent / 100);
-    perf.crz_tas = PlanningTas(perf.speeds.cruise_ias, cruise_alt);
+    predictions.clb_tas = perf.speeds.climb_ias * (1 + percent / 100);
+    predictions.des_tas = perf.speeds.descent_ias * (1 + percent / 100);
+    predictions.crz_tas = PlanningTas(perf.speeds.cruise_ias, cruise_alt);
 }
 
 }  // namespace
 
 void ComputeProfile(double cruise_alt, int) {
-    perf.start_weight = std::max(perf.start_weight, GrossWeight());
+    predictions.start_weight = std::max(predictions.start_weight, GrossWeight());
     if (cruise_alt <= 0) perf.cruise_alt = perf.init_cruise_alt = cruise_alt = BestAltitude();
     if (cruise_alt <= 0) return;
     PlanTas(cruise_alt);
@@ -417,12 +423,12 @@ void ComputeProfile(double cruise_alt, int) {
     if (route.empty()) return;
     if (vnav.toc == 0 && vnav.tod == 0) PlaceTopOfClimb(route, cruise_alt);
     if (vnav.tod == 0) FillForward(route, cruise_alt);
-    perf.tod_rod = RateOfDescent();
+    predictions.tod_rod = RateOfDescent();
     const double from_dest = FillBackward(route, TopAltitude(cruise_alt));
     if (vnav.tod == 0) PlaceTopOfDescent(route, from_dest);
     FillSpeeds(route);
     FillMissedApproach();
-    if (vnav.toc == 0 && vnav.tod == 0 && perf.dist_to_tod < perf.dist_to_toc)
+    if (vnav.toc == 0 && vnav.tod == 0 && predictions.dist_to_tod < predictions.dist_to_toc)
         PostCduMessage("UNABLE CRZ ALT", kEntryError, kHelpTodBeforeToc, kBothSides);
     ComputeBurns(route);
 }

@@ -22,10 +22,12 @@
 #include "navdata/magnetic_model.h"
 #include "state/airports.h"
 #include "state/cfg.h"
+#include "state/flight_log.h"
 #include "state/leg_words.h"
 #include "state/lnav.h"
 #include "state/perf.h"
 #include "state/plan.h"
+#include "state/predictions.h"
 #include "state/sim.h"
 #include "state/vnav.h"
 
@@ -37,9 +39,9 @@ void ApplyEntries() {
     const PerfEntries& entries = plan.mod.entries;
     for (const auto& [speed, selected] : kPlannedSpeeds)
         if (entries.speeds.*speed > 0) perf.speeds.*speed = entries.speeds.*speed;
-    if (entries.step_size > kNoStepEntry) perf.fms_step_size = entries.step_size;
-    if (entries.cost_index < 0) return;
-    perf.cost_index = entries.cost_index;
+    if (entries.ActiveStepSize > kNoStepEntry) perf.fms_step_size = entries.ActiveStepSize;
+    if (entries.ActiveCostIndex < 0) return;
+    perf.cost_index = entries.ActiveCostIndex;
     plan.mod.selected = {};
 }
 
@@ -53,7 +55,7 @@ void BeginNewRoute() {
     plan.direct_to_pending = 0;
     plan.direct_abeam_check = 1;
     vnav.toc = vnav.tod = vnav.init_tod = 0;
-    perf.final_point_set = 0;
+    predictions.final_point_set = 0;
     plan.terrain_profile_due = 1;
 }
 
@@ -63,14 +65,15 @@ void FillSpeeds() {
     if (perf.cost_index < 0) {
         constexpr double kUsualCruise = 30000;
         const double altitude = perf.cruise_alt > 0 ? perf.cruise_alt : kUsualCruise;
-        if (selected.climb_mach == 0) speeds.climb_mach = IasToMach(speeds.climb_ias, altitude);
-        if (selected.cruise_mach == 0) speeds.cruise_mach = IasToMach(speeds.cruise_ias, altitude);
-        if (selected.descent_mach == 0) speeds.descent_mach = IasToMach(speeds.descent_ias, altitude);
+        if (selected.climb_mach_manual == 0) speeds.climb_mach = IasToMach(speeds.climb_ias, altitude);
+        if (selected.CruiseMachSelected == 0) speeds.cruise_mach = IasToMach(speeds.cruise_ias, altitude);
+        if (selected.descent_mach_manual == 0) speeds.descent_mach = IasToMach(speeds.descent_ias, altitude);
         return;
     }
-    if (selected.climb_ias == 0) speeds.climb_ias = EconClimbSpeed(perf.cost_index);
-    if (selected.cruise_mach == 0) speeds.cruise_mach = EconCruiseMach(perf.cost_index, perf.cruise_alt);
-    if (selected.descent_ias == 0) speeds.descent_ias = EconDescentSpeed(perf.cost_index);
+    if (selected.ClimbSelected == 0) speeds.climb_ias = EconClimbSpeed(perf.cost_index);
+    const int cruise_index = selected.LrcSelected == 1 ? kLongRangeCruise : perf.cost_index;
+    if (selected.CruiseMachSelected == 0) speeds.cruise_mach = EconCruiseMach(cruise_index, perf.cruise_alt);
+    if (selected.DescentSelected == 0) speeds.descent_ias = EconDescentSpeed(perf.cost_index);
 }
 
 void TakeOverModification() {
@@ -200,7 +203,7 @@ void SettleOrigin() {
     if (!IsAirport(first)) return;
     const bool changed = airports.origin_airport.ident != first.ident;
     if (changed || !IsRouteActive()) LoadOriginAirport(first.ident);
-    if (!IsRouteActive() && sim.on_ground == 1) perf.fplog_mode = -1;
+    if (!IsRouteActive() && sim.on_ground == 1) flight_log.fplog_mode = -1;
     FillDefaultSpeeds();
     if (changed) {
         plan.active.ends = {.origin = first.ident,
@@ -238,7 +241,7 @@ void PlanStepClimb() {
 void PlanCruise() {
     PlanStepClimb();
     if (vnav.init_tod == 0) perf.init_cruise_alt = perf.cruise_alt;
-    if (perf.cost_index >= 0) perf.perf_factor = PerfFactor();
+    if (perf.cost_index >= 0) predictions.perf_factor = PerfFactor();
 }
 
 }  // namespace

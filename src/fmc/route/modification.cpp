@@ -9,6 +9,7 @@
 #include "state/lnav.h"
 #include "state/perf.h"
 #include "state/plan.h"
+#include "state/predictions.h"
 #include "state/requests.h"
 #include "state/vnav.h"
 
@@ -52,16 +53,10 @@ void EraseModification() {
 void ClearFlightPlan() {
     RemoveAllHolds();
     plan = {};
-    const PerfState fresh;
-    perf.clb_burn = fresh.clb_burn;
-    perf.crz_burn = fresh.crz_burn;
-    perf.des_burn = fresh.des_burn;
-    perf.default_climb_rate = fresh.default_climb_rate;
+    predictions = {};
     perf.cruise_alt = 0;
     perf.init_cruise_alt = 0;
     perf.planned_fuel = 0;
-    perf.final_point_set = 0;
-    perf.dist_to_toc = perf.dist_to_tod = perf.dist_to_dest = 0;
     vnav.toc = vnav.tod = vnav.init_tod = 0;
     lnav.lnav_init_mode = 0;
     lnav.holding = lnav.hold_point = lnav.hold_exit = 0;
