@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "fmc/legs/holds.h"
 #include "guidance/guidance_test.h"
 #include "state/autoflight.h"
 
@@ -166,6 +167,19 @@ TEST_F(HoldsTest, AHoldBehindTheAircraftIsRemovedUnlessItIsPending) {
     hold.pending_leg = 0;
     RunASecond();
     EXPECT_EQ(plan.hold_cnt, 0);
+}
+
+TEST_F(HoldsTest, WhatAModificationHasTakenOutIsFlownUntilExec) {
+    plan.fms_fpln_active = 4;
+    RenumberHolds();  // no leg of the working copy bears it
+    EXPECT_EQ(plan.hold_cnt, 0);
+    Enter();
+    EXPECT_EQ(lnav.holding, 1);
+    EXPECT_EQ(hold.points[1].name, "Xwind");
+    RemoveLostHolds();
+    EXPECT_EQ(lnav.holding, 0);
+    EXPECT_EQ(lnav.hold_exit, 4);
+    EXPECT_EQ(plan.active.legs[1].hold_pos, 0);
 }
 
 TEST_F(HoldsTest, WhenTheHoldIsRemovedThePlanGoesOn) {
