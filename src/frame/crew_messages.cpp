@@ -11,8 +11,6 @@
 
 namespace {
 
-constexpr std::string_view kDragRequired = "DRAG REQUIRED";
-
 // Texts stand as the crew knows them, slips included.
 
 struct FixedMessage {
@@ -155,13 +153,17 @@ void PostCduMessage(std::string_view title, int kind, int help_id, int side) {
     const bool of_fixed_list = help_id == kHelpFixedList;
     if (of_fixed_list ? fixed == std::end(kFixedMessages) : help == std::end(kHelpTexts)) return;
     const std::string_view shown_title = of_fixed_list || help->title.empty() ? title : help->title;
-    if (kind == kAdvisory && FindByTitle(CduOf(kCaptain), shown_title) > 0) return;
+    if (kind == kAdvisory && IsCduMessagePosted(shown_title)) return;
     for (const int addressed : {kCaptain, kFirstOfficer}) {
         if ((side & addressed) == 0) continue;
         Push(addressed,
              {std::string(shown_title),
               of_fixed_list ? std::string(fixed->body) : BodyOf(*help, title, addressed), kind, side});
     }
+}
+
+bool IsCduMessagePosted(std::string_view title) {
+    return FindByTitle(CduOf(kCaptain), title) > 0;
 }
 
 void RemoveCduMessageByTitle(std::string_view title) {

@@ -33,11 +33,16 @@ constexpr int kHelpAltOat = 55;
 constexpr int kHelpWindsLoaded = 56;
 constexpr int kHelpWindsReady = 57;
 
+constexpr std::string_view kDragRequired = "DRAG REQUIRED";  // its monitor knows it by its title
+
 /// Tells the crew something on the CDU: pushes a message on the list of each addressed side (kCaptain,
 /// kFirstOfficer, kBothSides). Nothing is posted for a help id without a row, for help 0 with a title that
 /// the fixed list doesn't have, and for an advisory whose title the captain's list has already. Where the
 /// catalogue's row has a title of its own, `title` goes into the body.
 void PostCduMessage(std::string_view title, int kind, int help_id, int side);
+
+/// A message of that title stands in the captain's list.
+bool IsCduMessagePosted(std::string_view title);
 
 /// Removes the first message with that title from each side's list.
 void RemoveCduMessageByTitle(std::string_view title);

@@ -6,6 +6,7 @@
 #include "frame/named_variables.h"
 #include "frame/tokens.h"
 #include "guidance/lnav.h"
+#include "guidance/vnav_speed.h"
 #include "platform/host.h"
 #include "state/autoflight.h"
 #include "state/cfg.h"
@@ -107,7 +108,7 @@ void StepDisconnect() {
 
 double VnavSpeed() {
     if (IsHoldPatternFlown()) return lnav.hold_speed;
-    return vnav.vnav_spd_mode == 2 ? vnav.vnav_mach : vnav.vnav_ias;
+    return IsTargetMach() ? vnav.vnav_mach : vnav.vnav_ias;
 }
 
 double VnavPathAngle() {

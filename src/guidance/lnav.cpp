@@ -13,6 +13,7 @@
 #include "guidance/holds.h"
 #include "guidance/sequencing.h"
 #include "guidance/turn_log.h"
+#include "guidance/vnav.h"
 #include "platform/host.h"
 #include "state/cfg.h"
 #include "state/leg_words.h"
@@ -234,6 +235,7 @@ void RunPass(bool overflown) {
     }
     if (lnav.plan_finished == 0) Steer();
     SendHeadingToHost();
+    VnavUpdate();
     LogTurnData();
 }
 

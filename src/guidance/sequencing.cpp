@@ -11,7 +11,7 @@
 #include "fmc/performance/predictions.h"
 #include "fmc/performance/vertical_segment.h"
 #include "frame/key_events.h"
-#include "guidance/vnav.h"
+#include "guidance/vnav_speed.h"
 #include "platform/host.h"
 #include "state/cfg.h"
 #include "state/leg_words.h"

@@ -1,5 +1,8 @@
 #pragma once
 
-/// Chooses the speed target of the flight phase, `vnav_ias` or `vnav_mach`, and marks it as standing. Only
-/// with VNAV engaged and an active plan.
-void VnavSpeedStep();
+// The vertical path as it is flown: when the tops are passed, which fix is next to be made, how far off the
+// path the aircraft is. It goes on with VNAV off; only the speed targets (vnav_speed.h) ask whether it is
+// engaged.
+
+/// One guidance pass. Nothing happens without a cruise altitude or a plan.
+void VnavUpdate();

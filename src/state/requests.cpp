@@ -13,6 +13,7 @@ constexpr Variable kRows[] = {
     {"leave_legs_view", &requests.leave_legs_view},
     {"leave_hold_page", &requests.leave_hold_page},
     {"show_rte", &requests.show_rte},
+    {"vnav_phase", &requests.vnav_phase},
 };
 }  // namespace
 

@@ -17,6 +17,7 @@ struct RequestState {
     int leave_legs_view = 0;  // LEGS goes back to its normal view, and a pick for it is forgotten
     int leave_hold_page = 0;  // the last hold has gone: HOLD gives way to LEGS
     int show_rte = 0;         // a side, whose CDU goes to RTE
+    int vnav_phase = 0;       // CDUs on the page of the phase before (2 CRZ, 3 DES) go on to this one
 };
 
 extern RequestState requests;

@@ -75,7 +75,7 @@ constexpr StateGroup kGroups[] = {
     {"winds", Reset<&winds>, &kWindsVariables, "fmc/performance/winds cdu/pages/"},
     {"route_files", Reset<&route_files>, &kRouteFileVariables, "fmc/files/"},
     {"perf", Reset<&perf>, &kPerfVariables,
-     "frame/configuration fmc/legs/route_state fmc/performance/ fmc/route/ fmc/files/ "
+     "frame/configuration fmc/legs/route_state fmc/performance/ fmc/route/ fmc/files/ guidance/vnav_speed "
      "cdu/words/constraint_entry"},
     {"predictions", Reset<&predictions>, &kPredictionVariables, "fmc/performance/ fmc/route/"},
     {"takeoff_approach", Reset<&takeoff_approach>, &kTakeoffApproachVariables,
@@ -98,7 +98,7 @@ constexpr StateGroup kGroups[] = {
     {"efb", Reset<&efb>, &kEfbVariables, "efb/tablet_input"},
     {"remote", Reset<&remote>, &kRemoteVariables, "display/pictures/remote_bridge module/remote_input"},
     {"requests", Reset<&requests>, &kRequestVariables,
-     "fmc/legs/holds fmc/route/modification fmc/files/ guidance/mcp cdu/words/views module/controls/"},
+     "fmc/legs/holds fmc/route/modification fmc/files/ guidance/ cdu/words/views module/controls/"},
     {"electrical", Reset<&electrical>, &kElectricalVariables, "frame/named_variable_catalogue systems/"},
 };
 

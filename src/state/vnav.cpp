@@ -33,6 +33,17 @@ constexpr Variable kRows[] = {
     {"des_next_restr_alt", &vnav.des_next_restr_alt},
     {"step_due", &vnav.step_due},
     {"drag_msg_changed_at", &vnav.drag_msg_changed_at},
+    {"dist_past_tod", &vnav.dist_past_tod},
+    {"desc_grad_alt", &vnav.desc_grad_alt},
+    {"vnav_lset_code", &vnav.vnav_lset_code},
+    {"level_off_dist", &vnav.level_off_dist},
+    {"required_vs", &vnav.required_vs},
+    {"clb_limit_active", &vnav.clb_limit_active},
+    {"spd_limit_done", &vnav.spd_limit_done},
+    {"leg_speed_taken", &vnav.leg_speed_taken},
+    {"reset_mcp_told", &vnav.reset_mcp_told},
+    {"descent_cnt", &vnav.descent_cnt},
+    {"tod_from_dest", &vnav.tod_from_dest},
 };
 }  // namespace
 

@@ -18,6 +18,9 @@ void TakeViewRequests() {
     if (std::exchange(requests.leave_hold_page, 0) == 1)
         for (CduState& unit : cdu)
             if (unit.fms_page == kPageHold) unit.fms_page = kPageLegs;
+    if (const int phase = std::exchange(requests.vnav_phase, 0); phase > 0)
+        for (CduState& unit : cdu)
+            if (unit.fms_vnav_page == phase - 1) unit.fms_vnav_page = phase;
     const int side = std::exchange(requests.show_rte, 0);
     if (side != kCaptain && side != kFirstOfficer) return;
     CduOf(side).fms_page = kPageRte;

@@ -235,6 +235,7 @@ double FillBackward(const Route& route, double top) {
 }
 
 void PlaceTopOfDescent(const Route& route, double from_dest) {
+    vnav.tod_from_dest = from_dest;
     predictions.dist_to_tod = std::max(LengthOf(route) - from_dest, 0.0);
     const LatLon at = PointAt(route, predictions.dist_to_tod, vnav.tod_stpos);
     vnav.tod_lat = at.lat;
