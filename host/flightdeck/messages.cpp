@@ -71,6 +71,18 @@ std::string DescribeForm(const CommandForm& form) {
 
 }  // namespace
 
+std::string ReadMessage(const std::string& text, json& message, std::string& type) {
+    message = json::parse(text, nullptr, false);
+    if (!message.is_object() || !message.contains("type") || !message["type"].is_string())
+        return "not a message: an object with a type";
+    type = message["type"];
+    return {};
+}
+
+std::string WriteMessage(const json& message) {
+    return message.dump(-1, ' ', false, json::error_handler_t::replace);
+}
+
 std::string ReadCommand(const json& message, const std::string& type, DeckCommand& command) {
     for (const CommandForm& form : kForms) {
         if (form.type != type) continue;

@@ -7,9 +7,16 @@
 #include "host/flightdeck/deck.h"
 
 // The messages that a browser sends: JSON objects with a type. Whoever sends something else is told why in
-// the reason with which its link is closed; a reason that is empty says that all was well.
+// the reason with which its link is closed; a reason that is empty says that all was well. Texts are parsed
+// and written here alone, for that takes the compiler long.
 
 namespace host {
+
+/// A text's object and its type; the reason for refusing it, or empty.
+std::string ReadMessage(const std::string& text, nlohmann::json& message, std::string& type);
+
+/// The text of a message to a browser; bytes that are no UTF-8 are replaced.
+std::string WriteMessage(const nlohmann::json& message);
 
 /// A command out of a message of the type; the reason for refusing it, or empty.
 std::string ReadCommand(const nlohmann::json& message, const std::string& type, DeckCommand& command);

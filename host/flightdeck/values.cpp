@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "host/flight.h"
+#include "host/flightdeck/messages.h"
 #include "host/inspection.h"
 #include "host/scenario/words.h"
 #include "host/world/world.h"
@@ -78,7 +79,7 @@ std::string DeckGreeting(const Session& session) {
         if (variable.exists) named.push_back(variable.name);
     std::sort(named.begin(), named.end());
     greeting["named"] = named;
-    return greeting.dump(-1, ' ', false, json::error_handler_t::replace);
+    return WriteMessage(greeting);
 }
 
 }  // namespace host

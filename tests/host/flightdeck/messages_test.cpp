@@ -8,9 +8,11 @@ using host::DeckCommand;
 
 // The command as one line, or the reason for which the message is refused.
 std::string Read(const std::string& text) {
-    const auto message = nlohmann::json::parse(text);
+    nlohmann::json message;
+    std::string type;
+    EXPECT_EQ(host::ReadMessage(text, message, type), "") << text;
     DeckCommand command{};
-    const std::string refused = host::ReadCommand(message, message.value("type", ""), command);
+    const std::string refused = host::ReadCommand(message, type, command);
     if (!refused.empty()) return refused;
     char line[200];
     std::snprintf(line, sizeof line, "%d '%s' '%s' %g %g %g %d", command.kind, command.name.c_str(),

@@ -1,0 +1,94 @@
+#include "host/flightdeck/site.h"
+
+#include <algorithm>
+#include <charconv>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <optional>
+
+#include "host/flightdeck/exchange.h"
+#include "host/flightdeck/request_text.h"
+#include "host/root_folder.h"
+
+namespace host {
+namespace {
+
+bool IsWithin(const std::filesystem::path& file, const std::filesystem::path& folder) {
+    return std::mismatch(folder.begin(), folder.end(), file.begin(), file.end()).first == folder.end();
+}
+
+SiteAnswer FileAnswer(const std::filesystem::path& file) {
+    std::ifstream in(file, std::ios::binary);
+    if (!in) return {};
+    return {200, MediaType(file), {std::istreambuf_iterator<char>(in), {}}};
+}
+
+// A file of the page's folder, by one plain name; every screen of its own is the one page.
+SiteAnswer PageFile(const DeckSettings& settings, std::string_view path) {
+    std::string name(path.substr(std::min<std::size_t>(1, path.size())));
+    if (name.empty()) name = "index.html";
+    if (name.starts_with("screen/")) {
+        if (ScreenIndex(std::string_view(name).substr(7)) == kScreens.size()) return {};
+        name = "index.html";
+    }
+    const std::filesystem::path file = std::filesystem::path(settings.page_folder) / name;
+    std::error_code failed;
+    // A link in the folder is not followed: it may lead anywhere.
+    if (!IsPlainFileName(name) ||
+        !std::filesystem::is_regular_file(std::filesystem::symlink_status(file, failed)))
+        return {};
+    return FileAnswer(file);
+}
+
+SiteAnswer Font(const DeckSettings& settings, std::string_view number) {
+    const auto& fonts = settings.fonts;
+    std::size_t index = 0;
+    const auto [end, failed] = std::from_chars(number.data(), number.data() + number.size(), index);
+    if (failed != std::errc{} || end != number.data() + number.size() || index >= fonts.size() ||
+        fonts[index].second.empty())
+        return {};
+    return FileAnswer(fonts[index].second);
+}
+
+// An image by the name that pictures give it: what came to the module as a stream, or a file under the root,
+// nothing else.
+SiteAnswer Image(const DeckSettings& settings, std::string_view encoded) {
+    const std::optional<std::string> name = DecodePercent(encoded);
+    const std::filesystem::path root = settings.root;
+    std::string stream;
+    if (name && settings.stream_image && settings.stream_image(*name, stream))
+        return {200, MediaType(*name), std::move(stream)};
+    std::error_code failed;
+    std::filesystem::path file = name ? FindUnderRoot(root.string(), *name) : std::filesystem::path{};
+    if (!file.empty()) file = std::filesystem::canonical(file, failed);
+    if (failed || !IsWithin(file, std::filesystem::canonical(root, failed)) || failed ||
+        !MediaType(file).starts_with("image/") || !std::filesystem::is_regular_file(file, failed))
+        return {};
+    return FileAnswer(file);
+}
+
+}  // namespace
+
+bool MayConnect(const DeckSettings& settings, const SiteRequest& request) {
+    if (!request.origin.empty() && request.origin != "http://" + std::string(request.host)) return false;
+    const std::string_view name = HostName(request.host);
+    if (settings.token.empty())
+        return name == "localhost" || name == "127.0.0.1" || name == "[::1]" || name == settings.address;
+    return SameToken(QueryValue(request.target, "token"), settings.token) ||
+           SameToken(CookieValue(request.cookies, "token"), settings.token);
+}
+
+std::string TokenCookie(const DeckSettings& settings, std::string_view target) {
+    const std::string token = QueryValue(target, "token");
+    if (token.empty() || token != settings.token) return {};
+    return "token=" + token + "; HttpOnly; SameSite=Strict; Path=/";
+}
+
+SiteAnswer AnswerFor(const DeckSettings& settings, std::string_view path) {
+    if (path.starts_with("/font/")) return Font(settings, path.substr(6));
+    if (path.starts_with("/image/")) return Image(settings, path.substr(7));
+    return PageFile(settings, path);
+}
+
+}  // namespace host

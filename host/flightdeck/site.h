@@ -1,0 +1,34 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "host/flightdeck/deck.h"
+
+// What the deck answers to a browser: the page's folder, and the fonts and images that pictures name.
+
+namespace host {
+
+/// The fields of an HTTP request that matter; an empty text for one that isn't there.
+struct SiteRequest {
+    std::string_view target, host, origin, cookies;
+};
+
+struct SiteAnswer {
+    int status = 404;
+    std::string_view type = "text/plain";
+    std::string body = "404\n";
+};
+
+/// May whoever sent this be answered? A page of another site may not reach the deck, nor may a name that such
+/// a site has pointed at this machine; where a token is set whoever comes must know it.
+bool MayConnect(const DeckSettings& settings, const SiteRequest& request);
+
+/// The Set-Cookie field of an answer: the token came with the address of the page, what the page loads comes
+/// with a cookie. Empty when the target hasn't got the token.
+std::string TokenCookie(const DeckSettings& settings, std::string_view target);
+
+/// What lies behind a target's path.
+SiteAnswer AnswerFor(const DeckSettings& settings, std::string_view path);
+
+}  // namespace host
