@@ -7,6 +7,9 @@
 #include "base/angles.h"
 #include "base/numbers.h"
 #include "fmc/legs/path.h"
+#include "fmc/legs/route_state.h"
+#include "fmc/route/delete_restrictions.h"
+#include "fmc/route/execute_route.h"
 #include "frame/controls.h"
 #include "frame/key_events.h"
 #include "frame/named_variables.h"
@@ -15,8 +18,10 @@
 #include "state/autoflight.h"
 #include "state/cfg.h"
 #include "state/cockpit.h"
+#include "state/leg_words.h"
 #include "state/lnav.h"
-#include "state/requests.h"
+#include "state/perf.h"
+#include "state/plan.h"
 #include "state/sim.h"
 #include "state/time_base.h"
 #include "state/vnav.h"
@@ -148,7 +153,12 @@ void MoveDisengageBar(bool down) {
 }
 
 void PushAltitudeKnob() {
-    requests.mcp_alt_push = 1;
+    if (vnav.toc == 0) return DeleteClimbRestrictions(true);
+    if (vnav.tod == 1) return DeleteDescentRestrictions(true);
+    if (vnav.vnav_engaged != 1 || !IsRouteActive() || sim.apalt <= perf.cruise_alt) return;
+    plan.mod.entries.cruise_alt = sim.apalt;
+    if (IsRouteSettled()) AdvanceRouteState();
+    ExecuteRoute();
 }
 
 void ChangeOverIasMach() {

@@ -16,7 +16,8 @@ bool TurnMcpKnob(std::string_view knob, int detents);
 /// Moves the autopilot disengage bar down or back up.
 void MoveDisengageBar(bool down);
 
-/// Presses the altitude knob; VNAV takes the request.
+/// Presses the altitude knob: before the top of climb and after the top of descent it takes the next altitude
+/// constraint away; in cruise with VNAV engaged a higher MCP altitude becomes the cruise altitude.
 void PushAltitudeKnob();
 
 /// Changes the speed window over between knots and Mach.

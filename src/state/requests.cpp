@@ -9,7 +9,6 @@ constexpr Variable kRows[] = {
     {"uplink_accept_request", &requests.uplink_accept},
     {"uplink_reject_request", &requests.uplink_reject},
     {"uplink_cancel_request", &requests.uplink_cancel},
-    {"mcp_alt_push_request", &requests.mcp_alt_push},
     {"leave_legs_view", &requests.leave_legs_view},
     {"leave_hold_page", &requests.leave_hold_page},
     {"show_rte", &requests.show_rte},

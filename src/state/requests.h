@@ -12,7 +12,6 @@ struct RequestState {
     int uplink_accept = 0;  // ACPT, RJCT, CANC: the answer to a datalink message
     int uplink_reject = 0;
     int uplink_cancel = 0;
-    int mcp_alt_push = 0;  // the altitude knob of the MCP has been pressed
     // from the route to the CDUs, whose pages show what has gone
     int leave_legs_view = 0;  // LEGS goes back to its normal view, and a pick for it is forgotten
     int leave_hold_page = 0;  // the last hold has gone: HOLD gives way to LEGS

@@ -1,6 +1,8 @@
 #include "guidance/vnav.h"
 
+#include "fmc/route/delete_restrictions.h"
 #include "guidance/guidance_test.h"
+#include "guidance/mcp.h"
 #include "guidance/vnav_speed.h"
 #include "state/autoflight.h"
 #include "state/cdu.h"
@@ -195,6 +197,40 @@ TEST_F(Vnav, LimitsOnTheWayAndDragAreAskedForOnce) {
     LimitSpeedOnTheWay();
     EXPECT_EQ(vnav.vnav_lset_code, 5);
     EXPECT_EQ(vnav.vnav_ias, 290);
+}
+
+TEST_F(Vnav, TheAltitudeKnobTakesTheNextConstraintAwayOrRaisesTheCruise) {
+    const auto constrain = [](int leg, int code) {
+        for (FlightPlanLeg* of : {&plan.active.legs[leg], &plan.mod.legs[leg]}) {
+            of->restr_code = code;
+            of->alt_restr = 12000;
+        }
+    };
+    constrain(1, kAltitudeRestr | kSpeedRestr);
+    constrain(2, kAltitudeRestr);
+    constrain(3, kAltitudeRestr);
+    vnav.toc_lon = 3;  // on the second leg
+    PushAltitudeKnob();
+    EXPECT_EQ(plan.active.legs[1].restr_code, kSpeedRestr);
+    EXPECT_EQ(plan.active.legs[1].alt_restr, -999);
+    EXPECT_EQ(plan.fms_fpln_active, kRouteActive);  // executed at once
+    vnav.toc_lon = 3;
+    PushAltitudeKnob();
+    EXPECT_EQ(plan.active.legs[2].restr_code, kAltitudeRestr);  // the top lies before it
+    vnav.toc = 1;
+    sim.apalt = 34000;
+    PushAltitudeKnob();
+    EXPECT_EQ(perf.cruise_alt, 35000);
+    sim.apalt = 37000;
+    PushAltitudeKnob();
+    EXPECT_EQ(perf.cruise_alt, 37000);
+    vnav.tod = 1;
+    PushAltitudeKnob();
+    EXPECT_EQ(plan.active.legs[2].restr_code, kFree);
+    EXPECT_EQ(plan.active.legs[3].restr_code, kAltitudeRestr);
+    DeleteDescentRestrictions(false);
+    EXPECT_EQ(plan.mod.legs[3].restr_code, kFree);
+    EXPECT_EQ(plan.fms_fpln_active, kRouteModified);
 }
 
 }  // namespace

@@ -324,7 +324,6 @@ TEST(MouseGauges, AreasEndInTheHandlers) {
         {"TFC_BUTTON", "TZ_MCP_L_TFC_Button", "capt.nd_tfc", 2, 0},
         {"CAPT_EFB_MC", "TZ_EFB_L_R8_Button", "capt.EfbPendingKey", 0, 16},
         {"FO_EFB", "TZ_EFB_R_MENU_Button", "fo.EfbPendingKey", 0, 17},
-        {"MCP", "alt push", "mcp_alt_push_request", 0, 1},
     };
     for (const auto& row : kCases) {
         FakeHost host;
