@@ -17,6 +17,7 @@ struct Placement {
 };
 
 struct Flight {
+    Airframe airframe = AirframeOf("");  // what is flown when the aircraft is placed
     Aircraft aircraft;
     AutoflightLogic autoflight;
     std::optional<double> outside_c;  // temperature asked for at the aircraft; none = the standard's
@@ -27,8 +28,8 @@ extern Flight flight;
 /// Where the aircraft stands when nobody has placed it, on the ground.
 Placement DemonstrationStand();
 
-/// Puts the aircraft somewhere, on the ground when the altitude is the ground's, and fills the tokens. The
-/// airframe is that of the title in force.
+/// Puts the aircraft somewhere, on the ground when the altitude is the ground's, and fills the
+/// tokens.
 void PlaceAircraft(const Placement& placement);
 
 /// Shuts the aircraft down where it stands: engines off and at rest, the simulator's battery off, brakes set.

@@ -115,10 +115,14 @@ std::vector<AirframeTitle> AirframeTitles(const std::string& root) {
         while (std::getline(file, line)) {
             if (line.starts_with("[")) in_title = false;
             if (TakeValue(line, "title", value)) {
-                titles.push_back({value, "", false});
+                titles.push_back({value, {}, {}, {}, false});
                 in_title = true;
             } else if (in_title && TakeValue(line, "atc_id", value)) {
                 titles.back().atc_id = value;
+            } else if (in_title && TakeValue(line, "sim", value)) {
+                titles.back().sim = value;
+            } else if (in_title && TakeValue(line, "model", value)) {
+                titles.back().model = value;
             } else if (in_title && TakeValue(line, "panel", value)) {
                 titles.back().hires_panel = SameName(value, "hires");
             }

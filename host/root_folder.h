@@ -24,6 +24,7 @@ bool MakePrivateRoot(const std::string& demo_root, std::string& root, std::strin
 struct AirframeTitle {
     std::string title;
     std::string atc_id;
+    std::string sim, model;    // variant; engines, "rr" or "ge"
     bool hires_panel = false;  // its panel's screens have twice the pixels
 };
 

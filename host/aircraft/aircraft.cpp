@@ -11,16 +11,17 @@ namespace {
 
 constexpr double kEarthRadiusNm = 3437.7467707849396;
 constexpr double kKgPerLb = 0.45359237;
-constexpr double kSeaLevelDensity = 1.225, kSeaLevelK = 288.15;
+constexpr double kSeaLevelDensity = 1.225;
 
 // The wing, in SI units.
 constexpr double kWingArea = 325;
-constexpr double kInducedFactor = 0.041;  // of a span of 60 m
+constexpr double kInducedFactor = 0.030;  // of a span of 60 m
 constexpr double kLiftPerDegree = 0.1;
-constexpr double kCleanDrag = 0.0150, kFlapDrag = 0.060, kGearDrag = 0.018, kBrakeDrag = 0.028;
-constexpr double kCleanMaxLift = 1.35, kFlapMaxLift = 1.15;
-constexpr double kZeroLiftAngle = -2.5, kFlapLiftShift = -5;  // degrees
+constexpr double kCleanDrag = 0.0180, kGearDrag = 0.018, kBrakeDrag = 0.028;
+constexpr double kCleanMaxLift = 1.35;
+constexpr double kZeroLiftAngle = -2.5;  // degrees, clean
 constexpr double kDragRiseMach = 0.86;
+constexpr double kTakeoffTrim = 4.5;
 
 double PressureAltitude(const Aircraft& aircraft) {
     return IndicatedAltitude(aircraft.altitude, kStandardHpa, aircraft.air);
@@ -33,24 +34,28 @@ double DynamicPressure(const Aircraft& aircraft) {
 
 double Drag(const Aircraft& aircraft, double lift_coefficient) {
     const double over = std::max(aircraft.mach - kDragRiseMach, 0.0);
-    const double coefficient = kCleanDrag + kFlapDrag * aircraft.flaps * aircraft.flaps +
-                               kGearDrag * aircraft.gear + kBrakeDrag * aircraft.speedbrake +
+    const double coefficient = kCleanDrag + EffectOfFlaps(aircraft.flaps).drag + kGearDrag * aircraft.gear +
+                               kBrakeDrag * aircraft.speedbrake +
                                kInducedFactor * lift_coefficient * lift_coefficient + 20 * over * over;
     return coefficient * DynamicPressure(aircraft) * kWingArea;
 }
 
 double MaxLift(const Aircraft& aircraft) {
-    return kCleanMaxLift + kFlapMaxLift * aircraft.flaps;
+    return kCleanMaxLift + EffectOfFlaps(aircraft.flaps).max_lift;
 }
 
 double WeightNewton(const Aircraft& aircraft) {
     return GrossWeight(aircraft) * kKgPerLb * kGravity;
 }
 
+double ZeroLiftAngle(const Aircraft& aircraft) {
+    return kZeroLiftAngle - EffectOfFlaps(aircraft.flaps).incidence;
+}
+
 double AngleOfAttack(const Aircraft& aircraft, double load_factor) {
     const double pressure_area = std::max(DynamicPressure(aircraft), 500.0) * kWingArea;
     const double lift = std::min(load_factor * WeightNewton(aircraft) / pressure_area, MaxLift(aircraft));
-    return lift / kLiftPerDegree + kZeroLiftAngle + kFlapLiftShift * aircraft.flaps;
+    return lift / kLiftPerDegree + ZeroLiftAngle(aircraft);
 }
 
 // Moves a value towards another at most so far.
@@ -67,13 +72,14 @@ void UpdateAirspeeds(Aircraft& aircraft) {
 void StepEngines(Aircraft& aircraft, double dt) {
     const double altitude = PressureAltitude(aircraft);
     const double density_ratio = Density(altitude, aircraft.air) / kSeaLevelDensity;
-    const double temperature_ratio = Temperature(altitude, aircraft.air) / kSeaLevelK;
+    // A lock keeps the reversers in until the wheels are on the ground.
+    const double lever =
+        aircraft.on_ground ? aircraft.controls.thrust_lever : std::max(aircraft.controls.thrust_lever, 0.0);
     double burnt = 0;
     const bool fuel = FuelOnBoard(aircraft) > 0;
     for (Engine& engine : aircraft.engines) {
         engine.running = engine.running && fuel;
-        StepEngine(engine, aircraft.controls.thrust_lever, aircraft.mach, density_ratio, temperature_ratio,
-                   aircraft.airframe.static_thrust_n, dt);
+        StepEngine(engine, aircraft.airframe.engine, lever, aircraft.mach, density_ratio, dt);
         burnt += engine.fuel_flow / 3600 * dt;
     }
     // The centre tank feeds first, then both mains alike.
@@ -120,7 +126,14 @@ void StepBank(Aircraft& aircraft, double dt) {
 
 // The wind's own velocity over the ground, kt.
 Vector3 Wind(const Aircraft& aircraft) {
-    return DirectionOf(aircraft.air.wind_from + 180, aircraft.place) * aircraft.air.wind_kt;
+    return DirectionOf(aircraft.air.wind_from + 180, aircraft.place) * aircraft.wind_kt;
+}
+
+// A jet stream doesn't reach down to the runway: near the ground the wind is at most what can be landed in.
+double WindHere(const Aircraft& aircraft) {
+    constexpr double kMostOnGround = 25, kMorePerFoot = 0.02;
+    const double height = std::max(aircraft.altitude - aircraft.ground_elevation, 0.0);
+    return std::min(aircraft.air.wind_kt, kMostOnGround + kMorePerFoot * height);
 }
 
 // Turns the nose and moves over the ground.
@@ -143,6 +156,17 @@ void StepPlace(Aircraft& aircraft, double dt) {
     // Rounding must not let the nose leave the horizon.
     aircraft.nose = Normalised(aircraft.nose + aircraft.place * -Dot(aircraft.nose, aircraft.place));
     aircraft.track = aircraft.ground_speed > 1 ? BearingOf(velocity, aircraft.place) : TrueHeading(aircraft);
+}
+
+// The wheels take the aircraft along its nose: the crab that the wind asked for is kicked off.
+void TouchDown(Aircraft& aircraft) {
+    aircraft.altitude = aircraft.ground_elevation;
+    aircraft.on_ground = true;
+    aircraft.brakes = {.landed = true};
+    aircraft.path = aircraft.bank = aircraft.bank_rate = 0;
+    constexpr double kMostCrab = 20;
+    const double crab = std::remainder(aircraft.track - TrueHeading(aircraft), 360);
+    if (std::fabs(crab) < kMostCrab) aircraft.nose = DirectionOf(aircraft.track, aircraft.place);
 }
 
 // Speed and path in the air. The path bends with at most a quarter of the gravity, and not at all upwards
@@ -168,20 +192,23 @@ void StepFlight(Aircraft& aircraft, double dt) {
     aircraft.vertical_speed = speed * std::sin(aircraft.path * kRad) / kMetresPerFoot * 60;
     aircraft.altitude += aircraft.vertical_speed / 60 * dt;
     const double pitch = aircraft.path + AngleOfAttack(aircraft, load_factor);
+    // The stabiliser takes over, slowly, what the elevator holds: the less speed, the more nose up.
+    const double trim = std::clamp(2 + 4 * lift_coefficient, 1.0, 8.5);
+    aircraft.trim = Towards(aircraft.trim, trim, 0.2 * dt);
     aircraft.pitch += (pitch - aircraft.pitch) * std::min(dt / 0.5, 1.0);
-    if (aircraft.altitude <= aircraft.ground_elevation) {
-        aircraft.altitude = aircraft.ground_elevation;
-        aircraft.on_ground = true;
-        aircraft.path = aircraft.vertical_speed = aircraft.bank = aircraft.bank_rate = 0;
-    }
+    if (aircraft.altitude <= aircraft.ground_elevation) TouchDown(aircraft);
 }
 
 // On the wheels: speed along the nose; a pull above flying speed lifts off.
 void StepRoll(Aircraft& aircraft, double dt) {
-    constexpr double kRollingFriction = 0.015, kBrakeFriction = 0.35, kMostPitch = 12, kPitchRate = 2.5;
+    constexpr double kRollingFriction = 0.015, kBrakeFriction = 0.40, kMostPitch = 12, kPitchRate = 2.5;
+    aircraft.vertical_speed = 0;
     const double mass = GrossWeight(aircraft) * kKgPerLb;
     const double thrust = aircraft.engines[0].thrust_n + aircraft.engines[1].thrust_n;
-    const double friction = kRollingFriction + kBrakeFriction * aircraft.controls.wheel_brakes;
+    StepAutomaticBrakes(aircraft.brakes, aircraft.controls.autobrake, aircraft.controls.thrust_lever,
+                        aircraft.ground_speed, -aircraft.body_acceleration, dt);
+    const double braked = std::max(aircraft.controls.wheel_brakes, aircraft.brakes.pressure);
+    const double friction = kRollingFriction + kBrakeFriction * braked;
     const double held = friction * mass * kGravity;
     double force = thrust - Drag(aircraft, 0.2);
     force = aircraft.ground_speed > 0.1 ? force - held : std::max(force - held, 0.0);
@@ -193,23 +220,12 @@ void StepRoll(Aircraft& aircraft, double dt) {
     const bool rotating = aircraft.controls.path > 0.5 && aircraft.ias > 0.9 * StallSpeed(aircraft);
     aircraft.pitch = Towards(aircraft.pitch, rotating ? kMostPitch : 0, kPitchRate * dt);
     const double pressure_area = DynamicPressure(aircraft) * kWingArea;
-    const double lift = (aircraft.pitch - kZeroLiftAngle - kFlapLiftShift * aircraft.flaps) * kLiftPerDegree;
+    const double lift = (aircraft.pitch - ZeroLiftAngle(aircraft)) * kLiftPerDegree;
     if (rotating && std::min(lift, MaxLift(aircraft)) * pressure_area > mass * kGravity)
         aircraft.on_ground = false;
 }
 
 }  // namespace
-
-const Airframe& AirframeOf(std::string_view title) {
-    static constexpr Airframe kAirframes[] = {
-        {"900-10", 298700, 340000},
-        {"900-9", 284000, 330000},
-        {"900-8", 264500, 310000},
-    };
-    for (const Airframe& airframe : kAirframes)
-        if (title.find(airframe.name) != std::string_view::npos) return airframe;
-    return kAirframes[2];
-}
 
 void PlaceAircraftAt(Aircraft& aircraft, double lat, double lon, double altitude, double heading, double ias,
                      double ground_elevation) {
@@ -220,10 +236,13 @@ void PlaceAircraftAt(Aircraft& aircraft, double lat, double lon, double altitude
     aircraft.on_ground = altitude <= ground_elevation + kOnGroundBelow;
     aircraft.altitude = aircraft.on_ground ? ground_elevation : altitude;
     aircraft.path = aircraft.bank = aircraft.bank_rate = aircraft.vertical_speed = 0;
+    aircraft.wind_kt = aircraft.air.wind_kt;
     const double pressure_altitude = PressureAltitude(aircraft);
     aircraft.tas = MachOfCas(ias, pressure_altitude) * SpeedOfSound(pressure_altitude, aircraft.air);
     aircraft.gear = aircraft.controls.gear = aircraft.on_ground ? 1 : 0;
     aircraft.flaps = aircraft.speedbrake = 0;
+    aircraft.brakes = {};
+    aircraft.trim = kTakeoffTrim;
     aircraft.controls.bank = aircraft.controls.path = aircraft.controls.steering = 0;
     aircraft.controls.flaps = aircraft.controls.speedbrake = 0;
     aircraft.controls.thrust_lever = 0;
@@ -241,9 +260,12 @@ void PlaceAircraftAt(Aircraft& aircraft, double lat, double lon, double altitude
 
 void StepAircraft(Aircraft& aircraft, double dt) {
     constexpr double kFlapTime = 40, kGearTime = 10, kBrakeTime = 1.5;  // s, from end to end
-    aircraft.flaps = Towards(aircraft.flaps, aircraft.controls.flaps, dt / kFlapTime);
+    aircraft.wind_kt = WindHere(aircraft);
+    aircraft.flaps = Towards(aircraft.flaps, aircraft.controls.flaps, kFullFlaps * dt / kFlapTime);
     aircraft.gear = Towards(aircraft.gear, aircraft.controls.gear, dt / kGearTime);
-    aircraft.speedbrake = Towards(aircraft.speedbrake, aircraft.controls.speedbrake, dt / kBrakeTime);
+    const bool by_itself = aircraft.on_ground && aircraft.brakes.landed && aircraft.controls.armed_spoilers;
+    aircraft.speedbrake =
+        Towards(aircraft.speedbrake, by_itself ? 1 : aircraft.controls.speedbrake, dt / kBrakeTime);
     StepEngines(aircraft, dt);
     StepBank(aircraft, dt);
     if (aircraft.on_ground)
@@ -277,7 +299,12 @@ double GrossWeight(const Aircraft& aircraft) {
 }
 
 double StallSpeed(const Aircraft& aircraft) {
-    const double pressure = WeightNewton(aircraft) / (kWingArea * MaxLift(aircraft));
+    return StallSpeedAt(aircraft, aircraft.flaps);
+}
+
+double StallSpeedAt(const Aircraft& aircraft, double flaps) {
+    const double max_lift = kCleanMaxLift + EffectOfFlaps(flaps).max_lift;
+    const double pressure = WeightNewton(aircraft) / (kWingArea * max_lift);
     return std::sqrt(2 * pressure / kSeaLevelDensity) * kKnotsPerMps;
 }
 

@@ -1,9 +1,10 @@
 #pragma once
 
 #include <array>
-#include <string_view>
 
 #include "host/aircraft/air.h"
+#include "host/aircraft/airframe.h"
+#include "host/aircraft/brakes.h"
 #include "host/aircraft/engines.h"
 #include "host/aircraft/sphere.h"
 
@@ -15,24 +16,17 @@ namespace host {
 
 /// What pilot or autopilot ask of the aircraft.
 struct FlightControls {
-    double bank = 0;          // degrees, right wing down positive
-    double path = 0;          // degrees, flight path above the horizon
-    double thrust_lever = 0;  // 0 idle to 1 full
-    double flaps = 0;         // 0 up to 1 fully down
-    double gear = 0;          // 1 down
-    double speedbrake = 0;    // 0 to 1
-    double wheel_brakes = 0;  // 0 to 1
-    double steering = 0;      // degrees a second on the ground, right positive
+    double bank = 0;              // degrees, right wing down positive
+    double path = 0;              // degrees, flight path above the horizon
+    double thrust_lever = 0;      // 0 idle to 1 full; below 0 reverse, down to kFullReverse
+    double flaps = 0;             // degrees of the trailing edge
+    double gear = 0;              // 1 down
+    double speedbrake = 0;        // 0 to 1
+    double wheel_brakes = 0;      // 0 to 1
+    int autobrake = 0;            // an AutobrakeSetting
+    bool armed_spoilers = false;  // come out by themselves on the ground
+    double steering = 0;          // degrees a second on the ground, right positive
 };
-
-/// What sets one variant apart.
-struct Airframe {
-    std::string_view name;
-    double empty_lb;
-    double static_thrust_n;  // of one engine at sea level
-};
-/// By the variant's name within an aircraft's title; the smallest when none is named.
-const Airframe& AirframeOf(std::string_view title);
 
 enum FuelTank { kLeftTank, kRightTank, kCentreTank };
 constexpr std::array<double, 3> kTankGallons = {5570, 5570, 22340};
@@ -49,15 +43,18 @@ struct Aircraft {
     double bank_rate = 0;  // degrees a second
     double pitch = 0;      // degrees, nose up positive
     bool on_ground = true;
-    double ground_elevation = 0;  // ft, given by who knows the terrain
-    // positions of what moves, 0 to 1
-    double flaps = 0, gear = 1, speedbrake = 0;
+    double ground_elevation = 0;      // ft, given by who knows the terrain
+    double flaps = 0;                 // degrees
+    double gear = 1, speedbrake = 0;  // positions, 0 to 1
+    AutomaticBrakes brakes;
+    double trim = 4.5;  // units of the stabiliser, more is nose up
     std::array<Engine, 2> engines;
     std::array<double, 3> fuel_lb = {30000, 30000, 40000};
     std::array<double, 5> payload_lb = {10000, 10000, 10000, 10000, 15000};  // by station
     double body_acceleration = 0;                                            // ft/s^2 along the nose
     Airframe airframe = AirframeOf("");
     AirMass air;
+    double wind_kt = 0;  // as it blows where the aircraft is: less than the air's own near the ground
     FlightControls controls;
     // derived at each step
     double ground_speed = 0;    // kt
@@ -79,7 +76,8 @@ double Longitude(const Aircraft& aircraft);  // -180 to 180
 double TrueHeading(const Aircraft& aircraft);
 double FuelOnBoard(const Aircraft& aircraft);  // lb
 double GrossWeight(const Aircraft& aircraft);  // lb
-/// Speed (kt IAS) at which the wing stops carrying the weight, flaps as they stand.
+/// Speed (kt IAS) at which the wing stops carrying the weight, flaps as they stand or at an angle (degrees).
 double StallSpeed(const Aircraft& aircraft);
+double StallSpeedAt(const Aircraft& aircraft, double flaps);
 
 }  // namespace host

@@ -20,12 +20,15 @@ void StepCore(Engine& engine, double dt) {
 
 }  // namespace
 
-void StepEngine(Engine& engine, double lever, double mach, double density_ratio, double temperature_ratio,
-                double static_thrust, double dt) {
+void StepEngine(Engine& engine, const EngineMake& make, double lever, double mach, double density_ratio,
+                double dt) {
+    constexpr double kReverseN1 = 72;
     StepCore(engine, dt);
     const double core = std::min(engine.n2 / kIdleN2, 1.0);  // what a core below idle still lacks
-    const double wanted_n1 =
-        engine.running ? core * core * (kIdleN1 + (kFullN1 - kIdleN1) * std::clamp(lever, 0.0, 1.0)) : 0;
+    const bool reverse = lever < 0;
+    const double range = reverse ? kReverseN1 - kIdleN1 : kFullN1 - kIdleN1;
+    const double share = std::clamp(reverse ? lever / kFullReverse : lever, 0.0, 1.0);
+    const double wanted_n1 = engine.running ? core * core * (kIdleN1 + range * share) : 0;
     // A fan near idle takes seconds to gather speed, near full thrust it answers at once.
     const double lag = 1.2 + 3.0 * std::clamp((70 - engine.n1) / 50, 0.0, 1.0);
     engine.n1 += (wanted_n1 - engine.n1) * std::min(dt / lag, 1.0);
@@ -35,16 +38,23 @@ void StepEngine(Engine& engine, double lever, double mach, double density_ratio,
     // Full thrust falls with speed and, less than the density, with height; idle gives a little at rest and
     // turns to drag at speed. A fit to figures published for fans of bypass ratio 9.
     const double full =
-        static_thrust * (0.9 - 0.75 * mach + 0.35 * mach * mach) * std::pow(density_ratio, 0.8);
-    const double idle = static_thrust * (0.05 - 0.06 * mach) * density_ratio;
-    engine.thrust_n = engine.running ? core * core * (idle + (full - idle) * std::pow(spool, 1.3)) : 0;
+        make.static_thrust_n * (0.9 - 0.75 * mach + 0.35 * mach * mach) * std::pow(density_ratio, 0.77);
+    const double idle = make.static_thrust_n * (0.05 - 0.045 * mach) * density_ratio;
+    const double gross = engine.running ? core * core * (full - idle) * std::pow(spool, 1.3) : 0;
+    constexpr double kTurnedBack = 0.45;  // of the fan's thrust
+    engine.thrust_n = engine.running ? (reverse ? -kTurnedBack * gross : core * core * idle + gross) : 0;
 
-    constexpr double kLbfPerNewton = 0.224809;
-    const double specific = (0.30 + 0.33 * mach) * std::sqrt(temperature_ratio);  // lb/h for each lbf
-    const double idle_flow = 700 + 900 * density_ratio;
-    engine.fuel_flow = engine.running ? std::max(idle_flow, engine.thrust_n * kLbfPerNewton * specific) : 0;
+    // W. H. Willans' line: a flow that idling alone takes, and from there straight with the thrust.
+    constexpr double kLbfPerNewton = 0.224809, kSpecific = 0.365;  // lb/h for each lbf
+    const double idle_flow = 1100 * density_ratio + 3300 * std::sqrt(density_ratio) * mach;
+    engine.fuel_flow =
+        engine.running ? make.fuel_factor * (idle_flow + kSpecific * gross * kLbfPerNewton) : 0;
     const double wanted_egt = engine.running ? 380 + 420 * spool : 15;
     engine.egt_c += (wanted_egt - engine.egt_c) * std::min(dt / 4, 1.0);
+}
+
+double ThrustRatioOfN1(double n1) {
+    return std::max(1.1 * n1 - 0.0023 * n1 * n1 - 0.3019, 0.0);
 }
 
 }  // namespace host

@@ -17,7 +17,7 @@ constexpr double kFull = 16384;  // of levers, handles and surfaces
 constexpr double kFullTank = 8388608;
 constexpr double kWheelsToRadar = 17.2;  // ft, the radar's place above the wheels
 constexpr double kRankineOffset = 491.69;
-constexpr double kFlapDegrees = 30;
+constexpr int kSpoilerHandle = 325;
 constexpr int kPositionDefinition = 0;
 // What the simulator's client calls the right main, the left main and the centre tank, and the first of the
 // five payload stations.
@@ -56,7 +56,7 @@ void FillAir(const Aircraft& aircraft) {
     const double static_k = Temperature(altitude, aircraft.air);
     SetToken(341, static_k - kZeroCelsius);
     SetToken(350, (static_k * (1 + 0.2 * aircraft.mach * aircraft.mach) - kZeroCelsius) / 256);
-    SetToken(343, aircraft.air.wind_kt);
+    SetToken(343, aircraft.wind_kt);
     SetToken(344, aircraft.air.wind_from);
 }
 
@@ -77,10 +77,17 @@ void FillEngines(const Aircraft& aircraft) {
         SetToken(tokens.corrected_n2, engine.n2);
         SetToken(tokens.lever, aircraft.controls.thrust_lever * kFull);
     }
-    SetNamedValue("tz_eng1_fuel_flow", aircraft.engines[0].fuel_flow);
-    SetNamedValue("tz_eng2_fuel_flow", aircraft.engines[1].fuel_flow);
-    SetNamedValue("TZ_Eng1_TPR", aircraft.engines[0].n1);
-    SetNamedValue("TZ_Eng2_TPR", aircraft.engines[1].n1);
+    struct EngineVariables {
+        const char *flow, *ratio, *n1;
+    };
+    constexpr EngineVariables kVariables[] = {{"tz_eng1_fuel_flow", "TZ_Eng1_TPR", "TZ_Eng1_N1_calc"},
+                                              {"tz_eng2_fuel_flow", "TZ_Eng2_TPR", "TZ_Eng2_N1_calc"}};
+    for (std::size_t i = 0; i < aircraft.engines.size(); ++i) {
+        const Engine& engine = aircraft.engines[i];
+        SetModelValue(kVariables[i].flow, engine.fuel_flow);
+        SetModelValue(kVariables[i].ratio, ThrustRatioOfN1(engine.n1));
+        SetModelValue(kVariables[i].n1, engine.n1);
+    }
 }
 
 void FillWeights(const Aircraft& aircraft) {
@@ -95,29 +102,25 @@ void FillWeights(const Aircraft& aircraft) {
         SetCalc(kPayloadExpressions[station], aircraft.payload_lb[station]);
 }
 
-// The slats go to their middle position with the first degree of the flaps and fully out before the landing
-// positions.
-double SlatAngle(double flap_degrees) {
-    constexpr double kMiddle = 16, kOut = 22, kLandingFlaps = 25;
-    return kMiddle * std::min(flap_degrees, 1.0) +
-           (kOut - kMiddle) * std::clamp(flap_degrees - kLandingFlaps + 1, 0.0, 1.0);
-}
-
 void FillSurfaces(const Aircraft& aircraft) {
     SetToken(326, aircraft.speedbrake * kFull);
     SetToken(327, aircraft.speedbrake * kFull);
     for (const int gear : {332, 333, 334}) SetToken(gear, aircraft.gear * kFull);
-    SetToken(907, aircraft.flaps * kFlapDegrees);
-    SetCalc("(A:LEADING EDGE FLAPS LEFT ANGLE,degrees)", SlatAngle(aircraft.flaps * kFlapDegrees));
+    SetToken(907, aircraft.flaps);
+    SetCalc("(A:LEADING EDGE FLAPS LEFT ANGLE,degrees)", SlatAngle(aircraft.flaps));
+    SetModelValue("TZ_Flaps_Handle_Index", FlapDetent(aircraft.airframe, aircraft.controls.flaps));
+    SetModelValue("elev_trim_ind", aircraft.trim);
 }
 
 // What the cockpit model and its gauges work out for themselves.
 void FillModelVariables(const Aircraft& aircraft) {
+    constexpr double kFastest = 360, kFastestMach = 0.90;
     const double stall = StallSpeed(aircraft);
-    SetNamedValue("airspeed_smooth", aircraft.ias);
-    SetNamedValue("TZ_V_S", stall);
-    SetNamedValue("TZ_V_A", stall * 1.3);
-    SetNamedValue("TZ_V_MO", 360);
+    const double altitude = IndicatedAltitude(aircraft.altitude, kStandardHpa, aircraft.air);
+    SetModelValue("airspeed_smooth", aircraft.ias);
+    SetModelValue("TZ_V_S", stall);
+    SetModelValue("TZ_V_A", stall * 1.3);
+    SetModelValue("TZ_V_MO", std::min(kFastest, CasOfMach(kFastestMach, altitude)));
     SetCalc("(A:Design Speed VS0, knots)", stall);
     SetCalc("(A:Design Speed VS1, knots)", stall);
 }
@@ -156,9 +159,12 @@ void FillTokens(const Aircraft& aircraft) {
 }
 
 void TakeControlsFromTokens(Aircraft& aircraft) {
-    aircraft.controls.thrust_lever = std::clamp(TokenOf(128) / kFull, 0.0, 1.0);
-    aircraft.controls.flaps = std::clamp(TokenOf(328) / kFull, 0.0, 1.0);
+    aircraft.controls.thrust_lever = std::clamp(TokenOf(128) / kFull, kFullReverse, 1.0);
+    aircraft.controls.flaps = FlapAngleOfHandle(aircraft.airframe, TokenOf(328));
+    aircraft.controls.speedbrake = std::clamp(TokenOf(kSpoilerHandle) / kFull, 0.0, 1.0);
     aircraft.controls.gear = TokenOf(331) > 0 ? 1 : 0;
+    aircraft.controls.armed_spoilers = TokenOf(324) != 0;
+    aircraft.controls.autobrake = static_cast<int>(std::clamp(NamedValue("auto_brake_switch"), -1.0, 9.0));
     aircraft.controls.wheel_brakes = TokenOf(323) >= 32000 ? 1 : 0;
     aircraft.engines[0].running = TokenOf(560) != 0;
     aircraft.engines[1].running = TokenOf(570) != 0;

@@ -28,7 +28,7 @@ void Calc(Scenario&, const std::vector<Word>& words) {
 }
 
 void Lvar(Scenario&, const std::vector<Word>& words) {
-    SetNamedValue(words[1].text, NumberWord(words[2], "a value"));
+    WriteByHand(words[1].text, NumberWord(words[2], "a value"));
 }
 
 void Key(Scenario&, const std::vector<Word>& words) {

@@ -43,6 +43,17 @@ void SetNamedValue(std::string_view name, double value) {
     variable.value = value;
 }
 
+void SetModelValue(std::string_view name, double value) {
+    NamedVariable& variable = VariableOf(name);
+    variable.exists = variable.of_model = true;
+    if (!variable.by_hand) variable.value = value;
+}
+
+void WriteByHand(std::string_view name, double value) {
+    SetNamedValue(name, value);
+    VariableOf(name).by_hand = true;
+}
+
 void CreateModelVariable(std::string_view name) {
     NamedVariable& variable = VariableOf(name);
     variable.exists = variable.of_model = true;

@@ -26,6 +26,7 @@ struct NamedVariable {
     std::string name;
     double value = 0;
     bool of_model = false;  // exists by the cockpit model, whatever the module registers
+    bool by_hand = false;   // written by a scenario: the aircraft's model leaves it
     bool exists = false;
 };
 
@@ -124,6 +125,10 @@ void PinToken(int token, double value);
 double NamedValue(std::string_view name);
 bool NamedVariableExists(std::string_view name);
 void SetNamedValue(std::string_view name, double value);
+/// A value that the aircraft's model works out by itself; one written by hand stays.
+void SetModelValue(std::string_view name, double value);
+/// Writes a variable by hand, as nobody else then does.
+void WriteByHand(std::string_view name, double value);
 /// Makes a name exist as the cockpit model does.
 void CreateModelVariable(std::string_view name);
 

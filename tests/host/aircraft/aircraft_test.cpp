@@ -57,7 +57,7 @@ TEST(MagneticVariation, IsNearTheFullModel) {
 
 TEST(Aircraft, StaysTrimmedAndBurnsFuelAsAWideBodyDoes) {
     Aircraft aircraft;
-    aircraft.airframe = AirframeOf("tz900-9 house");
+    aircraft.airframe = AirframeOf("TZ900-9");
     PlaceAircraftAt(aircraft, 47, -122, 35000, 90, 270, 0);
     EXPECT_EQ(aircraft.airframe.name, "900-9");
     const double fuel = FuelOnBoard(aircraft), weight = GrossWeight(aircraft);
@@ -124,7 +124,7 @@ TEST(Aircraft, LeavesTheGroundOnlyWithSpeedAndAPull) {
     EXPECT_EQ(aircraft.ground_speed, 0);
     aircraft.controls.wheel_brakes = 0;
     aircraft.controls.thrust_lever = 1;
-    aircraft.controls.flaps = aircraft.flaps = 0.3;
+    aircraft.controls.flaps = aircraft.flaps = 5;
     FlyFor(aircraft, 60);
     EXPECT_TRUE(aircraft.on_ground);
     EXPECT_GT(aircraft.ias, 150);
@@ -132,6 +132,87 @@ TEST(Aircraft, LeavesTheGroundOnlyWithSpeedAndAPull) {
     FlyFor(aircraft, 15);
     EXPECT_FALSE(aircraft.on_ground);
     EXPECT_GT(aircraft.vertical_speed, 1000);
+}
+
+// The tables that predictions are made from, within what the variants and engines differ by: climb rates at
+// climb thrust and the flow per mile in cruise; the wings' glide at idle near 240 ft a mile.
+TEST(Aircraft, PerformsAsItsTablesBelieve) {
+    const auto with_weight = [](const char* sim, const char* engines, double weight) {
+        Aircraft aircraft;
+        aircraft.airframe = AirframeOf(sim, engines);
+        aircraft.fuel_lb = {20000, 20000, 0};
+        aircraft.payload_lb = {weight - 40000 - aircraft.airframe.empty_lb};
+        return aircraft;
+    };
+    struct {
+        double altitude, tas, weight, fpm;
+    } const climbs[] = {{15000, 340, 450000, 2000},
+                        {20000, 370, 400000, 1800},
+                        {25000, 400, 450000, 1100},
+                        {30000, 430, 500000, 800}};
+    for (const char* sim : {"TZ900-8", "TZ900-9"}) {
+        for (const auto& climb : climbs) {
+            Aircraft aircraft = with_weight(sim, "rr", climb.weight);
+            const double ias = CasOfMach(climb.tas / SpeedOfSound(climb.altitude, {}), climb.altitude);
+            PlaceAircraftAt(aircraft, 0, 0, climb.altitude, 0, ias, 0);
+            aircraft.controls.thrust_lever = 0.938;  // climb thrust
+            FlyFor(aircraft, 10);
+            // What the thrust has left, at a constant indicated speed: Boeing's acceleration factor.
+            const double gain = 1 + 0.566 * aircraft.mach * aircraft.mach;
+            const double fpm = aircraft.body_acceleration / 32.174 / gain * aircraft.tas * 101.27;
+            EXPECT_NEAR(fpm, climb.fpm, 500) << sim << " " << climb.altitude;
+        }
+        for (const char* engines : {"rr", "ge"}) {
+            Aircraft aircraft = with_weight(sim, engines, 450000);
+            PlaceAircraftAt(aircraft, 0, 0, 35000, 0, CasOfMach(0.83, 35000), 0);
+            FlyFor(aircraft, 5);
+            const double per_mile = 2 * aircraft.engines[0].fuel_flow / aircraft.tas;
+            EXPECT_NEAR(per_mile, 10800 / 435.0, 0.05 * 25) << sim << engines;
+        }
+        Aircraft aircraft = with_weight(sim, "ge", 420000);
+        PlaceAircraftAt(aircraft, 0, 0, 20000, 0, 300, 0);
+        aircraft.controls.thrust_lever = 0;
+        FlyFor(aircraft, 30);
+        const double gain = 1 + 0.566 * aircraft.mach * aircraft.mach;
+        EXPECT_NEAR(-aircraft.body_acceleration / 32.174 / gain * 6076, 240, 35);
+        EXPECT_NEAR(2 * aircraft.engines[0].fuel_flow, 4000, 400);
+    }
+}
+
+// What alerts and checklists look for: take-off flaps between 34 and 49.5 (52) degrees of flaps and slats
+// together, landing flaps from 52 (57) on, and only retracted flaps below 19; the trim set for take-off.
+TEST(AircraftTokens, FlapsAndTrimStandWhereTheCrewsListsWantThem) {
+    for (const char* sim : {"900-8", "900-9", "900-10"}) {
+        world = {};
+        Aircraft aircraft;
+        aircraft.airframe = AirframeOf(sim);
+        PlaceAircraftAt(aircraft, 47, -122, 400, 90, 0, 400);
+        const bool small = aircraft.airframe.name == "900-8";
+        const int full = small ? 14043 : 16384, detents = small ? 6 : 9;
+        for (int detent = 0; detent <= detents; ++detent) {
+            SetToken(328, std::round(static_cast<double>(full) * detent / detents));
+            TakeControlsFromTokens(aircraft);
+            FlyFor(aircraft, 45);
+            FillTokens(aircraft);
+            const double flaps = TokenOf(907);
+            const double sum = flaps + CalcOf("(A:LEADING EDGE FLAPS LEFT ANGLE,degrees)");
+            SCOPED_TRACE(testing::Message() << sim << " at " << flaps);
+            EXPECT_EQ(NamedValue("TZ_Flaps_Handle_Index"), detent);
+            EXPECT_EQ(sum < 19, detent == 0);
+            if (flaps >= 5 && flaps <= 20) {
+                EXPECT_GE(sum, 34);
+                EXPECT_LT(sum, 49.5);
+            }
+            if (flaps >= 25) {
+                EXPECT_GE(sum, small ? 52 : 57);
+            }
+        }
+        EXPECT_NEAR(TokenOf(907), 30, 0.01);
+        EXPECT_NEAR(NamedValue("elev_trim_ind"), 6, 3);
+    }
+    WriteByHand("elev_trim_ind", 12);
+    FillTokens(Aircraft{});
+    EXPECT_EQ(NamedValue("elev_trim_ind"), 12) << "what a scenario has written stays";
 }
 
 // Raw units, by the inverse of what the instruments make of them.
@@ -211,12 +292,12 @@ TEST(AircraftTokens, ControlsSetByTokenMoveTheAircraft) {
     PlaceAircraftAt(aircraft, 47, -122, 20000, 90, 280, 0);
     FillTokens(aircraft);
     SetToken(128, 16384);
-    SetToken(328, 8192);
+    SetToken(328, 7021);
     SetToken(331, 1);
     SetToken(570, 0);  // the right engine's fuel is cut off
     TakeControlsFromTokens(aircraft);
     FlyFor(aircraft, 60);
-    EXPECT_NEAR(aircraft.flaps, 0.5, 0.01);
+    EXPECT_NEAR(aircraft.flaps, 15, 0.01);
     EXPECT_NEAR(aircraft.gear, 1, 0.01);
     EXPECT_GT(aircraft.engines[0].n1, 95);
     EXPECT_GT(aircraft.engines[0].fuel_flow, 10000);
