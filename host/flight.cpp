@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "host/aircraft/tokens.h"
+#include "host/world/receivers.h"
 #include "host/world/terrain.h"
 #include "host/world/world.h"
 
@@ -14,17 +15,13 @@ Flight flight;
 namespace {
 
 constexpr double kTick = 1 / 18.0;
-constexpr int kTokenBaro = 75, kTokenMasterBattery = 364, kTokenParkingBrake = 323;
+constexpr int kTokenBaro = 75, kTokenMasterBattery = 364, kTokenParkingBrake = 323, kTokenSpoilerHandle = 325,
+              kTokenFlapHandle = 328;
 constexpr double kBrakeSet = 32767;
 constexpr double kTransitionAltitude = 18000;
 
 double GroundFeet(double lat, double lon) {
     return GroundElevationMetres(lat, lon) / kMetresPerFoot;
-}
-
-std::string_view AircraftTitle() {
-    const auto title = world.calc.find(std::string_view("(A:TITLE,string)"));
-    return title == world.calc.end() ? std::string_view{} : std::string_view(title->second.text);
 }
 
 void ApplyOutsideTemperature() {
@@ -46,9 +43,9 @@ void SetPanelWindows(const Placement& placement) {
 
 void FollowTerrain() {
     Aircraft& aircraft = flight.aircraft;
-    constexpr double kHigh = 5000;  // above it the ground is looked at once a second
-    const bool high = aircraft.altitude - aircraft.ground_elevation > kHigh;
-    if (high && world.ticks % 18 != 0) return;
+    const double height = aircraft.altitude - aircraft.ground_elevation;
+    const int every = height > 5000 ? 18 : height > 300 ? 6 : 1;  // ticks
+    if (world.ticks % every != 0) return;
     aircraft.ground_elevation = GroundFeet(Latitude(aircraft), Longitude(aircraft));
 }
 
@@ -62,7 +59,7 @@ Placement DemonstrationStand() {
 
 void PlaceAircraft(const Placement& placement) {
     Aircraft& aircraft = flight.aircraft;
-    aircraft.airframe = AirframeOf(AircraftTitle());
+    aircraft.airframe = flight.airframe;
     aircraft.altitude = placement.alt_ft;
     ApplyOutsideTemperature();
     PlaceAircraftAt(aircraft, placement.lat, placement.lon, placement.alt_ft, placement.heading,
@@ -71,7 +68,8 @@ void PlaceAircraft(const Placement& placement) {
     SetToken(kTokenBaro, placement.alt_ft < kTransitionAltitude ? aircraft.air.qnh : kStandardHpa);
     FillTokens(aircraft);
     SetPanelWindows(placement);
-    SetToken(328, 0);
+    SetToken(kTokenSpoilerHandle, 0);
+    SetToken(kTokenFlapHandle, 0);
     SetToken(331, aircraft.controls.gear);
 }
 
@@ -85,7 +83,7 @@ void ShutDownAircraft() {
 
 void SetWind(double from_deg, double speed_kt) {
     flight.aircraft.air.wind_from = from_deg;
-    flight.aircraft.air.wind_kt = speed_kt;
+    flight.aircraft.air.wind_kt = flight.aircraft.wind_kt = speed_kt;
     FillTokens(flight.aircraft);
 }
 
@@ -116,6 +114,8 @@ void StepFlight(bool moves) {
     if (commands.moves_levers) aircraft.controls.thrust_lever = commands.thrust_lever;
     StepAircraft(aircraft, kTick);
     FillTokens(aircraft);
+    StepReceivers(
+        {Latitude(aircraft), Longitude(aircraft), aircraft.altitude, TokenOf(82), TrueHeading(aircraft)});
 }
 
 bool AircraftValue(const std::string& name, double& value) {

@@ -8,6 +8,7 @@
 #include "host/inspection.h"
 #include "host/module_library.h"
 #include "host/root_folder.h"
+#include "host/world/receivers.h"
 #include "host/world/terrain.h"
 #include "host/world/world.h"
 
@@ -161,19 +162,25 @@ bool PrepareSession(Session& session, std::string& error) {
     world.config_lines.clear();
     for (const std::string& line : settings.cfg_lines) world.config_lines += line + '\n';
     if (!settings.terrain_chosen) UseModelTerrain(AirportsFile(settings));
+    LoadNavStations(AirportsFile(settings), NavdataFile(settings, "navs.txt"));
     if (found != titles.end()) {
         SetCalcText("(A:TITLE,string)", found->title);
         SetCalcText("(A:ATC ID,string)", found->atc_id);
         session.hires_panel = found->hires_panel;
+        flight.airframe = AirframeOf(found->sim, found->model);
     }
     return true;
 }
 
 std::string AirportsFile(const SessionSettings& settings) {
+    return NavdataFile(settings, "apts.txt");
+}
+
+std::string NavdataFile(const SessionSettings& settings, const std::string& name) {
     const std::filesystem::path navdata = settings.navdata.empty()
                                               ? FindNavdata(FindInFolder(settings.root, "Velarion"))
                                               : std::filesystem::path(settings.navdata);
-    return FindInFolder(navdata, "apts.txt").string();
+    return FindInFolder(navdata, name).string();
 }
 
 bool StartSession(Session& session, std::string& error) {

@@ -59,7 +59,9 @@ bool PrepareSession(Session& session, std::string& error);
 /// Loads the module and brings it up in the simulator's order, first update included.
 bool StartSession(Session& session, std::string& error);
 
-/// The apts.txt in use.
+/// A file of the navigation data in use.
+std::string NavdataFile(const SessionSettings& settings, const std::string& name);
+/// Its apts.txt.
 std::string AirportsFile(const SessionSettings& settings);
 
 /// One pre-update call of each gauge; the 18 Hz counter moves by one, or stands still in a paused frame.

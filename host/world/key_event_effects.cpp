@@ -37,7 +37,9 @@ constexpr TokenEffect kTokenEffects[] = {
     {0x102c1, Effect::kToggle, 364, 1, 0, 0},       {0x102f0, Effect::kToggle, 792, 1, 0, 0},
     {0x102fc, Effect::kToggle, 563, 1, 0, 0},       {0x102fd, Effect::kToggle, 573, 1, 0, 0},
     {0x10348, Effect::kStore, 620, 0, 0, 1},        {0x1034a, Effect::kStore, 621, 0, 0, 1},
-    {0x1034b, Effect::kStore, 619, 0, 0, 1},
+    {0x1034b, Effect::kStore, 619, 0, 0, 1},        {0x100a1, Effect::kStore, 128, 0, -4096, 16384},
+    {0x100a2, Effect::kStore, 328, 0, 0, 16384},    {0x10205, Effect::kStore, 325, 0, 0, 16384},
+    {0x10214, Effect::kStore, 324, 0, 0, 1},
 };
 
 // An effect changes a value set by hand too: the simulator's own controls act on it as on any other.
@@ -96,6 +98,11 @@ void ApplyKeyEvent(int event, int value) {
         case 0x1021b:
             SetClockHour(std::clamp(value, 0, 23));
             break;
+        case 0x10145: {  // the switch of take-off and go-around
+            constexpr int kToGaMode = 12;
+            SetNamedValue("ap_vert_mode_clicked", kToGaMode);
+            break;
+        }
         case 0x1024c:
             ChangeCalc("(A:AUTOPILOT ALTITUDE LOCK VAR, feet)", value);
             break;

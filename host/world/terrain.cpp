@@ -56,6 +56,8 @@ double GroundElevationMetres(double lat, double lon) {
     // ground that weighs like an airport 30 nm away: an airport stands exactly on its elevation, the surface
     // is smooth between.
     constexpr double kReachNm = 60;
+    constexpr double kAirportNm = 2.5;  // within it the ground is level, as far as the longest runways reach
+    double nearest = kReachNm * kReachNm, nearest_metres = 0;
     double sum = 0, weights = 1 / (30.0 * 30 * 30 * 30);
     const double cos_lat = std::cos(lat * 0.017453292519943295);
     for (int row = RowOf(lat - 1); row <= RowOf(lat + 1); ++row) {
@@ -64,12 +66,15 @@ double GroundElevationMetres(double lat, double lon) {
             const double east = std::remainder(airport.lon - lon, 360.0) * 60 * cos_lat;
             const double square = north * north + east * east;
             if (square > kReachNm * kReachNm) continue;
-            if (square < 1.5 * 1.5) return airport.metres;
+            if (square < nearest) {
+                nearest = square;
+                nearest_metres = airport.metres;
+            }
             sum += airport.metres / (square * square);
             weights += 1 / (square * square);
         }
     }
-    return sum / weights;
+    return nearest < kAirportNm * kAirportNm ? nearest_metres : sum / weights;
 }
 
 }  // namespace host
