@@ -3,10 +3,13 @@
 #include <algorithm>
 #include <cmath>
 
+#include "host/autoflight/approach.h"
 #include "host/autoflight/autothrottle.h"
 #include "host/autoflight/flight_values.h"
 #include "host/autoflight/lateral.h"
+#include "host/autoflight/protection.h"
 #include "host/autoflight/vertical.h"
+#include "host/autoflight/vnav.h"
 #include "host/world/world.h"
 
 namespace host {
@@ -50,7 +53,26 @@ void Disengage(AutoflightLogic& logic) {
 void TakeAutopilotButton(AutoflightLogic& logic, const FlightValues& now) {
     if (NamedValue("TZ_MCP_L_AP_Button") == 0) return;
     SetNamedValue("TZ_MCP_L_AP_Button", 0);
-    if (!logic.engaged && !now.on_ground) Engage(logic, now);
+    const bool bar_down = NamedValue("TZ_MCP_AP_DISENGAGE_Bar") == 1;
+    if (!logic.engaged && !now.on_ground && !bar_down) Engage(logic, now);
+}
+
+// The switch on the wheel: the first press lets go, the next ends the warning.
+void TakeWheelSwitch() {
+    if (NamedValue("TZ_AP_DISENGAGE_Switch_Right") == 0) return;
+    SetNamedValue("TZ_AP_DISENGAGE_Switch_Right", 0);
+    SetNamedValue("ap_master_disconnect", kDisconnect);
+}
+
+// Take-off thrust on the runway holds the runway's heading until other modes take over in the air.
+void BeginTakeoff(AutoflightLogic& logic, const FlightValues& now) {
+    if (!now.on_ground || logic.throttle != kThrustReference) return;
+    logic.took_off = true;
+    if (logic.vertical == kVerticalNone) logic.vertical = kVerticalToGa;
+    if (logic.lateral != kLateralNone) return;
+    const int armed = logic.lateral_armed;
+    GoAroundLaterally(logic, now);
+    logic.lateral_armed = armed;
 }
 
 // The system looks at a disconnect before the autopilot lets go, and is told afterwards to warn of it.
@@ -74,6 +96,8 @@ void Report(const AutoflightLogic& logic) {
     SetNamedValue("ap_vert_mode", logic.vertical);
     SetNamedValue("ap_vert_mode_armed", logic.vertical_armed);
     SetNamedValue("at_mode", logic.throttle);
+    SetNamedValue("ap_envelope_prot", logic.protects ? 1 : 0);
+    SetNamedValue("tz_spd_intv_active", logic.speed_intervention ? 1 : 0);
     SetToken(106, engaged);
 }
 
@@ -84,23 +108,30 @@ AutoflightCommands StepAutoflight(AutoflightLogic& logic, double dt) {
     if (logic.throttle == kThrottleNone) logic.lever_command = std::clamp(TokenOf(128) / 16384, 0.0, 1.0);
     MeasureSpeedRate(logic, now, dt);
     TakeAutopilotButton(logic, now);
+    TakeWheelSwitch();
     TakeDisconnect(logic);
     UpdateLateralMode(logic, now);
     UpdateVerticalMode(logic, now);
+    UpdateApproach(logic, now);
     UpdateThrottleMode(logic, now);
-    Report(logic);
+    BeginTakeoff(logic, now);
+    if (!now.on_ground && now.radio_altitude > NamedValue("tz_accel_ht")) logic.took_off = false;
 
     constexpr double kBankRate = 7, kPathRate = 1.0;  // degrees a second
-    logic.bank_command = Slew(logic.bank_command, LateralBank(logic, now), kBankRate * dt);
-    logic.path_command = Slew(logic.path_command, VerticalPath(logic, now, dt), kPathRate * dt);
+    logic.bank_command = Slew(logic.bank_command, LateralBank(logic, now, dt), kBankRate * dt);
+    const double path = ProtectEnvelope(logic, now, VerticalPath(logic, now, dt), dt);
+    logic.path_command = Slew(logic.path_command, path, kPathRate * dt);
+    if (now.on_ground && logic.lateral == kRollout) logic.path_command = 0;
     logic.lever_command = ThrustLever(logic, now, dt);
+    Report(logic);
+    ReportThrustLimit(now);
     AutoflightCommands commands;
     // In the take-off the pilot's hands follow the flight director.
-    commands.flies = logic.engaged || logic.vertical == kVerticalToGa;
+    commands.flies = logic.engaged || logic.vertical == kVerticalToGa || logic.took_off;
     commands.bank = logic.bank_command;
     commands.path = logic.path_command;
     commands.steering = GroundSteering(logic, now);
-    commands.moves_levers = logic.throttle != kThrottleNone;
+    commands.moves_levers = logic.throttle != kThrottleNone && logic.throttle != kThrottleHold;
     commands.thrust_lever = logic.lever_command;
     SetNamedValue("TZ_FD_Bank", -logic.bank_command);
     SetNamedValue("TZ_FD_Pitch", -logic.path_command);

@@ -43,6 +43,15 @@ enum ThrottleMode {
     kThrust = 9
 };
 
+/// Limits of thrust, as tz_thrust_limit names them.
+enum ThrustLimit {
+    kLimitTakeoff = 0,
+    kLimitGoAround = 1,
+    kLimitContinuous = 2,
+    kLimitClimb = 3,
+    kLimitCruise = 4
+};
+
 /// All that the logic remembers; a fresh one is switched off.
 struct AutoflightLogic {
     bool engaged = false;      // the autopilot flies
@@ -53,11 +62,23 @@ struct AutoflightLogic {
     int lnav_request = 0;       // the request variable as it stood: LNAV's stays while the mode does
     double held_direction = 0;  // degrees magnetic, of HDG HOLD and the modes that hold a heading or a track
     double held_bank = 0;       // degrees, of ATT
-    double held_altitude = 0;   // ft
-    double entry_path = 0;      // degrees, V/S and FPA begin from
+    double held_altitude = 0;   // ft, of ALT and of a level VNAV PTH
+    double held_path = 0;       // degrees, of FPA
     // commands that build up from tick to tick
     double bank_command = 0, path_command = 0, lever_command = 0;
     double smooth_ias = 0, ias_rate = 0;  // kt, kt/s; smooth_ias 0 = not yet read
+    // what the needles keep asking for although they are centred: a course or a slope that is a little off
+    double beam_bias = 0;   // ft/s aside, right positive
+    double slope_bias = 0;  // ft/s up
+    // VNAV
+    bool vnav_level = false;  // PTH holds `held_altitude`
+    bool speed_intervention = false;
+    double window_speed = 0;  // as it stood, to see that the pilot turns it
+    bool took_off = false;    // since the last take-off the acceleration height isn't reached
+    // autothrottle
+    int phase_limit = -1;  // the ThrustLimit that the phase of flight has set last
+    bool was_armed = false;
+    bool protects = false;  // the envelope's edge bends what the modes want
 };
 
 /// How to fly, by what the modes have worked out. What isn't flown is left to the pilot.

@@ -5,6 +5,7 @@
 
 #include "host/aircraft/air.h"
 #include "host/aircraft/angles.h"
+#include "host/autoflight/approach.h"
 #include "host/world/world.h"
 
 namespace host {
@@ -14,7 +15,6 @@ constexpr double kMostBank = 25, kMostBankLnav = 28;
 constexpr double kNoHeading = 999;  // of lnav_hdg
 constexpr double kLnavCaptureNm = 2.5;
 constexpr double kLnavEngageFt = 50;  // radio altitude
-constexpr double kNeedleFull = 127;   // two dots
 
 bool IsTrackSelected() {
     return NamedValue("TZ_MCP_HDG_TRK_Status") == 1;
@@ -39,22 +39,6 @@ double BankForError(double error, const FlightValues& now, double most) {
     const double speed = std::max(now.tas / kKnotsPerMps, 40.0);
     const double turn_rate = error * kRad / kTurnTime;
     return std::clamp(std::atan(speed * turn_rate / kGravity) / kRad, -most, most);
-}
-
-bool IsLocalizerReceived() {
-    constexpr double kLocalizerBit = 0x80, kCodesRange = 0x100;
-    return std::fmod(TokenOf(46), kCodesRange) >= kLocalizerBit && TokenOf(49) > 0;
-}
-
-// Flies a beam: its course, bent towards the needle. A full needle asks for the widest cut.
-double CourseToNeedle(double course, double needle) {
-    constexpr double kWidestCut = 30, kGain = 2.0;
-    const double deflection = std::clamp(needle / kNeedleFull, -1.0, 1.0);
-    return FoldDegrees(course + std::clamp(deflection * kGain * 15, -kWidestCut, kWidestCut));
-}
-
-bool IsNeedleAlive(double needle) {
-    return std::fabs(needle) < kNeedleFull * 0.9;
 }
 
 void EngageOrArmLnav(AutoflightLogic& logic, const FlightValues& now) {
@@ -105,16 +89,8 @@ void TakeRequest(AutoflightLogic& logic, const FlightValues& now) {
     logic.lnav_request = left;
 }
 
-void CaptureArmedMode(AutoflightLogic& logic, const FlightValues& now) {
+void CaptureLnav(AutoflightLogic& logic, const FlightValues& now) {
     if (logic.lateral_armed == kLnav && HasLnavHeading()) EngageOrArmLnav(logic, now);
-    if (logic.lateral_armed == kLocalizer && IsLocalizerReceived() && IsNeedleAlive(TokenOf(40))) {
-        logic.lateral = kLocalizer;
-        logic.lateral_armed = kLateralNone;
-    }
-    if (logic.lateral_armed == kFinalApproachCourse && IsNeedleAlive(NamedValue("tz_ian_fac_needle"))) {
-        logic.lateral = kFinalApproachCourse;
-        logic.lateral_armed = kLateralNone;
-    }
 }
 
 // The route is gone.
@@ -136,48 +112,51 @@ void HoldDirection(AutoflightLogic& logic, const FlightValues& now) {
     logic.held_direction = FoldDegrees((IsTrackSelected() ? now.track : now.magnetic_heading) + turned);
 }
 
+void GoAroundLaterally(AutoflightLogic& logic, const FlightValues& now) {
+    logic.lateral = kLateralToGa;
+    logic.lateral_armed = HasLnavHeading() ? kLnav : kLateralNone;
+    logic.held_direction = now.on_ground ? now.magnetic_heading : now.track;
+}
+
 void UpdateLateralMode(AutoflightLogic& logic, const FlightValues& now) {
     TakeRequest(logic, now);
-    // Take-off thrust on the runway holds the runway's heading until another mode takes over in the air.
-    if (now.on_ground && logic.throttle == kThrustReference && logic.lateral == kLateralNone) {
-        logic.lateral = kLateralToGa;
-        logic.held_direction = now.magnetic_heading;
-    }
-    CaptureArmedMode(logic, now);
+    CaptureLnav(logic, now);
     // Exactly on the track there is no side of it, which is no reason to let go.
     if (!HasRoute()) DropLnav(logic, now);
-    if (logic.lateral == kLocalizer && now.on_ground) logic.lateral = kRollout;
     // The panel may turn its window from heading to track.
     if (logic.lateral == kHeadingSelect || logic.lateral == kTrackSelect)
         logic.lateral = IsTrackSelected() ? kTrackSelect : kHeadingSelect;
     if (logic.lateral == kAttitude && std::fabs(logic.held_bank) < 5) HoldDirection(logic, now);
 }
 
-double LateralBank(const AutoflightLogic& logic, const FlightValues& now) {
+double BankForTrack(const FlightValues& now, double wanted, double most) {
+    return BankForError(Difference(now.track, wanted), now, most);
+}
+
+double LateralBank(AutoflightLogic& logic, const FlightValues& now, double dt) {
+    const auto for_heading = [&](double wanted) {
+        return BankForError(Difference(now.magnetic_heading, wanted), now, kMostBank);
+    };
     switch (logic.lateral) {
         case kAttitude:
             return logic.held_bank;
         case kHeadingHold:
+            return for_heading(logic.held_direction);
         case kLateralToGa:
-            return BankForError(Difference(now.magnetic_heading, logic.held_direction), now, kMostBank);
+            return BankForTrack(now, logic.held_direction, kMostBank);
         case kHeadingSelect:
-            return BankForError(Difference(now.magnetic_heading, TokenOf(107)), now, kMostBank);
+            return for_heading(TokenOf(107));
         case kTrackHold:
-            return BankForError(Difference(now.track, logic.held_direction), now, kMostBank);
+            return BankForTrack(now, logic.held_direction, kMostBank);
         case kTrackSelect:
-            return BankForError(Difference(now.track, TokenOf(107)), now, kMostBank);
-        case kLnav: {
+            return BankForTrack(now, TokenOf(107), kMostBank);
+        case kLnav:
             // The heading given is the bearing to a point on the leg: it is the track that must follow it.
-            const double wanted = NamedValue("lnav_hdg") - (IsTrueReference() ? now.variation : 0);
-            return BankForError(Difference(now.track, wanted), now, kMostBankLnav);
-        }
+            return BankForTrack(now, NamedValue("lnav_hdg") - (IsTrueReference() ? now.variation : 0),
+                                kMostBankLnav);
         case kLocalizer:
-            return BankForError(Difference(now.track, CourseToNeedle(TokenOf(550), TokenOf(40))), now,
-                                kMostBank);
         case kFinalApproachCourse:
-            return BankForError(Difference(now.track, CourseToNeedle(NamedValue("tz_dest_rwy_trk"),
-                                                                     NamedValue("tz_ian_fac_needle"))),
-                                now, kMostBank);
+            return BeamBank(logic, now, dt);
         default:
             return 0;
     }
@@ -187,7 +166,7 @@ double GroundSteering(const AutoflightLogic& logic, const FlightValues& now) {
     constexpr double kGain = 0.5, kMostRate = 4;
     double wanted = now.magnetic_heading;
     if (logic.lateral == kLateralToGa) wanted = logic.held_direction;
-    if (logic.lateral == kRollout) wanted = CourseToNeedle(TokenOf(550), TokenOf(40));
+    if (logic.lateral == kRollout) wanted = RolloutHeading(logic, now);
     return std::clamp(Difference(now.magnetic_heading, wanted) * kGain, -kMostRate, kMostRate);
 }
 

@@ -9,7 +9,14 @@ namespace host {
 void UpdateLateralMode(AutoflightLogic& logic, const FlightValues& now);
 
 /// The bank (degrees, right positive) that the lateral mode wants; 0 without one.
-double LateralBank(const AutoflightLogic& logic, const FlightValues& now);
+double LateralBank(AutoflightLogic& logic, const FlightValues& now, double dt);
+
+/// The bank that brings the track to a magnetic direction within a few seconds.
+double BankForTrack(const FlightValues& now, double wanted, double most);
+
+/// TO/GA: holds the runway's heading on the ground and the track that it finds in the air, LNAV armed behind
+/// it.
+void GoAroundLaterally(AutoflightLogic& logic, const FlightValues& now);
 
 /// How fast (degrees a second, right positive) the nose is to turn on the runway, in take-off and roll-out.
 double GroundSteering(const AutoflightLogic& logic, const FlightValues& now);

@@ -227,7 +227,7 @@ TEST_F(AutoflightTest, AutothrottleFollowsTheWindowAndThePitchMode) {
 
 TEST_F(AutoflightTest, TakesOffAlongTheRunwayAndHandsOverToLnav) {
     PlaceAircraftAt(aircraft, 0, 0, 0, 90, 0, 0);
-    aircraft.flaps = aircraft.controls.flaps = 0.4;
+    aircraft.flaps = aircraft.controls.flaps = 15;
     aircraft.air.wind_from = 120;
     aircraft.air.wind_kt = 15;
     FillTokens(aircraft);
