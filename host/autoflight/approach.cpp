@@ -59,24 +59,29 @@ double CourseToBeam(const Beam& beam, double bias, double speed_fps, double time
     return FoldDegrees(beam.course + std::clamp(aside / kRad, -widest, widest));
 }
 
-/// Height above the slope, ft, and whether its needle can be followed.
+/// Height above the slope, ft, and whether it is near enough to be taken: from above as far as it can be
+/// caught up with, from below where no climb is needed.
 struct Slope {
     double above;
-    bool is_alive;
+    bool is_near;
 };
 
+bool IsNear(double needle) {
+    return needle > -0.12 && needle < 0.45;
+}
+
 Slope GlideSlope(const FlightValues& now) {
-    constexpr double kFullDegrees = 0.7, kGlideSlopeBit = 0x40;
+    constexpr double kFullDegrees = 0.7;
+    constexpr int kGlideSlopeBit = 0x40;
     const double needle = TokenOf(41) / kNeedleFull;
-    const bool received = IsReceived() && static_cast<int>(TokenOf(46)) & static_cast<int>(kGlideSlopeBit);
-    return {needle * kFullDegrees * kRad * ToThreshold(TokenOf(45), now),
-            received && std::fabs(needle) < 0.2};
+    const bool received = IsReceived() && (static_cast<int>(TokenOf(46)) & kGlideSlopeBit) != 0;
+    return {needle * kFullDegrees * kRad * ToThreshold(TokenOf(45), now), received && IsNear(needle)};
 }
 
 Slope GlidePath() {
     constexpr double kFull = 400;  // ft
     const double needle = NamedValue("tz_ian_gp_needle") / kNeedleFull;
-    return {needle * kFull, std::fabs(needle) < 0.2};
+    return {needle * kFull, IsNear(needle)};
 }
 
 Slope SlopeOf(int mode, const FlightValues& now) {
@@ -99,11 +104,12 @@ void CaptureBeam(AutoflightLogic& logic, const FlightValues& now) {
     logic.lateral = logic.lateral_armed;
     logic.lateral_armed = kLateralNone;
     logic.beam_bias = 0;
+    ClearLnavRequest(logic);
 }
 
 void CaptureSlope(AutoflightLogic& logic, const FlightValues& now) {
     if (!IsOnSlope(logic.vertical_armed) || !IsOnBeam(logic.lateral)) return;
-    if (!SlopeOf(logic.vertical_armed, now).is_alive) return;
+    if (!SlopeOf(logic.vertical_armed, now).is_near) return;
     logic.vertical = logic.vertical_armed;
     logic.vertical_armed = kVerticalNone;
     logic.slope_bias = 0;
@@ -114,6 +120,15 @@ bool IsFlareDue(const FlightValues& now) {
     constexpr double kLowest = 30, kHighest = 75;
     if (now.radio_altitude > kHighest) return false;
     return now.radio_altitude < kLowest || FlarePath(now) > now.path;
+}
+
+// A beam that falls silent on the way is followed no longer.
+void DropLostBeam(AutoflightLogic& logic, const FlightValues& now) {
+    if (logic.lateral != kLocalizer || IsReceived() || now.on_ground) return;
+    HoldDirection(logic, now);
+    if (!IsOnSlope(logic.vertical)) return;
+    logic.vertical = kVerticalSpeed;
+    SetToken(120, std::round(now.vertical_speed / 100) * 100);
 }
 
 void LandByItself(AutoflightLogic& logic, const FlightValues& now) {
@@ -137,6 +152,7 @@ void LandByItself(AutoflightLogic& logic, const FlightValues& now) {
 }  // namespace
 
 void UpdateApproach(AutoflightLogic& logic, const FlightValues& now) {
+    DropLostBeam(logic, now);
     CaptureBeam(logic, now);
     CaptureSlope(logic, now);
     LandByItself(logic, now);

@@ -98,7 +98,7 @@ void DropLnav(AutoflightLogic& logic, const FlightValues& now) {
     if (logic.lateral != kLnav && logic.lateral_armed != kLnav) return;
     if (logic.lateral == kLnav) HoldDirection(logic, now);
     if (logic.lateral_armed == kLnav) logic.lateral_armed = kLateralNone;
-    SetNamedValue("ap_lat_mode_clicked", kLateralNone);
+    ClearLnavRequest(logic);
 }
 
 }  // namespace
@@ -110,6 +110,11 @@ void HoldDirection(AutoflightLogic& logic, const FlightValues& now) {
     const double turned = kGravity * std::tan(now.bank * kRad) / speed / kRad * kRollOutTime;
     logic.lateral = IsTrackSelected() ? kTrackHold : kHeadingHold;
     logic.held_direction = FoldDegrees((IsTrackSelected() ? now.track : now.magnetic_heading) + turned);
+}
+
+void ClearLnavRequest(AutoflightLogic& logic) {
+    logic.lnav_request = kLateralNone;
+    SetNamedValue("ap_lat_mode_clicked", kLateralNone);
 }
 
 void GoAroundLaterally(AutoflightLogic& logic, const FlightValues& now) {

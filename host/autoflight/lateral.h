@@ -14,6 +14,9 @@ double LateralBank(AutoflightLogic& logic, const FlightValues& now, double dt);
 /// The bank that brings the track to a magnetic direction within a few seconds.
 double BankForTrack(const FlightValues& now, double wanted, double most);
 
+/// Another mode has taken over from LNAV by itself: LNAV's request no longer stands.
+void ClearLnavRequest(AutoflightLogic& logic);
+
 /// TO/GA: holds the runway's heading on the ground and the track that it finds in the air, LNAV armed behind
 /// it.
 void GoAroundLaterally(AutoflightLogic& logic, const FlightValues& now);

@@ -3,96 +3,100 @@
 #include <chrono>
 #include <cmath>
 #include <cstdio>
-#include <numbers>
+#include <vector>
 
 #include "host/fly/deck_loop.h"
+#include "host/fly/flight_log.h"
 #include "host/fly/pilot.h"
 #include "host/fly/start.h"
-#include "host/inspection.h"
 #include "host/process.h"
 #include "host/scenario/words.h"
-#include "host/world/terrain.h"
 #include "host/world/world.h"
 
 namespace host {
 namespace {
 
-constexpr const char* kDemonstrationRoute = "KSEA/16L ALDER J1 RBL J1 AVE J1 FIM KLAX/24R";
+constexpr const char* kDemonstrationRoute = "KSEA/16L ALDER1 ALDER J1 RBL J1 AVE J1 FIM FIM2 KLAX/24R";
 constexpr double kMaxHours = 24;
-
-struct Log {
-    int fixes = 0;
-    double start_fuel = 0;
-};
-
-double Number(const Session& session, const std::string& path) {
-    return std::atof(ReadVariable(session, path).c_str());
-}
-
-std::string At(const char* list, int index, const char* field) {
-    return std::string(list) + '[' + std::to_string(index) + "]." + field;
-}
-
-double DistanceNm(double lat1, double lon1, double lat2, double lon2) {
-    const double degree = std::numbers::pi / 180;
-    const double north = std::sin((lat2 - lat1) / 2 * degree), east = std::sin((lon2 - lon1) / 2 * degree);
-    const double square = north * north + std::cos(lat1 * degree) * std::cos(lat2 * degree) * east * east;
-    return 2 * std::asin(std::min(1.0, std::sqrt(square))) / degree * 60;
-}
-
-double ValueNow(const char* name) {
-    double value = 0;
-    AircraftValue(name, value);
-    return value;
-}
-
-void PrintHeading(const FlyOptions& options, const Session& session) {
-    std::printf("%s  %s  %s\n\n", ReadVariable(session, "aircraft").c_str(),
-                ReadVariable(session, "airac_cycle_text").c_str(), options.route.c_str());
-    std::printf("  TIME   FIX      VIA        ALT     IAS   GS    FUEL     XTK\n");
-}
-
-void PrintFix(const Session& session, Log& log) {
-    const std::string fix = ReadVariable(session, "PositionReports[1].leg.ident");
-    std::printf("  %-6s %-8s %-8s %6.0f   %4.0f %4.0f  %6.0f   %5.2f\n",
-                ReadVariable(session, "PositionReports[1].time").c_str(), fix.c_str(),
-                ReadVariable(session, "PositionReports[1].leg.via").c_str(), ValueNow("alt"), ValueNow("ias"),
-                ValueNow("gs"), ValueNow("fuel"), Number(session, "xtk"));
-    std::fflush(stdout);
-    ++log.fixes;
-}
 
 // The flight along the route, looked at once a second.
 struct RouteFlight {
     Pilot pilot;
-    Log log;
+    FlightLog log;
     int last = 0;
-    double dest_lat = 0, dest_lon = 0;
-    int to = 1;
+    int to = 0;  // the TO leg when it was last looked at
+    double to_lat = 0, to_lon = 0;
+    double behind_to = 0;  // nm from the TO fix to the end
     double nearest = 1e9;
+    bool in_the_air = false;
     bool arrived = false;
 };
 
+std::string Leg(int index, const char* field) {
+    return "FlightPlan[" + std::to_string(index) + "]." + field;
+}
+
+// The route ends on a final approach when its last leg leads to the runway along the landing course.
+bool LinesUp(const Session& session, const RunwayEnd& runway, int last) {
+    constexpr double kShortest = 3, kMostAside = 0.15;
+    const RunwayPosition from = PositionBefore(runway, ModuleNumber(session, Leg(last - 1, "lat")),
+                                               ModuleNumber(session, Leg(last - 1, "lon")));
+    return from.before > kShortest && std::fabs(from.right) < kMostAside * from.before;
+}
+
 RouteFlight BeginFlight(const Session& session) {
     RouteFlight route;
-    route.last = static_cast<int>(Number(session, "fp_cnt"));
-    route.dest_lat = Number(session, At("FlightPlan", route.last, "lat"));
-    route.dest_lon = Number(session, At("FlightPlan", route.last, "lon"));
-    route.pilot.arrival_ft =
-        std::round(GroundElevationMetres(route.dest_lat, route.dest_lon) / 0.3048 / 100) * 100 + 3000;
-    route.log.start_fuel = ValueNow("fuel");
+    route.last = static_cast<int>(ModuleNumber(session, "fp_cnt"));
+    route.pilot.cruise_ft = ModuleNumber(session, "cruise_alt");
+    route.pilot.arrival =
+        ReadRunway(session, "dest_airport", static_cast<int>(ModuleNumber(session, "fms_dest_rwy_pos")));
+    route.pilot.route_lines_up = LinesUp(session, route.pilot.arrival, route.last);
+    route.log.start_fuel = AircraftNumber("fuel");
     return route;
 }
 
-// Has the pilot act and the log printed, until the last fix.
+// Looks at the plan anew when it has moved on.
+void FollowPlan(const Session& session, RouteFlight& route) {
+    const int to = static_cast<int>(ModuleNumber(session, "stpos"));
+    if (to == route.to) return;
+    if (route.to > 0) LogFix(session, route.log);
+    route.to = to;
+    route.last = static_cast<int>(ModuleNumber(session, "fp_cnt"));
+    route.behind_to = 0;
+    const std::vector<RouteFix> fixes = FixesAhead(session);
+    for (std::size_t i = 1; i < fixes.size(); ++i)
+        route.behind_to += DistanceNm(fixes[i - 1].lat, fixes[i - 1].lon, fixes[i].lat, fixes[i].lon);
+    if (fixes.empty()) return;
+    route.to_lat = fixes[0].lat;
+    route.to_lon = fixes[0].lon;
+}
+
+void KeepLog(const Session& session, RouteFlight& route) {
+    if (!route.in_the_air && AircraftNumber("vs") > 300) {
+        route.in_the_air = true;
+        TakeForecast(session, route.log);
+    }
+    if (!route.log.at_top_of_climb && route.in_the_air && ModuleNumber(session, "toc") == 1) {
+        route.log.at_top_of_climb = true;
+        TakeForecast(session, route.log);
+    }
+}
+
+// Has the pilot act and the log printed, until the aircraft stands on the runway; where none can be landed
+// on, until the last fix.
 void StepRoute(Session& session, RouteFlight& route) {
     if (route.arrived) return;
-    const double to_go = DistanceNm(ValueNow("lat"), ValueNow("lon"), route.dest_lat, route.dest_lon);
+    FollowPlan(session, route);
+    const double to_fix =
+        DistanceNm(AircraftNumber("lat"), AircraftNumber("lon"), route.to_lat, route.to_lon);
+    const double to_go = to_fix + route.behind_to;
     StepPilot(route.pilot, session, to_go);
-    const int to = static_cast<int>(Number(session, "stpos"));
-    if (to != route.to) PrintFix(session, route.log);
-    route.to = to;
-    if (to < route.last) return;
+    KeepLog(session, route);
+    if (!route.pilot.arrival.ils_frequency.empty()) {
+        route.arrived = route.pilot.phase == Pilot::kStopped;
+        return;
+    }
+    if (route.to < route.last) return;
     route.arrived = to_go > route.nearest || to_go < 0.5;  // overhead, or past it
     route.nearest = to_go;
 }
@@ -105,9 +109,25 @@ void FlyHeadless(Session& session, RouteFlight& route) {
 }
 
 void PrintEnd(const RouteFlight& route, double wall_seconds) {
-    std::printf("\n%s after %s, %d fixes passed, %.0f lb burned; %.0f times real time\n",
-                route.arrived ? "At the last fix" : "Broken off", DurationText(world.seconds).c_str(),
-                route.log.fixes, route.log.start_fuel - ValueNow("fuel"), world.seconds / wall_seconds);
+    const RunwayEnd& runway = route.pilot.arrival;
+    if (!route.arrived)
+        std::printf("\nBroken off");
+    else if (route.pilot.phase != Pilot::kStopped)
+        std::printf("\nAt the last fix");
+    else {
+        const RunwayPosition at = PositionBefore(runway, AircraftNumber("lat"), AircraftNumber("lon"));
+        constexpr double kFeetPerNm = 6076.115;
+        std::printf("\nStopped on runway %s, %.0f ft past the threshold, %.0f ft from the centre line,",
+                    runway.name.c_str(), -at.before * kFeetPerNm, std::fabs(at.right) * kFeetPerNm);
+    }
+    const double burnt = route.log.start_fuel - AircraftNumber("fuel");
+    std::printf(" after %s, %d fixes passed, %.0f lb burned; %.0f times real time\n",
+                DurationText(world.seconds).c_str(), route.log.fixes, burnt, world.seconds / wall_seconds);
+    if (!route.arrived || !route.log.at_top_of_climb) return;
+    const double planned = route.log.forecast_fuel - route.log.last_forecast_fuel;
+    const double since = route.log.forecast_fuel - AircraftNumber("fuel");
+    std::printf("Against the prediction at the top of climb: times within %.1f %%, burn %+.1f %%\n",
+                route.log.worst_time, planned > 0 ? (since / planned - 1) * 100 : 0.0);
 }
 
 // A flight that can't start leaves nothing.
@@ -140,7 +160,7 @@ int Fly(const FlyOptions& given) {
     const auto each_second = [&] { StepRoute(session, route); };
     const auto began = std::chrono::steady_clock::now();
     const auto begin = [&] {
-        if (!options.cold) PrintHeading(options, session);
+        if (!options.cold) PrintLogHeading(session, options.route);
     };
     if (options.headless) {
         begin();

@@ -1,16 +1,29 @@
 #include "host/fly/pilot.h"
 
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+
+#include "host/aircraft/angles.h"
 #include "host/flightdeck/commands.h"
+#include "host/inspection.h"
 #include "host/world/world.h"
 
 namespace host {
 namespace {
 
-// The autopilot's own events, as a hardware panel sends them.
-constexpr int kSetAltitude = 0x1024c, kSetSpeed = 0x101f5;
-constexpr double kMainAutopilotSeconds = 12;
-constexpr double kFeetPerNm = 300;  // of the descent
-constexpr int kClimbSpeed = 290, kCruiseSpeed = 275, kDescentSpeed = 280, kArrivalSpeed = 220;
+// The autopilot's own events, as a hardware panel sends them, and those of the levers.
+constexpr int kSetAltitude = 0x1024c, kSetSpeed = 0x101f5, kSetHeading = 0x101fa, kSetLevers = 0x100a1;
+constexpr int kArmSpoilers = 0x10214, kSetSpoilers = 0x10205, kToGa = 0x10145;
+constexpr int kTuneNav1 = 0x100ac;
+constexpr double kReverse = -4096;
+
+// Modes as the autopilot reports them.
+constexpr int kModeVnavSpeed = 5, kModeVnavPath = 6, kModeLocalizer = 7, kModeGlideSlope = 10,
+              kModeFlare = 11;
+
+constexpr double kSetUpSeconds = 12, kTakeoffSeconds = 30;
+constexpr double kFeetPerNm = 225;  // of the descent, where nobody plans it
 
 void Set(Session& session, int event, double value) {
     ApplyDeckCommand(session,
@@ -19,6 +32,18 @@ void Set(Session& session, int event, double value) {
 
 void Press(Session& session, const char* control) {
     ApplyDeckCommand(session, {.kind = DeckCommand::kMouseArea, .name = "MCP", .text = control});
+}
+
+void MoveLever(Session& session, const char* lever, double value) {
+    ApplyDeckCommand(session, {.kind = DeckCommand::kLever, .name = lever, .value = value});
+}
+
+void SetVariable(Session& session, const char* name, double value) {
+    ApplyDeckCommand(session, {.kind = DeckCommand::kNamedVariable, .name = name, .value = value});
+}
+
+double Number(const Session& session, const char* name) {
+    return std::atof(ReadVariable(session, name).c_str());
 }
 
 // What a crew has set before the take-off, by the second of the run: the system polls its panels from the
@@ -58,6 +83,7 @@ constexpr Setting kSettings[] = {
     {10, "TZ_OH_ECC_L_Button", 1},       {10, "TZ_OH_ECC_R_Button", 1},
     {10, "TZ_OH_AC_VENT_Button", 1},     {11, "TZ_OH_ECC_L_Guard_Switch", 0},
     {11, "TZ_OH_ECC_R_Guard_Switch", 0}, {11, "TZ_OH_VENT_Guard_Switch", 0},
+    {11, "auto_brake_switch", -1},
 };
 
 void SetSwitches(Session& session, int second) {
@@ -68,42 +94,312 @@ void SetSwitches(Session& session, int second) {
                 {.kind = DeckCommand::kNamedVariable, .name = setting.variable, .value = setting.value});
 }
 
-double AltitudeNow() {
-    double altitude = 0;
-    AircraftValue("alt", altitude);
-    return altitude;
+const Aircraft& Flown() {
+    return flight.aircraft;
+}
+
+int VerticalMode() {
+    return static_cast<int>(NamedValue("ap_vert_mode"));
+}
+
+bool IsVnavEngaged() {
+    return VerticalMode() == kModeVnavSpeed || VerticalMode() == kModeVnavPath;
+}
+
+double HeightOverField() {
+    return Flown().altitude - Flown().ground_elevation;
+}
+
+void SelectSpeed(Pilot& pilot, Session& session, double speed) {
+    speed = std::round(speed);
+    if (speed == pilot.speed) return;
+    pilot.speed = speed;
+    Set(session, kSetSpeed, speed);
+}
+
+void SelectFlaps(Pilot& pilot, Session& session, double degrees) {
+    if (degrees == pilot.flaps) return;
+    pilot.flaps = degrees;
+    MoveLever(session, "flaps", HandleOfFlapAngle(Flown().airframe, degrees) / 16384);
+}
+
+/// Speed (kt) for manoeuvring at an angle of the flaps.
+double ManoeuvreSpeed(double flaps) {
+    constexpr double kClean = 1.47, kWithFlaps = 1.35;
+    return StallSpeedAt(Flown(), flaps) * (flaps == 0 ? kClean : kWithFlaps);
+}
+
+double LandingSpeed() {
+    return StallSpeedAt(Flown(), kFullFlaps) * 1.3 + 5;
+}
+
+// Speed by height where no profile gives one.
+double PlainSpeed(double fast) {
+    constexpr double kSlowBelow = 10000, kSlow = 245;
+    return Flown().altitude < kSlowBelow ? kSlow : fast;
+}
+
+void SetUp(Pilot& pilot, Session& session) {
+    SetSwitches(session, static_cast<int>(world.seconds));
+    if (world.seconds < kSetUpSeconds) return;
+    SelectFlaps(pilot, session, kTakeoffFlaps);
+    Set(session, kSetAltitude, pilot.cruise_ft);
+    SelectSpeed(pilot, session, StallSpeedAt(Flown(), kTakeoffFlaps) * 1.2);
+    for (const char* control : {"atarm", "lnav", "vnav"}) Press(session, control);
+    pilot.phase = Pilot::kTakeoff;
+}
+
+void TakeOff(Pilot& pilot, Session& session) {
+    constexpr double kGearUp = 50, kAutopilot = 500, kVnavThere = 1500;
+    if (Flown().on_ground) {
+        if (NamedValue("at_mode") == 0 && world.seconds > kTakeoffSeconds) Press(session, "clbcon");
+        return;
+    }
+    if (!pilot.gear_up && HeightOverField() > kGearUp) {
+        pilot.gear_up = true;
+        MoveLever(session, "gear", 0);
+    }
+    if (NamedValue("ap_master_l") == 0 && HeightOverField() > kAutopilot) Press(session, "apl");
+    if (HeightOverField() < kVnavThere) return;
+    pilot.phase = Pilot::kClimb;
+    pilot.by_level_change = !IsVnavEngaged();
+    if (pilot.by_level_change) Press(session, "flch");
+}
+
+void RetractFlaps(Pilot& pilot, Session& session) {
+    if (pilot.flaps > 1 && Flown().ias > ManoeuvreSpeed(1)) SelectFlaps(pilot, session, 1);
+    if (pilot.flaps == 1 && Flown().ias > ManoeuvreSpeed(0)) SelectFlaps(pilot, session, 0);
+}
+
+double PlatformAltitude(const Pilot& pilot) {
+    constexpr double kOverField = 2500;
+    return std::round((pilot.arrival.elevation + kOverField) / 100) * 100;
+}
+
+double DistanceToLevel(double altitude) {
+    return (Flown().altitude - altitude) / kFeetPerNm;
+}
+
+void Climb(Pilot& pilot, Session& session, double to_go_nm) {
+    RetractFlaps(pilot, session);
+    if (pilot.by_level_change) SelectSpeed(pilot, session, PlainSpeed(300));
+    const bool short_hop = to_go_nm < DistanceToLevel(PlatformAltitude(pilot)) + 15;
+    if (Flown().altitude > pilot.cruise_ft - 200 || short_hop) pilot.phase = Pilot::kCruise;
+}
+
+// The window goes down before the top of descent, which the aircraft then passes by itself.
+void Cruise(Pilot& pilot, Session& session, double to_go_nm) {
+    constexpr double kBeforeDescent = 12, kVnavLate = 12;
+    if (pilot.by_level_change) SelectSpeed(pilot, session, 280);
+    const bool planned = !pilot.by_level_change && Number(session, "dist_to_tod") > 0;
+    const bool passed = Number(session, "tod") == 1;
+    const bool plainly_due = to_go_nm < DistanceToLevel(PlatformAltitude(pilot)) + 8;
+    const bool soon = planned ? Number(session, "dist_to_tod") < kBeforeDescent : plainly_due;
+    if (!pilot.window_reset && (soon || passed || plainly_due)) {
+        pilot.window_reset = true;
+        Set(session, kSetAltitude, PlatformAltitude(pilot));
+    }
+    const bool late = to_go_nm < DistanceToLevel(PlatformAltitude(pilot)) + 8 - kVnavLate;
+    const bool descends = Flown().vertical_speed < -300;
+    if (passed && descends) pilot.phase = Pilot::kDescent;
+    if (descends || !pilot.window_reset || !(pilot.by_level_change ? plainly_due : late)) return;
+    pilot.by_level_change = true;
+    Press(session, "flch");
+    pilot.phase = Pilot::kDescent;
+}
+
+double TargetNow(const Pilot& pilot) {
+    const double profile = NamedValue("vnav_spd");
+    const bool by_profile = IsVnavEngaged() && NamedValue("tz_spd_intv_active") == 0;
+    if (!by_profile || profile <= 0) return pilot.speed;
+    return profile < 2 ? Flown().ias * profile / std::max(Flown().mach, 0.1) : profile;
+}
+
+// Out when the aircraft is too fast, or so high that it would come to the glide slope from above.
+void WorkSpeedbrake(Pilot& pilot, Session& session, double to_go_nm) {
+    constexpr double kOut = 12, kIn = 4, kHandle = 9000, kSlope = 300, kTurns = 3, kMuchTooHigh = 300;
+    const double over = Flown().ias - TargetNow(pilot);
+    const double above =
+        Flown().altitude - pilot.arrival.elevation - kSlope * std::max(to_go_nm - kTurns, 0.0);
+    const bool too_fast = over > (pilot.speedbrake ? kIn : kOut);
+    const bool too_high = above > (pilot.speedbrake ? 0 : kMuchTooHigh);
+    const bool wanted = pilot.flaps < 20 && Flown().vertical_speed < -200 && (too_fast || too_high);
+    if (wanted == pilot.speedbrake) return;
+    pilot.speedbrake = wanted;
+    Set(session, kSetSpoilers, wanted ? kHandle : 0);
+}
+
+void TuneLandingSystem(const Pilot& pilot, Session& session) {
+    const int hundredths = static_cast<int>(std::round(std::atof(pilot.arrival.ils_frequency.c_str()) * 100));
+    int bcd = 0;
+    for (int digits = hundredths % 10000, shift = 0; digits > 0; digits /= 10, shift += 4)
+        bcd |= digits % 10 << shift;
+    if (hundredths == 0 || static_cast<int>(TokenOf(24)) == bcd) return;
+    constexpr const char* kByHand = "2";  // a radio that the system leaves alone
+    ApplyDeckCommand(session, {.kind = DeckCommand::kStateVariable, .name = "VorLeftMode", .text = kByHand});
+    Set(session, kTuneNav1, bcd);
+}
+
+void Steer(Pilot& pilot, Session& session, double true_track) {
+    const double heading = std::round(FoldDegrees(true_track - TokenOf(82)));
+    if (pilot.heading < 0) Press(session, "hdgsel");
+    if (heading != pilot.heading) Set(session, kSetHeading, heading);
+    pilot.heading = heading;
+}
+
+/// Where a pilot who is led to the final by headings has to go first: beside the extended centre line,
+/// farther out the higher the aircraft still is.
+struct Gate {
+    double ahead, across;  // nm to it along the landing course, and to the right
+    double miles;          // by way of it to the threshold
+    bool is_low;           // the aircraft is down to the height of the intercept
+};
+
+Gate GateOf(const Pilot& pilot, const RunwayPosition& here) {
+    constexpr double kGate = 14, kAside = 6;
+    const double too_high = std::max(Flown().altitude - PlatformAltitude(pilot) - 300, 0.0);
+    const double out = kGate + too_high / kFeetPerNm;
+    const double side = here.right < 0 ? -kAside : kAside;
+    Gate gate{here.before - out, side - here.right, 0, too_high == 0};
+    gate.miles = std::hypot(gate.ahead, gate.across) + std::hypot(out, kAside);
+    return gate;
+}
+
+// Leads to the gate, then across the centre line at an angle until the localizer is captured.
+void SteerToFinal(Pilot& pilot, Session& session, const RunwayPosition& here) {
+    constexpr double kCut = 35, kNearGate = 2, kNearLine = 6, kFarEnough = 12;
+    if (NamedValue("ap_lat_mode") == kModeLocalizer) return;
+    const Gate gate = GateOf(pilot, here);
+    const bool at_gate = std::hypot(gate.ahead, gate.across) < kNearGate;
+    const bool beside = here.before > kFarEnough && std::fabs(here.right) < kNearLine && gate.is_low;
+    if (!pilot.approach_armed && !at_gate && !beside)
+        return Steer(pilot, session, pilot.arrival.course + std::atan2(gate.across, gate.ahead) / kRad);
+    Steer(pilot, session, pilot.arrival.course + (here.right < 0 ? kCut : -kCut));
+    if (!pilot.approach_armed) Press(session, "app");
+    pilot.approach_armed = true;
+}
+
+void Descend(Pilot& pilot, Session& session, double to_go_nm) {
+    constexpr double kApproachNm = 30, kVectorsNm = 40;
+    if (pilot.by_level_change) SelectSpeed(pilot, session, PlainSpeed(290));
+    WorkSpeedbrake(pilot, session, to_go_nm);
+    if (pilot.arrival.ils_frequency.empty()) return;
+    if (to_go_nm > (pilot.route_lines_up ? kApproachNm : kVectorsNm)) return;
+    if (!pilot.route_lines_up) {
+        pilot.by_level_change = true;
+        Press(session, "flch");
+    }
+    pilot.phase = Pilot::kApproach;
+}
+
+// Slows down and lets out flaps and gear by the distance to the threshold.
+void Configure(Pilot& pilot, Session& session, double miles) {
+    struct Step {
+        double miles, flaps;
+    };
+    constexpr Step kSteps[] = {{22, 0}, {17, 1}, {14, 5}, {9.5, 15}, {7.5, 20}, {6, 30}};
+    double flaps = -1;
+    for (const Step& step : kSteps)
+        if (miles < step.miles) flaps = step.flaps;
+    constexpr double kFarOut = 240;
+    if (flaps < 0)
+        return SelectSpeed(pilot, session, pilot.flaps > 0 ? ManoeuvreSpeed(pilot.flaps) + 5 : kFarOut);
+    // No flaps faster than they bear.
+    flaps = std::max(flaps, pilot.flaps);
+    if (flaps > pilot.flaps && Flown().ias < ManoeuvreSpeed(pilot.flaps) + 20)
+        SelectFlaps(pilot, session, flaps);
+    SelectSpeed(pilot, session, pilot.flaps == kFullFlaps ? LandingSpeed() : ManoeuvreSpeed(pilot.flaps) + 5);
+    if (flaps >= 15 && pilot.gear_up) {
+        pilot.gear_up = false;
+        MoveLever(session, "gear", 1);
+        Set(session, kArmSpoilers, 1);
+        constexpr double kAutobrake3 = 4;
+        SetVariable(session, "auto_brake_switch", kAutobrake3);
+    }
+}
+
+// Past the point where the slope had to be taken: around again, led to the final by headings.
+void GoAround(Pilot& pilot, Session& session) {
+    constexpr double kFlaps = 20;
+    Set(session, kToGa, 0);
+    pilot.flaps = 0;
+    SelectFlaps(pilot, session, kFlaps);
+    SelectSpeed(pilot, session, ManoeuvreSpeed(kFlaps));
+    MoveLever(session, "gear", 0);
+    Set(session, kSetSpoilers, 0);
+    pilot.gear_up = true;
+    pilot.speedbrake = pilot.approach_armed = pilot.route_lines_up = false;
+    pilot.heading = -1;
+    pilot.by_level_change = true;
+    pilot.phase = Pilot::kGoAround;
+}
+
+void ClimbAway(Pilot& pilot, Session& session) {
+    constexpr double kTurnAbove = 1500;
+    if (HeightOverField() < kTurnAbove && Flown().altitude < PlatformAltitude(pilot) - 200) return;
+    Press(session, "flch");
+    pilot.phase = Pilot::kApproach;
+}
+
+void Approach(Pilot& pilot, Session& session, double to_go_nm) {
+    constexpr double kArmNm = 22, kMostCut = 75, kNoTurnsBelow = 600;
+    const RunwayPosition here = PositionBefore(pilot.arrival, Latitude(Flown()), Longitude(Flown()));
+    const bool on_final = NamedValue("ap_lat_mode") == kModeLocalizer;
+    const double straight = std::hypot(here.before, here.right);
+    const double miles = on_final || pilot.approach_armed ? straight
+                         : pilot.route_lines_up           ? to_go_nm
+                                                          : GateOf(pilot, here).miles;
+    TuneLandingSystem(pilot, session);
+    if (HeightOverField() > kNoTurnsBelow) {
+        Configure(pilot, session, miles);
+        WorkSpeedbrake(pilot, session, miles);
+    }
+    if (!pilot.route_lines_up) SteerToFinal(pilot, session, here);
+    const double cut = std::fabs(std::remainder(Flown().track - pilot.arrival.course, 360));
+    const bool can_arm = TokenOf(49) > 0 && here.before > 0 && straight < kArmNm && cut < kMostCut;
+    if (pilot.route_lines_up && !pilot.approach_armed && can_arm) {
+        Press(session, "app");
+        pilot.approach_armed = true;
+    }
+    constexpr double kLastPoint = 2.5;
+    const bool on_slope = VerticalMode() == kModeGlideSlope || VerticalMode() == kModeFlare;
+    const bool missed = pilot.approach_armed && here.before < kLastPoint && !on_slope;
+    if (Flown().on_ground)
+        pilot.phase = Pilot::kRollout;
+    else if (missed)
+        GoAround(pilot, session);
+}
+
+void RollOut(Pilot& pilot, Session& session) {
+    constexpr double kReverseAbove = 65, kStopped = 1;
+    const bool reverse = Flown().ground_speed > kReverseAbove;
+    if (NamedValue("at_mode") == 0 && (TokenOf(128) < 0) != reverse)
+        Set(session, kSetLevers, reverse ? kReverse : 0);
+    if (Flown().ground_speed < kStopped) pilot.phase = Pilot::kStopped;
 }
 
 }  // namespace
 
 void StepPilot(Pilot& pilot, Session& session, double to_go_nm) {
-    const double altitude = AltitudeNow();
     switch (pilot.phase) {
         case Pilot::kSettingUp:
-            SetSwitches(session, static_cast<int>(world.seconds));
-            if (world.seconds < kMainAutopilotSeconds) break;
-            Set(session, kSetAltitude, pilot.cruise_ft);
-            Set(session, kSetSpeed, kClimbSpeed);
-            for (const char* control : {"atarm", "apl", "lnav", "flch"}) Press(session, control);
-            pilot.phase = Pilot::kClimb;
-            break;
+            return SetUp(pilot, session);
+        case Pilot::kTakeoff:
+            return TakeOff(pilot, session);
         case Pilot::kClimb:
-            if (to_go_nm < (altitude - pilot.arrival_ft) / kFeetPerNm)
-                pilot.phase = Pilot::kCruise;  // a short hop
-            if (altitude < pilot.cruise_ft - 200) break;
-            Set(session, kSetSpeed, kCruiseSpeed);
-            pilot.phase = Pilot::kCruise;
-            break;
+            return Climb(pilot, session, to_go_nm);
         case Pilot::kCruise:
-            if (to_go_nm > (altitude - pilot.arrival_ft) / kFeetPerNm + 10) break;
-            Set(session, kSetAltitude, pilot.arrival_ft);
-            Set(session, kSetSpeed, kDescentSpeed);
-            Press(session, "flch");
-            pilot.phase = Pilot::kDescent;
-            break;
+            return Cruise(pilot, session, to_go_nm);
         case Pilot::kDescent:
-            if (altitude < 10000) Set(session, kSetSpeed, kArrivalSpeed);
-            break;
+            return Descend(pilot, session, to_go_nm);
+        case Pilot::kApproach:
+            return Approach(pilot, session, to_go_nm);
+        case Pilot::kGoAround:
+            return ClimbAway(pilot, session);
+        case Pilot::kRollout:
+            return RollOut(pilot, session);
+        case Pilot::kStopped:
+            return;
     }
 }
 

@@ -1,19 +1,30 @@
 #pragma once
 
+#include "host/fly/runway.h"
 #include "host/session.h"
 
-// The pilot of `tz900 fly`: sets the mode control panel as a crew would, from the climb to the end of the
-// descent.
+// The pilot of `tz900 fly`: moves handles and sets the mode control panel as a crew would, from the take-off
+// roll to a stop on the runway.
 
 namespace host {
 
 struct Pilot {
-    enum Phase { kSettingUp, kClimb, kCruise, kDescent } phase = kSettingUp;
+    enum Phase { kSettingUp, kTakeoff, kClimb, kCruise, kDescent, kApproach, kGoAround, kRollout, kStopped };
+    Phase phase = kSettingUp;
     double cruise_ft = 35000;
-    double arrival_ft = 3000;  // above the destination
+    RunwayEnd arrival;           // without a name: nobody lands
+    bool route_lines_up = true;  // the route itself leads to the final approach
+    // what has been set
+    double flaps = 0;              // degrees
+    double speed = 0;              // kt, of the speed window
+    double heading = -1;           // degrees, of the heading window while it steers
+    bool by_level_change = false;  // climbs and descends by FLCH, VNAV isn't there
+    bool speedbrake = false, gear_up = false, approach_armed = false, window_reset = false;
 };
 
-/// Acts once a second; `to_go_nm` is the distance to the destination.
+/// Acts once a second; `to_go_nm` is the distance along the route to its end.
 void StepPilot(Pilot& pilot, Session& session, double to_go_nm);
+
+constexpr double kTakeoffFlaps = 5;  // degrees
 
 }  // namespace host

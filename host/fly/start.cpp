@@ -1,9 +1,13 @@
 #include "host/fly/start.h"
 
+#include <algorithm>
 #include <cmath>
-#include <cstdlib>
 #include <filesystem>
 
+#include "host/aircraft/angles.h"
+#include "host/flightdeck/commands.h"
+#include "host/fly/flight_log.h"
+#include "host/fly/runway.h"
 #include "host/inspection.h"
 #include "host/scenario/words.h"
 #include "host/world/terrain.h"
@@ -29,13 +33,47 @@ void RecordSettings(Session& session, const FlyOptions& options) {
     Record(session.recorder, {"start"});
 }
 
-// The first leg's runway end, or the airport, as a place in the air on the way to the first fix.
-Placement AfterTakeOff(const Session& session) {
-    const auto number = [&](const char* name) { return std::atof(ReadVariable(session, name).c_str()); };
-    const double lat = number("FlightPlan[0].lat"), lon = number("FlightPlan[0].lon");
-    Placement placement{lat, lon, 0, number("leg_crs") + number("mgvar"), 220};
-    placement.alt_ft = std::round(GroundElevationMetres(lat, lon) / 0.3048 / 100) * 100 + 3000;
+// Where the take-off roll begins: on the departure runway, some way behind its threshold.
+Placement LinedUp(const Session& session) {
+    const RunwayEnd runway =
+        ReadRunway(session, "origin_airport", static_cast<int>(ModuleNumber(session, "fms_dep_rwy_pos")));
+    Placement placement{ModuleNumber(session, "FlightPlan[0].lat"),
+                        ModuleNumber(session, "FlightPlan[0].lon"), 0,
+                        ModuleNumber(session, "leg_crs") + ModuleNumber(session, "mgvar")};
+    if (!runway.name.empty()) {
+        constexpr double kBehindThreshold = 0.03;  // nm
+        placement.heading = runway.course;
+        placement.lat = runway.lat + kBehindThreshold / 60 * std::cos(runway.course * kRad);
+        placement.lon =
+            runway.lon + kBehindThreshold / 60 * std::sin(runway.course * kRad) / std::cos(runway.lat * kRad);
+    }
+    placement.alt_ft = GroundElevationMetres(placement.lat, placement.lon) / kMetresPerFoot;
     return placement;
+}
+
+double MaxAltitudeLevel(const Session& session) {
+    const InspectionAnswer answer = Ask(session.linkage->inspection->call_function, "MaxAltitude");
+    return answer.good && !answer.results.empty() ? std::atof(answer.results[0].second.c_str()) : 0;
+}
+
+// As high as the way allows: climb and descent take some three hundred miles to 35,000 ft and back.
+double CruiseAltitude(const Session& session) {
+    constexpr double kHighest = 35000, kLowest = 7000, kMilesForHighest = 330, kStep = 1000;
+    const int last = static_cast<int>(ModuleNumber(session, "mod_cnt"));
+    double miles = 0, lat = 0, lon = 0;
+    for (int leg = 0; leg <= last; ++leg) {
+        const std::string path = "FlightPlanMod[" + std::to_string(leg) + "].";
+        const double to_lat = ModuleNumber(session, path + "lat"),
+                     to_lon = ModuleNumber(session, path + "lon");
+        if (to_lat == 0 && to_lon == 0) continue;
+        if (leg > 0) miles += DistanceNm(lat, lon, to_lat, to_lon);
+        lat = to_lat;
+        lon = to_lon;
+    }
+    const double flight_level = MaxAltitudeLevel(session);
+    const double most = std::min(kHighest, std::floor(flight_level / 10) * kStep);
+    const double altitude = std::floor(kHighest * miles / kMilesForHighest / kStep) * kStep;
+    return std::clamp(altitude, kLowest, std::max(most, kLowest));
 }
 
 }  // namespace
@@ -61,9 +99,13 @@ bool StartFlight(Session& session, const FlyOptions& options, std::string& error
         return true;
     }
     Record(session.recorder, {"route", options.route});
+    if (!EnterRoute(session, options.route, error)) return false;
+    ApplyDeckCommand(session, {.kind = DeckCommand::kStateVariable,
+                               .name = "pending_cruise_alt",
+                               .text = NumberText(CruiseAltitude(session))});
     Record(session.recorder, {"exec"});
-    if (!EnterRoute(session, options.route, error) || !ExecuteRoute(session, error)) return false;
-    const Placement at = AfterTakeOff(session);
+    if (!ExecuteRoute(session, error)) return false;
+    const Placement at = LinedUp(session);
     Record(session.recorder, {"at", NumberText(at.lat), NumberText(at.lon), NumberText(at.alt_ft),
                               NumberText(at.heading), NumberText(at.ias)});
     PlaceAircraft(at);

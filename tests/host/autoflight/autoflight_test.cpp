@@ -132,6 +132,19 @@ TEST_F(AutoflightTest, ASecondPressTakesLnavBack) {
     Press("ap_lat_mode_clicked", 0);
     FlyFor(1);
     EXPECT_EQ(Mode("ap_lat_mode_armed"), 0);
+    // A mode that takes over from LNAV keeps it, though LNAV's request has stood all the while.
+    SetNamedValue("xtk_err_dist", 0);
+    Press("ap_lat_mode_clicked", kLnav);
+    FlyFor(1);
+    ASSERT_EQ(Mode("ap_lat_mode"), kLnav);
+    Press("ap_vert_mode_clicked", kGlideSlope);
+    FlyFor(1);
+    SetToken(550, 95);
+    SetToken(46, 0x80);
+    SetToken(49, 200);
+    FlyFor(5);
+    EXPECT_EQ(Mode("ap_lat_mode"), kLocalizer);
+    EXPECT_EQ(Mode("ap_lat_mode_clicked"), 0);
 }
 
 TEST_F(AutoflightTest, LocalizerIsCapturedWhenItsNeedleComesAlive) {
