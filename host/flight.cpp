@@ -98,6 +98,13 @@ void SetQnh(double hpa) {
     FillTokens(flight.aircraft);
 }
 
+void FollowCommands(const AutoflightCommands& commands, FlightControls& controls) {
+    controls.bank = commands.flies ? commands.bank : 0;
+    if (commands.flies) controls.path = commands.path;
+    controls.steering = commands.flies ? commands.steering : 0;
+    if (commands.moves_levers) controls.thrust_lever = commands.thrust_lever;
+}
+
 void StepFlight(bool moves) {
     Aircraft& aircraft = flight.aircraft;
     const bool written = TakeDataWrites(aircraft);
@@ -107,11 +114,7 @@ void StepFlight(bool moves) {
     }
     TakeControlsFromTokens(aircraft);
     FollowTerrain();
-    const AutoflightCommands commands = StepAutoflight(flight.autoflight, kTick);
-    aircraft.controls.bank = commands.flies ? commands.bank : 0;
-    if (commands.flies) aircraft.controls.path = commands.path;
-    aircraft.controls.steering = commands.flies ? commands.steering : 0;
-    if (commands.moves_levers) aircraft.controls.thrust_lever = commands.thrust_lever;
+    FollowCommands(StepAutoflight(flight.autoflight, kTick), aircraft.controls);
     StepAircraft(aircraft, kTick);
     FillTokens(aircraft);
     StepReceivers(

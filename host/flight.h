@@ -40,6 +40,9 @@ void SetWind(double from_deg, double speed_kt);
 void SetOutsideTemperature(double celsius);
 void SetQnh(double hpa);
 
+/// Moves the controls as the autopilot asks; what it doesn't fly is left as the pilot has it.
+void FollowCommands(const AutoflightCommands& commands, FlightControls& controls);
+
 /// One tick of 1/18 s. With `moves` the aircraft flies and AutoflightLogic runs; without, it stays where the
 /// tokens put it, and only what the module writes of fuel, payload and position is taken.
 void StepFlight(bool moves);

@@ -13,6 +13,7 @@
 #include "host/aircraft/aircraft.h"
 #include "host/aircraft/tokens.h"
 #include "host/autoflight/autoflight_logic.h"
+#include "host/flight.h"
 #include "host/world/world.h"
 #include "state/lnav.h"
 #include "state/plan.h"
@@ -71,12 +72,7 @@ class LateralFlight {
         host::SetNamedValue("lnav_hdg", IsHoldPatternFlown() ? lnav.hold_hdg : lnav.fms_hdg);
         host::SetNamedValue("xtk_err_dist", lnav.xtk);
         host::SetNamedValue("xtk_err_dir", lnav.xtk_side);
-        const host::AutoflightCommands commands = StepAutoflight(autoflight_logic, kTick);
-        if (commands.flies) {
-            aircraft.controls.bank = commands.bank;
-            aircraft.controls.path = commands.path;
-        }
-        if (commands.moves_levers) aircraft.controls.thrust_lever = commands.thrust_lever;
+        FollowCommands(StepAutoflight(autoflight_logic, kTick), aircraft.controls);
         StepAircraft(aircraft, kTick);
         FillTokens(aircraft);
         seconds += kTick;

@@ -7,6 +7,7 @@
 #include "host/aircraft/aircraft.h"
 #include "host/aircraft/tokens.h"
 #include "host/autoflight/flight_values.h"
+#include "host/flight.h"
 #include "host/world/world.h"
 
 namespace {
@@ -37,11 +38,7 @@ class AutoflightTest : public testing::Test {
     int Mode(const char* name) { return static_cast<int>(NamedValue(name)); }
     void FlyFor(double seconds) {
         for (int i = 0; i < static_cast<int>(seconds * 18); ++i) {
-            const AutoflightCommands commands = StepAutoflight(logic, 1 / 18.0);
-            aircraft.controls.bank = commands.flies ? commands.bank : 0;
-            aircraft.controls.steering = commands.steering;
-            if (commands.flies) aircraft.controls.path = commands.path;
-            if (commands.moves_levers) aircraft.controls.thrust_lever = commands.thrust_lever;
+            FollowCommands(StepAutoflight(logic, 1 / 18.0), aircraft.controls);
             StepAircraft(aircraft, 1 / 18.0);
             FillTokens(aircraft);
         }
@@ -301,6 +298,169 @@ TEST_F(AutoflightTest, ADisconnectIsSeenBeforeTheAutopilotLetsGo) {
     SetNamedValue("ap_master_disconnect", 1);
     FlyFor(1);
     EXPECT_EQ(Mode("ap_master_disconnect"), 0);
+}
+
+/// A profile as guidance publishes it.
+void PublishProfile(double angle, double speed, double cross_at) {
+    SetNamedValue("lnav_hdg", 90);
+    SetNamedValue("tz_fpln_active", 3);
+    SetNamedValue("vnav_fpa", angle);
+    SetNamedValue("vnav_spd", speed);
+    SetNamedValue("fms_cross_at_elev", cross_at);
+}
+
+TEST_F(AutoflightTest, VnavClimbsToWhatComesFirstAndCruisesAtTheMach) {
+    EngageAutopilot();
+    SetCalc(kAltitudeWindow, 34000);
+    PublishProfile(999, 300, 32000);
+    Press("ap_vert_mode_clicked", kVnavSpeed);
+    FlyFor(60);
+    EXPECT_EQ(Mode("ap_vert_mode"), kVnavSpeed);
+    EXPECT_EQ(Mode("at_mode"), kThrustReference);
+    EXPECT_EQ(Mode("tz_thrust_limit"), kLimitClimb);
+    EXPECT_GT(aircraft.vertical_speed, 200);
+    FlyFor(240);
+    EXPECT_NEAR(aircraft.ias, 300, 3) << "the profile's, not the window's 280";
+    EXPECT_EQ(Mode("ap_vert_mode"), kVnavPath);
+    EXPECT_NEAR(aircraft.altitude, 32000, 15) << "the constraint";
+    EXPECT_EQ(Mode("at_mode"), kSpeed);
+    PublishProfile(999, 290, 36000);
+    FlyFor(20);
+    EXPECT_EQ(Mode("ap_vert_mode"), kVnavSpeed);
+    FlyFor(400);
+    EXPECT_EQ(Mode("ap_vert_mode"), kVnavPath);
+    EXPECT_NEAR(aircraft.altitude, 34000, 15) << "the window";
+    // A cruise at a Mach; the window turned down ahead of the descent moves nothing.
+    PublishProfile(0, 0.82, 12000);
+    SetCalc(kAltitudeWindow, 12000);
+    FlyFor(200);
+    EXPECT_EQ(Mode("at_mode"), kMach);
+    EXPECT_NEAR(aircraft.mach, 0.82, 0.002);
+    EXPECT_NEAR(aircraft.altitude, 34000, 15);
+}
+
+TEST_F(AutoflightTest, VnavFollowsThePathDownAndStopsAtTheHigherOfWindowAndConstraint) {
+    EngageAutopilot();
+    PublishProfile(0, 290, 14000);
+    Press("ap_vert_mode_clicked", kVnavSpeed);
+    FlyFor(20);
+    ASSERT_EQ(Mode("ap_vert_mode"), kVnavPath);
+    SetCalc(kAltitudeWindow, 15000);
+    // The path leads down by 230 ft a mile, a little less than the angle tells.
+    double path = 30000, worst = 0, idle_seconds = 0;
+    PublishProfile(2.4, 290, 14000);
+    int seconds = 0;
+    for (; seconds < 900 && aircraft.altitude > 15400; ++seconds) {
+        path -= 230 * aircraft.ground_speed / 3600;
+        SetNamedValue("vnav_vert_dev", std::round(aircraft.altitude - path));
+        FlyFor(1);
+        if (seconds > 90) worst = std::max(worst, std::fabs(aircraft.altitude - path));
+        if (Mode("at_mode") == kIdle) ++idle_seconds;
+        EXPECT_EQ(Mode("ap_vert_mode"), kVnavPath);
+    }
+    EXPECT_LT(worst, 60);
+    EXPECT_GT(idle_seconds, 0.3 * seconds);
+    EXPECT_NEAR(aircraft.ias, 290, 10);
+    SetNamedValue("vnav_vert_dev", 0);
+    FlyFor(60);
+    EXPECT_NEAR(aircraft.altitude, 15000, 15);
+    EXPECT_EQ(Mode("at_mode"), kSpeed);
+}
+
+TEST_F(AutoflightTest, ATurnOfTheSpeedWindowInVnavHoldsTheSpeedUntilVnavIsPressedAgain) {
+    EngageAutopilot();
+    PublishProfile(0, 290, 30000);
+    Press("ap_vert_mode_clicked", kVnavSpeed);
+    FlyFor(60);
+    EXPECT_EQ(Mode("tz_spd_intv_active"), 0);
+    EXPECT_NEAR(aircraft.ias, 290, 2);
+    SetToken(116, 265);
+    FlyFor(120);
+    EXPECT_EQ(Mode("tz_spd_intv_active"), 1);
+    EXPECT_NEAR(aircraft.ias, 265, 2);
+    Press("ap_vert_mode_clicked", kVnavSpeed);
+    FlyFor(120);
+    EXPECT_EQ(Mode("tz_spd_intv_active"), 0);
+    EXPECT_NEAR(aircraft.ias, 290, 2);
+    EXPECT_EQ(Mode("ap_vert_mode"), kVnavPath);
+}
+
+TEST_F(AutoflightTest, TheEnvelopeIsNotLeft) {
+    EngageAutopilot();
+    Press("ap_vert_mode_clicked", kVerticalSpeed);
+    SetNamedValue("at_armed_left", 0);
+    FlyFor(1);
+    aircraft.controls.thrust_lever = 0;
+    SetCalc(kAltitudeWindow, 40000);
+    SetToken(120, 2000);
+    double slowest = 1e9, fastest = 0;
+    bool marked = false;
+    const auto fly = [&](int seconds) {
+        for (; seconds > 0; --seconds) {
+            FlyFor(1);
+            slowest = std::min(slowest, aircraft.ias / StallSpeed(aircraft));
+            fastest = std::max(fastest, aircraft.ias - NamedValue("TZ_V_MO"));
+            marked |= Mode("ap_envelope_prot") == 1;
+        }
+    };
+    fly(240);
+    EXPECT_TRUE(marked);
+    EXPECT_GT(slowest, 1.03);
+    marked = false;
+    aircraft.controls.thrust_lever = 1;
+    SetToken(120, -4000);
+    SetCalc(kAltitudeWindow, 5000);
+    fly(240);
+    EXPECT_TRUE(marked);
+    EXPECT_LT(fastest, 14);
+    // An armed autothrottle that was off wakes.
+    aircraft.controls.thrust_lever = 0;
+    Press("ap_vert_mode_clicked", kAltitude);
+    FlyFor(60);
+    SetNamedValue("at_armed_left", 1);
+    EXPECT_EQ(Mode("at_mode"), kThrottleNone);
+    fly(400);
+    EXPECT_EQ(Mode("at_mode"), kSpeed);
+    EXPECT_EQ(Mode("ap_envelope_prot"), 0);
+    EXPECT_NEAR(aircraft.ias, 280, 3);
+}
+
+TEST_F(AutoflightTest, TheThrustLimitFollowsTheFlightAndADropOfTheArmIsTold) {
+    SetNamedValue("tz_thrust_reduction_ht", 1000);
+    SetNamedValue("tz_accel_ht", 1500);
+    PlaceAircraftAt(aircraft, 0, 0, 0, 90, 0, 0);
+    aircraft.flaps = aircraft.controls.flaps = 5;
+    FillTokens(aircraft);
+    SetToken(116, 165);
+    PublishProfile(999, 250, 8000);
+    SetCalc(kAltitudeWindow, 8000);
+    Press("ap_vert_mode_clicked", kVnavSpeed);
+    Press("at_mode_clicked", 5);
+    FlyFor(10);
+    EXPECT_EQ(Mode("ap_vert_mode_armed"), kVnavSpeed);
+    EXPECT_EQ(Mode("tz_thrust_limit"), kLimitTakeoff);
+    const double takeoff_limit = NamedValue("TZ_FADEC_Green_line");
+    EXPECT_NEAR(takeoff_limit, 100, 0.1);
+    for (int second = 0; second < 60 && aircraft.ias < 90; ++second) FlyFor(1);
+    EXPECT_EQ(Mode("at_mode"), kThrottleHold);
+    for (int second = 0; second < 60 && aircraft.altitude < 700; ++second) FlyFor(1);
+    EXPECT_EQ(Mode("ap_vert_mode"), kVnavSpeed);
+    EXPECT_EQ(Mode("at_mode"), kThrustReference);
+    EXPECT_EQ(Mode("tz_thrust_limit"), kLimitTakeoff);
+    EXPECT_NEAR(aircraft.ias, 180, 10) << "below the acceleration height";
+    FlyFor(30);
+    EXPECT_EQ(Mode("tz_thrust_limit"), kLimitClimb);
+    EXPECT_LT(NamedValue("TZ_FADEC_Green_line"), takeoff_limit - 2);
+    aircraft.controls.flaps = 0;
+    EngageAutopilot();
+    FlyFor(120);
+    EXPECT_NEAR(aircraft.ias, 250, 5);
+    SetNamedValue("at_armed_left", 0);
+    FlyFor(1);
+    EXPECT_EQ(Mode("at_disc"), 1);
+    SetNamedValue("at_armed_left", 1);
+    FlyFor(1);
+    EXPECT_EQ(Mode("at_disc"), 0);
 }
 
 }  // namespace

@@ -13,6 +13,8 @@
 #include "host/aircraft/angles.h"
 #include "host/aircraft/tokens.h"
 #include "host/autoflight/autoflight_logic.h"
+#include "host/flight.h"
+#include "host/world/key_event_effects.h"
 #include "host/world/receivers.h"
 #include "host/world/world.h"
 
@@ -57,11 +59,7 @@ class LandingTest : public testing::Test {
         for (int i = 0; i < static_cast<int>(seconds * 18); ++i) {
             ++world.ticks;
             TakeControlsFromTokens(aircraft);
-            const AutoflightCommands commands = StepAutoflight(logic, 1 / 18.0);
-            aircraft.controls.bank = commands.flies ? commands.bank : 0;
-            if (commands.flies) aircraft.controls.path = commands.path;
-            aircraft.controls.steering = commands.flies ? commands.steering : 0;
-            if (commands.moves_levers) aircraft.controls.thrust_lever = commands.thrust_lever;
+            FollowCommands(StepAutoflight(logic, 1 / 18.0), aircraft.controls);
             StepAircraft(aircraft, 1 / 18.0);
             FillTokens(aircraft);
             StepReceivers({Latitude(aircraft), Longitude(aircraft), aircraft.altitude, kVariation,
@@ -191,11 +189,42 @@ TEST_F(LandingTest, ComesToAStopOnTheCentreLine) {
         EXPECT_EQ(Mode("ap_lat_mode"), kRollout);
         EXPECT_EQ(Mode("at_mode"), kThrottleNone);
         EXPECT_GT(TokenOf(326), 16000) << "the armed speedbrakes are out";
-        if (false)
-            std::printf("%s: crossed %.0f touched %.0f sink %.0f aside %.1f worst %.1f stop %.0f\n",
-                        approach.what, crossed_at, touched_at, sink, aside_at_touch_down, worst_aside,
-                        Along());
     }
+}
+
+TEST_F(LandingTest, GoesAroundFromTheSlope) {
+    aircraft.fuel_lb = {15000, 15000, 0};
+    PlaceAircraftAt(aircraft, 46.87, -122.0, 2900, 0, 160, kFieldElevation);
+    for (const int token : {324, 325, 331}) SetToken(token, 0);
+    SetToken(328, 14043);
+    FillTokens(aircraft);
+    SetToken(24, 0x1030);
+    SetToken(116, 150);
+    SetCalc("(A:AUTOPILOT ALTITUDE LOCK VAR, feet)", 4000);
+    SetNamedValue("at_armed_left", 1);
+    for (const auto& [name, value] :
+         {std::pair{"at_mode_clicked", 1}, {"TZ_MCP_L_AP_Button", 1}, {"ap_vert_mode_clicked", 1}})
+        SetNamedValue(name, value);
+    Fly(1);
+    SetNamedValue("ap_vert_mode_clicked", kGlideSlope);
+    for (int second = 0; second < 200 && aircraft.altitude > kFieldElevation + 200; ++second) Fly(1);
+    ASSERT_EQ(Mode("ap_vert_mode"), kGlideSlope);
+    EXPECT_EQ(Mode("ap_vert_mode_armed"), kFlare);
+    EXPECT_EQ(Mode("ap_lat_mode_armed"), kRollout);
+    EXPECT_EQ(Mode("tz_thrust_limit"), kLimitGoAround);
+    ApplyKeyEvent(0x10145, 0);
+    Fly(20);
+    EXPECT_EQ(Mode("ap_lat_mode"), kLateralToGa);
+    EXPECT_EQ(Mode("ap_vert_mode"), kVerticalToGa);
+    EXPECT_EQ(Mode("at_mode"), kThrustReference);
+    EXPECT_EQ(Mode("ap_master_l"), 1);
+    EXPECT_GT(aircraft.vertical_speed, 1500);
+    EXPECT_GT(aircraft.altitude, kFieldElevation + 300);
+    EXPECT_NEAR(std::remainder(aircraft.track, 360), 0, 1);
+    Fly(180);
+    EXPECT_EQ(Mode("ap_vert_mode"), kAltitude);
+    EXPECT_NEAR(aircraft.altitude, 4000, 20);
+    EXPECT_GE(aircraft.ias, StallSpeed(aircraft) * 1.15);
 }
 
 }  // namespace
