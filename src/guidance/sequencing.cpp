@@ -9,6 +9,7 @@
 #include "fmc/legs/path.h"
 #include "fmc/performance/flight_log.h"
 #include "fmc/performance/predictions.h"
+#include "fmc/performance/step_point.h"
 #include "fmc/performance/vertical_segment.h"
 #include "frame/key_events.h"
 #include "guidance/vnav_speed.h"
@@ -34,10 +35,7 @@ void ReportPosition(const FlightPlanLeg& passed) {
 }
 
 void LookAtStepClimb(const FlightPlanLeg& passed) {
-    if (passed.step_alt <= perf.cruise_alt) return;
-    if (vnav.toc == 1) vnav.step_due = 1;
-    if (cfg.autostepclimb == 1 && perf.cruise_alt < perf.fms_step_to_alt)
-        SendKeyEvent(kKeyAltitudeSet, WholeNumber(passed.step_alt));
+    if (vnav.toc == 1 && passed.step_alt > perf.cruise_alt) BeginStepClimb(passed.step_alt);
 }
 
 // A passed fix no longer constrains.

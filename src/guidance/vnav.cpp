@@ -6,8 +6,10 @@
 #include "base/angles.h"
 #include "fmc/legs/find_leg.h"
 #include "fmc/performance/predictions.h"
+#include "fmc/performance/step_point.h"
 #include "fmc/performance/vertical_segment.h"
 #include "frame/crew_messages.h"
+#include "guidance/step_climb.h"
 #include "guidance/vnav_speed.h"
 #include "navdata/geodesy.h"
 #include "state/autoflight.h"
@@ -201,6 +203,8 @@ void ComputeRequiredRate() {
 void VnavUpdate() {
     if (plan.active.stpos == kNoPlan || perf.cruise_alt <= 0) return;
     ComputeDistances(0);
+    WatchStepPoint();
+    FlyStepClimb();
     PassTopOfClimb();
     PassTopOfDescent();
     TellResetMcpAltitude();

@@ -10,6 +10,7 @@
 #include "frame/snapshot.h"
 #include "guidance/autoflight.h"
 #include "guidance/speed_trend.h"
+#include "guidance/step_climb.h"
 #include "module/remote_input.h"
 #include "navdata/runways_in_use.h"
 #include "sound/environment.h"
@@ -29,6 +30,7 @@ void StepTimers() {
     StepBattery();
     StepApu();
     UpdateSpeedTrend();
+    CountStepClimb();
 }
 
 void EveryThreeSeconds() {

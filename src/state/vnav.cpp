@@ -44,6 +44,11 @@ constexpr Variable kRows[] = {
     {"reset_mcp_told", &vnav.reset_mcp_told},
     {"descent_cnt", &vnav.descent_cnt},
     {"tod_from_dest", &vnav.tod_from_dest},
+    {"step_lat", &vnav.step_lat},
+    {"step_lon", &vnav.step_lon},
+    {"dist_to_step", &vnav.dist_to_step},
+    {"step_noted_alt", &vnav.step_noted_alt},
+    {"step_climb_timer", &vnav.step_climb_timer},
 };
 }  // namespace
 

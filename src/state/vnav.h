@@ -39,8 +39,12 @@ struct VnavState {
     int tod_shortcut = 0;      // a wide-turn sequencing in cruise asks for the shortcut of the TOD test
     double tod_test_dist = 0;  // nm, test distance of the TOD check; -4 = shortcut
     double clb_next_restr_alt = 0, des_next_restr_alt = 0;
-    int step_due = 0;                // a step climb has come due
-    double drag_msg_changed_at = 0;  // s, host time at which "DRAG REQUIRED" last came or went
+    int step_due = 0;                   // a step climb has come due
+    double step_lat = 0, step_lon = 0;  // where the next one comes due; 0, 0 = nowhere
+    double dist_to_step = 0;            // along the route
+    double step_noted_alt = 0;          // cruise altitude at which it came due
+    int step_climb_timer = 0;           // ticks since, to 300
+    double drag_msg_changed_at = 0;     // s, host time at which "DRAG REQUIRED" last came or went
 };
 
 extern VnavState vnav;

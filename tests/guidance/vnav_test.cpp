@@ -1,8 +1,10 @@
 #include "guidance/vnav.h"
 
+#include "fmc/performance/step_point.h"
 #include "fmc/route/delete_restrictions.h"
 #include "guidance/guidance_test.h"
 #include "guidance/mcp.h"
+#include "guidance/step_climb.h"
 #include "guidance/vnav_speed.h"
 #include "state/autoflight.h"
 #include "state/cdu.h"
@@ -11,6 +13,7 @@
 #include "state/predictions.h"
 #include "state/requests.h"
 #include "state/vnav.h"
+#include "state/weights.h"
 
 namespace {
 
@@ -231,6 +234,41 @@ TEST_F(Vnav, TheAltitudeKnobTakesTheNextConstraintAwayOrRaisesTheCruise) {
     DeleteDescentRestrictions(false);
     EXPECT_EQ(plan.mod.legs[3].restr_code, kFree);
     EXPECT_EQ(plan.fms_fpln_active, kRouteModified);
+}
+
+TEST_F(Vnav, AStepComesDueAtItsPointAndIsToldUntilFlown) {
+    vnav.toc = 1;
+    plan.active.stpos = 2;
+    plan.active.legs[3].step_alt = 39000;
+    sim.true_track_deg = 90;
+    PlaceAt(0, 3, 90);
+    ComputeStepPoint();
+    EXPECT_EQ(perf.fms_step_to_alt, 39000);
+    EXPECT_NEAR(vnav.dist_to_step, 180, 0.01);
+    PlaceAt(0, 6 - 1.6 / 60, 90);
+    WatchStepPoint();
+    EXPECT_EQ(vnav.step_due, 0);
+    PlaceAt(0, 6 - 1.4 / 60, 90);
+    WatchStepPoint();
+    EXPECT_EQ(vnav.step_due, 1);
+    sim.ind_alt_ft = 35000;
+    for (int tick = 0; tick < 400; ++tick) CountStepClimb();
+    EXPECT_EQ(vnav.step_climb_timer, 300);
+    sim.ind_alt_ft = 35251;
+    CountStepClimb();
+    EXPECT_EQ(vnav.step_climb_timer, 0);
+    // By weight: 35500 ft want at most 485017 lb by the table, 400 lb from here; the limit by weight lies
+    // higher.
+    plan.active.legs[3].step_alt = 0;
+    perf.fms_step_to_alt = 39000;
+    perf.cruise_alt = 34800;
+    weights.gross_weight = 485410;
+    predictions.crz_burn_per_nm = 4;
+    predictions.dist_to_tod = 300;
+    PlaceAt(0, 3, 90);
+    ComputeStepPoint();
+    EXPECT_NEAR(vnav.dist_to_step, 100, 0.01);
+    EXPECT_NEAR(vnav.step_lon, 3 + 100 / 60.0, 1e-4);
 }
 
 }  // namespace

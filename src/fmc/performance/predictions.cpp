@@ -129,7 +129,11 @@ double PerfFactor() {
 }
 
 int MaxAltitude() {
-    const double x = GrossWeight() / 1000;
+    return MaxAltitudeFor(GrossWeight());
+}
+
+int MaxAltitudeFor(double weight) {
+    const double x = weight / 1000;
     const double feet = 0.00012 * x * x * x - 0.26203 * x * x + 121.62431 * x + 27382;
     const double limit = identity.aircraft_model == "900-10" ? 411 : 431;
     return static_cast<int>(std::clamp(std::round(feet / 100 + 0.5), 0.0, limit));

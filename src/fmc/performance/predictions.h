@@ -29,8 +29,9 @@ constexpr int kLongRangeCruise = 99999;  // cost index that stands for long-rang
 /// Fuel factor of the cost index in force, 0 without one.
 double PerfFactor();
 
-/// Altitude limit for the gross weight, in hundreds of feet.
+/// Altitude limit for the gross weight or another weight (lb), in hundreds of feet.
 int MaxAltitude();
+int MaxAltitudeFor(double weight);
 
 /// A cruise altitude (ft) for a short route without one, 0 when there is none.
 double BestAltitude();

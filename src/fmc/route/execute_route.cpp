@@ -15,6 +15,7 @@
 #include "fmc/performance/default_speeds.h"
 #include "fmc/performance/predictions.h"
 #include "fmc/performance/profile.h"
+#include "fmc/performance/step_point.h"
 #include "fmc/performance/vertical_segment.h"
 #include "fmc/procedures/end_airports.h"
 #include "fmc/route/modification.h"
@@ -274,6 +275,7 @@ void ExecuteRoute() {
     if (perf.cruise_alt >= kLowestCruise) PlanCruise();
     ComputeProfile(perf.cruise_alt, 0);
     ComputeDistances(1);
+    ComputeStepPoint();
     FindBottomOfDescent(plan.active.stpos);
     SetCrossAtPoint();
     RefreshLegsForModification();
