@@ -262,8 +262,9 @@ TEST_F(ExecuteRouteTest, SpeedsAndLevelsFollowAtExec) {
     perf.cruise_alt = 12000;  // of the flight before
     std::string error;
     ExecuteEnteredRoute(error);
-    // 280 kt at 30000 ft: 228.714 K, speed of sound 589.33 kt, and 1.54 x 280 of it.
-    EXPECT_NEAR(perf.speeds.climb_mach, 0.7317, 1e-4);
+    // 280 kt at the 35000 ft that this EXEC brings: 218.808 K, speed of sound 576.42 kt, and 1.63 x 280 of
+    // it.
+    EXPECT_NEAR(perf.speeds.climb_mach, 0.7918, 1e-4);
     EXPECT_EQ(perf.speeds.cruise_mach, 0.81);
     EXPECT_EQ(perf.cruise_alt, 35000);
     EXPECT_EQ(perf.init_cruise_alt, 35000);

@@ -4,16 +4,15 @@
 #include "state/perf.h"
 #include "state/plan.h"
 
+void FillMissingSpeeds(PlannedSpeeds& speeds) {
+    if (speeds.climb_ias <= 0) speeds.climb_ias = cfg.ClimbIas;
+    if (speeds.cruise_ias <= 0) speeds.cruise_ias = cfg.CruiseIas > 0 ? cfg.CruiseIas : cfg.ClimbIas;
+    if (speeds.descent_ias <= 0) speeds.descent_ias = cfg.DescentIas > 0 ? cfg.DescentIas : cfg.ClimbIas;
+}
+
 void SetDefaultSpeeds(SpeedsCount when) {
-    const double climb = cfg.ClimbIas;
-    const double cruise = cfg.CruiseIas > 0 ? cfg.CruiseIas : climb;
-    const double descent = cfg.DescentIas > 0 ? cfg.DescentIas : climb;
-    const PlannedSpeeds start{.climb_ias = climb,
-                              .climb_mach = 0.74,
-                              .cruise_ias = cruise,
-                              .cruise_mach = 0.78,
-                              .descent_ias = descent,
-                              .descent_mach = 0.74};
+    PlannedSpeeds start{.climb_mach = 0.74, .cruise_mach = 0.78, .descent_mach = 0.74};
+    FillMissingSpeeds(start);
     if (when == SpeedsCount::kWithExec) {
         plan.mod.entries.speeds = start;
         return;

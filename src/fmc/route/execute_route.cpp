@@ -60,12 +60,19 @@ void BeginNewRoute() {
     plan.terrain_profile_due = 1;
 }
 
+// The cruise altitude that this EXEC brings, 0 = none.
+double ComingCruise() {
+    return plan.mod.entries.cruise_alt > 0 ? plan.mod.entries.cruise_alt : perf.cruise_alt;
+}
+
 void FillSpeeds() {
     const SpeedSelections& selected = plan.mod.selected;
     PlannedSpeeds& speeds = perf.speeds;
+    FillMissingSpeeds(speeds);
+    const double cruise = ComingCruise();
     if (perf.cost_index < 0) {
         constexpr double kUsualCruise = 30000;
-        const double altitude = perf.cruise_alt > 0 ? perf.cruise_alt : kUsualCruise;
+        const double altitude = cruise > 0 ? cruise : kUsualCruise;
         if (selected.climb_mach_manual == 0) speeds.climb_mach = IasToMach(speeds.climb_ias, altitude);
         if (selected.CruiseMachSelected == 0) speeds.cruise_mach = IasToMach(speeds.cruise_ias, altitude);
         if (selected.descent_mach_manual == 0) speeds.descent_mach = IasToMach(speeds.descent_ias, altitude);
@@ -73,7 +80,7 @@ void FillSpeeds() {
     }
     if (selected.ClimbSelected == 0) speeds.climb_ias = EconClimbSpeed(perf.cost_index);
     const int cruise_index = selected.LrcSelected == 1 ? kLongRangeCruise : perf.cost_index;
-    if (selected.CruiseMachSelected == 0) speeds.cruise_mach = EconCruiseMach(cruise_index, perf.cruise_alt);
+    if (selected.CruiseMachSelected == 0) speeds.cruise_mach = EconCruiseMach(cruise_index, cruise);
     if (selected.DescentSelected == 0) speeds.descent_ias = EconDescentSpeed(perf.cost_index);
 }
 
@@ -182,12 +189,6 @@ void PlaceEndsOnRunways() {
                  plan.active.procedures.arr_appr_rwy);
 }
 
-void FillDefaultSpeeds() {
-    const PlannedSpeeds& speeds = perf.speeds;
-    if (speeds.climb_ias > 0 || speeds.cruise_ias > 0 || speeds.descent_ias > 0) return;
-    SetDefaultSpeeds(SpeedsCount::kNow);
-}
-
 void SettleDestination() {
     const FlightPlanLeg& last = plan.active.legs[plan.active.leg_cnt];
     if (!IsAirport(last)) return;
@@ -205,7 +206,6 @@ void SettleOrigin() {
     const bool changed = airports.origin_airport.ident != first.ident;
     if (changed || !IsRouteActive()) LoadOriginAirport(first.ident);
     if (!IsRouteActive() && sim.on_ground == 1) flight_log.fplog_mode = -1;
-    FillDefaultSpeeds();
     if (changed) {
         plan.active.ends = {.origin = first.ident,
                             .dest = plan.active.ends.dest,
@@ -271,7 +271,7 @@ void ExecuteRoute() {
     SettleDestination();
     SettleOrigin();
     plan.fms_fpln_active = kRouteActive;
-    if (plan.mod.entries.cruise_alt > 0) perf.cruise_alt = plan.mod.entries.cruise_alt;
+    perf.cruise_alt = ComingCruise();
     if (perf.cruise_alt >= kLowestCruise) PlanCruise();
     ComputeProfile(perf.cruise_alt, 0);
     ComputeDistances(1);
