@@ -9,6 +9,7 @@
 #include "fmc/performance/step_point.h"
 #include "fmc/performance/vertical_segment.h"
 #include "frame/crew_messages.h"
+#include "guidance/approach_tuning.h"
 #include "guidance/step_climb.h"
 #include "guidance/vnav_speed.h"
 #include "navdata/geodesy.h"
@@ -201,8 +202,10 @@ void ComputeRequiredRate() {
 }  // namespace
 
 void VnavUpdate() {
-    if (plan.active.stpos == kNoPlan || perf.cruise_alt <= 0) return;
+    if (plan.active.stpos == kNoPlan) return;
     ComputeDistances(0);
+    TuneApproach();
+    if (perf.cruise_alt <= 0) return;
     WatchStepPoint();
     FlyStepClimb();
     PassTopOfClimb();

@@ -4,5 +4,6 @@
 // path the aircraft is. It goes on with VNAV off; only the speed targets (vnav_speed.h) ask whether it is
 // engaged.
 
-/// One guidance pass. Nothing happens without a cruise altitude or a plan.
+/// One guidance pass: distances to go and the approach's radio, and with a cruise altitude the vertical path.
+/// Nothing happens without a plan.
 void VnavUpdate();

@@ -8,6 +8,7 @@
 #include "frame/aircraft.h"
 #include "frame/model_values.h"
 #include "frame/snapshot.h"
+#include "guidance/approach_tuning.h"
 #include "guidance/autoflight.h"
 #include "guidance/speed_trend.h"
 #include "guidance/step_climb.h"
@@ -64,6 +65,11 @@ void HalfSecond() {
     ShowExecLamps();
 }
 
+// At the phases 0, 5, 10 and 15.
+void QuarterSecond() {
+    CheckApproachTuning();
+}
+
 void StepPhases(int phase) {
     if (time_base.tick3s_phase == 22) EveryThreeSeconds();
     if (time_base.tick2s_phase == 0) ReadFreeAddressSpace();
@@ -71,6 +77,7 @@ void StepPhases(int phase) {
     if (phase == 5) SecondGroup();
     if (phase == 11) ThirdGroup();
     if (phase == 0 || phase == 9) HalfSecond();
+    if (phase % 5 == 0) QuarterSecond();
 }
 
 }  // namespace

@@ -12,6 +12,7 @@
 #include "navdata/geodesy.h"
 #include "platform/host.h"
 #include "state/leg_words.h"
+#include "state/nav.h"
 #include "state/nearest.h"
 #include "state/plan.h"
 #include "state/sim.h"
@@ -91,6 +92,6 @@ void Tune(const NavRadio& radio, int mode, const TunedVor& vor) {
 void AutoTuneRadios() {
     FindNearestVors();
     PickRadios();
-    Tune(kNav1, nearest.VorLeftMode, nearest.vor_left);
+    if (nav.autotuned == 0) Tune(kNav1, nearest.VorLeftMode, nearest.vor_left);
     Tune(kNav2, nearest.VorRightMode, nearest.vor_right);
 }

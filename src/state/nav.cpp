@@ -27,6 +27,11 @@ constexpr Variable kRows[] = {
     {"entry_list_page", &nav.entry_list_page},     {"navdata_out_of_date", &nav.navdata_out_of_date},
     {"airac_cycle_text", &nav.airac_cycle_text},   {"airac_range_text", &nav.airac_range_text},
     {"airac_range_short", &nav.airac_range_short}, {"nearest_refresh_due", &nav.nearest_refresh_due},
+    {"autotuned", &nav.autotuned},
+    {"autotune_freq", &nav.autotune_freq},
+    {"autotune_tries", &nav.autotune_tries},
+    {"autotuned_approach", &nav.autotuned_approach},
+    {"appr_navaid_ident", &nav.appr_navaid_ident},
 };
 }  // namespace
 

@@ -31,6 +31,12 @@ struct NavState {
     std::string airac_range_text;   // "JAN04FEB01/18"
     std::string airac_range_short;  // "04JAN - 01FEB"
     int nearest_refresh_due = 0;    // the proximity lists are refreshed at once
+    // the selected approach on NAV 1, by guidance/approach_tuning
+    int autotuned = 0;               // it has been sent; the radio is then not tuned to VORs
+    int autotune_freq = 0;           // binary coded decimal, hundredths of a MHz
+    int autotune_tries = 0;          // sent so often; 0 = the host has it, or never takes it
+    std::string autotuned_approach;  // the approach that this is about
+    std::string appr_navaid_ident;   // of the station received; empty = none yet
 };
 
 extern NavState nav;

@@ -61,7 +61,7 @@ constexpr StateGroup kGroups[] = {
      "frame/ fmc/performance/flight_log guidance/ display/routing/ module/controls/glareshield module/"},
     {"sim", Reset<&sim>, &kSimVariables, "frame/ surveillance/terrain guidance/"},
     {"nav_tables", Reset<&nav_tables>, &kNavTableVariables, "navdata/nav_tables"},
-    {"nav", Reset<&nav>, &kNavVariables, "navdata/"},
+    {"nav", Reset<&nav>, &kNavVariables, "navdata/ guidance/approach_tuning"},
     {"traffic", Reset<&traffic>, &kTrafficVariables, "surveillance/traffic"},
     {"nearest", Reset<&nearest>, &kNearestVariables,
      "frame/aircraft navdata/ fmc/performance/winds fmc/route/route_text"},

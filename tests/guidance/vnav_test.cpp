@@ -2,13 +2,16 @@
 
 #include "fmc/performance/step_point.h"
 #include "fmc/route/delete_restrictions.h"
+#include "guidance/approach_tuning.h"
 #include "guidance/guidance_test.h"
 #include "guidance/mcp.h"
 #include "guidance/step_climb.h"
 #include "guidance/vnav_speed.h"
+#include "state/airports.h"
 #include "state/autoflight.h"
 #include "state/cdu.h"
 #include "state/leg_words.h"
+#include "state/nav.h"
 #include "state/perf.h"
 #include "state/predictions.h"
 #include "state/requests.h"
@@ -269,6 +272,31 @@ TEST_F(Vnav, AStepComesDueAtItsPointAndIsToldUntilFlown) {
     ComputeStepPoint();
     EXPECT_NEAR(vnav.dist_to_step, 100, 0.01);
     EXPECT_NEAR(vnav.step_lon, 3 + 100 / 60.0, 1e-4);
+}
+
+TEST_F(Vnav, TheApproachIsTunedOnceAndTriedTenTimes) {
+    airports.dest_airport.runway_cnt = 1;
+    RunwayData& runway = airports.dest_airport.runways[1];
+    runway.ident = "16L";
+    runway.ils_freq = "110.3";
+    runway.course = 163.6;
+    plan.mod.procedures.arr_appr = "ILS";
+    plan.mod.procedures.arr_appr_rwy = "16L";
+    PlaceAt(0, 8 - 41 / 60.0, 90);
+    plan.active.stpos = 4;
+    VnavUpdate();
+    EXPECT_EQ(nav.autotuned, 0);
+    PlaceAt(0, 8 - 39 / 60.0, 90);
+    host.events.clear();
+    VnavUpdate();
+    ASSERT_EQ(host.events.size(), 2U);
+    EXPECT_EQ(host.events[0], (std::pair{0x100ac, 0x11030}));
+    EXPECT_EQ(host.events[1], (std::pair{0x100b4, 164}));
+    for (int quarter = 0; quarter < 20; ++quarter) CheckApproachTuning();
+    EXPECT_EQ(host.events.size(), 2U + 9);  // the tenth try is the last
+    plan.mod.procedures.arr_appr_rwy = "16R";
+    VnavUpdate();
+    EXPECT_EQ(nav.autotuned, 0);  // no such runway
 }
 
 }  // namespace
