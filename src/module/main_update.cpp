@@ -11,9 +11,10 @@
 #include "navdata/nearest.h"
 #include "state/nav.h"
 #include "state/time_base.h"
+#include "systems/wheels.h"
 
 void MainUpdate() {
-    constexpr int kNearestPhase = 6;
+    constexpr int kNearestPhase = 6, kGearLeverPhase = 35;
     ReadMotion();
     if (!HasTicked()) return;
     StepTimeBase();
@@ -32,4 +33,5 @@ void MainUpdate() {
     ActNearDestination();
     FlightLogStep(false);
     SetDecisionHeight();
+    if (time_base.tick2s_phase == kGearLeverPhase) CheckGearLever();
 }

@@ -18,7 +18,6 @@
 #include "state/side.h"
 #include "state/time_base.h"
 #include "surveillance/traffic.h"
-#include "systems/wheels.h"
 
 namespace {
 
@@ -47,7 +46,6 @@ void RunUpdateCycle(bool virtual_cockpit) {
     if (module_life.startup_done == 0 && since_start > kDelayedStartSeconds) DelayedStart();
     MainUpdate();
     if (first_update) ReadSnapshot();  // where the aircraft is, is known before the counter moves
-    if (time_base.tick2s_phase == 35) CheckGearLever();
     IdentifyLateAircraft();
     WatchPanelWindows();
     // Once begun they go on: the pilot may set the simulator's clock back.

@@ -216,8 +216,11 @@ TEST(ServiceCycle, GearLeverOfTheModelIsCheckedEveryTwoSeconds) {
     sim_host.Run(2);
     EXPECT_EQ(sim_host.host.NamedVar("gearleverpos"), 0);
     EXPECT_EQ(sim_host.host.events, (Events{{0x10220, 0}}));
-    sim_host.host.tokens[kTokenOnGround] = 0;
+    while (time_base.tick2s_phase != 35) sim_host.Tick();
     sim_host.host.NamedVar("gearleverpos") = 1;
+    sim_host.PausedFrame();
+    EXPECT_EQ(sim_host.host.NamedVar("gearleverpos"), 1);
+    sim_host.host.tokens[kTokenOnGround] = 0;
     sim_host.Run(3);
     EXPECT_EQ(sim_host.host.NamedVar("gearleverpos"), 1);
 }
