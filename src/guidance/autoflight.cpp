@@ -64,7 +64,7 @@ void FollowEngagedModes() {
 void SetDisconnectWarning(int warning) {
     autoflight.ap_disc_warning = warning;
     autoflight.ap_disc_lamp = warning;
-    WriteNamedVar(NamedVar("TZ_MCP_Annun_WARN"), warning);
+    SetControl(&cockpit.TZ_MCP_Annun_WARN, warning);
 }
 
 void StepDisconnect() {
@@ -86,7 +86,7 @@ void StepDisconnect() {
     if (autoflight.ap_disc_latch == 1 && IsAutopilotEngaged()) {
         autoflight.ap_disc_latch = 0;
         autoflight.ap_disc_lamp = 0;
-        WriteNamedVar(NamedVar("TZ_MCP_Annun_WARN"), 0);
+        SetControl(&cockpit.TZ_MCP_Annun_WARN, 0);
         if (cfg.DiscATOnAPDisc == 1) {
             SetControl(&cockpit.TZ_OH_PFC_Safety_Switch, 1);
             SetControl(&cockpit.TZ_OH_PFC_G_Switch, 1);
