@@ -10,6 +10,7 @@ constexpr Variable kRows[] = {
     {"uplink_reject_request", &requests.uplink_reject},
     {"uplink_cancel_request", &requests.uplink_cancel},
     {"leave_legs_view", &requests.leave_legs_view},
+    {"forget_pick", &requests.forget_pick},
     {"leave_hold_page", &requests.leave_hold_page},
     {"show_rte", &requests.show_rte},
     {"vnav_phase", &requests.vnav_phase},

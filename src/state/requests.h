@@ -13,7 +13,8 @@ struct RequestState {
     int uplink_reject = 0;
     int uplink_cancel = 0;
     // from the route to the CDUs, whose pages show what has gone
-    int leave_legs_view = 0;  // LEGS goes back to its normal view, and a pick for it is forgotten
+    int leave_legs_view = 0;  // LEGS goes back to its normal view
+    int forget_pick = 0;      // the row that SELECT DESIRED WPT picks for has gone
     int leave_hold_page = 0;  // the last hold has gone: HOLD gives way to LEGS
     int show_rte = 0;         // a side, whose CDU goes to RTE
     int vnav_phase = 0;       // CDUs on the page of the phase before (2 CRZ, 3 DES) go on to this one

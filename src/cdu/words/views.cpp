@@ -11,10 +11,8 @@ void LeaveLegsView() {
 }
 
 void TakeViewRequests() {
-    if (std::exchange(requests.leave_legs_view, 0) == 1) {
-        LeaveLegsView();
-        route_pages.PendingSelectRow = 0;
-    }
+    if (std::exchange(requests.leave_legs_view, 0) == 1) LeaveLegsView();
+    if (std::exchange(requests.forget_pick, 0) == 1) route_pages.PendingSelectRow = 0;
     if (std::exchange(requests.leave_hold_page, 0) == 1)
         for (CduState& unit : cdu)
             if (unit.fms_page == kPageHold) unit.fms_page = kPageLegs;

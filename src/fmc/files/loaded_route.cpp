@@ -94,7 +94,7 @@ void BeginLoadedRoute() {
     plan.mod.entries.cruise_alt = 0;
     perf.planned_fuel = 0;
     if (cfg.CostIndex > kNoCostIndex) PlanCostIndex(cfg.CostIndex);
-    requests.leave_legs_view = 1;
+    requests.leave_legs_view = requests.forget_pick = 1;
     if (IsRouteActive()) SetPendingActiveLeg(1);  // the leg flown to isn't in the working copy any more
     RebuildRouteRows();
 }
