@@ -43,7 +43,7 @@ constexpr const char* kVectorsIdent = "VECTORS";  // a heading to fly, until the
 
 constexpr const char* kAirportLegType = "APT";
 
-constexpr const char* kDirectVia = "DIRECT";
+constexpr const char* kDirectVia = "DIRECT";  // also where a direct-to comes from
 constexpr const char* kHoldVia = "HOLD";
 constexpr const char* kMissedVia = "MISSED APPR";
 
@@ -85,6 +85,10 @@ inline bool IsMissedApproach(const FlightPlanLeg& leg) {
 /// Neither on an airway nor of a procedure.
 inline bool IsDirect(const FlightPlanLeg& leg) {
     return leg.via.empty() || leg.via == kDirectVia;
+}
+/// The leg that is flown goes straight from where the aircraft was to its fix.
+inline bool IsDirectTo(const ActiveLegRecord& leg) {
+    return leg.from == kDirectVia;
 }
 inline bool IsOfSid(const FlightPlanLeg& leg) {
     return leg.via_type == kSidViaType || leg.via_type == kSidStarViaType;

@@ -229,7 +229,7 @@ void OnTo(PageCall& call, int row) {
     const bool exists = row <= plan.route_cnt;
     const RouteRow shown = exists ? plan.Route[row] : RouteRow{};
     if (Entry(call).empty()) {
-        if (!shown.to.empty() && shown.to != "DISCO") CopyDown(call, shown.to);
+        if (!shown.to.empty() && shown.to != kDiscoIdent) CopyDown(call, shown.to);
         return;
     }
     if (exists && Entry(call) == shown.to) return Refuse(call, "INVALID ENTRY", kHelpNotAllowed);
@@ -264,7 +264,7 @@ void DrawRow(PageCall& call, int line, int row) {
         return;
     }
     const RouteRow& shown = plan.Route[row];
-    if (shown.to == "DISCO") return FittedText(call, 34, DataY(line), 251, kDiscontinuity);
+    if (shown.to == kDiscoIdent) return FittedText(call, 34, DataY(line), 251, kDiscontinuity);
     LeftData(call, line, shown.via);
     RightData(call, line, shown.to.empty() ? "-----" : Format("%8s", shown.to.c_str()));
 }

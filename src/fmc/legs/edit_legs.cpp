@@ -47,7 +47,7 @@ void GoDirectTo(int leg) {
     SetPendingActiveLeg(leg);
     plan.direct_to_pending = 1;
     const FlightPlanLeg& target = plan.mod.legs[leg];
-    plan.mod.active_leg = {.from = "DIRECT",
+    plan.mod.active_leg = {.from = kDirectVia,
                            .from_lat = sim.plane_lat,
                            .from_lon = sim.plane_lon,
                            .to = target.ident,

@@ -14,7 +14,7 @@ void WalkRows(Visit visit) {
         const FlightPlanLeg& leg = plan.mod.legs[i];
         const bool direct = IsDirect(leg);
         const bool opens = direct || leg.via != running;
-        running = direct ? "DIRECT" : std::string_view(leg.via);
+        running = direct ? kDirectVia : std::string_view(leg.via);
         visit(i, leg, opens);
     }
 }
@@ -28,7 +28,7 @@ void RebuildRouteRows() {
         RouteRow& row = plan.Route[opens ? ++plan.route_cnt : plan.route_cnt];
         if (opens) {
             const bool direct = IsDirect(leg);
-            row.via = direct ? "DIRECT" : leg.via;
+            row.via = direct ? kDirectVia : leg.via;
             row.via_type = direct ? "" : leg.via_type;
         }
         if (!IsThen(leg)) row.to = leg.ident;
@@ -54,7 +54,7 @@ int FindRouteFix(int row, bool want_via) {
     for (int i = legs.last; i >= legs.first && i > 0; --i) {
         const FlightPlanLeg& leg = plan.mod.legs[i];
         if (!IsPlace(leg)) continue;
-        const std::string_view via = leg.via.empty() ? "DIRECT" : std::string_view(leg.via);
+        const std::string_view via = leg.via.empty() ? kDirectVia : std::string_view(leg.via);
         return !want_via || via == plan.Route[row].via ? i : 0;
     }
     return 0;

@@ -173,17 +173,17 @@ void RemoveProcedure(std::string_view via_type, std::string_view other) {
         } else if (within && IsDisco(leg)) {
             RemoveModLegs(i, 1);
         } else if (leg.via_type == kSidStarViaType) {
-            if (other == "STAR" && BeginsArrival(leg)) {
+            if (other == kStarViaType && BeginsArrival(leg)) {
                 const int hold = leg.hold_pos;
                 leg = ArrivalLeg(1);
                 leg.hold_pos = hold;
                 continue;
             }
-            const FlightPlanLeg& neighbour = plan.mod.legs[other == "SID" ? i - 1 : i + 1];
+            const FlightPlanLeg& neighbour = plan.mod.legs[other == kSidViaType ? i - 1 : i + 1];
             leg.via_type = other;
             // A stored route brings procedures that nobody has selected.
             leg.via = neighbour.via_type == other ? neighbour.via
-                      : other == "SID"            ? plan.mod.procedures.dep_sid
+                      : other == kSidViaType      ? plan.mod.procedures.dep_sid
                                                   : plan.mod.procedures.arr_star;
         }
     }
@@ -316,9 +316,9 @@ double RecordAltitude(int leg) {
 }
 
 double ApproachSpeed(std::string_view role) {
-    if (role.starts_with("IAF")) return 190;
-    if (role == "FAF") return 170;
-    return role == "MAP" ? 140 : 180;
+    if (role.starts_with(kInitialFix)) return 190;
+    if (role == kFinalFix) return 170;
+    return role == kMissedPoint ? 140 : 180;
 }
 
 // Where the file tells no altitude for a leg of the missed approach, it lies between its neighbours.
@@ -344,7 +344,7 @@ FlightPlanLeg ApproachLeg(int record, const FlightPlanLeg& leg_before, bool miss
     const ProcedureLeg& from = procedure_lists.ApproachLegs[record];
     FlightPlanLeg leg = LegOf(from);
     leg.via_type = kApproachViaType;
-    leg.via = missed ? kMissedVia : IsDisco(leg_before) ? "DIRECT" : procedure_lists.approach_via;
+    leg.via = missed ? kMissedVia : IsDisco(leg_before) ? kDirectVia : procedure_lists.approach_via;
     leg.rwy = RunwayText(plan.mod.procedures.arr_appr_rwy);
     if (from.applies_to != "---") leg.appr_wpt_type = from.applies_to;
     leg.ias_restr = ApproachSpeed(leg.appr_wpt_type);
@@ -400,9 +400,9 @@ void WriteApproachLegs(int end) {
 void InsertDeparture() {
     EnsureEnds();
     const FlightPlanLeg flown = FlownLeg();
-    const bool on_its_way = flown.via_type.starts_with("SID") || plan.mod.active_leg.from == "DIRECT";
+    const bool on_its_way = IsOfSid(flown) || IsDirectTo(plan.mod.active_leg);
     const bool from_start = IsAtStart(flown) && (sim.on_ground == 1 || !on_its_way);
-    RemoveProcedure("SID", "STAR");
+    RemoveProcedure(kSidViaType, kStarViaType);
     PutOrigin();
     const ProcedureLists& lists = procedure_lists;
     int position = 1;
@@ -434,8 +434,8 @@ void InsertArrival() {
     const FlightPlanLeg flown = FlownLeg();
     const bool from_start = IsAtStart(flown) && sim.on_ground == 1;
     UnshareApproach();
-    const bool had_arrival = HasLegsOf("STAR");
-    RemoveProcedure("STAR", "SID");
+    const bool had_arrival = HasLegsOf(kStarViaType);
+    RemoveProcedure(kStarViaType, kSidViaType);
     EnsureDestination();
     const int approach = FirstApproachLeg();
     int point = approach > 0 ? approach - 1 : plan.mod.leg_cnt;
@@ -480,5 +480,5 @@ void InsertApproach() {
 
 void RemoveArrivalAndApproach() {
     RemoveApproachLegs();
-    RemoveProcedure("STAR", "SID");
+    RemoveProcedure(kStarViaType, kSidViaType);
 }

@@ -5,6 +5,7 @@
 #include "navdata/magnetic_model.h"
 #include "navdata/procedure_files.h"
 #include "state/airports.h"
+#include "state/leg_words.h"
 #include "state/perf.h"
 #include "state/plan.h"
 #include "state/procedure_lists.h"
@@ -79,7 +80,8 @@ void RecomputeForRunway(GrowingList<ProcedureLeg>& legs, int count, const std::s
 }
 
 bool IsApproachRole(std::string_view segment) {
-    return segment.empty() || segment == kForAll || segment == "IAF*" || segment == "MAP" || segment == "FAF";
+    return segment.empty() || segment == kForAll || segment == "IAF*" || segment == kMissedPoint ||
+           segment == kFinalFix;
 }
 
 bool IsSelectedApproach(const ProcedureRecord& record) {

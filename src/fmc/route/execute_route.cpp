@@ -138,7 +138,7 @@ LatLon DirectToStart(const ActiveLegRecord& leg) {
 // can.
 void AimActiveLeg(const ActiveLegRecord& flown) {
     ActiveLegRecord& leg = plan.active.active_leg;
-    const bool direct_to = leg.from == "DIRECT";
+    const bool direct_to = IsDirectTo(leg);
     if (!direct_to) leg = flown;
     const FlightPlanLeg& to = plan.active.legs[plan.active.stpos];
     const bool is_flown = leg.to == to.ident && leg.to_lat == to.lat && leg.to_lon == to.lon;
@@ -153,12 +153,12 @@ void AimActiveLeg(const ActiveLegRecord& flown) {
         plan.direct_abeam_check = 1;
     }
     plan.direct_to_pending = 0;
-    if (leg.from != "DIRECT" || leg.direct_flag == 0) {
+    if (!IsDirectTo(leg) || leg.direct_flag == 0) {
         const FlightPlanLeg& from =
             plan.active.legs[std::max(PlaceBefore(plan.active.legs, plan.active.stpos), 0)];
         // The leg being flown keeps its start also when the passed fix has been taken out of the list.
         const bool start_is_gone =
-            is_flown && !leg.from.empty() && leg.from != "DIRECT" && leg.from != from.ident;
+            is_flown && !leg.from.empty() && !IsDirectTo(leg) && leg.from != from.ident;
         if (!start_is_gone) {
             leg.from = from.ident;
             leg.from_lat = from.lat;
