@@ -15,8 +15,8 @@
 
 namespace {
 
-constexpr int kRightEdge =
-    282;  // where the right half's drawings begin; most canvases begin one further right
+// Where the right half's drawings begin; most canvases begin one further right.
+constexpr int kRightEdge = 282;
 
 constexpr Format kFormats[] = {
     {Content::kAux, DrawAuxStrip, nullptr},
@@ -26,7 +26,7 @@ constexpr Format kFormats[] = {
     {Content::kChkl, DrawChecklist, TouchChecklist},
     {Content::kComm, DrawComm, TouchComm},
     {Content::kInfo, DrawInfo, TouchInfo, kRightEdge},
-    {Content::kNd, DrawNd, TouchNd, 283, Owner::kOfItsInboard},
+    {.content = Content::kNd, .draw = DrawNd, .touch = TouchNd, .owner = Owner::kOfItsInboard},
     {Content::kSelect, DrawSelectPrompt, nullptr},
     {Content::kSys, DrawSystemPage, TouchSystemPage, kRightEdge},
 };
