@@ -43,6 +43,8 @@ int main(int argc, char** argv) {
     fly->add_option("--token", fly_options.token, "what a browser must know; made up when not given")
         ->check(CLI::Validator(plain, ""));
     fly->add_option("--route", fly_options.route, "a filed route text instead of the demonstration's");
+    fly->add_option("--wind", fly_options.wind, "direction it blows from, degrees true, and knots")
+        ->expected(2);
     fly->add_option("--root", fly_options.root, "the simulator's root folder")->check(CLI::ExistingDirectory);
     fly->add_option("--navdata", fly_options.navdata, "the navigation data folder")
         ->check(CLI::ExistingDirectory);

@@ -73,6 +73,7 @@ struct AutoflightLogic {
     // VNAV
     bool vnav_level = false;  // PTH holds `held_altitude`
     bool speed_intervention = false;
+    double entry_ias = 0;     // kt, with which the descent began
     double window_speed = 0;  // as it stood, to see that the pilot turns it
     bool took_off = false;    // since the last take-off the acceleration height isn't reached
     // autothrottle

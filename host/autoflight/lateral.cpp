@@ -51,9 +51,9 @@ void EngageOrArmLnav(AutoflightLogic& logic, const FlightValues& now) {
     }
 }
 
-void SelectDirection(AutoflightLogic& logic) {
-    logic.lateral = IsTrackSelected() ? kTrackSelect : kHeadingSelect;
-    logic.lateral_armed = kLateralNone;
+// A beam stays armed behind a heading: that is how a pilot is led to it.
+void DisarmLnav(AutoflightLogic& logic) {
+    if (logic.lateral_armed == kLnav) logic.lateral_armed = kLateralNone;
 }
 
 void TakeRequest(AutoflightLogic& logic, const FlightValues& now) {
@@ -66,11 +66,12 @@ void TakeRequest(AutoflightLogic& logic, const FlightValues& now) {
             if (logic.lateral != kLnav) EngageOrArmLnav(logic, now);
             break;
         case kHeadingSelect:
-            SelectDirection(logic);
+            logic.lateral = IsTrackSelected() ? kTrackSelect : kHeadingSelect;
+            DisarmLnav(logic);
             break;
         case kHeadingHold:
             HoldDirection(logic, now);
-            logic.lateral_armed = kLateralNone;
+            DisarmLnav(logic);
             break;
         case kLocalizer:
             logic.lateral_armed = kLocalizer;

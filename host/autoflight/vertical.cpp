@@ -115,11 +115,12 @@ bool IsMachTarget(const AutoflightLogic& logic) {
 }
 
 double TargetSpeed(const AutoflightLogic& logic, const FlightValues& now) {
-    constexpr double kMostMach = 0.89, kSlowestOverStall = 1.2;
+    constexpr double kMostMach = 0.89, kBelowLimit = 8, kSlowestOverStall = 1.2;
     const bool by_route = IsVnav(logic.vertical) && !logic.speed_intervention;
     const double profile = by_route ? VnavSpeedTarget(logic, now) : 0;
     const double target = profile > 0 ? profile : WindowSpeed(now) + (logic.took_off && by_route ? 15 : 0);
-    const double fastest = now.mach > 0.3 ? std::min(NamedValue("TZ_V_MO"), IasOfMach(kMostMach, now)) : 360;
+    const double fastest =
+        now.mach > 0.3 ? std::min(NamedValue("TZ_V_MO") - kBelowLimit, IasOfMach(kMostMach, now)) : 360;
     return std::max(std::min(target, fastest), NamedValue("TZ_V_S") * kSlowestOverStall);
 }
 

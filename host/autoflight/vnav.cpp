@@ -80,6 +80,11 @@ void FollowDescent(AutoflightLogic& logic, const FlightValues& now) {
     }
 }
 
+// Where a descent on the path begins, the speed is taken down that the engines needn't keep up later.
+void WatchDescent(AutoflightLogic& logic, const FlightValues& now) {
+    if (!IsVnavDescending(logic)) logic.entry_ias = now.ias;
+}
+
 void WatchSpeedWindow(AutoflightLogic& logic) {
     const double window = TokenOf(116);
     if (window != logic.window_speed) logic.speed_intervention = true;
@@ -116,6 +121,7 @@ void UpdateVnav(AutoflightLogic& logic, const FlightValues& now) {
         return;
     }
     WatchSpeedWindow(logic);
+    WatchDescent(logic, now);
     if (IsClimb())
         FollowClimb(logic, now);
     else if (IsDescent())
@@ -129,7 +135,11 @@ double VnavSpeedTarget(const AutoflightLogic& logic, const FlightValues& now) {
     const double target = NamedValue("vnav_spd");
     if (logic.took_off && now.radio_altitude < NamedValue("tz_accel_ht")) return 0;
     if (!(target > 0)) return 0;
-    return target < kMostSpeed ? IasOfMach(target, now) : target;
+    if (target >= kMostSpeed) return target;
+    // A Mach that is held all the way down is more and more knots: the path is flown at idle, and thrust
+    // comes only below the speed of its beginning.
+    const double ias = IasOfMach(target, now);
+    return IsVnavDescending(logic) ? std::min(ias, logic.entry_ias) : ias;
 }
 
 double VnavPathAngle(AutoflightLogic& logic, const FlightValues& now, double dt) {

@@ -80,11 +80,15 @@ double DistanceNm(double lat1, double lon1, double lat2, double lon2) {
     return 2 * std::asin(std::min(1.0, std::sqrt(square))) / kRad * 60;
 }
 
-void PrintLogHeading(const Session& session, const std::string& route) {
+void PrintFlightHeading(const Session& session, const std::string& route) {
     std::printf("%s  %s  %s\n\n", ReadVariable(session, "aircraft").c_str(),
                 ReadVariable(session, "airac_cycle_text").c_str(), route.c_str());
-    std::printf("                    TIME            ALTITUDE        IAS             FUEL\n");
-    std::printf("  FIX     VIA       ACTUAL (PLAN)   ACTUAL (PLAN)   ACTUAL (PLAN)   ACTUAL (PLAN)    XTK\n");
+}
+
+void PrintProgress(const std::string& what) {
+    std::printf("  %s  %6.0f ft  %3.0f kt  %s\n", DurationText(world.seconds).c_str(), AircraftNumber("alt"),
+                AircraftNumber("ias"), what.c_str());
+    std::fflush(stdout);
 }
 
 void TakeForecast(const Session& session, FlightLog& log) {
@@ -105,30 +109,40 @@ void TakeForecast(const Session& session, FlightLog& log) {
 }
 
 void LogFix(const Session& session, FlightLog& log) {
-    const std::string fix = ReadVariable(session, "PositionReports[1].leg.ident");
+    PassedFix fix;
+    fix.actual = {ReadVariable(session, "PositionReports[1].leg.ident"), world.seconds, AircraftNumber("alt"),
+                  AircraftNumber("ias"), AircraftNumber("fuel")};
+    fix.via = ReadVariable(session, "PositionReports[1].leg.via");
+    fix.cross_track = ModuleNumber(session, "xtk");
     const auto found = std::find_if(log.forecast.begin(), log.forecast.end(),
-                                    [&](const FixRow& row) { return row.ident == fix; });
+                                    [&](const FixRow& row) { return row.ident == fix.actual.ident; });
+    if (found != log.forecast.end()) {
+        fix.plan = *found;
+        log.forecast.erase(log.forecast.begin(), found + 1);
+    }
+    const double ahead = fix.plan.seconds - log.forecast_seconds;
+    if (log.at_top_of_climb && fix.plan.seconds > 0 && ahead > 0)
+        log.worst_time =
+            std::max(log.worst_time, std::fabs(fix.actual.seconds - fix.plan.seconds) / ahead * 100);
+    PrintProgress(fix.actual.ident);
+    log.passed.push_back(std::move(fix));
+}
+
+void PrintLog(const FlightLog& log) {
     const auto planned = [](double value, const char* form) {
         char text[32] = "-";
         if (value > 0) std::snprintf(text, sizeof text, form, value);
         return std::string(text);
     };
-    FixRow plan;
-    if (found != log.forecast.end()) {
-        plan = *found;
-        log.forecast.erase(log.forecast.begin(), found + 1);
-    }
-    std::printf(
-        "  %-7s %-8s %7s (%s)  %6.0f (%s)  %4.0f (%s)  %7.0f (%s)  %5.2f\n", fix.c_str(),
-        ReadVariable(session, "PositionReports[1].leg.via").c_str(), DurationText(world.seconds).c_str(),
-        plan.seconds > 0 ? DurationText(plan.seconds).c_str() : "-", AircraftNumber("alt"),
-        planned(plan.altitude, "%.0f").c_str(), AircraftNumber("ias"), planned(plan.ias, "%.0f").c_str(),
-        AircraftNumber("fuel"), planned(plan.fuel, "%.0f").c_str(), ModuleNumber(session, "xtk"));
-    std::fflush(stdout);
-    ++log.fixes;
-    const double ahead = plan.seconds - log.forecast_seconds;
-    if (log.at_top_of_climb && plan.seconds > 0 && ahead > 0)
-        log.worst_time = std::max(log.worst_time, std::fabs(world.seconds - plan.seconds) / ahead * 100);
+    std::printf("\n%10s  %-8s %15s %15s %11s %17s %7s\n", "", "", "TIME", "ALTITUDE", "IAS", "FUEL", "");
+    std::printf("  %-8s  %-8s %7s  (plan) %7s  (plan) %4s (plan) %8s  (plan)  %6s\n", "FIX", "VIA", "", "",
+                "", "", "XTK");
+    for (const auto& [via, actual, plan, cross_track] : log.passed)
+        std::printf("  %-8s  %-8s %7s %8s %6.0f %8s %4.0f %6s %8.0f %8s  %6.2f\n", actual.ident.c_str(),
+                    via.c_str(), DurationText(actual.seconds).c_str(),
+                    plan.seconds > 0 ? DurationText(plan.seconds).c_str() : "-", actual.altitude,
+                    planned(plan.altitude, "%.0f").c_str(), actual.ias, planned(plan.ias, "%.0f").c_str(),
+                    actual.fuel, planned(plan.fuel, "%.0f").c_str(), cross_track);
 }
 
 }  // namespace host

@@ -10,10 +10,17 @@
 
 namespace host {
 
-/// What is expected, or was, at one fix. Seconds of the run, ft, kt IAS, lb.
+/// What is expected, or was, at one fix. Seconds of the run, ft, kt IAS, lb; 0 or less = not known.
 struct FixRow {
     std::string ident;
     double seconds = 0, altitude = 0, ias = 0, fuel = 0;
+};
+
+/// A fix that has been passed.
+struct PassedFix {
+    std::string via;
+    FixRow actual, plan;
+    double cross_track = 0;  // nm
 };
 
 struct FlightLog {
@@ -22,7 +29,7 @@ struct FlightLog {
     double forecast_seconds = 0;   // when the forecast was made
     double forecast_fuel = 0;
     bool at_top_of_climb = false;  // the forecast in force was made there
-    int fixes = 0;
+    std::vector<PassedFix> passed;
     // since the top of climb: greatest error of a time over a fix, percent of the time since the forecast
     double worst_time = 0;
     double last_forecast_fuel = 0;
@@ -37,13 +44,18 @@ struct RouteFix {
 /// From the TO fix on.
 std::vector<RouteFix> FixesAhead(const Session& session);
 
-void PrintLogHeading(const Session& session, const std::string& route);
+void PrintFlightHeading(const Session& session, const std::string& route);
+
+/// One line of progress: the time, where the aircraft is, and what has happened.
+void PrintProgress(const std::string& what);
 
 /// Makes the forecast anew from the flight plan as it stands.
 void TakeForecast(const Session& session, FlightLog& log);
 
-/// Prints the fix that has just been passed.
+/// Takes down the fix that has just been passed.
 void LogFix(const Session& session, FlightLog& log);
+
+void PrintLog(const FlightLog& log);
 
 /// A number of the aircraft as AircraftValue names it, and one of the module.
 double AircraftNumber(const char* name);

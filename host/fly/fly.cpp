@@ -74,12 +74,22 @@ void FollowPlan(const Session& session, RouteFlight& route) {
 void KeepLog(const Session& session, RouteFlight& route) {
     if (!route.in_the_air && AircraftNumber("vs") > 300) {
         route.in_the_air = true;
+        PrintProgress("off the ground");
         TakeForecast(session, route.log);
     }
     if (!route.log.at_top_of_climb && route.in_the_air && ModuleNumber(session, "toc") == 1) {
         route.log.at_top_of_climb = true;
+        PrintProgress("top of climb");
         TakeForecast(session, route.log);
     }
+}
+
+void TellPhase(Pilot::Phase phase) {
+    if (phase == Pilot::kDescent) PrintProgress("descent");
+    if (phase == Pilot::kApproach) PrintProgress("approach");
+    if (phase == Pilot::kGoAround) PrintProgress("going around");
+    if (phase == Pilot::kRollout) PrintProgress("touch-down");
+    if (phase == Pilot::kStopped) PrintProgress("stopped");
 }
 
 // Has the pilot act and the log printed, until the aircraft stands on the runway; where none can be landed
@@ -90,7 +100,9 @@ void StepRoute(Session& session, RouteFlight& route) {
     const double to_fix =
         DistanceNm(AircraftNumber("lat"), AircraftNumber("lon"), route.to_lat, route.to_lon);
     const double to_go = to_fix + route.behind_to;
+    const Pilot::Phase before = route.pilot.phase;
     StepPilot(route.pilot, session, to_go);
+    if (route.pilot.phase != before) TellPhase(route.pilot.phase);
     KeepLog(session, route);
     if (!route.pilot.arrival.ils_frequency.empty()) {
         route.arrived = route.pilot.phase == Pilot::kStopped;
@@ -110,6 +122,7 @@ void FlyHeadless(Session& session, RouteFlight& route) {
 
 void PrintEnd(const RouteFlight& route, double wall_seconds) {
     const RunwayEnd& runway = route.pilot.arrival;
+    PrintLog(route.log);
     if (!route.arrived)
         std::printf("\nBroken off");
     else if (route.pilot.phase != Pilot::kStopped)
@@ -122,7 +135,8 @@ void PrintEnd(const RouteFlight& route, double wall_seconds) {
     }
     const double burnt = route.log.start_fuel - AircraftNumber("fuel");
     std::printf(" after %s, %d fixes passed, %.0f lb burned; %.0f times real time\n",
-                DurationText(world.seconds).c_str(), route.log.fixes, burnt, world.seconds / wall_seconds);
+                DurationText(world.seconds).c_str(), static_cast<int>(route.log.passed.size()), burnt,
+                world.seconds / wall_seconds);
     if (!route.arrived || !route.log.at_top_of_climb) return;
     const double planned = route.log.forecast_fuel - route.log.last_forecast_fuel;
     const double since = route.log.forecast_fuel - AircraftNumber("fuel");
@@ -160,7 +174,7 @@ int Fly(const FlyOptions& given) {
     const auto each_second = [&] { StepRoute(session, route); };
     const auto began = std::chrono::steady_clock::now();
     const auto begin = [&] {
-        if (!options.cold) PrintLogHeading(session, options.route);
+        if (!options.cold) PrintFlightHeading(session, options.route);
     };
     if (options.headless) {
         begin();

@@ -189,7 +189,7 @@ void Climb(Pilot& pilot, Session& session, double to_go_nm) {
 
 // The window goes down before the top of descent, which the aircraft then passes by itself.
 void Cruise(Pilot& pilot, Session& session, double to_go_nm) {
-    constexpr double kBeforeDescent = 12, kVnavLate = 12;
+    constexpr double kBeforeDescent = 12, kSteepFeetPerNm = 300;
     if (pilot.by_level_change) SelectSpeed(pilot, session, 280);
     const bool planned = !pilot.by_level_change && Number(session, "dist_to_tod") > 0;
     const bool passed = Number(session, "tod") == 1;
@@ -199,7 +199,7 @@ void Cruise(Pilot& pilot, Session& session, double to_go_nm) {
         pilot.window_reset = true;
         Set(session, kSetAltitude, PlatformAltitude(pilot));
     }
-    const bool late = to_go_nm < DistanceToLevel(PlatformAltitude(pilot)) + 8 - kVnavLate;
+    const bool late = to_go_nm < (Flown().altitude - PlatformAltitude(pilot)) / kSteepFeetPerNm;
     const bool descends = Flown().vertical_speed < -300;
     if (passed && descends) pilot.phase = Pilot::kDescent;
     if (descends || !pilot.window_reset || !(pilot.by_level_change ? plainly_due : late)) return;
@@ -280,7 +280,7 @@ void SteerToFinal(Pilot& pilot, Session& session, const RunwayPosition& here) {
 }
 
 void Descend(Pilot& pilot, Session& session, double to_go_nm) {
-    constexpr double kApproachNm = 30, kVectorsNm = 40;
+    constexpr double kApproachNm = 35, kVectorsNm = 40;
     if (pilot.by_level_change) SelectSpeed(pilot, session, PlainSpeed(290));
     WorkSpeedbrake(pilot, session, to_go_nm);
     if (pilot.arrival.ils_frequency.empty()) return;
@@ -297,7 +297,7 @@ void Configure(Pilot& pilot, Session& session, double miles) {
     struct Step {
         double miles, flaps;
     };
-    constexpr Step kSteps[] = {{22, 0}, {17, 1}, {14, 5}, {9.5, 15}, {7.5, 20}, {6, 30}};
+    constexpr Step kSteps[] = {{32, 0}, {25, 1}, {19, 5}, {10, 15}, {8, 20}, {6, 30}};
     double flaps = -1;
     for (const Step& step : kSteps)
         if (miles < step.miles) flaps = step.flaps;
@@ -342,7 +342,7 @@ void ClimbAway(Pilot& pilot, Session& session) {
 }
 
 void Approach(Pilot& pilot, Session& session, double to_go_nm) {
-    constexpr double kArmNm = 22, kMostCut = 75, kNoTurnsBelow = 600;
+    constexpr double kArmNm = 22, kMostCut = 75, kLastTurnNm = 2, kNoTurnsBelow = 600;
     const RunwayPosition here = PositionBefore(pilot.arrival, Latitude(Flown()), Longitude(Flown()));
     const bool on_final = NamedValue("ap_lat_mode") == kModeLocalizer;
     const double straight = std::hypot(here.before, here.right);
@@ -354,9 +354,16 @@ void Approach(Pilot& pilot, Session& session, double to_go_nm) {
         Configure(pilot, session, miles);
         WorkSpeedbrake(pilot, session, miles);
     }
+    // A route that turns in too late would lead past the beam: the rest is flown by headings.
+    constexpr double kLateNm = 13, kAsideNm = 0.5;
+    if (pilot.approach_armed && straight < kLateNm && std::fabs(here.right) > kAsideNm)
+        pilot.route_lines_up = false;
     if (!pilot.route_lines_up) SteerToFinal(pilot, session, here);
     const double cut = std::fabs(std::remainder(Flown().track - pilot.arrival.course, 360));
-    const bool can_arm = TokenOf(49) > 0 && here.before > 0 && straight < kArmNm && cut < kMostCut;
+    // Near the beam's line, with no more than the last turn ahead.
+    const bool on_last_leg = to_go_nm < straight + kLastTurnNm;
+    const bool can_arm =
+        TokenOf(49) > 0 && on_last_leg && here.before > 0 && straight < kArmNm && cut < kMostCut;
     if (pilot.route_lines_up && !pilot.approach_armed && can_arm) {
         Press(session, "app");
         pilot.approach_armed = true;

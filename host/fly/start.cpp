@@ -76,6 +76,30 @@ double CruiseAltitude(const Session& session) {
     return std::clamp(altitude, kLowest, std::max(most, kLowest));
 }
 
+// What the crew enters before EXEC: the cruise altitude, and the speeds of cost index 60.
+void EnterPerformance(Session& session) {
+    struct Entry {
+        const char* name;
+        double value;
+    };
+    const Entry entries[] = {
+        {"pending_cruise_alt", CruiseAltitude(session)},
+        {"climb_ias", 317},
+        {"climb_mach", 0.835},
+        {"cruise_ias", 317},
+        {"cruise_mach", 0.836},
+        {"descent_ias", 301},
+        {"descent_mach", 0.829},
+        {"climb_mach_manual", 1},
+        {"CruiseMachSelected", 1},
+        {"descent_mach_manual", 1},
+    };
+    for (const Entry& entry : entries)
+        ApplyDeckCommand(
+            session,
+            {.kind = DeckCommand::kStateVariable, .name = entry.name, .text = NumberText(entry.value)});
+}
+
 }  // namespace
 
 bool StartFlight(Session& session, const FlyOptions& options, std::string& error) {
@@ -98,11 +122,13 @@ bool StartFlight(Session& session, const FlyOptions& options, std::string& error
         ShutDownAircraft();
         return true;
     }
+    if (options.wind.size() == 2) {
+        Record(session.recorder, {"wind", NumberText(options.wind[0]), NumberText(options.wind[1])});
+        SetWind(options.wind[0], options.wind[1]);
+    }
     Record(session.recorder, {"route", options.route});
     if (!EnterRoute(session, options.route, error)) return false;
-    ApplyDeckCommand(session, {.kind = DeckCommand::kStateVariable,
-                               .name = "pending_cruise_alt",
-                               .text = NumberText(CruiseAltitude(session))});
+    EnterPerformance(session);
     Record(session.recorder, {"exec"});
     if (!ExecuteRoute(session, error)) return false;
     const Placement at = LinedUp(session);

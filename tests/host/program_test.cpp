@@ -9,6 +9,7 @@
 
 #include <chrono>
 #include <csignal>
+#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -173,6 +174,38 @@ TEST(Program, AFlightThatCannotStartTellsWhyAndLeavesNothing) {
     }
     close(other);
     EXPECT_EQ(TextOf(taken), "mine");
+}
+
+// Whole flights hands off, each to a stop on the runway; one without an approach in its route, which the
+// pilot leads to the final by headings.
+TEST(Program, FliesFromRunwayToRunway) {
+    const Workplace place;
+    const struct {
+        std::vector<std::string> words;
+        std::string stopped;
+    } kFlights[] = {
+        {{}, "Stopped on runway 24R, "},
+        {{"--aircraft", "TZ900-8 RR House", "--route", "KSEA/16L KPDX/10R", "--wind", "250", "100"},
+         "Stopped on runway 10R, "},
+    };
+    for (const auto& flight : kFlights) {
+        std::vector<std::string> words = {"fly", "--headless"};
+        words.insert(words.end(), flight.words.begin(), flight.words.end());
+        EXPECT_EQ(place.Run(words), 0);
+        const std::string printed = place.Printed();
+        const std::size_t at = printed.find(flight.stopped);
+        ASSERT_NE(at, std::string::npos) << printed;
+        double past = 0, aside = 0;
+        ASSERT_EQ(std::sscanf(printed.c_str() + at + flight.stopped.size(),
+                              "%lf ft past the threshold, %lf ft from the centre line", &past, &aside),
+                  2)
+            << printed;
+        EXPECT_GT(past, 3000);
+        EXPECT_LT(past, 10000);
+        EXPECT_LT(aside, 30);
+        EXPECT_EQ(printed.find("going around"), std::string::npos) << printed;
+        EXPECT_TRUE(place.TemporaryIsEmpty());
+    }
 }
 
 }  // namespace
