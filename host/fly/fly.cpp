@@ -29,6 +29,7 @@ struct RouteFlight {
     double behind_to = 0;  // nm from the TO fix to the end
     double nearest = 1e9;
     bool in_the_air = false;
+    bool leads_to_runway = false;  // so that what is predicted is what is flown
     bool arrived = false;
 };
 
@@ -50,7 +51,8 @@ RouteFlight BeginFlight(const Session& session) {
     route.pilot.cruise_ft = ModuleNumber(session, "cruise_alt");
     route.pilot.arrival =
         ReadRunway(session, "dest_airport", static_cast<int>(ModuleNumber(session, "fms_dest_rwy_pos")));
-    route.pilot.route_lines_up = LinesUp(session, route.pilot.arrival, route.last);
+    route.leads_to_runway = LinesUp(session, route.pilot.arrival, route.last);
+    route.pilot.route_lines_up = route.leads_to_runway;
     route.log.start_fuel = AircraftNumber("fuel");
     return route;
 }
@@ -137,7 +139,7 @@ void PrintEnd(const RouteFlight& route, double wall_seconds) {
     std::printf(" after %s, %d fixes passed, %.0f lb burned; %.0f times real time\n",
                 DurationText(world.seconds).c_str(), static_cast<int>(route.log.passed.size()), burnt,
                 world.seconds / wall_seconds);
-    if (!route.arrived || !route.log.at_top_of_climb) return;
+    if (!route.arrived || !route.log.at_top_of_climb || !route.leads_to_runway) return;
     const double planned = route.log.forecast_fuel - route.log.last_forecast_fuel;
     const double since = route.log.forecast_fuel - AircraftNumber("fuel");
     std::printf("Against the prediction at the top of climb: times within %.1f %%, burn %+.1f %%\n",

@@ -240,9 +240,13 @@ void TuneLandingSystem(const Pilot& pilot, Session& session) {
     Set(session, kTuneNav1, bcd);
 }
 
+// With the window turned over to track, so that the wind doesn't matter.
 void Steer(Pilot& pilot, Session& session, double true_track) {
     const double heading = std::round(FoldDegrees(true_track - TokenOf(82)));
-    if (pilot.heading < 0) Press(session, "hdgsel");
+    if (pilot.heading < 0) {
+        SetVariable(session, "TZ_MCP_HDG_TRK_Status", 1);
+        Press(session, "hdgsel");
+    }
     if (heading != pilot.heading) Set(session, kSetHeading, heading);
     pilot.heading = heading;
 }
@@ -256,7 +260,7 @@ struct Gate {
 };
 
 Gate GateOf(const Pilot& pilot, const RunwayPosition& here) {
-    constexpr double kGate = 14, kAside = 6;
+    constexpr double kGate = 16, kAside = 4;
     const double too_high = std::max(Flown().altitude - PlatformAltitude(pilot) - 300, 0.0);
     const double out = kGate + too_high / kFeetPerNm;
     const double side = here.right < 0 ? -kAside : kAside;
@@ -267,11 +271,12 @@ Gate GateOf(const Pilot& pilot, const RunwayPosition& here) {
 
 // Leads to the gate, then across the centre line at an angle until the localizer is captured.
 void SteerToFinal(Pilot& pilot, Session& session, const RunwayPosition& here) {
-    constexpr double kCut = 35, kNearGate = 2, kNearLine = 6, kFarEnough = 12;
+    constexpr double kCut = 40, kNearGate = 2, kJoinNm = 10;
     if (NamedValue("ap_lat_mode") == kModeLocalizer) return;
     const Gate gate = GateOf(pilot, here);
     const bool at_gate = std::hypot(gate.ahead, gate.across) < kNearGate;
-    const bool beside = here.before > kFarEnough && std::fabs(here.right) < kNearLine && gate.is_low;
+    const double joins_at = here.before - std::fabs(here.right) / std::tan(kCut * kRad);
+    const bool beside = joins_at > kJoinNm && joins_at < 2 * kJoinNm && gate.is_low;
     if (!pilot.approach_armed && !at_gate && !beside)
         return Steer(pilot, session, pilot.arrival.course + std::atan2(gate.across, gate.ahead) / kRad);
     Steer(pilot, session, pilot.arrival.course + (here.right < 0 ? kCut : -kCut));
