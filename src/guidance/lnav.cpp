@@ -30,10 +30,6 @@ constexpr double kSequenceNow = -1;  // of wpt_dist
 constexpr double kAirborneFt = 400;  // radio altitude below which the plan stands still
 constexpr double kNoCrossTrack = -99;
 
-const FlightPlanLeg& ToLeg() {
-    return FlightPlanLegAt(plan.active.stpos);
-}
-
 bool IsAirborne() {
     return sim.radio_alt_ft > kAirborneFt;
 }

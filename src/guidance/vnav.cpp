@@ -14,6 +14,7 @@
 #include "guidance/vnav_speed.h"
 #include "navdata/geodesy.h"
 #include "state/autoflight.h"
+#include "state/cdu.h"
 #include "state/cfg.h"
 #include "state/leg_words.h"
 #include "state/lnav.h"
@@ -28,11 +29,6 @@ namespace {
 
 constexpr double kAtLevel = 50, kNearLevel = 100;  // ft
 constexpr double kFarFromFix = 25;                 // nm
-constexpr int kCruisePage = 2, kDescentPage = 3;
-
-const FlightPlanLeg& ToLeg() {
-    return FlightPlanLegAt(plan.active.stpos);
-}
 
 double DistanceTo(double lat, double lon) {
     return GreatCircle(sim.plane_lat, sim.plane_lon, lat, lon).dist;
@@ -42,7 +38,7 @@ void PassTopOfClimb() {
     if (vnav.toc == 1 || sim.ind_alt_ft < perf.cruise_alt - kAtLevel) return;
     vnav.toc = 1;
     vnav.vnav_spd_pending = 0;
-    requests.vnav_phase = kCruisePage;
+    requests.vnav_phase = kVnavCrzPage;
     FindBottomOfDescent(plan.active.stpos);
     SetCrossAtPoint();
 }
@@ -102,7 +98,7 @@ void BeginDescent(bool at_the_top) {
     vnav.toc = vnav.tod = 1;
     vnav.spd_limit_done = 0;
     ++vnav.descent_cnt;
-    requests.vnav_phase = kDescentPage;
+    requests.vnav_phase = kVnavDesPage;
     vnav.tod_stpos = plan.active.stpos;
     FindBottomOfDescent(plan.active.stpos);
     SetCrossAtPoint();

@@ -16,13 +16,10 @@
 namespace {
 
 constexpr int kIasMode = 1, kMachMode = 2;
-constexpr double kNone999 = 999;
+constexpr double kNoLevelAhead = 999;
 constexpr double kNearFix = 25, kNearLevel = 15;  // nm
 constexpr int kTransitionDone = 1, kRestrictionDone = 2;
 
-const FlightPlanLeg& ToLeg() {
-    return FlightPlanLegAt(plan.active.stpos);
-}
 double DistanceTo(double lat, double lon) {
     return GreatCircle(sim.plane_lat, sim.plane_lon, lat, lon).dist;
 }
@@ -67,8 +64,8 @@ double NextLevel() {
 
 double DistanceToLevel(double level) {
     const double rate = std::fabs(sim.vs_fpm);
-    if (rate < 1) return kNone999;
-    return std::min((sim.ind_alt_ft - level) / rate * sim.ground_speed_kt / 60, kNone999);
+    if (rate < 1) return kNoLevelAhead;
+    return std::min((sim.ind_alt_ft - level) / rate * sim.ground_speed_kt / 60, kNoLevelAhead);
 }
 
 bool LevelsOffAhead() {
@@ -78,7 +75,7 @@ bool LevelsOffAhead() {
 }
 
 void MeasureLevelOff() {
-    vnav.level_off_dist = kNone999;
+    vnav.level_off_dist = kNoLevelAhead;
     if (LevelsOffAhead() && perf.cruise_alt > vnav.cross_at_elev)
         vnav.level_off_dist = DistanceToLevel(NextLevel());
 }

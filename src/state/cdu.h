@@ -7,6 +7,9 @@
 #include "state/growing_list.h"
 #include "state/variable.h"
 
+/// Of fms_vnav_page.
+constexpr int kVnavClbPage = 1, kVnavCrzPage = 2, kVnavDesPage = 3;
+
 struct CduMessage {
     std::string title;
     std::string body;  // may hold line feeds
@@ -50,8 +53,8 @@ constexpr int kPageWind = 58;
 /// One CDU. cdu[0] is the captain's, cdu[1] the first officer's: CduOf(side).
 struct CduState {
     int fms_page = 0;
-    int prev_fms_page = 0;       // where a page that settles something goes back to
-    int fms_vnav_page = 1;       // 1 CLB, 2 CRZ, 3 DES
+    int prev_fms_page = 0;  // where a page that settles something goes back to
+    int fms_vnav_page = kVnavClbPage;
     std::string ScratchPad;      // at most 24 characters from the keypad
     std::string ScratchMessage;  // hides the scratchpad while not empty
     int ItemCursor = 0;          // item under the keyboard cursor, 0 = none

@@ -178,3 +178,8 @@ extern const std::span<const Variable> kPlanVariables;
 inline const FlightPlanLeg& FlightPlanLegAt(int index) {
     return std::as_const(plan.active.legs)[index];
 }
+
+/// The leg that is flown to; an empty one without a plan.
+inline const FlightPlanLeg& ToLeg() {
+    return FlightPlanLegAt(plan.active.stpos);
+}
