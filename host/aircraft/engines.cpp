@@ -45,7 +45,7 @@ void StepEngine(Engine& engine, const EngineMake& make, double lever, double mac
     engine.thrust_n = engine.running ? (reverse ? -kTurnedBack * gross : core * core * idle + gross) : 0;
 
     // W. H. Willans' line: a flow that idling alone takes, and from there straight with the thrust.
-    constexpr double kLbfPerNewton = 0.224809, kSpecific = 0.365;  // lb/h for each lbf
+    constexpr double kLbfPerNewton = 0.224809, kSpecific = 0.37;  // lb/h for each lbf
     const double idle_flow = 1100 * density_ratio + 3300 * std::sqrt(density_ratio) * mach;
     engine.fuel_flow =
         engine.running ? make.fuel_factor * (idle_flow + kSpecific * gross * kLbfPerNewton) : 0;

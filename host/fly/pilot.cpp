@@ -22,8 +22,8 @@ constexpr double kReverse = -4096;
 constexpr int kModeVnavSpeed = 5, kModeVnavPath = 6, kModeLocalizer = 7, kModeGlideSlope = 10,
               kModeFlare = 11;
 
-constexpr double kSetUpSeconds = 12, kTakeoffSeconds = 30;
-constexpr double kFeetPerNm = 225;  // of the descent, where nobody plans it
+constexpr double kSetUpSeconds = 3, kTakeoffSeconds = 20;  // of the pilot's work
+constexpr double kFeetPerNm = 225;                         // of the descent, where nobody plans it
 
 void Set(Session& session, int event, double value) {
     ApplyDeckCommand(session,
@@ -46,44 +46,44 @@ double Number(const Session& session, const char* name) {
     return std::atof(ReadVariable(session, name).c_str());
 }
 
-// What a crew has set before the take-off, by the second of the run: the system polls its panels from the
-// eighth on, and a guard must be open when its switch is moved.
+// What a crew has set before the take-off, by the second of its work: a guard must be open when its switch is
+// moved.
 struct Setting {
     int second;
     const char* variable;
     double value;
 };
 constexpr Setting kSettings[] = {
-    {9, "TZ_OH_ECC_L_Guard_Switch", 1},  {9, "TZ_OH_ECC_R_Guard_Switch", 1},
-    {9, "TZ_OH_VENT_Guard_Switch", 1},   {9, "TZ_OH_GENCTL_L1_Button", 1},
-    {9, "TZ_OH_GENCTL_L2_Button", 1},    {9, "TZ_OH_GENCTL_R1_Button", 1},
-    {9, "TZ_OH_GENCTL_R2_Button", 1},    {9, "TZ_OH_CAB_UTIL_Button", 1},
-    {9, "TZ_OH_PASS_SEATS_Button", 1},   {9, "TZ_OH_IRS_LEFT_Switch", 1},
-    {9, "TZ_OH_IRS_RIGHT_Switch", 1},    {9, "TZ_OH_HYD_L_ENG_Button", 1},
-    {9, "TZ_OH_HYD_R_ENG_Button", 1},    {9, "TZ_OH_ELEC_L_Switch", 1},
-    {9, "TZ_OH_ELEC_C1_Switch", 1},      {9, "TZ_OH_ELEC_C2_Switch", 1},
-    {9, "TZ_OH_ELEC_R_Switch", 1},       {9, "TZ_OH_LPUMP_FWD_Button", 1},
-    {9, "TZ_OH_LPUMP_AFT_Button", 1},    {9, "TZ_OH_RPUMP_FWD_Button", 1},
-    {9, "TZ_OH_RPUMP_AFT_Button", 1},    {9, "TZ_OH_CNTRPUMP_L_Button", 1},
-    {9, "TZ_OH_CNTRPUMP_R_Button", 1},   {9, "TZ_OH_ENG_L_START_Switch", 1},
-    {9, "TZ_OH_ENG_R_START_Switch", 1},  {9, "TZ_OH_AC_LPACK_Button", 1},
-    {9, "TZ_OH_AC_RPACK_Button", 1},     {9, "TZ_OH_TRIMAIR_L_Button", 1},
-    {9, "TZ_OH_TRIMAIR_R_Button", 1},    {9, "TZ_OH_EQPCOOL_FWD_Button", 1},
-    {9, "TZ_OH_EQPCOOL_AFT_Button", 1},  {9, "TZ_OH_OV_FWD_Button", 1},
-    {9, "TZ_OH_OV_AFT_Button", 1},       {9, "TZ_OH_FWDCARGO_AC_Button", 1},
-    {9, "TZ_OH_Bulk_Button", 1},         {9, "TZ_OH_WING_ANTICE_Switch", 1},
-    {9, "TZ_OH_AI_L_ENG_Switch", 1},     {9, "TZ_OH_AI_R_ENG_Switch", 1},
-    {9, "TZ_OH_PRMY_L_SIDE_Button", 1},  {9, "TZ_OH_PRMY_L_FWD_Button", 1},
-    {9, "TZ_OH_PRMY_R_FWD_Button", 1},   {9, "TZ_OH_PRMY_R_SIDE_Button", 1},
-    {9, "TZ_OH_WH_LFWD_Button", 1},      {9, "TZ_OH_WH_RFWD_Button", 1},
-    {9, "TZ_OH_SEATB_SIGN_Switch", 1},   {9, "TZ_OH_FD_DOOR_Button", 1},
-    {9, "TZ_OH_LT_BEACON_Button", 1},    {9, "TZ_OH_LT_NAV_Button", 1},
-    {9, "TZ_OH_LT_LOGO_Button", 1},      {9, "TZ_OH_LT_STROBE_Switch", 1},
-    {9, "TZ_MCP_L_FD_Switch", 1},        {9, "TZ_MCP_R_FD_Switch", 1},
-    {10, "TZ_OH_ECC_L_Button", 1},       {10, "TZ_OH_ECC_R_Button", 1},
-    {10, "TZ_OH_AC_VENT_Button", 1},     {11, "TZ_OH_ECC_L_Guard_Switch", 0},
-    {11, "TZ_OH_ECC_R_Guard_Switch", 0}, {11, "TZ_OH_VENT_Guard_Switch", 0},
-    {11, "auto_brake_switch", -1},
+    {0, "TZ_OH_ECC_L_Guard_Switch", 1}, {0, "TZ_OH_ECC_R_Guard_Switch", 1},
+    {0, "TZ_OH_VENT_Guard_Switch", 1},  {0, "TZ_OH_GENCTL_L1_Button", 1},
+    {0, "TZ_OH_GENCTL_L2_Button", 1},   {0, "TZ_OH_GENCTL_R1_Button", 1},
+    {0, "TZ_OH_GENCTL_R2_Button", 1},   {0, "TZ_OH_CAB_UTIL_Button", 1},
+    {0, "TZ_OH_PASS_SEATS_Button", 1},  {0, "TZ_OH_IRS_LEFT_Switch", 1},
+    {0, "TZ_OH_IRS_RIGHT_Switch", 1},   {0, "TZ_OH_HYD_L_ENG_Button", 1},
+    {0, "TZ_OH_HYD_R_ENG_Button", 1},   {0, "TZ_OH_ELEC_L_Switch", 1},
+    {0, "TZ_OH_ELEC_C1_Switch", 1},     {0, "TZ_OH_ELEC_C2_Switch", 1},
+    {0, "TZ_OH_ELEC_R_Switch", 1},      {0, "TZ_OH_LPUMP_FWD_Button", 1},
+    {0, "TZ_OH_LPUMP_AFT_Button", 1},   {0, "TZ_OH_RPUMP_FWD_Button", 1},
+    {0, "TZ_OH_RPUMP_AFT_Button", 1},   {0, "TZ_OH_CNTRPUMP_L_Button", 1},
+    {0, "TZ_OH_CNTRPUMP_R_Button", 1},  {0, "TZ_OH_ENG_L_START_Switch", 1},
+    {0, "TZ_OH_ENG_R_START_Switch", 1}, {0, "TZ_OH_AC_LPACK_Button", 1},
+    {0, "TZ_OH_AC_RPACK_Button", 1},    {0, "TZ_OH_TRIMAIR_L_Button", 1},
+    {0, "TZ_OH_TRIMAIR_R_Button", 1},   {0, "TZ_OH_EQPCOOL_FWD_Button", 1},
+    {0, "TZ_OH_EQPCOOL_AFT_Button", 1}, {0, "TZ_OH_OV_FWD_Button", 1},
+    {0, "TZ_OH_OV_AFT_Button", 1},      {0, "TZ_OH_FWDCARGO_AC_Button", 1},
+    {0, "TZ_OH_Bulk_Button", 1},        {0, "TZ_OH_WING_ANTICE_Switch", 1},
+    {0, "TZ_OH_AI_L_ENG_Switch", 1},    {0, "TZ_OH_AI_R_ENG_Switch", 1},
+    {0, "TZ_OH_PRMY_L_SIDE_Button", 1}, {0, "TZ_OH_PRMY_L_FWD_Button", 1},
+    {0, "TZ_OH_PRMY_R_FWD_Button", 1},  {0, "TZ_OH_PRMY_R_SIDE_Button", 1},
+    {0, "TZ_OH_WH_LFWD_Button", 1},     {0, "TZ_OH_WH_RFWD_Button", 1},
+    {0, "TZ_OH_SEATB_SIGN_Switch", 1},  {0, "TZ_OH_FD_DOOR_Button", 1},
+    {0, "TZ_OH_LT_BEACON_Button", 1},   {0, "TZ_OH_LT_NAV_Button", 1},
+    {0, "TZ_OH_LT_LOGO_Button", 1},     {0, "TZ_OH_LT_STROBE_Switch", 1},
+    {0, "TZ_MCP_L_FD_Switch", 1},       {0, "TZ_MCP_R_FD_Switch", 1},
+    {1, "TZ_OH_ECC_L_Button", 1},       {1, "TZ_OH_ECC_R_Button", 1},
+    {1, "TZ_OH_AC_VENT_Button", 1},     {2, "TZ_OH_ECC_L_Guard_Switch", 0},
+    {2, "TZ_OH_ECC_R_Guard_Switch", 0}, {2, "TZ_OH_VENT_Guard_Switch", 0},
+    {2, "auto_brake_switch", -1},
 };
 
 void SetSwitches(Session& session, int second) {
@@ -140,8 +140,9 @@ double PlainSpeed(double fast) {
 }
 
 void SetUp(Pilot& pilot, Session& session) {
-    SetSwitches(session, static_cast<int>(world.seconds));
-    if (world.seconds < kSetUpSeconds) return;
+    if (pilot.began < 0) pilot.began = world.seconds;
+    SetSwitches(session, static_cast<int>(world.seconds - pilot.began));
+    if (world.seconds - pilot.began < kSetUpSeconds) return;
     SelectFlaps(pilot, session, kTakeoffFlaps);
     Set(session, kSetAltitude, pilot.cruise_ft);
     SelectSpeed(pilot, session, StallSpeedAt(Flown(), kTakeoffFlaps) * 1.2);
@@ -152,7 +153,8 @@ void SetUp(Pilot& pilot, Session& session) {
 void TakeOff(Pilot& pilot, Session& session) {
     constexpr double kGearUp = 50, kAutopilot = 500, kVnavThere = 1500;
     if (Flown().on_ground) {
-        if (NamedValue("at_mode") == 0 && world.seconds > kTakeoffSeconds) Press(session, "clbcon");
+        if (NamedValue("at_mode") == 0 && world.seconds - pilot.began > kTakeoffSeconds)
+            Press(session, "clbcon");
         return;
     }
     if (!pilot.gear_up && HeightOverField() > kGearUp) {

@@ -14,6 +14,7 @@ struct Pilot {
     double cruise_ft = 35000;
     RunwayEnd arrival;           // without a name: nobody lands
     bool route_lines_up = true;  // the route itself leads to the final approach
+    double began = -1;           // second of the run; below 0 = not yet
     // what has been set
     double flaps = 0;              // degrees
     double speed = 0;              // kt, of the speed window

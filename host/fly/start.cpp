@@ -122,6 +122,9 @@ bool StartFlight(Session& session, const FlyOptions& options, std::string& error
         ShutDownAircraft();
         return true;
     }
+    // The system knows the aircraft's weight, and looks at its panels, some seconds after it has come up.
+    constexpr int kComesUp = 10 * 18;  // ticks
+    for (int tick = 0; tick < kComesUp; ++tick) TickSession(session, false);
     if (options.wind.size() == 2) {
         Record(session.recorder, {"wind", NumberText(options.wind[0]), NumberText(options.wind[1])});
         SetWind(options.wind[0], options.wind[1]);
