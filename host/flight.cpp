@@ -1,5 +1,6 @@
 #include "host/flight.h"
 
+#include <algorithm>
 #include <cmath>
 #include <string_view>
 
@@ -78,6 +79,16 @@ void ShutDownAircraft() {
     flight.aircraft.controls.thrust_lever = 0;
     SetToken(kTokenMasterBattery, 0);
     SetToken(kTokenParkingBrake, kBrakeSet);
+    FillTokens(flight.aircraft);
+}
+
+void LoadFuel(double pounds) {
+    for (const FuelTank tank : {kLeftTank, kRightTank, kCentreTank}) {
+        const double share = tank == kLeftTank ? pounds / 2 : pounds;
+        const double loaded = std::clamp(share, 0.0, kTankGallons[tank] * kFuelLbPerGallon);
+        flight.aircraft.fuel_lb[tank] = loaded;
+        pounds -= loaded;
+    }
     FillTokens(flight.aircraft);
 }
 

@@ -35,6 +35,9 @@ void PlaceAircraft(const Placement& placement);
 /// Shuts the aircraft down where it stands: engines off and at rest, the simulator's battery off, brakes set.
 void ShutDownAircraft();
 
+/// Loads so many pounds of fuel, what the tanks take: the mains first, alike, the rest into the centre.
+void LoadFuel(double pounds);
+
 /// The air at the aircraft: the wind's direction is true and the same at all heights.
 void SetWind(double from_deg, double speed_kt);
 void SetOutsideTemperature(double celsius);

@@ -56,9 +56,8 @@ double MaxAltitudeLevel(const Session& session) {
     return answer.good && !answer.results.empty() ? std::atof(answer.results[0].second.c_str()) : 0;
 }
 
-// As high as the way allows: climb and descent take some three hundred miles to 35,000 ft and back.
-double CruiseAltitude(const Session& session) {
-    constexpr double kHighest = 35000, kLowest = 7000, kMilesForHighest = 330, kStep = 1000;
+// Miles along the route that has been entered.
+double RouteMiles(const Session& session) {
     const int last = static_cast<int>(ModuleNumber(session, "mod_cnt"));
     double miles = 0, lat = 0, lon = 0;
     for (int leg = 0; leg <= last; ++leg) {
@@ -70,20 +69,37 @@ double CruiseAltitude(const Session& session) {
         lat = to_lat;
         lon = to_lon;
     }
+    return miles;
+}
+
+// As high as the way allows: climb and descent take some three hundred miles to 35,000 ft and back.
+double CruiseAltitude(const Session& session, double miles) {
+    constexpr double kHighest = 35000, kLowest = 7000, kMilesForHighest = 330, kStep = 1000;
     const double flight_level = MaxAltitudeLevel(session);
     const double most = std::min(kHighest, std::floor(flight_level / 10) * kStep);
     const double altitude = std::floor(kHighest * miles / kMilesForHighest / kStep) * kStep;
     return std::clamp(altitude, kLowest, std::max(most, kLowest));
 }
 
+// For the way and a reserve; what every flight has on board is enough for the shorter ones.
+void LoadFuelFor(Session& session, double miles) {
+    constexpr double kReserve = 35000, kPerMile = 29, kStep = 1000;
+    constexpr int kSensed = 18;  // ticks
+    const double pounds = std::ceil((kReserve + kPerMile * miles) / kStep) * kStep;
+    if (pounds <= FuelOnBoard(flight.aircraft)) return;
+    Record(session.recorder, {"fuel", NumberText(pounds)});
+    LoadFuel(pounds);
+    for (int tick = 0; tick < kSensed; ++tick) TickSession(session, false);
+}
+
 // What the crew enters before EXEC: the cruise altitude, and the speeds of cost index 60.
-void EnterPerformance(Session& session) {
+void EnterPerformance(Session& session, double miles) {
     struct Entry {
         const char* name;
         double value;
     };
     const Entry entries[] = {
-        {"pending_cruise_alt", CruiseAltitude(session)},
+        {"pending_cruise_alt", CruiseAltitude(session, miles)},
         {"climb_ias", 317},
         {"climb_mach", 0.835},
         {"cruise_ias", 317},
@@ -131,7 +147,9 @@ bool StartFlight(Session& session, const FlyOptions& options, std::string& error
     }
     Record(session.recorder, {"route", options.route});
     if (!EnterRoute(session, options.route, error)) return false;
-    EnterPerformance(session);
+    const double miles = RouteMiles(session);
+    LoadFuelFor(session, miles);
+    EnterPerformance(session, miles);
     Record(session.recorder, {"exec"});
     if (!ExecuteRoute(session, error)) return false;
     const Placement at = LinedUp(session);

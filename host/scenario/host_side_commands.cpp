@@ -106,6 +106,9 @@ void Terrain(Scenario& scenario, const std::vector<Word>& words) {
 void Wind(Scenario&, const std::vector<Word>& words) {
     SetWind(NumberWord(words[1], "a direction"), NumberWord(words[2], "a speed in knots"));
 }
+void Fuel(Scenario&, const std::vector<Word>& words) {
+    LoadFuel(NumberWord(words[1], "pounds"));
+}
 void Oat(Scenario&, const std::vector<Word>& words) {
     SetOutsideTemperature(NumberWord(words[1], "degrees Celsius"));
 }
@@ -158,6 +161,7 @@ std::vector<Command> HostSideCommands() {
         {"age", "FILE HOURS", "age Velarion/tz900.cfg 24", Command::kAfter, 2, 2, Age},
         {"terrain", "flat METRES | model", "terrain flat 100", Command::kAnytime, 1, 2, Terrain},
         {"wind", "DIR KT", "wind 270 40", Command::kAnytime, 2, 2, Wind},
+        {"fuel", "LB", "fuel 120000", Command::kAnytime, 1, 1, Fuel},
         {"oat", "C", "oat 15", Command::kAnytime, 1, 1, Oat},
         {"qnh", "HPA", "qnh 1013.25", Command::kAnytime, 1, 1, Qnh},
         {"runways", "ICAO RWY...", "runways KSEA 16L 16R", Command::kAnytime, 1, 5, Runways},
