@@ -1,15 +1,15 @@
 // From a key of the keyboard to the changed scratchpad on the page's canvas, in Chromium on the real page.
 
 import {test} from 'node:test';
-import {openBrowser, openDeck, startHost, untilValue} from '../tests/browser/support.mjs';
+import {openDeck, startHost, untilValue} from '../tests/browser/support.mjs';
 
 const PRESSES = 300;
 const REACH_MS = 120;  // of 99 in 100
 const PERIOD_MS = 1000 / 18;  // the yardstick: one call of the host
 
 test('key to canvas', async (t) => {
-  const host = await startHost(t), browser = await openBrowser(t);
-  const page = await openDeck(t, browser, host.address);
+  const host = await startHost(t);
+  const page = await openDeck(t, host.address);
   await untilValue(page, 'outputs_running', 1);
   const times = await page.evaluate(async (presses) => {
     const canvas = document.querySelector('canvas[data-screen="lower"]');

@@ -7,7 +7,7 @@ import {tmpdir} from 'node:os';
 import {join} from 'node:path';
 import {test} from 'node:test';
 import {setTimeout as wait} from 'node:timers/promises';
-import {openBrowser, openDeck, startHost} from './support.mjs';
+import {openDeck, startHost} from './support.mjs';
 
 const WIDTH = 320, HEIGHT = 240;
 const MEAN = 3;     // of 255, over all pixels
@@ -59,8 +59,8 @@ test('the canvas shows what Cairo paints', async (t) => {
   const folder = mkdtempSync(join(tmpdir(), 'tz900-pictures-'));
   t.after(() => rmSync(folder, {recursive: true}));
   execFileSync(process.env.TZ900_PICTURES, [folder]);
-  const host = await startHost(t), browser = await openBrowser(t);
-  const page = await openDeck(t, browser, host.address, 'screen/debug');
+  const host = await startHost(t);
+  const page = await openDeck(t, host.address, 'screen/debug');
   await page.route('**/image/**', async (route) => {
     await wait(300);
     await route.fulfill({path: join(folder, 'picture.png')});

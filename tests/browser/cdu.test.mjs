@@ -2,15 +2,15 @@
 
 import assert from 'node:assert/strict';
 import {test} from 'node:test';
-import {openBrowser, openDeck, startHost, until, untilValue, valueOf} from './support.mjs';
+import {openDeck, passStart, startHost, until, untilValue, valueOf} from './support.mjs';
 
 const CANVAS = 'canvas[data-screen="lower"]';
 const KEYS = {RTE: [52, 235], LEGS: [52, 259], CLR_MSG: [222, 352], L1: [60, 51], R1: [220, 51], R6: [220, 191]};
 
 async function openFlying(t, options) {
-  const host = await startHost(t), browser = await openBrowser(t);
-  const page = await openDeck(t, browser, host.address, '', options);
-  await untilValue(page, 'outputs_running', 1);  // the cockpit is looked at from the eighth second on
+  const host = await startHost(t);
+  const page = await openDeck(t, host.address, '', options);
+  await passStart(page);
   return page;
 }
 

@@ -2,7 +2,7 @@
 
 import assert from 'node:assert/strict';
 import {test} from 'node:test';
-import {litPixels, openBrowser, openDeck, startHost, until, untilValue, valueOf} from './support.mjs';
+import {litPixels, openDeck, passStart, setRate, startHost, until, untilValue, valueOf} from './support.mjs';
 
 const face = (name) => `[data-name="${name}"] :is(.face, .dial)`;
 const isLit = (page, lamp) => page.evaluate((lamp) =>
@@ -10,13 +10,9 @@ const isLit = (page, lamp) => page.evaluate((lamp) =>
 const number = async (page, name) => Number(await valueOf(page, name));
 
 async function openCold(t) {
-  const host = await startHost(t, '--cold'), browser = await openBrowser(t);
-  const page = await openDeck(t, browser, host.address, '#Overhead');
-  // The system looks at its panels from the eighth second on.
-  await page.click('.rate[data-rate="16"]');
-  await until('the panels to be looked at', async () => Number(await valueOf(page, 'aircraft:alt')) > 0 &&
-      await page.evaluate(() => window.deck.link.values.get('host:clock') > '12:00:12'));
-  await page.click('.rate[data-rate="1"]');
+  const host = await startHost(t, '--cold');
+  const page = await openDeck(t, host.address, '#Overhead');
+  await passStart(page);
   return page;
 }
 
@@ -48,6 +44,7 @@ test('from battery to screens', async (t) => {
   // The lower unit waits for its counter, ten seconds behind the power.
   await page.click('[data-view="Centre"].tab');
   if (await number(page, 'du_lwr_startup_cnt') < 58) assert.equal(await litPixels(page, 'lower'), 0);
+  await setRate(page, 4);
   await until('the lower unit lit', async () => await litPixels(page, 'lower') > 0);
   await untilValue(page, 'du_lwr_startup_cnt', 60, 5);
   await until('the inboard unit lit', async () => await litPixels(page, 'capt_inb') > 0, 200);
@@ -95,8 +92,8 @@ test('on a tablet a long press opens a guard and halves turn a selector', async 
 });
 
 test('every control of the system has its place on a panel', async (t) => {
-  const host = await startHost(t), browser = await openBrowser(t);
-  const page = await openDeck(t, browser, host.address);
+  const host = await startHost(t);
+  const page = await openDeck(t, host.address);
   const missing = await page.evaluate(() => [...window.deck.panels.controls.keys()].filter(
       (name) => !document.querySelector(`[data-name="${name}"], [data-guard="${name}"]`)));
   // By these the model tells an item of a CDU's face, which is clicked on its screen.
@@ -104,10 +101,10 @@ test('every control of the system has its place on a panel', async (t) => {
 });
 
 test('no key stands over another, on a screen or a tablet', async (t) => {
-  const host = await startHost(t, '--cold'), browser = await openBrowser(t);
+  const host = await startHost(t, '--cold');
   const sizes = {false: [[1920, 1080], [1280, 720]], true: [[1180, 820], [1024, 768], [768, 1024]]};
   for (const hasTouch of [false, true]) {
-    const page = await openDeck(t, browser, host.address, '', {hasTouch});
+    const page = await openDeck(t, host.address, '', {hasTouch});
     for (const [width, height] of sizes[hasTouch])
       for (const view of ['Centre', 'Overhead', 'Pedestal']) {
         await page.setViewportSize({width, height});

@@ -3,14 +3,14 @@
 import assert from 'node:assert/strict';
 import {createConnection} from 'node:net';
 import {test} from 'node:test';
-import {linkUp, litPixels, openBrowser, openDeck, setVariable, sleep, startHost, until, untilValue, valueOf} from './support.mjs';
-
+import {linkUp, litPixels, openDeck, passStart, setVariable, sleep, startHost, until, untilValue, valueOf} from './support.mjs';
 
 const isDark = async (page) => await litPixels(page, 'stby') === 0;
 
 test('a lost link blanks the screens within two seconds, and they come back after a restart', async (t) => {
-  const host = await startHost(t), browser = await openBrowser(t);
-  const page = await openDeck(t, browser, host.address);
+  const host = await startHost(t);
+  const page = await openDeck(t, host.address);
+  await passStart(page);
   await until('a lit screen', async () => await litPixels(page, 'stby') > 0);
 
   // A host that hangs sends nothing and closes nothing.
@@ -28,13 +28,14 @@ test('a lost link blanks the screens within two seconds, and they come back afte
   assert.ok(Date.now() - closed < 2500, `dark after ${Date.now() - closed} ms`);
   await startHost(t, '--port', String(host.port));
   await linkUp(page);
+  await passStart(page);
   await until('a lit screen', async () => await litPixels(page, 'stby') > 0);
 });
 
 test('two browsers see each other\'s hand', async (t) => {
-  const host = await startHost(t), browser = await openBrowser(t);
-  const one = await openDeck(t, browser, host.address);
-  const other = await openDeck(t, await openBrowser(t), host.address, '#Inspector');
+  const host = await startHost(t);
+  const one = await openDeck(t, host.address);
+  const other = await openDeck(t, host.address, '#Inspector');
   await one.click('.rate[data-rate="4"]');
   await untilValue(other, 'host:rate', 4);
   await other.click('.pause');
@@ -53,8 +54,9 @@ test('two browsers see each other\'s hand', async (t) => {
 });
 
 test('one screen opens alone and follows its unit', async (t) => {
-  const host = await startHost(t), browser = await openBrowser(t);
-  const page = await openDeck(t, browser, host.address, 'screen/capt_inb', {viewport: {width: 900, height: 600}});
+  const host = await startHost(t);
+  const page = await openDeck(t, host.address, 'screen/capt_inb', {viewport: {width: 900, height: 600}});
+  await passStart(page);
   await until('a lit screen', async () => await litPixels(page, 'capt_inb') > 0, 120);
   assert.deepEqual(await page.evaluate(() => [...document.body.children].map((child) => child.tagName)), ['CANVAS']);
   assert.deepEqual(await page.evaluate(() => {
@@ -68,8 +70,9 @@ test('one screen opens alone and follows its unit', async (t) => {
 });
 
 test('a click on a screen reaches what lies there', async (t) => {
-  const host = await startHost(t), browser = await openBrowser(t);
-  const page = await openDeck(t, browser, host.address);
+  const host = await startHost(t);
+  const page = await openDeck(t, host.address);
+  await passStart(page);
   await until('a lit screen', async () => await litPixels(page, 'lower') > 0);
   const click = async (x, y) => {
     const box = await page.locator('canvas[data-screen=lower]').boundingBox();
@@ -84,22 +87,22 @@ test('a click on a screen reaches what lies there', async (t) => {
 });
 
 test('a page left open does not grow', async (t) => {
-  const host = await startHost(t, '--rate', '16'), browser = await openBrowser(t);
-  const page = await openDeck(t, browser, host.address);
+  const host = await startHost(t, '--rate', '16');
+  const page = await openDeck(t, host.address);
   const session = await page.context().newCDPSession(page);
   const held = async () => {
     await session.send('HeapProfiler.collectGarbage');
     const {nodes, jsEventListeners} = await session.send('Memory.getDOMCounters');
     return {nodes, jsEventListeners, heap: (await session.send('Runtime.getHeapUsage')).usedSize};
   };
-  await sleep(2000);
+  await sleep(1000);
   const before = await held();
   for (let i = 0; i < 4; ++i)
     for (const view of ['Overhead', 'Inspector', 'Centre']) {
       await page.click(`[data-view="${view}"].tab`);
-      await sleep(250);
+      await sleep(100);
     }
-  await sleep(4000);
+  await sleep(2000);
   const after = await held();
   assert.ok(after.nodes <= before.nodes + 50, `nodes ${before.nodes} to ${after.nodes}`);
   assert.ok(after.jsEventListeners <= before.jsEventListeners + 20,
@@ -131,8 +134,8 @@ const REFUSED = [
 ];
 
 test('a bad message closes its own link with a reason', async (t) => {
-  const host = await startHost(t), browser = await openBrowser(t);
-  const page = await openDeck(t, browser, host.address);
+  const host = await startHost(t);
+  const page = await openDeck(t, host.address);
   const closing = (message) => page.evaluate((message) => new Promise((done) => {
     const socket = new WebSocket(`ws://${location.host}/socket`);
     socket.onopen = () => socket.send(typeof message === 'string' ? message : new Uint8Array(message));
@@ -200,8 +203,8 @@ test('who may come, and what there is', async (t) => {
 });
 
 test('a browser that stops reading costs the host nothing', async (t) => {
-  const host = await startHost(t), browser = await openBrowser(t);
-  const page = await openDeck(t, browser, host.address);
+  const host = await startHost(t);
+  const page = await openDeck(t, host.address);
   const deaf = createConnection(host.port, '127.0.0.1');
   t.after(() => deaf.destroy());
   deaf.on('error', () => {});

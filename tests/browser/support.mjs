@@ -1,9 +1,10 @@
-// A host of its own for each test, and Chromium to look at its page. Machines may be slow: tests wait for what
-// they expect, and give it time.
+// A host of its own for each test, and a Chromium for each file to look at its page. Machines may be slow: tests wait
+// for what they expect, and give it time.
 
 import assert from 'node:assert/strict';
 import {spawn} from 'node:child_process';
 import {existsSync} from 'node:fs';
+import {after} from 'node:test';
 
 const CHROMIUM = process.env.CHROMIUM ?? '/usr/bin/chromium';
 const SKIPPED = 77;
@@ -50,19 +51,23 @@ export async function startHost(t, ...options) {
   return {address, port: Number(new URL(address).port), stop, pid: process_.pid, told: () => told};
 }
 
-export async function openBrowser(t) {
-  const browser = await playwright.chromium.launch({
+let browser;
+after(async () => (await browser)?.close());
+
+/** The file's browser. Each page has a profile of its own in it. */
+export function openBrowser() {
+  browser ??= playwright.chromium.launch({
     executablePath: CHROMIUM,
     args: ['--headless', '--no-sandbox', '--disable-gpu', '--disable-quic', '--no-first-run',
            '--disable-background-networking', '--disable-component-update', '--disable-sync'],
   });
-  t.after(() => browser.close());
   return browser;
 }
 
-/** A page of the flight deck, its link up. What goes wrong in it fails the test. */
-export async function openDeck(t, browser, address, path = '', options = {}) {
-  const page = await browser.newPage({viewport: {width: 1920, height: 1080}, ...options});
+/** A page of the flight deck, its link up, until the test `t` ends. What goes wrong in it fails the test. */
+export async function openDeck(t, address, path = '', options = {}) {
+  const page = await (await openBrowser()).newPage({viewport: {width: 1920, height: 1080}, ...options});
+  t.after(() => page.close());
   page.setDefaultTimeout(60000);
   page.on('pageerror', (error) => assert.fail(`the page: ${error.message}`));
   await page.goto(address + path);
@@ -71,6 +76,15 @@ export async function openDeck(t, browser, address, path = '', options = {}) {
 }
 
 export const linkUp = (page) => until('the link', () => page.evaluate(() => window.deck?.link.live === true));
+
+export const setRate = (page, value) => page.evaluate((value) => window.deck.link.send({type: 'rate', value}), value);
+
+/** Lets the eight seconds go by at once after which the system looks at its panels and lights its screens. */
+export async function passStart(page) {
+  await setRate(page, 32);
+  await untilValue(page, 'outputs_running', 1);
+  await setRate(page, 1);
+}
 
 /** What the page knows of a value that it watches. */
 export const valueOf = (page, name) => page.evaluate((name) => {
