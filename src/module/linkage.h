@@ -45,18 +45,18 @@ struct InspectionTable {
     int (*picture_png)(const char* gauge, double scale, ByteSink sink, void* context);
     /// The font families by the numbers of the picture form: family, font file.
     int (*list_fonts)(ResultSink sink, void* context);
-    /// Every control of the cockpit, in the order of the poll: its named variable, "CLASS SET MIN MAX GUARD STATE".
-    /// CLASS: latching, momentary (springs back to 0), switch (stops at MIN and MAX), rotary (goes on beyond
-    /// MAX at MIN), knob (toggles), guarded (stays in once pressed), guard (0 shut, 1 open), mirrored (only
-    /// read). GUARD: the variable of the guard that must stand at 1, or "-". STATE: the state variable that
-    /// keeps its position, for read_variable; "-" for a momentary key, which has none.
+    /// Every control of the cockpit, in the order of the poll: its named variable, "CLASS SET MIN MAX GUARD
+    /// STATE". CLASS: latching, momentary (springs back to 0), switch (stops at MIN and MAX), rotary (goes on
+    /// beyond MAX at MIN), knob (toggles), guarded (stays in once pressed), guard (0 shut, 1 open), mirrored
+    /// (only read). GUARD: the variable of the guard that must stand at 1, or "-". STATE: the state variable
+    /// that keeps its position, for read_variable; "-" for a momentary key, which has none.
     int (*list_controls)(ResultSink sink, void* context);
     /// CLR MSG of a side's CDU (1 or 2), the one key of it that no variable of the cockpit stands for.
     int (*press_clear_message)(int side);
     /// The bytes of a picture file that came as a stream, by the name that pictures give it. Any thread.
     int (*stream_image)(const char* name, ByteSink sink, void* context);
-    /// The named variables that the module expects to exist and doesn't register: the aircraft's model and its
-    /// other gauges bring them along. The name, nothing.
+    /// The named variables that the module expects to exist and doesn't register: the aircraft's model and
+    /// its other gauges bring them along. The name, nothing.
     int (*list_model_variables)(ResultSink sink, void* context);
 };
 

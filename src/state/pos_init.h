@@ -7,7 +7,7 @@
 
 /// What the crew has entered about where the aircraft stands.
 struct PosInitState {
-    std::string RefAirport;                     // reference airport, empty = none
+    std::string RefAirport;  // reference airport, empty = none
     // degrees, given to the inertial reference units; a latitude of exactly 0 = none
     double InertialEntryLat = 0, InertialEntryLon = 0;
 };
