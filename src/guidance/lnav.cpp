@@ -96,20 +96,20 @@ double CourseOfNextLeg() {
 
 void UpdateWaypointChangeDistance() {
     if (plan.active.stpos >= plan.active.leg_cnt) return;
-    constexpr double kFlyOverSeconds = 8, kTurnMattersNm = 15;
+    constexpr double kTurnMattersNm = 15;
     if (ToLeg().flyover == 1) {
         lnav.turn_code = kTurnOfFlyOverFix;
-        lnav.wpt_chg_dist = sim.ground_speed_kt / 3600 * kFlyOverSeconds;
+        lnav.wpt_chg_dist = FlyOverDistance(sim.ground_speed_kt);
         return;
     }
     if (lnav.wpt_dist >= kTurnMattersNm) {
         lnav.turn_code = kTurnOfFarFix;
         return;
     }
-    lnav.turn_angle = AngleBetween(lnav.leg_crs, CourseOfNextLeg());
-    lnav.turn_code = lnav.turn_angle;
-    lnav.turn_radius = TurnRadiusForGroundSpeed();
-    lnav.wpt_chg_dist = WaypointChangeDistance(lnav.turn_angle, lnav.turn_radius);
+    const FixTurn turn = TurnAtFix(lnav.leg_crs, CourseOfNextLeg(), sim.ground_speed_kt);
+    lnav.turn_code = lnav.turn_angle = turn.angle;
+    lnav.turn_radius = turn.radius;
+    lnav.wpt_chg_dist = turn.begins;
     if (lnav.turn_angle > 120 && lnav.wpt_chg_dist > 5 && lnav.wpt_dist > 5)
         lnav.wpt_chg_dist = lnav.wpt_dist * 0.5;
 }

@@ -1,6 +1,7 @@
 #include "module/tick_outputs.h"
 
 #include "cdu/unit/exec_lamps.h"
+#include "display/nd/nd_memory.h"
 #include "display/pictures/remote_bridge.h"
 #include "display/routing/routing.h"
 #include "fmc/performance/published_values.h"
@@ -89,6 +90,7 @@ void TickOutputs(bool ticked) {
     StepIrs();
     PublishGuidance();
     ReadAutoflightModes();
+    if (ticked) StepNdMemory();
     if (ticked) StepPhases(time_base.tick_phase);
     TakeDisplaySelector();
     if (time_base.frame_phase % 2 == 0) ReadModelValues();

@@ -1,6 +1,7 @@
 #include "state/nd.h"
 
 std::array<NdSide, 2> nd;
+NdMemory nd_memory;
 
 namespace {
 constexpr Variable kRows[] = {
@@ -55,6 +56,13 @@ constexpr Variable kRows[] = {
     {"capt.nd_cursor_y", &nd[0].nd_cursor_y},
     {"fo.nd_cursor_y", &nd[1].nd_cursor_y},
 };
+constexpr Variable kMemoryRows[] = {
+    {"hdg_sel_timer", &nd_memory.hdg_sel_timer},
+    {"ref_change_timer", &nd_memory.ref_change_timer},
+    {"selected_before", &nd_memory.selected_before},
+    {"true_before", &nd_memory.true_before},
+};
 }  // namespace
 
 const std::span<const Variable> kNdVariables = kRows;
+const std::span<const Variable> kNdMemoryVariables = kMemoryRows;

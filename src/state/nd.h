@@ -25,6 +25,17 @@ struct NdSide {
     int nd_cursor_x = 0, nd_cursor_y = 0;  // from the half's upper left corner
 };
 
+/// What both navigation displays remember from picture to picture.
+struct NdMemory {
+    int hdg_sel_timer = 0;       // ticks left since the selected heading or track has changed
+    int ref_change_timer = 0;    // ticks left since the heading reference has changed
+    double selected_before = 0;  // degrees, at the previous tick
+    int true_before = 0;         // the reference was true
+};
+
+extern NdMemory nd_memory;
+extern const std::span<const Variable> kNdMemoryVariables;
+
 /// nd[0] is the captain's, nd[1] the first officer's: NdOf(side).
 extern std::array<NdSide, 2> nd;
 extern const std::span<const Variable> kNdVariables;

@@ -7,6 +7,7 @@ constexpr Variable kRows[] = {
     {"RefAirport", &pos_init.RefAirport},
     {"InertialEntryLat", &pos_init.InertialEntryLat},
     {"InertialEntryLon", &pos_init.InertialEntryLon},
+    {"RnpEntry", &pos_init.RnpEntry},
 };
 }  // namespace
 

@@ -10,6 +10,7 @@ struct PosInitState {
     std::string RefAirport;  // reference airport, empty = none
     // degrees, given to the inertial reference units; a latitude of exactly 0 = none
     double InertialEntryLat = 0, InertialEntryLon = 0;
+    double RnpEntry = 1;  // nm, the navigation performance that is required
 };
 
 extern PosInitState pos_init;

@@ -8,6 +8,7 @@
 #include "state/displays.h"
 #include "state/efb.h"
 #include "state/electrical.h"
+#include "state/fix_info.h"
 #include "state/flight_log.h"
 #include "state/host_link.h"
 #include "state/identity.h"
@@ -93,6 +94,8 @@ constexpr StateGroup kGroups[] = {
      "systems/ display/routing/ display/formats/ display/pictures/compose"},
     {"nd", Reset<&nd>, &kNdVariables,
      "frame/named_variable_catalogue cdu/pages/legs_page display/routing/nd_controls display/formats/nd"},
+    {"nd_memory", Reset<&nd_memory>, &kNdMemoryVariables, "display/nd/nd_memory"},
+    {"fix_info", Reset<&fix_info>, &kFixInfoVariables, ""},
     {"instruments", Reset<&instruments>, &kInstrumentVariables,
      "frame/named_variable_catalogue guidance/decision_height display/routing/instrument_controls"},
     {"efb", Reset<&efb>, &kEfbVariables, "efb/tablet_input"},

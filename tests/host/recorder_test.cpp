@@ -166,7 +166,7 @@ TEST(Recorder, PlaysBackToTheSameState) {
         FlyALittle(session);
         const std::string texts = TextsOf(session), state = StateOf(session);
         StopSession(session);
-        EXPECT_EQ(texts.find("\"ND\"") == std::string::npos, cold) << texts;
+        EXPECT_EQ(texts.find("\"RANGE\"") == std::string::npos, cold) << texts;
 
         world = {};
         flight = {};

@@ -2,11 +2,12 @@
 
 #include "base/area.h"
 #include "display/formats/touch.h"
-#include "display/formats/unbuilt.h"
+#include "display/nd/nd_picture.h"
+#include "display/routing/modes.h"
 #include "state/nd.h"
 
 void DrawNd(Graphics& graphics, const ContentPlace& place) {
-    DrawFormatName(graphics, place, "ND");
+    DrawNdPicture(graphics, place.side, place.half, place.mode == kModeWideNd);
 }
 
 void TouchNd(const FormatTouch& at) {

@@ -11,18 +11,27 @@
 
 namespace {
 
-constexpr int kMap = 3, kPlan = 4;
 constexpr int kOff = 0, kByButton = 2;
 constexpr std::array kRanges = {0.5,  1.0,  2.0,   5.0,   10.0,  20.0,
                                 40.0, 80.0, 160.0, 320.0, 640.0, 1280.0};  // nm
 constexpr int kLastRange = static_cast<int>(kRanges.size()) - 1;
 
+double RangeAt(int knob) {
+    return kRanges[static_cast<std::size_t>(std::clamp(knob, 0, kLastRange))];
+}
+
 }  // namespace
+
+double SelectedRange(int side) {
+    const NdSide& display = NdOf(side);
+    const bool is_range = std::ranges::find(kRanges, display.rng_nm) != kRanges.end();
+    return is_range ? display.rng_nm : RangeAt(display.rng_knob);
+}
 
 void FollowRangeKnob(int side) {
     NdSide& display = NdOf(side);
     display.rng_knob = std::clamp(display.rng_knob, 0, kLastRange);
-    display.rng_nm = kRanges[static_cast<std::size_t>(display.rng_knob)];
+    display.rng_nm = RangeAt(display.rng_knob);
 }
 
 void TurnRangeKnob(int side, int steps) {
@@ -35,7 +44,7 @@ void TurnRangeKnob(int side, int steps) {
 void SelectNdMode(int side, int mode) {
     NdSide& display = NdOf(side);
     display.nd_mode = mode;
-    if (mode != kPlan) return;
+    if (mode != kNdPlan) return;
     display.plan_step = 0;
     if (display.plan_lat == 0 && display.plan_lon == 0) {
         display.plan_lat = sim.plane_lat;
@@ -45,7 +54,7 @@ void SelectNdMode(int side, int mode) {
 
 void FollowNdKnob(int side) {
     const int knob = side == kCaptain ? cockpit.TZ_MCP_L_NDMAP_Knob : cockpit.TZ_MCP_R_NDMAP_Knob;
-    SelectNdMode(side, knob == 0 ? kMap : kPlan);
+    SelectNdMode(side, knob == 0 ? kNdMap : kNdPlan);
 }
 
 void ToggleNdCentre(int side) {

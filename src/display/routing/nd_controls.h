@@ -2,6 +2,11 @@
 
 // What the navigation display's controls of a side (kCaptain, kFirstOfficer) do.
 
+constexpr int kNdMap = 3, kNdPlan = 4;  // of nd_mode
+
+/// The range that a side's map is drawn with: rng_nm, or that of the knob's position where it is no range.
+double SelectedRange(int side);
+
 /// Sets the range by the range knob's position, 0 to 11.
 void FollowRangeKnob(int side);
 

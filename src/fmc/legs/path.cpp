@@ -83,6 +83,17 @@ double WaypointChangeDistance(double angle, double radius) {
     return BaseDistance(angle, radius, speed) + SpeedTerm(speed);
 }
 
+FixTurn TurnAtFix(double course_in, double course_out, double speed) {
+    FixTurn turn{.angle = AngleBetween(course_in, course_out), .radius = TurnRadius(speed)};
+    turn.begins = BaseDistance(turn.angle, turn.radius, speed) + SpeedTerm(speed);
+    return turn;
+}
+
+double FlyOverDistance(double speed) {
+    constexpr double kSecondsBefore = 8;
+    return speed / 3600 * kSecondsBefore;
+}
+
 LegPosition LocateOnLeg(double lat, double lon, double from_lat, double from_lon, double to_lat,
                         double to_lon) {
     LegPosition position;

@@ -16,6 +16,17 @@ constexpr double kTurnOfFlyOverFix = -2;  // the fix is overflown before the tur
 /// `angle` may be one of the two codes above. The factors are a fit to how this aircraft turns.
 double WaypointChangeDistance(double angle, double radius);
 
+/// The turn at a fix as LNAV flies it, and so as it is drawn.
+struct FixTurn {
+    int angle = 0;      // whole degrees
+    double radius = 0;  // nm
+    double begins = 0;  // nm before the fix
+};
+/// The turn from a course into another at a ground speed (kt).
+FixTurn TurnAtFix(double course_in, double course_out, double speed);
+/// How far (nm) before a fix that is overflown the next leg begins.
+double FlyOverDistance(double speed);
+
 /// Where an aircraft stands against the great circle between two points.
 struct LegPosition {
     double leg_len = 0;         // between the points

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <array>
+#include <span>
+
+#include "display/nd/map_view.h"
+#include "fmc/legs/path.h"
+
+/// The line that a turn at a fix draws: from where the leg before is left to where the next one is joined.
+struct TurnShape {
+    std::array<PaintPoint, 40> points;
+    std::size_t count = 0;  // 0: a plain corner
+    double leaves = 0;      // units before the fix
+    double joins = 0;       // units behind it
+    std::span<const PaintPoint> All() const { return {points.data(), count}; }
+};
+
+/// Between the places before and behind a fix, as they stand on a map of `scale` units per nm. The turn takes
+/// `room` units of the leg before at most.
+TurnShape ShapeTurn(MapPoint before, MapPoint fix, MapPoint after, const FixTurn& turn, bool fly_over,
+                    double scale, double room);

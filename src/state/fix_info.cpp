@@ -1,0 +1,11 @@
+#include "state/fix_info.h"
+
+FixInfoState fix_info;
+
+namespace {
+constexpr Variable kRows[] = {
+    {"FixPages", &fix_info.FixPages},
+};
+}  // namespace
+
+const std::span<const Variable> kFixInfoVariables = kRows;
