@@ -28,10 +28,10 @@ void RemoveNames(const std::string& names) {
         sem_unlink((names + name).c_str());
 }
 
-constexpr std::string_view kPrivatePrefix = "tz900.";  // the process id follows, and a point
+constexpr std::string_view kPrivateNamePrefix = "tz900.";  // the process id follows, and a point
 
 std::string PrivateNames() {
-    return "/" + std::string(kPrivatePrefix) + std::to_string(getpid()) + ".";
+    return "/" + std::string(kPrivateNamePrefix) + std::to_string(getpid()) + ".";
 }
 
 // Processes that were killed left their private names to the machine, which shows them as files.
@@ -41,8 +41,8 @@ void RemoveNamesOfTheDead() {
     for (const auto& entry : std::filesystem::directory_iterator("/dev/shm", error)) {
         std::string name = entry.path().filename();
         if (name.starts_with(kSemaphore)) name.erase(0, kSemaphore.size());
-        if (!name.starts_with(kPrivatePrefix)) continue;
-        if (IsProcessGone(std::atoi(name.c_str() + kPrivatePrefix.size())))
+        if (!name.starts_with(kPrivateNamePrefix)) continue;
+        if (IsProcessGone(std::atoi(name.c_str() + kPrivateNamePrefix.size())))
             std::filesystem::remove(entry.path(), error);
     }
 }

@@ -35,7 +35,7 @@ bool TakeValue(const std::string& line, const std::string& key, std::string& val
     return true;
 }
 
-constexpr std::string_view kPrivatePrefix = "tz900-root-";  // the process id follows, and a hyphen
+constexpr std::string_view kPrivateRootPrefix = "tz900-root-";  // the process id follows, and a hyphen
 
 void RemoveRootsOfTheDead(const fs::path& temporary) {
     std::error_code failed, ignored;
@@ -43,8 +43,9 @@ void RemoveRootsOfTheDead(const fs::path& temporary) {
          entry.increment(failed)) {
         const std::string name = entry->path().filename();
         int process = 0;
-        if (name.starts_with(kPrivatePrefix) &&
-            std::sscanf(name.c_str() + kPrivatePrefix.size(), "%d-", &process) == 1 && IsProcessGone(process))
+        if (name.starts_with(kPrivateRootPrefix) &&
+            std::sscanf(name.c_str() + kPrivateRootPrefix.size(), "%d-", &process) == 1 &&
+            IsProcessGone(process))
             fs::remove_all(entry->path(), ignored);
     }
 }
@@ -83,7 +84,7 @@ bool MakePrivateRoot(const std::string& demo_root, std::string& root, std::strin
     }
     const fs::path temporary = fs::temp_directory_path(failed);
     RemoveRootsOfTheDead(temporary);
-    std::string name = temporary / (std::string(kPrivatePrefix) + std::to_string(getpid()) + "-XXXXXX");
+    std::string name = temporary / (std::string(kPrivateRootPrefix) + std::to_string(getpid()) + "-XXXXXX");
     if (failed || mkdtemp(name.data()) == nullptr) {
         error = "no temporary folder can be made";
         return false;

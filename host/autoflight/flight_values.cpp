@@ -7,9 +7,7 @@
 #include "host/world/world.h"
 
 namespace host {
-namespace {
-constexpr double kFeetPerMinutePerKnot = 6076.115 / 60;
-}  // namespace
+namespace {}  // namespace
 
 double Difference(double from, double to) {
     const double clockwise = FoldDegrees(to - from);

@@ -2,6 +2,8 @@
 
 namespace host {
 
+constexpr double kFeetPerMinutePerKnot = 6076.115 / 60;
+
 /// What the autopilot measures, from tokens and expressions. Degrees, knots, feet; right, up and climb
 /// positive.
 struct FlightValues {

@@ -56,7 +56,7 @@ void DisarmLnav(AutoflightLogic& logic) {
     if (logic.lateral_armed == kLnav) logic.lateral_armed = kLateralNone;
 }
 
-void TakeRequest(AutoflightLogic& logic, const FlightValues& now) {
+void TakeLateralRequest(AutoflightLogic& logic, const FlightValues& now) {
     const int request = PanelRequest("ap_lat_mode_clicked");
     const int last = logic.lnav_request;
     logic.lnav_request = request;
@@ -125,7 +125,7 @@ void GoAroundLaterally(AutoflightLogic& logic, const FlightValues& now) {
 }
 
 void UpdateLateralMode(AutoflightLogic& logic, const FlightValues& now) {
-    TakeRequest(logic, now);
+    TakeLateralRequest(logic, now);
     CaptureLnav(logic, now);
     // Exactly on the track there is no side of it, which is no reason to let go.
     if (!HasRoute()) DropLnav(logic, now);

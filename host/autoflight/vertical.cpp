@@ -12,7 +12,6 @@
 namespace host {
 namespace {
 
-constexpr double kFeetPerMinutePerKnot = 6076.115 / 60;
 constexpr double kGravityKt = 19.0625;  // kt/s
 // An altitude is closed in on exponentially: with this time the pull stays below a tenth of the gravity.
 constexpr double kCaptureTime = 8;
@@ -66,7 +65,7 @@ constexpr Request kRequests[] = {
     {kVerticalToGa, GoAround},
 };
 
-void TakeRequest(AutoflightLogic& logic, const FlightValues& now) {
+void TakeVerticalRequest(AutoflightLogic& logic, const FlightValues& now) {
     const int request = PanelRequest("ap_vert_mode_clicked");
     if (request == 0) return;
     SetNamedValue("ap_vert_mode_clicked", 0);
@@ -150,7 +149,7 @@ double PathForSpeed(const AutoflightLogic& logic, const FlightValues& now, doubl
 }
 
 void UpdateVerticalMode(AutoflightLogic& logic, const FlightValues& now) {
-    TakeRequest(logic, now);
+    TakeVerticalRequest(logic, now);
     UpdateVnav(logic, now);
     CaptureSelectedAltitude(logic, now);
     if (IsChangingLevel(logic.vertical) && logic.vertical_armed == kVerticalNone)

@@ -41,7 +41,7 @@ void HoldLevel(AutoflightLogic& logic, double altitude) {
     logic.held_altitude = altitude;
 }
 
-void Engage(AutoflightLogic& logic, const FlightValues& now) {
+void EngageVnav(AutoflightLogic& logic, const FlightValues& now) {
     logic.speed_intervention = false;
     logic.window_speed = TokenOf(116);
     logic.slope_bias = 0;
@@ -110,12 +110,12 @@ void RequestVnav(AutoflightLogic& logic, const FlightValues& now) {
     else if (now.on_ground || now.radio_altitude < kEngageFt)
         logic.vertical_armed = kVnavSpeed;
     else
-        Engage(logic, now);
+        EngageVnav(logic, now);
 }
 
 void UpdateVnav(AutoflightLogic& logic, const FlightValues& now) {
     if (logic.vertical_armed == kVnavSpeed && !now.on_ground && now.radio_altitude >= kEngageFt)
-        Engage(logic, now);
+        EngageVnav(logic, now);
     if (!IsVnav(logic.vertical)) {
         logic.speed_intervention = false;
         return;

@@ -19,9 +19,9 @@
 namespace {
 
 constexpr int kMaxAirframes = 8000;
-constexpr std::size_t kMaxLine = 500;
+constexpr std::size_t kMaxAircraftCfgLine = 500;
 constexpr std::size_t kMaxCfgBytes = 4 << 20;
-constexpr int kPayloadStations = 20;
+constexpr int kAircraftStations = 20;
 
 constexpr FlapSpeedRow kFlapSpeeds[] = {
     {500000, 245, 226, 205, 178, 173, 169, 165}, {480000, 242, 222, 202, 177, 172, 165, 162},
@@ -60,7 +60,7 @@ void StoreLine(std::string_view line, AirframeSection& section) {
 bool FindTitle(std::string_view text, AirframeSection& section) {
     bool in_airframe = false;
     while (const auto next = NextLine(text)) {
-        const std::string line = LowerCase(Trimmed(next->substr(0, kMaxLine)));
+        const std::string line = LowerCase(Trimmed(next->substr(0, kMaxAircraftCfgLine)));
         if (line.starts_with('[')) {
             if (in_airframe && section.title == identity.aircraft) return true;
             in_airframe = line.starts_with("[fltsim.");
@@ -93,7 +93,7 @@ void TakeIdentity(const AirframeSection& section) {
 
 double SumOfPayloadStations() {
     double sum = 0;
-    for (int station = 1; station <= kPayloadStations; ++station) {
+    for (int station = 1; station <= kAircraftStations; ++station) {
         char expression[64];
         std::snprintf(expression, sizeof expression, "(A:Payload Station Weight:%d,pounds)", station);
         const double weight = EvalCalc(expression);

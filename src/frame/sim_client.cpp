@@ -20,7 +20,7 @@ constexpr int kDataRightMain = 2;
 constexpr int kDataLeftMain = 3;
 constexpr int kDataCentre = 8;
 constexpr int kDataPayloadFirst = 13;  // stations 1 to 5
-constexpr int kPayloadStations = 5;
+constexpr int kWrittenStations = 5;
 
 constexpr int kEventSound = 11;
 constexpr int kEventPause = 12;
@@ -135,7 +135,7 @@ void OnEvent(int id, int data) {
             Host().save_flight("SaveTest", "ST Title", "ST Descr");
             break;
         case kClientEventPayload:
-            for (int station = 1; station <= kPayloadStations; ++station)
+            for (int station = 1; station <= kWrittenStations; ++station)
                 SetQuantity(kDataPayloadFirst + station - 1,
                             weights.payload_stations[static_cast<std::size_t>(station)]);
             break;

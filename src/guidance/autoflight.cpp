@@ -19,7 +19,6 @@
 
 namespace {
 
-constexpr int kModeLnav = 6;
 constexpr int kModeVnavSpd = 5, kModeVnavPth = 6;
 constexpr int kModeBoxTicks = 180;
 constexpr double kNoValue = 999;

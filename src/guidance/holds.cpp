@@ -11,6 +11,7 @@
 #include "fmc/legs/route_state.h"
 #include "fmc/performance/vertical_segment.h"
 #include "guidance/sequencing.h"
+#include "navdata/from_aircraft.h"
 #include "platform/host.h"
 #include "state/leg_words.h"
 #include "state/lnav.h"
@@ -45,8 +46,7 @@ int HoldAhead() {
 void TakeVariation(HoldRecord& hold) {
     constexpr double kNear = 20;
     if (hold.magvar_pending <= 0) return;
-    if (GreatCircle(sim.plane_lat, sim.plane_lon, hold.points[0].lat, hold.points[0].lon).dist >= kNear)
-        return;
+    if (FromAircraft(hold.points[0].lat, hold.points[0].lon).dist >= kNear) return;
     hold.magvar = WholeNumber(std::round(sim.mgvar));
     hold.magvar_pending = 0;
 }
@@ -89,7 +89,7 @@ struct Progress {
 Progress MeasureProgress(const Pattern& pattern) {
     const LatLon point = pattern.points[static_cast<std::size_t>(lnav.hold_point)];
     const LatLon previous = pattern.points[static_cast<std::size_t>(lnav.hold_prev_point)];
-    return {GreatCircle(sim.plane_lat, sim.plane_lon, point.lat, point.lon),
+    return {FromAircraft(point.lat, point.lon),
             GreatCircle(previous.lat, previous.lon, point.lat, point.lon)};
 }
 
@@ -116,7 +116,7 @@ void SteerInPattern(const Pattern& pattern, const HoldRecord& hold) {
     const LatLon previous = pattern.points[static_cast<std::size_t>(lnav.hold_prev_point)];
     const LatLon aim = ProjectPoint(previous.lat, previous.lon, progress.segment.bearing,
                                     progress.segment.dist - progress.to_point.dist + kLookahead);
-    const double bearing = GreatCircle(sim.plane_lat, sim.plane_lon, aim.lat, aim.lon).bearing;
+    const double bearing = FromAircraft(aim.lat, aim.lon).bearing;
     lnav.hold_hdg = FoldBearing(bearing - (lnav.true_reference == 1 ? 0 : hold.magvar));
 }
 

@@ -14,6 +14,7 @@
 #include "guidance/sequencing.h"
 #include "guidance/turn_log.h"
 #include "guidance/vnav.h"
+#include "navdata/from_aircraft.h"
 #include "platform/host.h"
 #include "state/cfg.h"
 #include "state/leg_words.h"
@@ -151,7 +152,7 @@ double LookaheadDistance() {
 void AimAt(LatLon point) {
     lnav.aim_lat = point.lat;
     lnav.aim_lon = point.lon;
-    const double bearing = GreatCircle(sim.plane_lat, sim.plane_lon, point.lat, point.lon).bearing;
+    const double bearing = FromAircraft(point.lat, point.lon).bearing;
     lnav.fms_hdg = FoldBearing(bearing - ReferenceVariation());
 }
 
@@ -159,8 +160,7 @@ void SteerToJoinTrack() {
     const double length =
         GreatCircle(lnav.lnav_init_lat, lnav.lnav_init_lon, lnav.lnav_join_trk_lat, lnav.lnav_join_trk_lon)
             .dist;
-    const double left =
-        GreatCircle(sim.plane_lat, sim.plane_lon, lnav.lnav_join_trk_lat, lnav.lnav_join_trk_lon).dist;
+    const double left = FromAircraft(lnav.lnav_join_trk_lat, lnav.lnav_join_trk_lon).dist;
     AimAt(ProjectPoint(lnav.lnav_init_lat, lnav.lnav_init_lon, FoldBearing(lnav.lnav_join_trk + sim.mgvar),
                        length - left + lnav.lookahead));
     if (lnav.xtk > lnav.wpt_chg_dist) return;
@@ -197,7 +197,7 @@ void TurnAsDemanded() {
     if (BearingDifference(heading, lnav.fms_hdg) <= kSettled ||
         TurnSide(heading, lnav.fms_hdg) == passed.dep_turn)
         return;
-    if (GreatCircle(sim.plane_lat, sim.plane_lon, passed.lat, passed.lon).dist > lnav.passed_chg_dist) return;
+    if (FromAircraft(passed.lat, passed.lon).dist > lnav.passed_chg_dist) return;
     lnav.fms_hdg = FoldBearing(passed.dep_turn == kTurnLeft ? heading - 90 : heading + 90);
 }
 

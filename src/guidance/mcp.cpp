@@ -28,8 +28,6 @@
 
 namespace {
 
-constexpr int kModeLnav = 6;
-
 struct Button {
     std::string_view name;
     NamedVarRef request;

@@ -12,6 +12,7 @@
 #include "guidance/approach_tuning.h"
 #include "guidance/step_climb.h"
 #include "guidance/vnav_speed.h"
+#include "navdata/from_aircraft.h"
 #include "navdata/geodesy.h"
 #include "state/autoflight.h"
 #include "state/cdu.h"
@@ -29,10 +30,6 @@ namespace {
 
 constexpr double kAtLevel = 50, kNearLevel = 100;  // ft
 constexpr double kFarFromFix = 25;                 // nm
-
-double DistanceTo(double lat, double lon) {
-    return GreatCircle(sim.plane_lat, sim.plane_lon, lat, lon).dist;
-}
 
 void PassTopOfClimb() {
     if (vnav.toc == 1 || sim.ind_alt_ft < perf.cruise_alt - kAtLevel) return;
@@ -64,7 +61,7 @@ bool IsTopBehindOnLeg() {
     const DistBearing top = GreatCircle(leg.from_lat, leg.from_lon, vnav.tod_lat, vnav.tod_lon);
     const DistBearing whole = GreatCircle(leg.from_lat, leg.from_lon, to.lat, to.lon);
     return top.dist < whole.dist && BearingDifference(top.bearing, whole.bearing) < kOnLeg &&
-           DistanceTo(to.lat, to.lon) < GreatCircle(vnav.tod_lat, vnav.tod_lon, to.lat, to.lon).dist;
+           FromAircraft(to.lat, to.lon).dist < GreatCircle(vnav.tod_lat, vnav.tod_lon, to.lat, to.lon).dist;
 }
 
 bool IsTopPassedOnTheWayHome(double bearing_to_top) {
@@ -105,7 +102,7 @@ void BeginDescent(bool at_the_top) {
     vnav.dist_from_tod_to_bod = DistanceFromTopToBottom();
     if (vnav.vnav_engaged != 1 || autoflight.spd_intv_active == 1) return;
     const FlightPlanLeg& to = ToLeg();
-    if (DistanceTo(to.lat, to.lon) >= kFarFromFix)
+    if (FromAircraft(to.lat, to.lon).dist >= kFarFromFix)
         AimAtSpeed(SpeedRule::kTopOfDescent, perf.speeds.descent_ias);
     else
         vnav.vnav_spd_pending = 0;
@@ -114,7 +111,7 @@ void BeginDescent(bool at_the_top) {
 void PassTopOfDescent() {
     if (vnav.tod == 1 || (vnav.tod_lat == 0 && vnav.tod_lon == 0)) return;
     constexpr double kAtTop = 1.5, kShortcut = 10;  // nm
-    const DistBearing top = GreatCircle(sim.plane_lat, sim.plane_lon, vnav.tod_lat, vnav.tod_lon);
+    const DistBearing top = FromAircraft(vnav.tod_lat, vnav.tod_lon);
     const bool at_the_top = top.dist <= kAtTop;
     const bool shortcut = vnav.tod_shortcut == 1 && top.dist < kShortcut;
     vnav.tod_shortcut = 0;
@@ -137,13 +134,13 @@ double DistanceToBottom() {
 }
 
 double DistancePastTop() {
-    const double direct = DistanceTo(vnav.tod_lat, vnav.tod_lon);
+    const double direct = FromAircraft(vnav.tod_lat, vnav.tod_lon).dist;
     const int last = PlaceBefore(plan.active.legs, plan.active.stpos);
     if (last < vnav.tod_stpos || last < 0) return direct;
     const FlightPlanLeg& passed = FlightPlanLegAt(last);
     const FlightPlanLeg& to = ToLeg();
-    const DistBearing back = GreatCircle(sim.plane_lat, sim.plane_lon, passed.lat, passed.lon);
-    const double ahead = GreatCircle(sim.plane_lat, sim.plane_lon, to.lat, to.lon).bearing;
+    const DistBearing back = FromAircraft(passed.lat, passed.lon);
+    const double ahead = FromAircraft(to.lat, to.lon).bearing;
     constexpr double kNotYetPassed = 150;  // degrees
     if (BearingDifference(back.bearing, ahead) < kNotYetPassed) return direct;
     double dist = back.dist, lat = passed.lat, lon = passed.lon;
@@ -179,7 +176,7 @@ void MeasureSegment() {
     const FlightPlanLeg& bottom = FlightPlanLegAt(plan.active.bod_pos);
     vnav.dist_from_tod_to_bod = 99;
     vnav.dist_from_bod = 0;
-    vnav.cross_at_nm = vnav.toc == 0 ? predictions.dist_to_toc : DistanceTo(bottom.lat, bottom.lon);
+    vnav.cross_at_nm = vnav.toc == 0 ? predictions.dist_to_toc : FromAircraft(bottom.lat, bottom.lon).dist;
 }
 
 void ComputeRequiredRate() {

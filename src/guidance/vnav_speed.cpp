@@ -4,7 +4,7 @@
 #include <cmath>
 
 #include "frame/crew_messages.h"
-#include "navdata/geodesy.h"
+#include "navdata/from_aircraft.h"
 #include "state/autoflight.h"
 #include "state/cfg.h"
 #include "state/leg_words.h"
@@ -20,9 +20,6 @@ constexpr double kNoLevelAhead = 999;
 constexpr double kNearFix = 25, kNearLevel = 15;  // nm
 constexpr int kTransitionDone = 1, kRestrictionDone = 2;
 
-double DistanceTo(double lat, double lon) {
-    return GreatCircle(sim.plane_lat, sim.plane_lon, lat, lon).dist;
-}
 bool IsDescending() {
     return vnav.tod == 1 || vnav.init_tod == 1;
 }
@@ -128,7 +125,7 @@ void AimInDescent() {
     for (int i = plan.active.stpos; i <= plan.active.leg_cnt; ++i) {
         const FlightPlanLeg& leg = FlightPlanLegAt(i);
         if (!HasSpeedRestr(leg) || IsMissedApproach(leg)) continue;
-        if (leg.ias_restr > 0 && DistanceTo(leg.lat, leg.lon) < kNearLevel) LowerSpeeds(leg.ias_restr);
+        if (leg.ias_restr > 0 && FromAircraft(leg.lat, leg.lon).dist < kNearLevel) LowerSpeeds(leg.ias_restr);
         break;
     }
     AimAtSpeed(SpeedRule::kDescentIas, perf.speeds.descent_ias);
@@ -150,7 +147,7 @@ double ClimbLimit() {
 }
 
 bool IsTopBefore(const FlightPlanLeg& fix) {
-    return DistanceTo(vnav.toc_lat, vnav.toc_lon) < DistanceTo(fix.lat, fix.lon);
+    return FromAircraft(vnav.toc_lat, vnav.toc_lon).dist < FromAircraft(fix.lat, fix.lon).dist;
 }
 
 void AimAtClimbLimit(SpeedRule rule, double limit) {
@@ -188,7 +185,7 @@ void AimInClimb() {
 void AimInCruise() {
     constexpr double kDescending = -100;  // fpm
     const FlightPlanLeg& bottom = FlightPlanLegAt(plan.active.bod_pos);
-    if (HasSpeedRestr(bottom) && bottom.ias_restr > 0 && DistanceTo(bottom.lat, bottom.lon) < kNearFix)
+    if (HasSpeedRestr(bottom) && bottom.ias_restr > 0 && FromAircraft(bottom.lat, bottom.lon).dist < kNearFix)
         return AimAtSpeed(SpeedRule::kCruiseToBottom, bottom.ias_restr);
     if (sim.vs_fpm < kDescending) return AimAtSpeed(SpeedRule::kEarlyDescent, perf.speeds.descent_ias);
     if (vnav.vnav_spd_mode == kMachMode) return AimAtMach(SpeedRule::kCruiseMach, perf.speeds.cruise_mach);
@@ -199,7 +196,7 @@ void AimInCruise() {
 void TakeUpLegSpeed() {
     const FlightPlanLeg& to = ToLeg();
     if (vnav.tod != 1 || !HasSpeedRestr(to) || vnav.leg_speed_taken == plan.active.stpos) return;
-    if (DistanceTo(to.lat, to.lon) >= kNearFix) return;
+    if (FromAircraft(to.lat, to.lon).dist >= kNearFix) return;
     vnav.leg_speed_taken = plan.active.stpos;
     vnav.vnav_spd_pending = 0;
 }
@@ -260,7 +257,7 @@ void VnavSpeedStep() {
     AskForDrag();
     if (vnav.vnav_engaged != 1 || !IsRouteActive()) return;
     const FlightPlanLeg& to = ToLeg();
-    if (vnav.vnav_spd_pending == 1 && DistanceTo(to.lat, to.lon) >= kNearFix) return;
+    if (vnav.vnav_spd_pending == 1 && FromAircraft(to.lat, to.lon).dist >= kNearFix) return;
     const bool unpredicted = to.alt == kNone || to.ias_restr == kNone;
     if (unpredicted && vnav.vnav_ias > 0) return;
     if (IsDescending())

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "base/angles.h"
+#include "navdata/from_aircraft.h"
 #include "navdata/geodesy.h"
 #include "navdata/vor_autotune.h"
 #include "state/airports.h"
@@ -91,7 +92,7 @@ bool MayBeAlternate(const AirportRow& airport) {
 // Puts an airport before the first free row that is farther; what stood there, and behind, moves one free row
 // down.
 void OfferAlternate(Alternates& rows, const AirportRow& airport) {
-    const double dist = GreatCircle(sim.plane_lat, sim.plane_lon, airport.lat, airport.lon).dist;
+    const double dist = FromAircraft(airport.lat, airport.lon).dist;
     if (dist >= rows.back().dist && rows.back().record.fixed == 0) return;
     for (const Alternate& row : rows)
         if (row.record.ident == airport.ident && row.record.lat == airport.lat) return;

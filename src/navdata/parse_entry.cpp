@@ -10,12 +10,12 @@
 #include <vector>
 
 #include "base/text_fields.h"
+#include "navdata/from_aircraft.h"
 #include "navdata/geodesy.h"
 #include "navdata/ident_index.h"
 #include "state/nav.h"
 #include "state/nav_tables.h"
 #include "state/plan.h"
-#include "state/sim.h"
 
 namespace {
 
@@ -174,7 +174,7 @@ void FindMatches(std::vector<Match>& matches, const IdentIndex& index, const Gro
         const Row& row = table[number];
         if (matches.size() == kMaxCandidates) return false;
         if (row.ident != ident) return true;
-        const double dist = GreatCircle(sim.plane_lat, sim.plane_lon, row.lat, row.lon).dist;
+        const double dist = FromAircraft(row.lat, row.lon).dist;
         matches.push_back({std::isnan(dist) ? 0 : dist, &row});  // a NaN has no place in an order
         return true;
     });

@@ -9,6 +9,7 @@
 #include "base/bcd.h"
 #include "frame/key_events.h"
 #include "frame/tokens.h"
+#include "navdata/from_aircraft.h"
 #include "navdata/geodesy.h"
 #include "platform/host.h"
 #include "state/leg_words.h"
@@ -37,7 +38,7 @@ void FindNearestVors() {
     std::size_t count = 0;
     for (int i = 1; i <= nearest.vors.cnt; ++i) {
         const NavaidRow& row = std::as_const(nearest.vors.rows)[i];
-        const double dist = GreatCircle(sim.plane_lat, sim.plane_lon, row.lat, row.lon).dist;
+        const double dist = FromAircraft(row.lat, row.lon).dist;
         if (count == places.size() && dist >= places.back().dist) continue;
         if (count < places.size()) ++count;
         std::size_t at = count - 1;
@@ -52,7 +53,7 @@ void FindNearestVors() {
         vor.lat = row.lat;
         vor.lon = row.lon;
         vor.dist = places[i].dist;
-        vor.bearing = GreatCircle(sim.plane_lat, sim.plane_lon, row.lat, row.lon).bearing;
+        vor.bearing = FromAircraft(row.lat, row.lon).bearing;
     }
     nearest.nearest_vor_cnt = static_cast<int>(count);
 }

@@ -7,7 +7,6 @@
 
 namespace {
 
-constexpr double kMetresPerInch = 0.0254;
 constexpr std::uint32_t kPlain = 0, kMasked = 3;  // forms of compression
 constexpr std::size_t kHeaderAt = 14, kOldHeader = 12, kHeader = 40;
 

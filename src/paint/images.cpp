@@ -9,11 +9,11 @@
 
 namespace {
 
-struct Encoder {
+struct ImageEncoder {
     ImageCodecInfo info;
     std::string (*encode)(const PixelImage& image, Density density);
 };
-constexpr Encoder kEncoders[] = {
+constexpr ImageEncoder kEncoders[] = {
     {{"image/jpeg", "JPEG", "*.JPG;*.JPEG"}, EncodeJpeg},
     {{"image/png", "PNG", "*.PNG"}, EncodePng},
 };
@@ -49,13 +49,13 @@ void GdipGetImageEncodersSize(unsigned& count, unsigned& size) {
 
 bool GdipGetImageEncoders(std::span<ImageCodecInfo> encoders) {
     if (encoders.size() != std::size(kEncoders)) return false;
-    std::ranges::transform(kEncoders, encoders.begin(), &Encoder::info);
+    std::ranges::transform(kEncoders, encoders.begin(), &ImageEncoder::info);
     return true;
 }
 
 bool GdipSaveImageToStream(const Image& image, std::string& stream, std::string_view mime_type) {
     const auto* encoder =
-        std::ranges::find(kEncoders, mime_type, [](const Encoder& row) { return row.info.mime_type; });
+        std::ranges::find(kEncoders, mime_type, [](const ImageEncoder& row) { return row.info.mime_type; });
     const auto pixels = encoder == std::end(kEncoders) ? nullptr : ImagePixelsOf(image.file);
     if (pixels == nullptr) return false;
     const std::string file = encoder->encode(*pixels, image.density);

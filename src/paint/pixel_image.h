@@ -11,6 +11,7 @@ struct PixelImage {
 
 /// Dots per inch of a picture file. One that tells nothing has the density of the screens, a dot a unit.
 constexpr double kScreenDensity = 96;
+constexpr double kMetresPerInch = 0.0254;  // some files tell dots per metre
 struct Density {
     double x = kScreenDensity, y = kScreenDensity;
 };

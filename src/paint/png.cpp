@@ -13,9 +13,8 @@ namespace {
 
 // A file is its signature and then chunks: length, name, content, checksum.
 constexpr std::string_view kSignature = "\x89PNG\r\n\x1a\n";
-constexpr std::size_t kNameAt = 4, kContentAt = 8, kAroundContent = 12;
+constexpr std::size_t kChunkNameAt = 4, kContentAt = 8, kAroundContent = 12;
 constexpr std::size_t kHeaderSize = 13, kDensitySize = 9;
-constexpr double kMetresPerInch = 0.0254;
 
 cairo_surface_t* SurfaceOver(PixelImage& image) {
     return cairo_image_surface_create_for_data(reinterpret_cast<unsigned char*>(image.pixels.data()),
@@ -35,7 +34,7 @@ std::string DensityChunk(Density density) {
         put(static_cast<std::uint32_t>(std::clamp(std::round(dots / kMetresPerInch), 1.0, 1e9)));
     chunk += '\1';  // the unit is the metre
     boost::crc_32_type checksum;
-    checksum.process_bytes(chunk.data() + kNameAt, chunk.size() - kNameAt);
+    checksum.process_bytes(chunk.data() + kChunkNameAt, chunk.size() - kChunkNameAt);
     put(checksum.checksum());
     return chunk;
 }
@@ -48,7 +47,7 @@ std::optional<ImageHead> ReadPngHead(std::string_view bytes) {
     for (std::size_t at = kSignature.size(); bytes.size() - at >= kAroundContent;) {
         const std::size_t length = BigWord(bytes, at);
         if (length > bytes.size() - at - kAroundContent) return {};
-        const std::string_view name = bytes.substr(at + kNameAt, 4);
+        const std::string_view name = bytes.substr(at + kChunkNameAt, 4);
         const std::size_t content = at + kContentAt;
         if (name == "IEND") return head;
         // The decoder makes room by the first chunk: a header further on must not tell another size.

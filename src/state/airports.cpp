@@ -52,7 +52,7 @@ struct Describe<AirportData> {
 AirportSlots airports;
 
 namespace {
-constexpr Variable kRows[] = {
+constexpr Variable kAirportRows[] = {
     {"origin_airport", &airports.origin_airport},
     {"dest_airport", &airports.dest_airport},
     {"altn_airport", &airports.altn_airport},
@@ -66,4 +66,4 @@ constexpr Variable kRows[] = {
 };
 }  // namespace
 
-const std::span<const Variable> kAirportVariables = kRows;
+const std::span<const Variable> kAirportVariables = kAirportRows;

@@ -3,7 +3,7 @@
 AutoflightState autoflight;
 
 namespace {
-constexpr Variable kRows[] = {
+constexpr Variable kAutoflightRows[] = {
     {"ap_master_l", &autoflight.ap_master_l},
     {"ap_master_r", &autoflight.ap_master_r},
     {"ap_lat_mode", &autoflight.ap_lat_mode},
@@ -31,4 +31,4 @@ constexpr Variable kRows[] = {
 };
 }  // namespace
 
-const std::span<const Variable> kAutoflightVariables = kRows;
+const std::span<const Variable> kAutoflightVariables = kAutoflightRows;

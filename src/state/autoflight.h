@@ -5,6 +5,8 @@
 
 #include "state/variable.h"
 
+constexpr int kModeLnav = 6;  // of ap_lat_mode
+
 /// Copies of what AutoflightLogic reports, read each tick by the output step.
 struct AutoflightState {
     int ap_master_l = 0, ap_master_r = 0;

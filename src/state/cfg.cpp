@@ -166,11 +166,11 @@ constexpr auto RowsOf(std::index_sequence<kIndex...>) {
     return std::array{RowOf(kKeys[kIndex])..., Variable("config_read", &cfg.config_read),
                       Variable("pfc_switch_off", &cfg.pfc_switch_off)};
 }
-constexpr auto kRows = RowsOf(std::make_index_sequence<kKeys.size()>());
+constexpr auto kCfgRows = RowsOf(std::make_index_sequence<kKeys.size()>());
 
 }  // namespace
 
-const std::span<const Variable> kCfgVariables = kRows;
+const std::span<const Variable> kCfgVariables = kCfgRows;
 
 std::span<const ConfigKey> ConfigKeys() {
     return kKeys;

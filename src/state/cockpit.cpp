@@ -3,7 +3,7 @@
 CockpitState cockpit;
 
 namespace {
-constexpr Variable kRows[] = {
+constexpr Variable kCockpitRows[] = {
     {"pack_l_button", &cockpit.pack_l_button},
     {"pack_r_button", &cockpit.pack_r_button},
     {"ventilation_button", &cockpit.ventilation_button},
@@ -154,4 +154,4 @@ constexpr Variable kRows[] = {
 };
 }  // namespace
 
-const std::span<const Variable> kCockpitVariables = kRows;
+const std::span<const Variable> kCockpitVariables = kCockpitRows;

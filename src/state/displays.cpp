@@ -11,7 +11,7 @@ struct Describe<FormatClick> {
 DisplayState displays;
 
 namespace {
-constexpr Variable kRows[] = {
+constexpr Variable kDisplayRows[] = {
     {"du_capt_outb_mode", &displays.du_capt_outb_mode},
     {"du_capt_inb_mode", &displays.du_capt_inb_mode},
     {"du_fo_inb_mode", &displays.du_fo_inb_mode},
@@ -41,4 +41,4 @@ constexpr Variable kRows[] = {
 };
 }  // namespace
 
-const std::span<const Variable> kDisplayVariables = kRows;
+const std::span<const Variable> kDisplayVariables = kDisplayRows;

@@ -3,7 +3,7 @@
 EfbState efb;
 
 namespace {
-constexpr Variable kRows[] = {
+constexpr Variable kEfbRows[] = {
     {"EfbBrightness", &efb.EfbBrightness},
     {"capt.EfbPendingKey", &efb.side[0].pending_key},
     {"fo.EfbPendingKey", &efb.side[1].pending_key},
@@ -16,4 +16,4 @@ constexpr Variable kRows[] = {
 };
 }  // namespace
 
-const std::span<const Variable> kEfbVariables = kRows;
+const std::span<const Variable> kEfbVariables = kEfbRows;

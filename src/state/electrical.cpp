@@ -3,7 +3,7 @@
 ElectricalState electrical;
 
 namespace {
-constexpr Variable kRows[] = {
+constexpr Variable kElectricalRows[] = {
     {"power_level", &electrical.power_level},
     {"ac_bus_powered", &electrical.ac_bus_powered},
     {"batt_pwr", &electrical.batt_pwr},
@@ -37,4 +37,4 @@ constexpr Variable kRows[] = {
 };
 }  // namespace
 
-const std::span<const Variable> kElectricalVariables = kRows;
+const std::span<const Variable> kElectricalVariables = kElectricalRows;

@@ -3,9 +3,9 @@
 FixInfoState fix_info;
 
 namespace {
-constexpr Variable kRows[] = {
+constexpr Variable kFixInfoRows[] = {
     {"FixPages", &fix_info.FixPages},
 };
 }  // namespace
 
-const std::span<const Variable> kFixInfoVariables = kRows;
+const std::span<const Variable> kFixInfoVariables = kFixInfoRows;

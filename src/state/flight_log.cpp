@@ -3,7 +3,7 @@
 FlightLogState flight_log;
 
 namespace {
-constexpr Variable kRows[] = {
+constexpr Variable kFlightLogRows[] = {
     {"fplog_mode", &flight_log.fplog_mode},
     {"fplog_start_fuel", &flight_log.start_fuel},
     {"fplog_landing_fltsecs", &flight_log.landing_fltsecs},
@@ -14,4 +14,4 @@ constexpr Variable kRows[] = {
 };
 }  // namespace
 
-const std::span<const Variable> kFlightLogVariables = kRows;
+const std::span<const Variable> kFlightLogVariables = kFlightLogRows;

@@ -3,7 +3,7 @@
 HostLink host_link;
 
 namespace {
-constexpr Variable kRows[] = {
+constexpr Variable kHostLinkRows[] = {
     {"named_vars_registered", &host_link.named_vars_registered},
     {"key_hook_added", &host_link.key_hook_added},
     {"sim_client_open", &host_link.sim_client_open},
@@ -13,4 +13,4 @@ constexpr Variable kRows[] = {
 };
 }  // namespace
 
-const std::span<const Variable> kHostLinkVariables = kRows;
+const std::span<const Variable> kHostLinkVariables = kHostLinkRows;

@@ -3,7 +3,7 @@
 AircraftIdentity identity;
 
 namespace {
-constexpr Variable kRows[] = {
+constexpr Variable kIdentityRows[] = {
     {"aircraft", &identity.aircraft},
     {"registration", &identity.registration},
     {"selcal", &identity.selcal},
@@ -19,4 +19,4 @@ constexpr Variable kRows[] = {
 };
 }  // namespace
 
-const std::span<const Variable> kIdentityVariables = kRows;
+const std::span<const Variable> kIdentityVariables = kIdentityRows;

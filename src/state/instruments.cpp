@@ -3,7 +3,7 @@
 InstrumentState instruments;
 
 namespace {
-constexpr Variable kRows[] = {
+constexpr Variable kInstrumentRows[] = {
     {"capt.fpv_on", &instruments.pfd[0].fpv_on},       {"fo.fpv_on", &instruments.pfd[1].fpv_on},
     {"capt.mtrs_on", &instruments.pfd[0].mtrs_on},     {"fo.mtrs_on", &instruments.pfd[1].mtrs_on},
     {"capt.baro_hpa", &instruments.pfd[0].baro_hpa},   {"fo.baro_hpa", &instruments.pfd[1].baro_hpa},
@@ -14,4 +14,4 @@ constexpr Variable kRows[] = {
 };
 }  // namespace
 
-const std::span<const Variable> kInstrumentVariables = kRows;
+const std::span<const Variable> kInstrumentVariables = kInstrumentRows;

@@ -3,7 +3,7 @@
 IrsState irs;
 
 namespace {
-constexpr Variable kRows[] = {
+constexpr Variable kIrsRows[] = {
     {"irs_timer_l", &irs.irs_timer_l},
     {"irs_timer_r", &irs.irs_timer_r},
     {"irs_left", &irs.irs_left},
@@ -14,4 +14,4 @@ constexpr Variable kRows[] = {
 };
 }  // namespace
 
-const std::span<const Variable> kIrsVariables = kRows;
+const std::span<const Variable> kIrsVariables = kIrsRows;

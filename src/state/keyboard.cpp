@@ -3,7 +3,7 @@
 KeyboardState keyboard;
 
 namespace {
-constexpr Variable kRows[] = {
+constexpr Variable kKeyboardRows[] = {
     {"keyboard_capture_l", &keyboard.keyboard_capture_l},
     {"keyboard_capture_r", &keyboard.keyboard_capture_r},
     {"keyboard_code", &keyboard.keyboard_code},
@@ -14,4 +14,4 @@ constexpr Variable kRows[] = {
 };
 }  // namespace
 
-const std::span<const Variable> kKeyboardVariables = kRows;
+const std::span<const Variable> kKeyboardVariables = kKeyboardRows;

@@ -3,7 +3,7 @@
 LnavState lnav;
 
 namespace {
-constexpr Variable kRows[] = {
+constexpr Variable kLnavRows[] = {
     {"leg_len", &lnav.leg_len},
     {"leg_crs", &lnav.leg_crs},
     {"wpt_brg", &lnav.wpt_brg},
@@ -53,4 +53,4 @@ constexpr Variable kRows[] = {
 };
 }  // namespace
 
-const std::span<const Variable> kLnavVariables = kRows;
+const std::span<const Variable> kLnavVariables = kLnavRows;

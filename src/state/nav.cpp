@@ -20,7 +20,7 @@ struct Describe<NavRecord> {
 NavState nav;
 
 namespace {
-constexpr Variable kRows[] = {
+constexpr Variable kNavRows[] = {
     {"EntryCandidates", &nav.EntryCandidates},
     {"entry_cnt", &nav.entry_cnt},
     {"entry_bearing", &nav.entry_bearing},
@@ -41,4 +41,4 @@ constexpr Variable kRows[] = {
 };
 }  // namespace
 
-const std::span<const Variable> kNavVariables = kRows;
+const std::span<const Variable> kNavVariables = kNavRows;

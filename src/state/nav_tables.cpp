@@ -20,7 +20,7 @@ struct Describe<AirwayRun> {
 NavTables nav_tables;
 
 namespace {
-constexpr Variable kRows[] = {
+constexpr Variable kNavTableRows[] = {
     {"IntersectionTable", &nav_tables.IntersectionTable},
     {"int_cnt", &nav_tables.int_cnt},
     {"AirwayFixTable", &nav_tables.AirwayFixTable},
@@ -38,4 +38,4 @@ constexpr Variable kRows[] = {
 };
 }  // namespace
 
-const std::span<const Variable> kNavTableVariables = kRows;
+const std::span<const Variable> kNavTableVariables = kNavTableRows;

@@ -4,7 +4,7 @@ std::array<NdSide, 2> nd;
 NdMemory nd_memory;
 
 namespace {
-constexpr Variable kRows[] = {
+constexpr Variable kNdRows[] = {
     {"capt_nd_mode", &nd[0].nd_mode},
     {"fo_nd_mode", &nd[1].nd_mode},
     {"capt_nd_menu", &nd[0].nd_menu},
@@ -56,7 +56,7 @@ constexpr Variable kRows[] = {
     {"capt.nd_cursor_y", &nd[0].nd_cursor_y},
     {"fo.nd_cursor_y", &nd[1].nd_cursor_y},
 };
-constexpr Variable kMemoryRows[] = {
+constexpr Variable kNdMemoryRows[] = {
     {"hdg_sel_timer", &nd_memory.hdg_sel_timer},
     {"ref_change_timer", &nd_memory.ref_change_timer},
     {"selected_before", &nd_memory.selected_before},
@@ -64,5 +64,5 @@ constexpr Variable kMemoryRows[] = {
 };
 }  // namespace
 
-const std::span<const Variable> kNdVariables = kRows;
-const std::span<const Variable> kNdMemoryVariables = kMemoryRows;
+const std::span<const Variable> kNdVariables = kNdRows;
+const std::span<const Variable> kNdMemoryVariables = kNdMemoryRows;

@@ -23,7 +23,7 @@ struct Describe<TunedVor> {
 NearestState nearest;
 
 namespace {
-constexpr Variable kRows[] = {
+constexpr Variable kNearestRows[] = {
     {"far_airport_list", &nearest.airports.far.rows},
     {"far_airport_cnt", &nearest.airports.far.cnt},
     {"near_airport_list", &nearest.airports.near.rows},
@@ -51,4 +51,4 @@ constexpr Variable kRows[] = {
 };
 }  // namespace
 
-const std::span<const Variable> kNearestVariables = kRows;
+const std::span<const Variable> kNearestVariables = kNearestRows;

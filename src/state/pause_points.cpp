@@ -3,7 +3,7 @@
 PausePoints pause_points;
 
 namespace {
-constexpr Variable kRows[] = {
+constexpr Variable kPausePointRows[] = {
     {"tod_pause_done", &pause_points.tod_pause_done},
     {"tod_rate_done", &pause_points.tod_rate_done},
     {"dest_pause_done", &pause_points.dest_pause_done},
@@ -11,4 +11,4 @@ constexpr Variable kRows[] = {
 };
 }  // namespace
 
-const std::span<const Variable> kPausePointVariables = kRows;
+const std::span<const Variable> kPausePointVariables = kPausePointRows;

@@ -3,7 +3,7 @@
 PerfState perf;
 
 namespace {
-constexpr Variable kRows[] = {
+constexpr Variable kPerfRows[] = {
     {"climb_ias", &perf.speeds.climb_ias},
     {"climb_mach", &perf.speeds.climb_mach},
     {"cruise_ias", &perf.speeds.cruise_ias},
@@ -33,4 +33,4 @@ constexpr Variable kRows[] = {
 };
 }  // namespace
 
-const std::span<const Variable> kPerfVariables = kRows;
+const std::span<const Variable> kPerfVariables = kPerfRows;

@@ -3,7 +3,7 @@
 PlacementState placement;
 
 namespace {
-constexpr Variable kRows[] = {
+constexpr Variable kPlacementRows[] = {
     {"place_lat", &placement.place_lat},
     {"place_lon", &placement.place_lon},
     {"place_alt", &placement.place_alt},
@@ -15,4 +15,4 @@ constexpr Variable kRows[] = {
 };
 }  // namespace
 
-const std::span<const Variable> kPlacementVariables = kRows;
+const std::span<const Variable> kPlacementVariables = kPlacementRows;

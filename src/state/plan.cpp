@@ -102,7 +102,7 @@ struct Describe<PositionReport> {
 PlanState plan;
 
 namespace {
-constexpr Variable kRows[] = {
+constexpr Variable kPlanRows[] = {
     {"fms_fltno", &plan.fms_fltno},
     {"FlightPlan", &plan.active.legs},
     {"fp_cnt", &plan.active.leg_cnt},
@@ -173,4 +173,4 @@ constexpr Variable kRows[] = {
 };
 }  // namespace
 
-const std::span<const Variable> kPlanVariables = kRows;
+const std::span<const Variable> kPlanVariables = kPlanRows;

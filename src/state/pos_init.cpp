@@ -3,7 +3,7 @@
 PosInitState pos_init;
 
 namespace {
-constexpr Variable kRows[] = {
+constexpr Variable kPosInitRows[] = {
     {"RefAirport", &pos_init.RefAirport},
     {"InertialEntryLat", &pos_init.InertialEntryLat},
     {"InertialEntryLon", &pos_init.InertialEntryLon},
@@ -11,4 +11,4 @@ constexpr Variable kRows[] = {
 };
 }  // namespace
 
-const std::span<const Variable> kPosInitVariables = kRows;
+const std::span<const Variable> kPosInitVariables = kPosInitRows;

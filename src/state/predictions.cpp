@@ -3,7 +3,7 @@
 PredictionState predictions;
 
 namespace {
-constexpr Variable kRows[] = {
+constexpr Variable kPredictionRows[] = {
     {"start_weight", &predictions.start_weight},
     {"clb_burn", &predictions.clb_burn},
     {"crz_burn", &predictions.crz_burn},
@@ -32,4 +32,4 @@ constexpr Variable kRows[] = {
 };
 }  // namespace
 
-const std::span<const Variable> kPredictionVariables = kRows;
+const std::span<const Variable> kPredictionVariables = kPredictionRows;

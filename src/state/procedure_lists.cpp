@@ -5,7 +5,7 @@
 ProcedureLists procedure_lists;
 
 namespace {
-constexpr Variable kRows[] = {
+constexpr Variable kProcedureListRows[] = {
     {"DepartureLegs", &procedure_lists.DepartureLegs},
     {"departure_leg_cnt", &procedure_lists.departure_leg_cnt},
     {"ArrivalLegs", &procedure_lists.ArrivalLegs},
@@ -18,4 +18,4 @@ constexpr Variable kRows[] = {
 };
 }  // namespace
 
-const std::span<const Variable> kProcedureListVariables = kRows;
+const std::span<const Variable> kProcedureListVariables = kProcedureListRows;

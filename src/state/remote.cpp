@@ -3,7 +3,7 @@
 RemoteState remote;
 
 namespace {
-constexpr Variable kRows[] = {
+constexpr Variable kRemoteRows[] = {
     {"remote_ready", &remote.remote_ready},     {"remote_cdu_due", &remote.cdu.due},
     {"remote_cdu_size", &remote.cdu.byte_size}, {"remote_cdu_width", &remote.cdu.width},
     {"remote_cdu_height", &remote.cdu.height},  {"remote_efb_due", &remote.efb.due},
@@ -12,4 +12,4 @@ constexpr Variable kRows[] = {
 };
 }  // namespace
 
-const std::span<const Variable> kRemoteVariables = kRows;
+const std::span<const Variable> kRemoteVariables = kRemoteRows;

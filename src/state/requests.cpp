@@ -3,7 +3,7 @@
 RequestState requests;
 
 namespace {
-constexpr Variable kRows[] = {
+constexpr Variable kRequestRows[] = {
     {"cancel_recall_request", &requests.cancel_recall},
     {"warning_reset_request", &requests.warning_reset},
     {"uplink_accept_request", &requests.uplink_accept},
@@ -17,4 +17,4 @@ constexpr Variable kRows[] = {
 };
 }  // namespace
 
-const std::span<const Variable> kRequestVariables = kRows;
+const std::span<const Variable> kRequestVariables = kRequestRows;

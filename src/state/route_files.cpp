@@ -3,11 +3,11 @@
 RouteFileState route_files;
 
 namespace {
-constexpr Variable kRows[] = {
+constexpr Variable kRouteFileRows[] = {
     {"RouteFiles", &route_files.RouteFiles},
     {"route_file_cnt", &route_files.route_file_cnt},
     {"route_files_listed", &route_files.route_files_listed},
 };
 }  // namespace
 
-const std::span<const Variable> kRouteFileVariables = kRows;
+const std::span<const Variable> kRouteFileVariables = kRouteFileRows;

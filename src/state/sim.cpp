@@ -3,7 +3,7 @@
 SimSnapshot sim;
 
 namespace {
-constexpr Variable kRows[] = {
+constexpr Variable kSimRows[] = {
     {"plane_lat", &sim.plane_lat},
     {"plane_lon", &sim.plane_lon},
     {"lat", &sim.plane_lat},
@@ -168,4 +168,4 @@ constexpr Variable kRows[] = {
 };
 }  // namespace
 
-const std::span<const Variable> kSimVariables = kRows;
+const std::span<const Variable> kSimVariables = kSimRows;

@@ -3,7 +3,7 @@
 SoundState sound;
 
 namespace {
-constexpr Variable kRows[] = {
+constexpr Variable kSoundRows[] = {
     {"event_cue", &sound.event_cue},
     {"event_cue_next", &sound.event_cue_next},
     {"alert_aural", &sound.alert_aural},
@@ -22,4 +22,4 @@ constexpr Variable kRows[] = {
 };
 }  // namespace
 
-const std::span<const Variable> kSoundVariables = kRows;
+const std::span<const Variable> kSoundVariables = kSoundRows;

@@ -3,7 +3,7 @@
 TakeoffApproachState takeoff_approach;
 
 namespace {
-constexpr Variable kRows[] = {
+constexpr Variable kTakeoffApproachRows[] = {
     {"v1", &takeoff_approach.v1},
     {"vr", &takeoff_approach.vr},
     {"v2", &takeoff_approach.v2},
@@ -24,4 +24,4 @@ constexpr Variable kRows[] = {
 };
 }  // namespace
 
-const std::span<const Variable> kTakeoffApproachVariables = kRows;
+const std::span<const Variable> kTakeoffApproachVariables = kTakeoffApproachRows;

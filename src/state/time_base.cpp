@@ -3,7 +3,7 @@
 TimeBase time_base;
 
 namespace {
-constexpr Variable kRows[] = {
+constexpr Variable kTimeBaseRows[] = {
     {"tick18", &time_base.tick18},
     {"last_tick18", &time_base.last_tick18},
     {"output_tick18", &time_base.output_tick18},
@@ -24,4 +24,4 @@ constexpr Variable kRows[] = {
 };
 }  // namespace
 
-const std::span<const Variable> kTimeBaseVariables = kRows;
+const std::span<const Variable> kTimeBaseVariables = kTimeBaseRows;

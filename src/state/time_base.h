@@ -4,6 +4,8 @@
 
 #include "state/variable.h"
 
+constexpr int kTicksPerSecond = 18;
+
 /// The shared time base. Stepped by RunUpdateCycle and MainUpdate; a tick is 1/18 s of unpaused time.
 struct TimeBase {
     double tick18 = 0;            // the host's 18 Hz counter; stands still in pause

@@ -3,9 +3,9 @@
 TrafficState traffic;
 
 namespace {
-constexpr Variable kRows[] = {
+constexpr Variable kTrafficRows[] = {
     {"tcas_target_cnt", &traffic.tcas_target_cnt},
 };
 }  // namespace
 
-const std::span<const Variable> kTrafficVariables = kRows;
+const std::span<const Variable> kTrafficVariables = kTrafficRows;

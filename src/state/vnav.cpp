@@ -3,7 +3,7 @@
 VnavState vnav;
 
 namespace {
-constexpr Variable kRows[] = {
+constexpr Variable kVnavRows[] = {
     {"vnav_engaged", &vnav.vnav_engaged},
     {"toc", &vnav.toc},
     {"tod", &vnav.tod},
@@ -52,4 +52,4 @@ constexpr Variable kRows[] = {
 };
 }  // namespace
 
-const std::span<const Variable> kVnavVariables = kRows;
+const std::span<const Variable> kVnavVariables = kVnavRows;

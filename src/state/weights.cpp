@@ -14,7 +14,7 @@ struct Describe<FlapSpeedRow> {
 };
 
 namespace {
-constexpr Variable kRows[] = {
+constexpr Variable kWeightRows[] = {
     {"zfw", &weights.zfw},
     {"gross_weight", &weights.gross_weight},
     {"flap_speeds", &weights.flap_speeds},
@@ -27,4 +27,4 @@ constexpr Variable kRows[] = {
 };
 }  // namespace
 
-const std::span<const Variable> kWeightVariables = kRows;
+const std::span<const Variable> kWeightVariables = kWeightRows;

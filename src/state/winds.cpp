@@ -15,7 +15,7 @@ struct Describe<WxStation> {
 WindsState winds;
 
 namespace {
-constexpr Variable kRows[] = {
+constexpr Variable kWindsRows[] = {
     {"WxStations", &winds.WxStations},
     {"wx_station_cnt", &winds.wx_station_cnt},
     {"DescentForecast", &winds.DescentForecast},
@@ -27,4 +27,4 @@ constexpr Variable kRows[] = {
 };
 }  // namespace
 
-const std::span<const Variable> kWindsVariables = kRows;
+const std::span<const Variable> kWindsVariables = kWindsRows;

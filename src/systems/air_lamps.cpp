@@ -24,7 +24,7 @@ bool HeatIsInoperative(int button) {
     return button == 0 || !IsAcBusPowered() || electrical.load_shed_level == 1;
 }
 
-constexpr Lamp kLamps[] = {
+constexpr Lamp kAirLamps[] = {
     {NamedVar("TZ_OH_Annun_LPAC_OFF"), [] { return PackIsOff(cockpit.pack_l_button); }},
     {NamedVar("TZ_OH_Annun_RPAC_OFF"), [] { return PackIsOff(cockpit.pack_r_button); }},
     {NamedVar("TZ_OH_Annun_TAL_FAULT"), [] { return TrimAirIsOff(cockpit.trim_air_l_button); }},
@@ -45,5 +45,5 @@ constexpr Lamp kLamps[] = {
 }  // namespace
 
 void ShowAirLamps() {
-    ShowLamps(kLamps);
+    ShowLamps(kAirLamps);
 }

@@ -12,10 +12,10 @@
 #include "state/cockpit.h"
 #include "state/electrical.h"
 #include "state/power_words.h"
+#include "state/time_base.h"
 
 namespace {
 
-constexpr double kTicksPerSecond = 18;
 constexpr int kTestTicks = 36;
 constexpr double kHighVolts = 22, kMediumVolts = 10;
 

@@ -19,7 +19,7 @@ bool ExternalPowerLamp() {
     return electrical.fwd_ext_pwr_avail == 1 && cockpit.fwd_ext_pwr_button == 0;
 }
 
-constexpr Lamp kLamps[] = {
+constexpr Lamp kElectricalLamps[] = {
     {NamedVar("TZ_OH_Annun_OFF_BATT"),
      [] { return cockpit.battery_button == 0 && IsPoweredBeyondBattery(); }},
     {NamedVar("TZ_OH_Annun_OFF_APUL"), [] { return cockpit.apu_gen_button == 0 && IsBatteryBusAlive(); }},
@@ -47,5 +47,5 @@ constexpr Lamp kLamps[] = {
 }  // namespace
 
 void ShowElectricalLamps() {
-    ShowLamps(kLamps);
+    ShowLamps(kElectricalLamps);
 }

@@ -6,10 +6,10 @@
 #include "state/cockpit.h"
 #include "state/irs.h"
 #include "state/side.h"
+#include "state/time_base.h"
 
 namespace {
 
-constexpr int kTicksPerSecond = 18;
 constexpr int kMostAlignSecs = 24 * 3600;  // the setting may be any number
 
 struct IrsUnit {

@@ -10,6 +10,7 @@
 #include "state/time_base.h"
 #include "state/weights.h"
 #include "support/fake_host.h"
+#include "support/file_text.h"
 
 namespace {
 
@@ -36,7 +37,7 @@ class FlightLog : public testing::Test {
             FlightLogStep(false);
         }
     }
-    std::string Log() const { return FakeHost::FileText(host.root / "Velarion/TZ900/fpl.log"); }
+    std::string Log() const { return FileText(host.root / "Velarion/TZ900/fpl.log"); }
     int Rows() const {
         int lines = 0;
         for (const char c : Log()) lines += c == '\n';

@@ -16,6 +16,7 @@
 #include "state/perf.h"
 #include "state/requests.h"
 #include "state/side.h"
+#include "support/file_text.h"
 
 namespace {
 
@@ -30,7 +31,7 @@ class PlanFiles : public testing::Test {
     std::string Convert(const std::string& text) const {
         host.PutFile("Velarion/TZ900/flightplans/X.PLN", text);
         EXPECT_EQ(ConvertPlanFile("X.PLN"), 0);
-        return FakeHost::FileText(host.root / kTemp);
+        return FileText(host.root / kTemp);
     }
     FakeHost host;
 };
@@ -90,7 +91,7 @@ TEST_F(PlanFiles, LoadedLikeAnyRoute) {
     EXPECT_EQ(plan.mod.legs[1].type, "VOR");
     EXPECT_EQ(plan.active.ends.company_route, "TRIP");
     EXPECT_EQ(ListFolder("\\Plans").size(), 1u);  // the converted file lies in the system's own folder
-    EXPECT_FALSE(FakeHost::FileText(host.root / kTemp).empty());
+    EXPECT_FALSE(FileText(host.root / kTemp).empty());
     EXPECT_EQ(ConvertPlanFile("gone.pln"), kNotConverted);
     EXPECT_EQ(ConvertPlanFile("..\\Plans\\trip.pln"), kNotConverted);
 }

@@ -25,6 +25,7 @@
 #include "state/route_files.h"
 #include "state/sim.h"
 #include "support/fake_host.h"
+#include "support/file_text.h"
 #include "support/paths.h"
 #include "support/world_navdata.h"
 
@@ -313,7 +314,7 @@ TEST_F(RouteFiles, TheWrittenFile) {
     plan.active.legs[1].block_above = 1000;
     perf.cruise_alt = 35000;
     ASSERT_EQ(SaveCompanyRoute("pdx.rte"), 1);
-    const std::string text = FakeHost::FileText(host.root / kFolder / "pdx.rte");
+    const std::string text = FileText(host.root / kFolder / "pdx.rte");
     EXPECT_TRUE(
         text.starts_with("CruiseAlt=35000\nCostIndex=-1\n[FlightPlan]\n;-----------  Id         Lat"));
     EXPECT_NE(

@@ -16,6 +16,7 @@
 #include "state/sim.h"
 #include "state/variable_directory.h"
 #include "support/fake_host.h"
+#include "support/file_text.h"
 
 namespace {
 
@@ -28,7 +29,7 @@ std::string Value(std::string_view name) {
 
 std::string Written(FakeHost& host) {
     EXPECT_TRUE(WriteConfig());
-    return host.FileText(host.root / kFile);
+    return FileText(host.root / kFile);
 }
 
 TEST(Configuration, ReadingRules) {
@@ -209,14 +210,14 @@ TEST(Configuration, TheFuelFileGoesBothWays) {
     cfg.WeightUnit = "KGS";
     WriteConfig();
     const auto fuel_file = host.app_data / "Velarion/tz900_fuel.cfg";
-    EXPECT_EQ(host.FileText(fuel_file),
+    EXPECT_EQ(FileText(fuel_file),
               "[Config]\nUnits=1\n[fuel.0]\nLeftMain=20000\nRightMain=20000\nCenter=5\n");
 
     OpenSimClient();
     cfg.WeightUnit = "LBS";
     LoadStoredFuel();
     EXPECT_EQ(cfg.WeightUnit, "KGS");  // the file's unit wins and is saved
-    EXPECT_NE(host.FileText(host.root / kFile).find("WeightUnit=KGS"), std::string::npos);
+    EXPECT_NE(FileText(host.root / kFile).find("WeightUnit=KGS"), std::string::npos);
     EXPECT_TRUE(host.client_events.empty());  // without the fuel's weight nothing is loaded
 
     host.tokens[kTokenFuelWeightPerGallon] = 6.7;

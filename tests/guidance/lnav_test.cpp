@@ -7,6 +7,7 @@
 #include "state/cfg.h"
 #include "state/perf.h"
 #include "state/vnav.h"
+#include "support/file_text.h"
 
 namespace {
 
@@ -354,14 +355,14 @@ TEST_F(LnavTest, TheTurnLogIsWrittenInFlight) {
     sim.bank_deg = -12.4;
     sim.ias_kt = 100;
     RunASecond();
-    EXPECT_EQ(FakeHost::FileText(host.root / "wptturn.csv"), "old\n");
+    EXPECT_EQ(FileText(host.root / "wptturn.csv"), "old\n");
     sim.ias_kt = 250;
     time_base.wpt_log_ticks = 41;
     time_base.tick_phase = 17;
     time_base.tick2s_phase = 17;
     for (int i = 0; i < 9; ++i) Tick();  // two passes: the header and a line
     EXPECT_EQ(
-        FakeHost::FileText(host.root / "wptturn.csv"),
+        FileText(host.root / "wptturn.csv"),
         "\"FS CYCLE\",\"WPT ID\",\"TAS\",\"WPT DIST\",\"TRADIUS\",\"ANGLE\",\"WPT_CHG_DIST\",\"PLANE HDG\","
         "\"FMS HDG\",\"BANK ANGLE\",\"XTK ERR\"\n"
         "41,BRAVO,360,24.03,0.0,0,0.36,090,103,-12,-1.2\n");

@@ -13,22 +13,16 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <sstream>
 #include <string>
 #include <thread>
 #include <vector>
 
+#include "support/file_text.h"
 #include "support/paths.h"
 
 namespace {
 
 namespace fs = std::filesystem;
-
-std::string TextOf(const fs::path& file) {
-    std::ostringstream text;
-    text << std::ifstream(file).rdbuf();
-    return text.str();
-}
 
 /// A folder that goes with the test; `tz900` runs with its temporary files in tmp/ and what it prints in out.
 struct Workplace {
@@ -47,7 +41,7 @@ struct Workplace {
         return folder / name;
     }
     bool TemporaryIsEmpty() const { return fs::is_empty(folder / "tmp"); }
-    std::string Printed() const { return TextOf(folder / "out"); }
+    std::string Printed() const { return FileText(folder / "out"); }
 
     pid_t Start(std::vector<std::string> words) const {
         words.insert(words.begin(), BinaryDir() + "/tz900");
@@ -81,7 +75,7 @@ TEST(Program, ConfigurationLinesOverlayTheFile) {
     const Workplace place;
     const fs::path root = place.folder / "root", file = root / "Velarion/tz900.cfg";
     fs::copy(SourceDir() + "/data/root", root, fs::copy_options::recursive);
-    const std::string before = TextOf(file);
+    const std::string before = FileText(file);
     const auto run = [&](const std::string& lines, const std::string& seconds) {
         const fs::path scenario =
             place.Put("case.scn", "root " + root.string() + "\n" + lines + "start\nrun " + seconds +
@@ -93,14 +87,14 @@ TEST(Program, ConfigurationLinesOverlayTheFile) {
     const std::string overlaid = "AccelHt = 1700\nTransAlt = 9000\nWeightUnit = LBS\n";
     EXPECT_NE(plain, overlaid);
     EXPECT_EQ(run("cfg TransAlt=8000\ncfg AccelHt=1700\ncfg TransAlt=9000\n", "1"), overlaid);
-    EXPECT_EQ(TextOf(file), before);
+    EXPECT_EQ(FileText(file), before);
     EXPECT_EQ(run("", "1"), plain);
 
     // Stored fuel in another unit has the system itself save its configuration, with what is in force.
     place.Put("root/Velarion/tz900_fuel.cfg", "[Config]\nUnits=1\n");
     const std::string saved = "AccelHt = 1700\nTransAlt = 9000\nWeightUnit = KGS\n";
     EXPECT_EQ(run("cfg AccelHt=1700\ncfg TransAlt=9000\ncfg LoadFuelonAircraftLoad=1\n", "6"), saved);
-    EXPECT_NE(TextOf(file), before);
+    EXPECT_NE(FileText(file), before);
     EXPECT_EQ(run("", "1"), saved);
 }
 
@@ -173,7 +167,7 @@ TEST(Program, AFlightThatCannotStartTellsWhyAndLeavesNothing) {
         EXPECT_TRUE(place.TemporaryIsEmpty());
     }
     close(other);
-    EXPECT_EQ(TextOf(taken), "mine");
+    EXPECT_EQ(FileText(taken), "mine");
 }
 
 // Whole flights hands off, each to a stop on the runway; one without an approach in its route, which the

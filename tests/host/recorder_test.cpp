@@ -6,7 +6,6 @@
 #include <unistd.h>
 
 #include <filesystem>
-#include <fstream>
 #include <sstream>
 
 #include "host/flightdeck/commands.h"
@@ -15,18 +14,12 @@
 #include "host/screens.h"
 #include "host/world/world.h"
 #include "support/all_variables.h"
+#include "support/file_text.h"
 #include "support/paths.h"
 
 namespace {
 
 using namespace host;
-
-std::string TextOf(const std::filesystem::path& file) {
-    std::ifstream in(file);
-    std::ostringstream text;
-    text << in.rdbuf();
-    return text.str();
-}
 
 struct Recording {
     std::filesystem::path file =
@@ -44,14 +37,14 @@ TEST(Recorder, WritesCallsAndCommandsInTheirOrder) {
     Recorder& recorder = recording.recorder;
     Record(&recorder, {"start"});
     for (int i = 0; i < 12; ++i) RecordCall(&recorder, false);
-    EXPECT_EQ(TextOf(recording.file), "start\ntick 12\n") << "whole at any time";
+    EXPECT_EQ(FileText(recording.file), "start\ntick 12\n") << "whole at any time";
     for (int i = 0; i < 3; ++i) RecordCall(&recorder, true);
     Record(&recorder, {"route", "KSEA BTG"});
     Record(&recorder, {"set", "capt.ScratchPad", ""});
     RecordCall(&recorder, true);
     Record(&recorder, {"set", "x", "a\nb \\n"});
     Record(&recorder, {"set", "x", "a \"b\"\nc"});
-    EXPECT_EQ(TextOf(recording.file),
+    EXPECT_EQ(FileText(recording.file),
               "start\ntick 12\nframe 3\nroute \"KSEA BTG\"\nset capt.ScratchPad \"\"\nframe 1\n"
               "set x \"a\\nb \"\\\"n\"\n"
               "# not expressible: set x \"a \"b\"\\nc\"\n");
@@ -174,7 +167,7 @@ TEST(Recorder, PlaysBackToTheSameState) {
         Scenario scenario{Session{}, out};
         scenario.session.settings.demo_root = options.demo_root;
         scenario.session.settings.module_file = BinaryDir() + "/tz900.gau";
-        std::istringstream lines(TextOf(recording.file));
+        std::istringstream lines(FileText(recording.file));
         EXPECT_EQ(RunScenario(scenario, lines, "recording", errors), 0) << errors.str();
         EXPECT_EQ(TextsOf(scenario.session), texts);
         EXPECT_EQ(FirstDifference(StateOf(scenario.session), state), "");

@@ -6,8 +6,6 @@
 #include <malloc.h>
 
 #include <cstring>
-#include <fstream>
-#include <iterator>
 #include <set>
 #include <string>
 
@@ -15,6 +13,7 @@
 #include "module/linkage.h"
 #include "support/all_variables.h"
 #include "support/fake_host.h"
+#include "support/file_text.h"
 #include "support/paths.h"
 
 namespace {
@@ -23,8 +22,7 @@ const std::string kModuleFile = BinaryDir() + "/tz900.gau";
 
 // Names of the defined global symbols of a 64-bit ELF file's dynamic table.
 std::set<std::string> ExportedSymbols(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    const std::string bytes{std::istreambuf_iterator<char>(file), {}};
+    const std::string bytes = FileText(path);
     std::set<std::string> names;
     const auto read = [&](auto& record, std::size_t offset) {
         if (offset + sizeof record <= bytes.size())

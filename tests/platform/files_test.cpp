@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "support/fake_host.h"
+#include "support/file_text.h"
 
 namespace {
 
@@ -30,9 +31,9 @@ TEST(Files, AWriteIsCompleteOrNotThere) {
     FakeHost host;
     host.PutFile("Velarion/TZ900.CFG", "old");
     EXPECT_TRUE(WriteFile("\\velarion\\tz900.cfg", "new"));
-    EXPECT_EQ(host.FileText(host.root / "Velarion/TZ900.CFG"), "new");
+    EXPECT_EQ(FileText(host.root / "Velarion/TZ900.CFG"), "new");
     EXPECT_TRUE(WriteFile("\\Velarion\\deep\\er\\a.txt", "x", FileRoot::kAppData));
-    EXPECT_EQ(host.FileText(host.app_data / "Velarion/deep/er/a.txt"), "x");
+    EXPECT_EQ(FileText(host.app_data / "Velarion/deep/er/a.txt"), "x");
     EXPECT_FALSE(WriteFile("\\..\\evil.txt", "x"));
     EXPECT_FALSE(WriteFile("\\Velarion", "a folder stands there"));
     const auto entries = ListFolder("\\Velarion");

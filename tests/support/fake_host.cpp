@@ -321,8 +321,3 @@ void FakeHost::PutFile(std::string_view name, std::string_view text) const {
     std::filesystem::create_directories(path.parent_path());
     std::ofstream(path, std::ios::binary) << text;
 }
-
-std::string FakeHost::FileText(const std::filesystem::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}

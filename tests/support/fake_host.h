@@ -83,6 +83,4 @@ class FakeHost {
     std::filesystem::path root, app_data, navdata;  // navdata empty = under the root
     /// Writes a file below the root (name with "/"), with its folders.
     void PutFile(std::string_view name, std::string_view text) const;
-    /// A file's text below a folder of the fake; empty when it is missing.
-    static std::string FileText(const std::filesystem::path& path);
 };

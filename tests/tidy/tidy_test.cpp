@@ -154,6 +154,34 @@ TEST(Tidy, NoObjectOfANamespaceChangesOutsideState) {
     }
 }
 
+TEST(Tidy, AFolderHasEachNameOnce) {
+    // What an unnamed namespace names, at the left edge: the name, and a function's parameters with it.
+    const std::regex naming(
+        R"(^(?:(?:struct|enum class|class|enum) |[A-Za-z_][\w:<>,*& ]*[ *&])(\w+(?:\([^)]*\)?)?)[ ;={\[:])");
+    std::map<std::string, std::string> places;
+    for (const char* top : {"src", "host", "tests"})
+        for (const fs::path& file : SourceFiles(top)) {
+            const std::string folder = fs::relative(file.parent_path(), SourceDir()).string();
+            if (file.extension() != ".cpp" || folder == "src/cdu/pages") continue;
+            bool unnamed = false;
+            for (const Line& line : LinesOf(file)) {
+                if (line.text == "namespace {") unnamed = true;
+                if (line.text == "}  // namespace") unnamed = false;
+                std::smatch found;
+                const std::string code = CodeOf(line.text);
+                if (!unnamed || code.starts_with("namespace") || code.starts_with("using") ||
+                    code.starts_with("extern") || code.starts_with("template") ||
+                    !std::regex_search(code, found, naming))
+                    continue;
+                const auto [place, is_new] = places.emplace(folder + " " + found.str(1), line.where);
+                const std::string file_name = line.where.substr(0, line.where.find(':'));
+                EXPECT_TRUE(is_new || place->second.starts_with(file_name + ":"))
+                    << line.where << ": " << found[1] << " stands at " << place->second
+                    << " too: share it, or tell the two apart (sanitizer builds join the files of a folder)";
+            }
+        }
+}
+
 TEST(Tidy, WordsThatDoNotBelong) {
     // Spelled apart, so that this file passes its own test.
     const std::regex words(std::string("\\b(TO") + "DO|FIX" + "ME|HA" + "CK|specifi" + "cation|spec\\" +

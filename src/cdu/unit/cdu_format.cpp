@@ -12,7 +12,6 @@
 
 namespace {
 
-constexpr int kRightHalf = 283;
 constexpr int kLeftKeyX = 10, kRightKeyX = 261, kLineKeyWidth = 16, kLineKeyHeight = 19;
 constexpr Rgb kGreyBorder{131, 131, 131};
 constexpr Rgb kDark{87, 75, 78};

@@ -16,7 +16,7 @@
 namespace {
 
 constexpr int kPressTicks = 9;
-constexpr double kHalfWidth = 282, kRightHalf = 283;
+constexpr double kHalfWidth = 282;
 
 constexpr SoftKey kSoftKeys[] = {
     {kItemInitRef, "INIT", "REF", 1, 224},

@@ -16,6 +16,7 @@ constexpr int kItemInitRef = 17, kItemRte = 18, kItemDepArr = 19, kItemAltn = 20
 constexpr int kItemExec = 22, kItemFix = 23, kItemLegs = 24, kItemHold = 25, kItemFmcComm = 26;
 constexpr int kItemProg = 27, kItemNavRad = 28, kItemPrevPage = 29, kItemNextPage = 30;
 constexpr int kSoftKeyWidth = 33, kSoftKeyHeight = 22;
+constexpr int kRightHalf = 283;  // where the frame of a Display Unit\'s right half begins
 
 std::span<const SoftKey> SoftKeys();
 

@@ -5,14 +5,14 @@
 
 namespace {
 
-constexpr double kWidth = 564, kHeight = 424, kHalf = 282;
+constexpr double kFrameWidth = 564, kHeight = 424, kHalf = 282;
 
 // The middle of a half; the PFD beside the auxiliary strip has what that leaves.
 double MiddleOf(const ContentPlace& place) {
     constexpr double kStrip = 182;
-    if (place.mode == kModeWideNd) return kWidth / 2;
-    const double boundary = place.mode == 1 ? kStrip : place.mode == 2 ? kWidth - kStrip : kHalf;
-    return place.half == 1 ? boundary / 2 : (boundary + kWidth) / 2;
+    if (place.mode == kModeWideNd) return kFrameWidth / 2;
+    const double boundary = place.mode == 1 ? kStrip : place.mode == 2 ? kFrameWidth - kStrip : kHalf;
+    return place.half == 1 ? boundary / 2 : (boundary + kFrameWidth) / 2;
 }
 
 }  // namespace

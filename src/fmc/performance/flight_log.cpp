@@ -8,7 +8,7 @@
 #include "base/units.h"
 #include "fmc/performance/predictions.h"
 #include "frame/named_variables.h"
-#include "navdata/geodesy.h"
+#include "navdata/from_aircraft.h"
 #include "platform/files.h"
 #include "state/cfg.h"
 #include "state/flight_log.h"
@@ -19,7 +19,7 @@
 
 namespace {
 
-enum Phase {
+enum LogPhase {
     kNotStarted = -1,
     kInitLoad,
     kPushBack,
@@ -94,7 +94,7 @@ double HeldFor(bool holds, double& since) {
 
 double DistanceToDestination() {
     const FlightPlanLeg& dest = FlightPlanLegAt(plan.active.leg_cnt);
-    return GreatCircle(sim.plane_lat, sim.plane_lon, dest.lat, dest.lon).dist;
+    return FromAircraft(dest.lat, dest.lon).dist;
 }
 
 bool IsParked() {

@@ -10,11 +10,11 @@
 
 namespace {
 
-enum class Phase { kClimb, kCruise, kDescent };
+enum class LegPhase { kClimb, kCruise, kDescent };
 
-Phase PhaseAt(int leg) {
-    if (vnav.tod == 1 || (vnav.tod_stpos > 0 && leg > vnav.tod_stpos)) return Phase::kDescent;
-    return vnav.toc == 0 && leg <= vnav.toc_stpos ? Phase::kClimb : Phase::kCruise;
+LegPhase PhaseAt(int leg) {
+    if (vnav.tod == 1 || (vnav.tod_stpos > 0 && leg > vnav.tod_stpos)) return LegPhase::kDescent;
+    return vnav.toc == 0 && leg <= vnav.toc_stpos ? LegPhase::kClimb : LegPhase::kCruise;
 }
 
 // A pair of speeds as an indicated airspeed at an altitude; 0 when there is neither.
@@ -35,18 +35,18 @@ double PlannedGroundSpeed(const RouteVersion& route, int leg) {
     const FlightPlanLeg& at = route.legs[leg];
     if (!(at.alt > 0)) return sim.ground_speed_kt;
     const PlannedSpeeds& speeds = perf.speeds;
-    const Phase phase = PhaseAt(leg);
+    const LegPhase phase = PhaseAt(leg);
     double speed = 0;
     switch (phase) {
-        case Phase::kClimb:
+        case LegPhase::kClimb:
             speed = IndicatedSpeed(speeds.climb_ias, speeds.climb_mach, at.alt);
             if (at.alt < perf.clb_spd_trans_alt) Limit(speed, perf.clb_spd_trans_spd);
             if (at.alt < perf.clb_restr_alt) Limit(speed, perf.clb_restr_spd);
             break;
-        case Phase::kCruise:
+        case LegPhase::kCruise:
             speed = IndicatedSpeed(speeds.cruise_ias, speeds.cruise_mach, at.alt);
             break;
-        case Phase::kDescent:
+        case LegPhase::kDescent:
             speed = IndicatedSpeed(speeds.descent_ias, speeds.descent_mach, at.alt);
             if (at.alt < perf.des_spd_trans_alt) Limit(speed, perf.des_spd_trans_spd);
             if (at.alt < perf.des_restr_alt) Limit(speed, perf.des_restr_spd);

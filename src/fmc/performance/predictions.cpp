@@ -9,6 +9,7 @@
 #include "fmc/legs/find_leg.h"
 #include "fmc/legs/path.h"
 #include "fmc/performance/performance_tables.h"
+#include "navdata/from_aircraft.h"
 #include "navdata/geodesy.h"
 #include "navdata/magnetic_model.h"
 #include "state/airports.h"
@@ -83,8 +84,7 @@ void ComputeDistances(int) {
     }
     predictions.dist_to_dest = sum;
     const FlightPlanLeg& last = legs[plan.active.leg_cnt];
-    predictions.dest_brg =
-        FoldBearing(GreatCircle(sim.plane_lat, sim.plane_lon, last.lat, last.lon).bearing - sim.mgvar);
+    predictions.dest_brg = FoldBearing(FromAircraft(last.lat, last.lon).bearing - sim.mgvar);
     SetFinalPoint();
 }
 

@@ -7,6 +7,7 @@
 #include "fmc/performance/performance_tables.h"
 #include "fmc/performance/predictions.h"
 #include "frame/key_events.h"
+#include "navdata/from_aircraft.h"
 #include "navdata/geodesy.h"
 #include "platform/host.h"
 #include "state/cfg.h"
@@ -102,7 +103,7 @@ void BeginStepClimb(double altitude) {
 void WatchStepPoint() {
     if ((vnav.step_lat == 0 && vnav.step_lon == 0) || vnav.toc == 0 || vnav.tod == 1) return;
     constexpr double kAtPoint = 1.5, kAbeam = 90;  // nm, degrees
-    const DistBearing to = GreatCircle(sim.plane_lat, sim.plane_lon, vnav.step_lat, vnav.step_lon);
+    const DistBearing to = FromAircraft(vnav.step_lat, vnav.step_lon);
     vnav.dist_to_step = to.dist;
     if (to.dist > kAtPoint && BearingDifference(to.bearing, sim.true_track_deg) <= kAbeam) return;
     PlaceStep(0, 0, 0);

@@ -19,6 +19,7 @@
 #include "fmc/legs/find_leg.h"
 #include "fmc/legs/route_state.h"
 #include "frame/crew_messages.h"
+#include "navdata/from_aircraft.h"
 #include "navdata/geodesy.h"
 #include "platform/files.h"
 #include "platform/host.h"
@@ -53,7 +54,7 @@ double AlongTrack(std::span<const WindLevel> levels, double altitude, double bea
 // Along the leg, from the aircraft when it is the one that is flown.
 double LegBearing(int prev_leg, int leg) {
     const FlightPlanLeg& to = plan.active.legs[leg];
-    if (leg == plan.active.stpos) return GreatCircle(sim.plane_lat, sim.plane_lon, to.lat, to.lon).bearing;
+    if (leg == plan.active.stpos) return FromAircraft(to.lat, to.lon).bearing;
     const FlightPlanLeg& from = plan.active.legs[prev_leg];
     return GreatCircle(from.lat, from.lon, to.lat, to.lon).bearing;
 }

@@ -15,18 +15,18 @@ constexpr unsigned At(std::initializer_list<int> phases) {
     for (const int phase : phases) bits |= 1u << phase;
     return bits;
 }
-constexpr unsigned kAlways = (1u << kPhases) - 1;
+constexpr unsigned kEveryPhase = (1u << kPhases) - 1;
 
 // About a quarter of the controls in one frame: each is seen within a fifth of a second. Who types looks at
 // the scratchpad, so that the keypads are looked at in each frame.
 const PollSet kSets[] = {
-    {"always", kAlways, AlwaysPolledControls()},
+    {"always", kEveryPhase, AlwaysPolledControls()},
     {"overhead_forward", At({0, 4, 8, 12}), ForwardOverheadControls()},
     {"overhead_middle", At({1, 5, 9, 13}), MiddleOverheadControls()},
     {"overhead_engine", At({2, 6, 10, 14}), EngineOverheadControls()},
     {"air", At({3, 7, 11, 15}), AirControls()},
     {"tablets", At({3, 7, 11, 15}), TabletControls()},
-    {"keypads", kAlways, KeypadControls()},
+    {"keypads", kEveryPhase, KeypadControls()},
     {"pedestal", At({4, 8, 12, 16}), PedestalControls()},
     {"displays", At({5, 9, 13, 17}), DisplayControls()},
     {"glareshield", At({0, 6, 10, 14}), GlareshieldControls()},
