@@ -110,6 +110,7 @@ AutoflightCommands StepAutoflight(AutoflightLogic& logic, double dt) {
     TakeAutopilotButton(logic, now);
     TakeWheelSwitch();
     TakeDisconnect(logic);
+    FollowSpeedWindow(logic, now);
     UpdateLateralMode(logic, now);
     UpdateVerticalMode(logic, now);
     UpdateApproach(logic, now);

@@ -89,10 +89,8 @@ double ToGaPath(const AutoflightLogic& logic, const FlightValues& now, double dt
     return now.ias > NamedValue("TZ_V_S") * kRotationOverStall ? kRotation : 0;
 }
 
-// The window's speed, a Mach window included.
-double WindowSpeed(const FlightValues& now) {
-    const bool mach_window = NamedValue("tz_mach_status") == 1 && now.mach > 0.3;
-    return mach_window ? IasOfMach(TokenOf(118), now) : TokenOf(116);
+double WindowSpeed(const AutoflightLogic& logic, const FlightValues& now) {
+    return logic.mach_window ? IasOfMach(TokenOf(118), now) : TokenOf(116);
 }
 
 }  // namespace
@@ -105,19 +103,35 @@ double IasOfMach(double mach, const FlightValues& now) {
     return now.mach > 0.1 ? now.ias * mach / now.mach : now.ias;
 }
 
+void FollowSpeedWindow(AutoflightLogic& logic, const FlightValues& now) {
+    constexpr double kSlowestMach = 0.3;
+    const bool mach_window = NamedValue("tz_mach_status") == 1 && now.mach > kSlowestMach;
+    double knots = TokenOf(116);
+    if (mach_window && (!logic.mach_window || knots != logic.window_knots)) {
+        SetToken(118, knots * now.mach / now.ias);
+    } else if (!mach_window && logic.mach_window) {
+        knots = std::round(IasOfMach(TokenOf(118), now));
+        SetToken(116, knots);
+        logic.window_speed = knots;
+    }
+    logic.mach_window = mach_window;
+    logic.window_knots = knots;
+}
+
 bool IsMachTarget(const AutoflightLogic& logic) {
     if (IsVnav(logic.vertical) && !logic.speed_intervention) {
         const double target = NamedValue("vnav_spd");
         return target > 0 && target < 2;
     }
-    return NamedValue("tz_mach_status") == 1;
+    return logic.mach_window;
 }
 
 double TargetSpeed(const AutoflightLogic& logic, const FlightValues& now) {
     constexpr double kMostMach = 0.89, kBelowLimit = 8, kSlowestOverStall = 1.2;
     const bool by_route = IsVnav(logic.vertical) && !logic.speed_intervention;
     const double profile = by_route ? VnavSpeedTarget(logic, now) : 0;
-    const double target = profile > 0 ? profile : WindowSpeed(now) + (logic.took_off && by_route ? 15 : 0);
+    const double target =
+        profile > 0 ? profile : WindowSpeed(logic, now) + (logic.took_off && by_route ? 15 : 0);
     const double fastest =
         now.mach > 0.3 ? std::min(NamedValue("TZ_V_MO") - kBelowLimit, IasOfMach(kMostMach, now)) : 360;
     return std::max(std::min(target, fastest), NamedValue("TZ_V_S") * kSlowestOverStall);

@@ -22,6 +22,10 @@ bool IsMachTarget(const AutoflightLogic& logic);
 
 // Words that the vertical modes share.
 double IasOfMach(double mach, const FlightValues& now);
+
+/// Keeps the Mach number of the speed window (token 118) while the window shows one: the one that its knots
+/// stood for when it was changed over or turned last. Changed back, its knots are those of that Mach number.
+void FollowSpeedWindow(AutoflightLogic& logic, const FlightValues& now);
 double PathOfVerticalSpeed(double vertical_speed, const FlightValues& now);
 /// The path that closes in on a level and stays there.
 double PathToLevel(double altitude, const FlightValues& now);

@@ -2,6 +2,7 @@
 // what the variable says; what a click may do is the system's to decide.
 
 const LONG_PRESS = 500;  // ms on touch: a right click
+const STILL = 2;         // px that a finger may move meanwhile
 
 export function element(tag, className, text, ...children) {
   const made = document.createElement(tag);
@@ -26,6 +27,9 @@ export function bindPress(target, press, {halves = false} = {}) {
   });
   for (const end of ['pointerup', 'pointercancel', 'pointerleave'])
     target.addEventListener(end, () => clearTimeout(timer));
+  target.addEventListener('pointermove', (event) => {
+    if (Math.hypot(event.movementX, event.movementY) > STILL) clearTimeout(timer);
+  });
   target.addEventListener('click', (event) => {
     if (long) return;
     const box = target.getBoundingClientRect();

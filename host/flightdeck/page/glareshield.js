@@ -9,17 +9,22 @@ function digits(entry, value) {
   return (entry.sign ? (number < 0 ? '-' : number > 0 ? '+' : '') : '') + text;
 }
 
-// A window over its knob. The knob turns by the wheel and by the keys beside it, with Shift in big steps.
+const PIXELS_A_STEP = 6;  // of a drag
+
+// A window over its knob. The knob turns by the wheel, by a drag up or right and by the arrow keys, with Shift or Page
+// Up and Down in big steps, and by the keys beside it.
 function makeWindow(panels, entry) {
   const {link} = panels;
   const shown = element('output', 'window'), made = element('div', 'mcp-window');
   shown.dataset.value = entry.value;
   const show = () => {
-    const blank = entry.blank && entry.blank[1].includes(link.number(entry.blank[0]));
-    shown.textContent = blank ? '' : digits(entry, link.values.get(entry.value) ?? 0);
+    const blank = entry.blank && entry.blank[1].includes(link.number(entry.blank[0])) &&
+                  !(entry.open && link.number(entry.open) === 1);
+    const mach = entry.mach && link.number(entry.mach[0]) === 1 ? link.number(entry.mach[1]) : 0;
+    shown.textContent = blank ? '' : mach > 0 ? mach.toFixed(3).slice(1) : digits(entry, link.values.get(entry.value) ?? 0);
   };
-  link.watch(entry.value, () => queueMicrotask(show));
-  if (entry.blank) link.watch(entry.blank[0], () => queueMicrotask(show));
+  for (const name of [entry.value, entry.blank?.[0], entry.open, ...(entry.mach ?? [])])
+    if (name) link.watch(name, () => queueMicrotask(show));
 
   const turn = (detents) => link.send({type: 'area', gauge: 'MCP', button: 'left',
                                        area: `${entry.knob} ${detents > 0 ? '+' : '-'}${Math.abs(detents)}`});
@@ -31,8 +36,14 @@ function makeWindow(panels, entry) {
     return made;
   };
   const knob = element('button', 'dial mcp-knob');
-  knob.title = 'Turn by the wheel, with Shift in big steps';
+  knob.title = 'Turn by the wheel, a drag or the arrow keys, with Shift in big steps';
   bindPress(knob, (up, event) => turn((up ? 1 : -1) * (event.shiftKey ? 10 : 1)), {halves: true});
+  bindDrag(knob, turn);
+  knob.addEventListener('keydown', (event) => {
+    if (event.key !== 'PageUp' && event.key !== 'PageDown') return;
+    event.preventDefault();
+    turn(event.key === 'PageUp' ? 10 : -10);
+  });
   knob.addEventListener('wheel', (event) => {
     event.preventDefault();
     turn((event.deltaY < 0 ? 1 : -1) * (event.shiftKey ? 10 : 1));
@@ -41,6 +52,27 @@ function makeWindow(panels, entry) {
               element('div', 'turn', '', step('\u00ab', -10), step('\u2039', -1), knob, step('\u203a', 1), step('\u00bb', 10)),
               element('div', 'row', '', ...panels.makeAll(entry.keys)));
   return made;
+}
+
+// A pointer held down on a knob and moved: a step for each few pixels. What was a drag is no click.
+function bindDrag(knob, turn) {
+  let from = 0, dragged = false, held = false;
+  const along = (event) => event.clientX - event.clientY;
+  knob.addEventListener('pointerdown', (event) => {
+    held = event.button === 0;
+    dragged = false;
+    from = along(event);
+    if (held) knob.setPointerCapture(event.pointerId);
+  });
+  knob.addEventListener('pointermove', (event) => {
+    const steps = Math.trunc((along(event) - from) / PIXELS_A_STEP);
+    if (!held || steps === 0) return;
+    dragged = true;
+    from += steps * PIXELS_A_STEP;
+    for (let i = Math.abs(steps); i > 0; --i) turn(Math.sign(steps) * (event.shiftKey ? 10 : 1));
+  });
+  for (const end of ['pointerup', 'pointercancel']) knob.addEventListener(end, () => { held = false; });
+  knob.addEventListener('click', (event) => { if (dragged) event.stopImmediatePropagation(); }, {capture: true});
 }
 
 function column(className, panels, entries) {

@@ -197,6 +197,7 @@ export const glareshieldEnds = (side) => [
 // The mode control panel is worked through the mouse areas of its gauge. `lit` is by [variable, values].
 const area = (name, label, ...lit) => ({look: 'area', gauge: 'MCP', area: name, label, lit});
 const LAT = 'lvar:ap_lat_mode', LAT_ARMED = 'lvar:ap_lat_mode_armed';
+const THRUST = 'lvar:at_mode';
 const VERT = 'lvar:ap_vert_mode', VERT_ARMED = 'lvar:ap_vert_mode_armed';
 
 export const modeControl = {
@@ -206,8 +207,9 @@ export const modeControl = {
     area('apl', 'A/P L', ['lvar:ap_master_l', [1]]),
   ],
   windows: [
-    {label: 'IAS/MACH', value: 'ap_spdbug', knob: 'spd', digits: 3, blank: [VERT, [5, 6]],
-     keys: [area('at', 'A/T'), area('clbcon', 'CLB/CON')]},
+    {label: 'IAS/MACH', value: 'ap_spdbug', knob: 'spd', digits: 3, blank: [VERT, [5, 6]], open: 'lvar:tz_spd_intv_active',
+     mach: ['lvar:tz_mach_status', 'token:118'],
+     keys: [area('at', 'A/T', [THRUST, [2, 3]]), area('clbcon', 'CLB/CON', [THRUST, [5]])]},
     {label: 'HEADING', value: 'ap_hdgbug', knob: 'hdg', digits: 3, pad: '0', blank: [LAT, [6]],
      keys: [area('hdgsel', 'SEL', [LAT, [3]]), area('hdghold', 'HOLD', [LAT, [2]])]},
     {label: 'VERT SPEED', value: 'ap_vsbug', knob: 'vswheel', digits: 5, sign: true,

@@ -235,6 +235,24 @@ TEST_F(AutoflightTest, AutothrottleFollowsTheWindowAndThePitchMode) {
     EXPECT_EQ(Mode("at_mode"), 0);
 }
 
+TEST_F(AutoflightTest, AMachWindowKeepsItsMachNumber) {
+    EngageAutopilot();
+    FlyFor(60);
+    SetNamedValue("tz_mach_status", 1);
+    FlyFor(1);
+    EXPECT_NEAR(TokenOf(118), 0.742, 0.004) << "280 kt at 30000 ft";
+    SetCalc(kAltitudeWindow, 36000);
+    Press("ap_vert_mode_clicked", kFlightLevelChange);
+    FlyFor(900);
+    EXPECT_EQ(Mode("ap_vert_mode"), kAltitude);
+    EXPECT_NEAR(aircraft.ias, 244.6, 2) << "the same Mach number at 36000 ft";
+    EXPECT_EQ(Mode("at_mode"), kMach);
+    SetNamedValue("tz_mach_status", 0);
+    FlyFor(1);
+    EXPECT_NEAR(TokenOf(116), 245, 2);
+    EXPECT_EQ(Mode("at_mode"), kSpeed);
+}
+
 TEST_F(AutoflightTest, TakesOffAlongTheRunwayAndHandsOverToLnav) {
     PlaceAircraftAt(aircraft, 0, 0, 0, 90, 0, 0);
     aircraft.flaps = aircraft.controls.flaps = 15;
