@@ -42,11 +42,20 @@ Beam Localizer(const FlightValues& now) {
     return {TokenOf(550), needle * kFullAtThreshold * widening, IsReceived() && std::fabs(needle) < 0.9};
 }
 
-// The route's needle is full at three tenths of a mile.
+double ToRunway() {
+    return NamedValue("tz_dest_rwy_nm") * kFeetPerNm;
+}
+
+// The final that leads to the runway on its course, by where the runway lies; the needle is full at three
+// tenths of a mile.
+constexpr double kFinalFull = 0.3 * kFeetPerNm;
+
 Beam FinalCourse() {
-    constexpr double kFull = 0.3 * kFeetPerNm;
-    const double needle = NamedValue("tz_ian_fac_needle") / kNeedleFull;
-    return {NamedValue("tz_dest_rwy_trk"), needle * kFull, std::fabs(needle) < 0.9};
+    constexpr double kAhead = 60;  // degrees
+    const double course = NamedValue("tz_dest_rwy_fac");
+    const double aside = Difference(course, NamedValue("tz_dest_rwy_trk"));
+    const double right = ToRunway() * std::sin(aside * kRad);
+    return {course, right, std::fabs(aside) < kAhead && std::fabs(right) < 0.9 * kFinalFull};
 }
 
 Beam BeamOf(int mode, const FlightValues& now) {
@@ -78,14 +87,27 @@ Slope GlideSlope(const FlightValues& now) {
     return {needle * kFullDegrees * kRad * ToThreshold(TokenOf(45), now), received && IsNear(needle)};
 }
 
-Slope GlidePath() {
-    constexpr double kFull = 400;  // ft
-    const double needle = NamedValue("tz_ian_gp_needle") / kNeedleFull;
-    return {needle * kFull, IsNear(needle)};
+constexpr double kPathFull = 400;  // ft off the path
+
+Slope GlidePath(const FlightValues& now) {
+    constexpr double kOverThreshold = 50;  // ft
+    const double path = NamedValue("tz_dest_elev") + kOverThreshold + ToRunway() * kSlopeTangent;
+    const double above = now.altitude - path;
+    return {above, IsNear(above / kPathFull)};
+}
+
+// What the displays show of it.
+void ReportFinal(const FlightValues& now) {
+    const bool is_flown = NamedValue("tz_fmc_ian_appr") == 1;
+    const auto needle = [is_flown](double off, double full) {
+        return is_flown ? std::clamp(off / full, -1.0, 1.0) * kNeedleFull : 0;
+    };
+    SetNamedValue("tz_ian_fac_needle", needle(FinalCourse().right, kFinalFull));
+    SetNamedValue("tz_ian_gp_needle", needle(GlidePath(now).above, kPathFull));
 }
 
 Slope SlopeOf(int mode, const FlightValues& now) {
-    return mode == kGlidePath ? GlidePath() : GlideSlope(now);
+    return mode == kGlidePath ? GlidePath(now) : GlideSlope(now);
 }
 
 bool IsOnBeam(int lateral) {
@@ -152,6 +174,7 @@ void LandByItself(AutoflightLogic& logic, const FlightValues& now) {
 }  // namespace
 
 void UpdateApproach(AutoflightLogic& logic, const FlightValues& now) {
+    ReportFinal(now);
     DropLostBeam(logic, now);
     CaptureBeam(logic, now);
     CaptureSlope(logic, now);

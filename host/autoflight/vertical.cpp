@@ -28,7 +28,7 @@ void HoldAltitude(AutoflightLogic& logic, double altitude) {
 }
 
 void ArmApproach(AutoflightLogic& logic) {
-    const bool by_route = NamedValue("tz_fmc_ian_appr") == 1;  // flown by the route's own needles
+    const bool by_route = NamedValue("tz_fmc_ian_appr") == 1;  // flown by the route, not by a localizer
     const int lateral = by_route ? kFinalApproachCourse : kLocalizer;
     logic.vertical_armed = by_route ? kGlidePath : kGlideSlope;
     if (logic.lateral != lateral) logic.lateral_armed = lateral;

@@ -158,11 +158,15 @@ void LoadAircraft() {
         weights.zfw = EvalCalc("(A:EMPTY WEIGHT,pounds)") + SumOfPayloadStations();
 }
 
+double ZeroFuelWeight() {
+    return perf.ZfwEntry > 0 ? perf.ZfwEntry : weights.zfw;
+}
+
 void UpdateWeights() {
     sim.payload_weight = SumOfPayloadStations();
     if (perf.ZfwEntry == 0 && cfg.calcpayload == 1)
         weights.zfw = EvalCalc("(A:EMPTY WEIGHT,pounds)") + sim.payload_weight;
-    weights.gross_weight = sim.total_fuel + perf.FuelEntry + weights.zfw;
+    weights.gross_weight = sim.total_fuel + perf.FuelEntry + ZeroFuelWeight();
 }
 
 void UpdateFlapSpeedRow() {

@@ -15,6 +15,9 @@ bool ScanAircraftCfg();
 /// Fills the weight tables and, with no zero-fuel weight yet and CduAutoCalcZfw off, takes it from the host.
 void LoadAircraft();
 
+/// Zero-fuel weight (lb): the one entered, else the aircraft's.
+double ZeroFuelWeight();
+
 /// Reads the payload stations; zero-fuel and gross weight follow from them, the zero-fuel weight only while
 /// the crew has entered none and calcpayload is on.
 void UpdateWeights();

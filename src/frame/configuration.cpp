@@ -186,18 +186,6 @@ void ApplyLines(std::string_view text) {
     }
 }
 
-// The pairs that the crew may edit later start with the values of the file.
-void SeedSpeedRestrictions() {
-    perf.clb_spd_trans_alt = cfg.ClbTransAltRest;
-    perf.clb_spd_trans_spd = cfg.ClbTransSpdRest;
-    perf.clb_restr_alt = cfg.ClbAltRest;
-    perf.clb_restr_spd = cfg.ClbSpdRest;
-    perf.des_spd_trans_alt = cfg.DescTransAltRest;
-    perf.des_spd_trans_spd = cfg.DescTransSpdRest;
-    perf.des_restr_alt = cfg.DesAltRest;
-    perf.des_restr_spd = cfg.DesSpdRest;
-}
-
 }  // namespace
 
 void ReadConfig() {
@@ -205,7 +193,6 @@ void ReadConfig() {
     if (const auto file = ReadFile(kConfigFile, FileRoot::kSimulator, kMaxConfigBytes))
         ApplyLines(file->Text());
     ApplyLines(Host().config_lines());
-    SeedSpeedRestrictions();
     cockpit.battery_button = cfg.Battery;
     cockpit.TZ_OH_PFC_G_Switch = cfg.PfcSwitch == kPfcDisconnected ? 1 : 0;
 }

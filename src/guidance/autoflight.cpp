@@ -2,19 +2,16 @@
 
 #include "base/numbers.h"
 #include "frame/controls.h"
-#include "frame/key_events.h"
 #include "frame/named_variables.h"
-#include "frame/tokens.h"
+#include "guidance/autothrottle.h"
 #include "guidance/lnav.h"
 #include "guidance/vnav_speed.h"
-#include "platform/host.h"
 #include "state/autoflight.h"
 #include "state/cfg.h"
 #include "state/cockpit.h"
 #include "state/leg_words.h"
 #include "state/lnav.h"
 #include "state/plan.h"
-#include "state/sim.h"
 #include "state/vnav.h"
 
 namespace {
@@ -95,11 +92,7 @@ void StepDisconnect() {
     if (autoflight.ap_master_disconnect == kDisconnect && autoflight.ap_disc_latch == 0 &&
         IsAutopilotEngaged()) {
         autoflight.ap_disc_warning = 0;
-        if (cfg.DiscATOnAPDisc == 1) {
-            autoflight.at_armed_left = autoflight.at_armed_right = 0;
-            WriteNamedVar(NamedVar("at_armed_left"), 0);
-            WriteNamedVar(NamedVar("at_armed_right"), 0);
-        }
+        if (cfg.DiscATOnAPDisc == 1) DisarmAutothrottle();
     }
     if (autoflight.ap_master_l != 0) autoflight.ap_disc_warning = 0;
     if (autoflight.ap_disc_warning == 0 && autoflight.ap_disc_lamp == 1) SetDisconnectWarning(0);
@@ -134,6 +127,7 @@ void ReadAutoflightModes() {
     autoflight.at_armed_right = ReadInt(NamedVar("at_armed_right"));
     autoflight.ap_envelope_prot = ReadInt(NamedVar("ap_envelope_prot"));
     autoflight.spd_intv_active = ReadInt(NamedVar("tz_spd_intv_active"));
+    autoflight.thrust_limit = ReadInt(NamedVar("tz_thrust_limit"));
     FollowEngagedModes();
     StepDisconnect();
 }
@@ -155,10 +149,4 @@ void StepAutoflightTimers() {
     for (int* timer : {&autoflight.ap_status_timer, &autoflight.fma_roll_timer, &autoflight.fma_pitch_timer,
                        &autoflight.fma_at_timer})
         if (*timer > 0) --*timer;
-}
-
-void FollowAutothrottleArm() {
-    const int armed = ReadToken(kTokenAutothrottleArm) != 0 ? 1 : 0;
-    if (cfg.RealismMode == 1 && sim.host_at_armed == 1 && armed == 0) SendKeyEvent(kKeyAutothrottleDisarm, 0);
-    sim.host_at_armed = armed;
 }

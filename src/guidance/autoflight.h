@@ -12,6 +12,3 @@ void PublishGuidance();
 
 /// Counts the mode boxes down by one tick.
 void StepAutoflightTimers();
-
-/// In realism mode the host's autothrottle, once disarmed, is disarmed for good.
-void FollowAutothrottleArm();

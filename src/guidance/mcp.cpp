@@ -13,7 +13,7 @@
 #include "frame/controls.h"
 #include "frame/key_events.h"
 #include "frame/named_variables.h"
-#include "frame/tokens.h"
+#include "guidance/autothrottle.h"
 #include "platform/host.h"
 #include "state/autoflight.h"
 #include "state/cfg.h"
@@ -71,17 +71,6 @@ constexpr Knob kKnobs[] = {
     {"alt", kKeyAltitudeSet, &SimSnapshot::apalt, 100, 0, 50000},
 };
 
-void SwitchAutothrottleArm() {
-    int armed = autoflight.at_armed_left == 1 ? 0 : 1;
-    if (cfg.RealismMode == 1 && cfg.LnavDefAp == 1) {
-        armed = ReadToken(kTokenAutothrottleArmed) != 0 ? 1 : 0;
-        SendKeyEvent(kKeyAutothrottleArm, 0);
-    }
-    autoflight.at_armed_left = autoflight.at_armed_right = armed;
-    WriteNamedVar(NamedVar("at_armed_left"), armed);
-    WriteNamedVar(NamedVar("at_armed_right"), armed);
-}
-
 // The host carries events out on a later tick; the window moves at once, so that quick turns add up.
 void TurnHeading(int detents) {
     const bool engaged = autoflight.ap_master_l != 0 || autoflight.ap_master_r != 0;
@@ -101,7 +90,7 @@ void TurnVerticalSpeedWheel(int detents) {
 
 bool PressMcpButton(std::string_view name) {
     if (name == "atarm") {
-        SwitchAutothrottleArm();
+        SwitchAutothrottleArms();
         return true;
     }
     const auto button = std::find_if(std::begin(kButtons), std::end(kButtons),

@@ -104,7 +104,7 @@ void SequenceLeg() {
         FindNextClimbRestriction();
     else if (vnav.tod == 1)
         FindNextDescentRestriction();
-    ComputeDistances(0);
+    ComputeDistances();
     vnav.vnav_spd_pending = 0;
     VnavSpeedStep();
     lnav.lnav_init_mode = 0;

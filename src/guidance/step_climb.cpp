@@ -9,7 +9,7 @@
 #include "state/vnav.h"
 
 void FlyStepClimb() {
-    if (cfg.autostepclimb != 1 || vnav.step_due != 1) return;
+    if (cfg.autostepclimb != 1 || vnav.step_due != 1 || vnav.vnav_engaged != 1) return;
     if (perf.fms_step_to_alt <= perf.cruise_alt || sim.apalt < perf.fms_step_to_alt) return;
     vnav.step_due = 0;
     PushAltitudeKnob();

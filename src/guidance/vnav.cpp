@@ -42,7 +42,7 @@ void PassTopOfClimb() {
 
 // The crew is told once that the MCP altitude still holds the aircraft where the descent is near.
 void TellResetMcpAltitude() {
-    const bool held = sim.apalt >= perf.cruise_alt - kNearLevel;
+    const bool held = std::round(sim.apalt) >= perf.cruise_alt;
     if (!held) vnav.reset_mcp_told = 0;
     constexpr double kNearDescent = 4.5;  // nm
     const bool near = vnav.tod == 1 || (vnav.toc == 1 && predictions.dist_to_tod <= kNearDescent);
@@ -76,7 +76,7 @@ double DistanceFromTopToBottom() {
     double lat = vnav.tod_lat, lon = vnav.tod_lon, dist = 0;
     for (int i = plan.active.stpos; i <= plan.active.bod_pos; ++i) {
         const FlightPlanLeg& leg = FlightPlanLegAt(i);
-        if (!IsPlace(leg) || IsMissedApproach(leg)) continue;
+        if (!IsPlace(leg) || IsOfMissedApproach(leg)) continue;
         dist += GreatCircle(lat, lon, leg.lat, leg.lon).dist;
         lat = leg.lat;
         lon = leg.lon;
@@ -91,7 +91,6 @@ void BeginDescent(bool at_the_top) {
         lnav.last_fix_alt = perf.cruise_alt;
     }
     if (vnav.init_tod == 0 && perf.init_cruise_alt == perf.cruise_alt) vnav.init_tod = 1;
-    vnav.last_tod_elev = perf.cruise_alt;
     vnav.toc = vnav.tod = 1;
     vnav.spd_limit_done = 0;
     ++vnav.descent_cnt;
@@ -99,6 +98,8 @@ void BeginDescent(bool at_the_top) {
     vnav.tod_stpos = plan.active.stpos;
     FindBottomOfDescent(plan.active.stpos);
     SetCrossAtPoint();
+    FindNextDescentRestriction();
+    vnav.last_tod_elev = perf.cruise_alt;
     vnav.dist_from_tod_to_bod = DistanceFromTopToBottom();
     if (vnav.vnav_engaged != 1 || autoflight.spd_intv_active == 1) return;
     const FlightPlanLeg& to = ToLeg();
@@ -125,7 +126,7 @@ double DistanceToBottom() {
     double dist = 0, lat = sim.plane_lat, lon = sim.plane_lon;
     for (int i = plan.active.stpos; i <= plan.active.bod_pos; ++i) {
         const FlightPlanLeg& leg = FlightPlanLegAt(i);
-        if (!IsPlace(leg) || IsMissedApproach(leg)) continue;
+        if (!IsPlace(leg) || IsOfMissedApproach(leg)) continue;
         dist += GreatCircle(lat, lon, leg.lat, leg.lon).dist;
         lat = leg.lat;
         lon = leg.lon;
@@ -146,7 +147,7 @@ double DistancePastTop() {
     double dist = back.dist, lat = passed.lat, lon = passed.lon;
     for (int i = last - 1; i >= vnav.tod_stpos; --i) {
         const FlightPlanLeg& leg = FlightPlanLegAt(i);
-        if (!IsPlace(leg) || IsMissedApproach(leg)) continue;
+        if (!IsPlace(leg) || IsOfMissedApproach(leg)) continue;
         dist += GreatCircle(lat, lon, leg.lat, leg.lon).dist;
         lat = leg.lat;
         lon = leg.lon;
@@ -196,7 +197,7 @@ void ComputeRequiredRate() {
 
 void VnavUpdate() {
     if (plan.active.stpos == kNoPlan) return;
-    ComputeDistances(0);
+    ComputeDistances();
     TuneApproach();
     if (perf.cruise_alt <= 0) return;
     WatchStepPoint();

@@ -54,8 +54,8 @@ double NextLevel() {
     const auto is_next = [](double altitude) {
         return sim.ind_alt_ft > altitude && altitude > 0 && altitude >= vnav.cross_at_elev;
     };
-    if (is_next(perf.des_spd_trans_alt)) return perf.des_spd_trans_alt;
-    if (is_next(perf.des_restr_alt)) return perf.des_restr_alt;
+    if (is_next(cfg.DescTransAltRest)) return cfg.DescTransAltRest;
+    if (is_next(cfg.DesAltRest)) return cfg.DesAltRest;
     return vnav.cross_at_elev;
 }
 
@@ -67,7 +67,8 @@ double DistanceToLevel(double level) {
 
 bool LevelsOffAhead() {
     constexpr double kAbove = 300;
-    const double lowest = std::min({vnav.cross_at_elev, perf.des_spd_trans_alt, perf.des_restr_alt});
+    const double limits = std::min(cfg.DescTransAltRest, cfg.DesAltRest);
+    const double lowest = std::min(vnav.cross_at_elev, limits);
     return vnav.vnav_engaged == 1 && vnav.tod == 1 && sim.ind_alt_ft > lowest + kAbove;
 }
 
@@ -97,7 +98,7 @@ void AskForDrag() {
 // --- targets
 
 double TransitionSpeed() {
-    return std::max(perf.spd_limit, perf.des_spd_trans_spd);
+    return std::max<double>(perf.spd_limit, cfg.DescTransSpdRest);
 }
 
 void LowerSpeeds(double ias) {
@@ -108,7 +109,7 @@ void LowerSpeeds(double ias) {
 void AimInDescent() {
     const double level = NextLevel();
     vnav.level_off_dist = level == vnav.cross_at_elev ? vnav.cross_at_nm : DistanceToLevel(level);
-    const bool above_transition = sim.ind_alt_ft > perf.des_spd_trans_alt;
+    const bool above_transition = sim.ind_alt_ft > cfg.DescTransAltRest;
     const FlightPlanLeg& to = ToLeg();
     if (level == vnav.cross_at_elev && vnav.level_off_dist < kNearLevel && HasSpeedRestr(to) &&
         to.ias_restr > 0) {
@@ -116,15 +117,15 @@ void AimInDescent() {
         LowerSpeeds(to.ias_restr);
         return AimAtSpeed(SpeedRule::kLevelOffBelowTransition, to.ias_restr);
     }
-    const double limit = perf.spd_limit > 0 ? perf.spd_limit : perf.des_spd_trans_spd;
+    const double limit = perf.spd_limit > 0 ? perf.spd_limit : cfg.DescTransSpdRest;
     const bool near_transition =
-        !above_transition || (level == perf.des_spd_trans_alt && vnav.level_off_dist < kNearLevel);
+        !above_transition || (level == cfg.DescTransAltRest && vnav.level_off_dist < kNearLevel);
     if (near_transition && limit > 0 && limit < perf.speeds.descent_ias)
         return AimAtSpeed(SpeedRule::kDescentBelowTransition, limit);
     if (vnav.vnav_spd_mode == kMachMode) return AimAtMach(SpeedRule::kDescentMach, perf.speeds.descent_mach);
     for (int i = plan.active.stpos; i <= plan.active.leg_cnt; ++i) {
         const FlightPlanLeg& leg = FlightPlanLegAt(i);
-        if (!HasSpeedRestr(leg) || IsMissedApproach(leg)) continue;
+        if (!HasSpeedRestr(leg) || IsOfMissedApproach(leg)) continue;
         if (leg.ias_restr > 0 && FromAircraft(leg.lat, leg.lon).dist < kNearLevel) LowerSpeeds(leg.ias_restr);
         break;
     }
@@ -134,16 +135,16 @@ void AimInDescent() {
 constexpr double kClimbMargin = 25;  // ft below a limit's altitude at which it ends
 
 bool IsBelowClimbRestriction() {
-    return perf.clb_restr_spd > 0 && sim.ind_alt_ft < perf.clb_restr_alt - kClimbMargin;
+    return cfg.ClbSpdRest > 0 && sim.ind_alt_ft < cfg.ClbAltRest - kClimbMargin;
 }
 bool IsBelowClimbTransition() {
-    return perf.clb_spd_trans_spd > 0 && sim.ind_alt_ft < perf.clb_spd_trans_alt - kClimbMargin;
+    return cfg.ClbTransSpdRest > 0 && sim.ind_alt_ft < cfg.ClbTransAltRest - kClimbMargin;
 }
 
 // The limit speed in the climb; 0 above both altitudes.
 double ClimbLimit() {
-    if (IsBelowClimbRestriction()) return perf.clb_restr_spd;
-    return IsBelowClimbTransition() ? std::max(perf.spd_limit, perf.clb_spd_trans_spd) : 0;
+    if (IsBelowClimbRestriction()) return cfg.ClbSpdRest;
+    return IsBelowClimbTransition() ? std::max<double>(perf.spd_limit, cfg.ClbTransSpdRest) : 0;
 }
 
 bool IsTopBefore(const FlightPlanLeg& fix) {
@@ -182,12 +183,22 @@ void AimInClimb() {
         vnav.vnav_mach = vnav.vnav_spd_mode == kMachMode ? perf.speeds.climb_mach : 0;
 }
 
-void AimInCruise() {
+bool IsSinkingInCruise() {
     constexpr double kDescending = -100;  // fpm
+    return sim.vs_fpm < kDescending;
+}
+
+// The cruise may be left early, and taken up again, anywhere on a leg.
+void WatchEarlyDescent() {
+    const bool is_aimed_for = vnav.vnav_lset_code == static_cast<int>(SpeedRule::kEarlyDescent);
+    if (vnav.toc == 1 && !IsDescending() && IsSinkingInCruise() != is_aimed_for) vnav.vnav_spd_pending = 0;
+}
+
+void AimInCruise() {
     const FlightPlanLeg& bottom = FlightPlanLegAt(plan.active.bod_pos);
     if (HasSpeedRestr(bottom) && bottom.ias_restr > 0 && FromAircraft(bottom.lat, bottom.lon).dist < kNearFix)
         return AimAtSpeed(SpeedRule::kCruiseToBottom, bottom.ias_restr);
-    if (sim.vs_fpm < kDescending) return AimAtSpeed(SpeedRule::kEarlyDescent, perf.speeds.descent_ias);
+    if (IsSinkingInCruise()) return AimAtSpeed(SpeedRule::kEarlyDescent, perf.speeds.descent_ias);
     if (vnav.vnav_spd_mode == kMachMode) return AimAtMach(SpeedRule::kCruiseMach, perf.speeds.cruise_mach);
     AimAtSpeed(SpeedRule::kCruiseIas, perf.speeds.cruise_ias);
 }
@@ -245,14 +256,15 @@ void LimitSpeedOnTheWay() {
     if (vnav.vnav_engaged != 1 || !IsRouteActive()) return;
     EndClimbLimit();
     if (vnav.tod != 1) return;
-    LimitInDescent(perf.des_spd_trans_alt, TransitionSpeed(), kTransitionDone, SpeedRule::kDescentTransition);
-    LimitInDescent(perf.des_restr_alt, perf.des_restr_spd, kRestrictionDone, SpeedRule::kDescentRestriction);
+    LimitInDescent(cfg.DescTransAltRest, TransitionSpeed(), kTransitionDone, SpeedRule::kDescentTransition);
+    LimitInDescent(cfg.DesAltRest, cfg.DesSpdRest, kRestrictionDone, SpeedRule::kDescentRestriction);
     TakeUpLegSpeed();
 }
 
 void VnavSpeedStep() {
     if (plan.active.stpos == kNoPlan) return;
     ChooseMode();
+    WatchEarlyDescent();
     MeasureLevelOff();
     AskForDrag();
     if (vnav.vnav_engaged != 1 || !IsRouteActive()) return;

@@ -8,9 +8,16 @@
 #include "fmc/legs/route_airway.h"
 #include "fmc/legs/route_rows.h"
 #include "fmc/legs/route_state.h"
+#include "fmc/performance/flight_log.h"
 #include "fmc/performance/predictions.h"
+#include "fmc/performance/profile.h"
+#include "fmc/performance/step_point.h"
+#include "fmc/performance/winds.h"
+#include "fmc/route/delete_restrictions.h"
 #include "fmc/route/execute_route.h"
 #include "fmc/route/modification.h"
+#include "guidance/approach_tuning.h"
+#include "guidance/vnav_speed.h"
 #include "module/bound_function.h"
 #include "navdata/airways.h"
 #include "navdata/geodesy.h"
@@ -35,6 +42,14 @@ struct LatLonText {
 };
 LatLonText FormatLatLon(double lat, double lon) {
     return {FormatLatitude(lat), FormatLongitude(lon)};
+}
+
+// With the flag 0 what acts on the distances follows, as in a guidance pass.
+void MeasureDistances(int flag) {
+    ComputeDistances();
+    if (flag != 0) return;
+    WatchStepPoint();
+    TuneApproach();
 }
 
 }  // namespace
@@ -105,6 +120,9 @@ constexpr BoundFunction kPureFunctions[] = {
     Bind<EconDescentSpeed>("EconDescentSpeed", "CI"),
     Bind<PerfFactor>("PerfFactor", ""),
     Bind<MaxAltitude>("MaxAltitude", ""),
+    Bind<BestAltitude>("BestAltitude", ""),
+    Bind<LegWind>("LegWind", "PREV_LEG LEG"),
+    Bind<DescentWind>("DescentWind", "LEG"),
 };
 static_assert(UsagesFit(kPureFunctions));
 
@@ -130,6 +148,17 @@ constexpr BoundFunction kOperations[] = {
     Bind<InsertAirwaySegment>("InsertAirwaySegment", "AIRWAY_FIX"),
     Bind<InsertAirwayPlaceholder>("InsertAirwayPlaceholder", "INDEX AIRWAY"),
     Bind<InsertFixAt>("InsertFixAt", "POSITION CANDIDATE REPLACE"),
+    Bind<DeleteClimbRestrictions>("DeleteClimbRestrictions", "ONLY_NEXT"),
+    Bind<DeleteDescentRestrictions>("DeleteDescentRestrictions", "ONLY_NEXT"),
+    Bind<ComputeProfile>("ComputeProfile", "CRUISE_ALT [MODE]"),
+    Bind<MeasureDistances>("ComputeDistances", "FLAG"),
+    Bind<ApplyCostIndexRow>("ApplyCostIndexRow", "ACTIVE INDEX"),
+    Bind<ComputeStepPoint>("ComputeStepPoint", ""),
+    Bind<FlightLogStep>("FlightLogStep", "AT_WAYPOINT"),
+    Bind<VnavSpeedStep>("VnavSpeedStep", ""),
+    Bind<RequestRouteWinds>("RequestRouteWinds", ""),
+    Bind<ApplyRouteWinds>("ApplyRouteWinds", "SIDE"),
+    Bind<RequestDescentWinds>("RequestDescentWinds", ""),
 };
 static_assert(UsagesFit(kOperations));
 

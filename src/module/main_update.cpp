@@ -5,6 +5,7 @@
 #include "frame/snapshot.h"
 #include "frame/time_base.h"
 #include "guidance/autoflight.h"
+#include "guidance/autothrottle.h"
 #include "guidance/decision_height.h"
 #include "guidance/lnav.h"
 #include "guidance/pause_points.h"

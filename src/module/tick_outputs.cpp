@@ -69,6 +69,7 @@ void HalfSecond() {
 // At the phases 0, 5, 10 and 15.
 void QuarterSecond() {
     CheckApproachTuning();
+    PublishApproachValues();
 }
 
 void StepPhases(int phase) {

@@ -16,7 +16,8 @@ struct AutoflightState {
     int at_armed_left = 0, at_armed_right = 0;
     int ap_envelope_prot = 0;
     int ap_master_disconnect = 0;
-    int spd_intv_active = 0;
+    int spd_intv_active = 0;  // 1 while the pilot holds the speed in VNAV
+    int thrust_limit = 0;
     int ap_disc_warning = 0;  // "AUTOPILOT DISC" on EICAS
     int ap_disc_latch = 0;    // remembers a warning disconnect
     int ap_disc_lamp = 0;     // the warning lamp is lit for it

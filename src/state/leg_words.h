@@ -82,6 +82,10 @@ inline bool IsHoldLeg(const FlightPlanLeg& leg) {
 inline bool IsMissedApproach(const FlightPlanLeg& leg) {
     return leg.via == kMissedVia;
 }
+/// Behind the missed approach point, the hold that ends it as well: flown only when there is no landing.
+inline bool IsOfMissedApproach(const FlightPlanLeg& leg) {
+    return IsMissedApproach(leg) || (IsHoldLeg(leg) && leg.via_type == kApproachViaType);
+}
 /// Neither on an airway nor of a procedure.
 inline bool IsDirect(const FlightPlanLeg& leg) {
     return leg.via.empty() || leg.via == kDirectVia;

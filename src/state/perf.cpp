@@ -1,5 +1,7 @@
 #include "state/perf.h"
 
+#include "state/cfg.h"
+
 PerfState perf;
 
 namespace {
@@ -16,14 +18,14 @@ constexpr Variable kPerfRows[] = {
     {"fms_step_size", &perf.fms_step_size},
     {"fms_step_to_alt", &perf.fms_step_to_alt},
     {"entered_step_to_alt", &perf.entered_step_to_alt},
-    {"clb_spd_trans_alt", &perf.clb_spd_trans_alt},
-    {"clb_spd_trans_spd", &perf.clb_spd_trans_spd},
-    {"clb_restr_alt", &perf.clb_restr_alt},
-    {"clb_restr_spd", &perf.clb_restr_spd},
-    {"des_spd_trans_alt", &perf.des_spd_trans_alt},
-    {"des_spd_trans_spd", &perf.des_spd_trans_spd},
-    {"des_restr_alt", &perf.des_restr_alt},
-    {"des_restr_spd", &perf.des_restr_spd},
+    {"clb_spd_trans_alt", &cfg.ClbTransAltRest},
+    {"clb_spd_trans_spd", &cfg.ClbTransSpdRest},
+    {"clb_restr_alt", &cfg.ClbAltRest},
+    {"clb_restr_spd", &cfg.ClbSpdRest},
+    {"des_spd_trans_alt", &cfg.DescTransAltRest},
+    {"des_spd_trans_spd", &cfg.DescTransSpdRest},
+    {"des_restr_alt", &cfg.DesAltRest},
+    {"des_restr_spd", &cfg.DesSpdRest},
     {"spd_limit", &perf.spd_limit},
     {"ZfwEntry", &perf.ZfwEntry},
     {"FuelEntry", &perf.FuelEntry},

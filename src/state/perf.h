@@ -6,8 +6,8 @@
 #include "state/variable.h"
 
 /// What the flight is to be flown with, as the crew, the cost index or a stored route tells. Written by the
-/// performance pages and fmc/; the pairs of speed and altitude come from the configuration. Pounds, feet,
-/// knots.
+/// performance pages and fmc/; the pairs of speed and altitude that limit it stand in the configuration.
+/// Pounds, feet, knots.
 struct PerfState {
     PlannedSpeeds speeds;        // in force
     int cost_index = -1;         // negative = none
@@ -16,10 +16,6 @@ struct PerfState {
     int fms_step_size = 0;       // 0 entered step-to altitude, -1 ICAO, -2 RVSM
     double fms_step_to_alt = 0;
     double entered_step_to_alt = 0;
-    double clb_spd_trans_alt = 10000, clb_spd_trans_spd = 250;
-    double clb_restr_alt = 0, clb_restr_spd = 0;
-    double des_spd_trans_alt = 10000, des_spd_trans_spd = 240;
-    double des_restr_alt = 0, des_restr_spd = 0;
     double spd_limit = 0;     // lower limit of the descent speed
     double ZfwEntry = 0;      // zero-fuel weight, 0 = none
     double FuelEntry = 0;     // what a fuel entry adds to the sensed fuel, 0 = none

@@ -1,5 +1,7 @@
 #include "state/predictions.h"
 
+#include "state/cfg.h"
+
 PredictionState predictions;
 
 namespace {
@@ -21,6 +23,7 @@ constexpr Variable kPredictionRows[] = {
     {"crz_tas", &predictions.crz_tas},
     {"des_tas", &predictions.des_tas},
     {"tod_rod", &predictions.tod_rod},
+    {"desc_grad", &cfg.DescFpa},
     {"final_point_lat", &predictions.final_point_lat},
     {"final_point_lon", &predictions.final_point_lon},
     {"final_point_set", &predictions.final_point_set},

@@ -76,7 +76,7 @@ constexpr StateGroup kGroups[] = {
     {"winds", Reset<&winds>, &kWindsVariables, "fmc/performance/winds cdu/pages/"},
     {"route_files", Reset<&route_files>, &kRouteFileVariables, "fmc/files/"},
     {"perf", Reset<&perf>, &kPerfVariables,
-     "frame/configuration fmc/legs/route_state fmc/performance/ fmc/route/ fmc/files/ guidance/vnav_speed "
+     "fmc/legs/route_state fmc/performance/ fmc/route/ fmc/files/ guidance/vnav_speed "
      "cdu/words/constraint_entry"},
     {"predictions", Reset<&predictions>, &kPredictionVariables, "fmc/performance/ fmc/route/"},
     {"takeoff_approach", Reset<&takeoff_approach>, &kTakeoffApproachVariables,

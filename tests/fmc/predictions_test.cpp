@@ -114,23 +114,25 @@ TEST_F(Predictions, DistancesPassOverWhatIsNotFlown) {
                  {"DISCO", "", 0},
                  {"BRAVO", "", 41},
                  {"CHARL", "MISSED APPR", 60},
+                 {"CHARL", "HOLD", 60},  // that ends the missed approach
                  {"DEST", "", 42}};
     for (const auto& leg : kLegs) {
         plan.active.legs[plan.active.leg_cnt].ident = leg.ident;
         plan.active.legs[plan.active.leg_cnt].via = leg.via;
+        plan.active.legs[plan.active.leg_cnt].via_type = "APPR";
         plan.active.legs[plan.active.leg_cnt++].lat = leg.lat;
     }
     --plan.active.leg_cnt;
     sim.plane_lat = 39.5;
     sim.mgvar = 3;
-    ComputeDistances(1);
+    ComputeDistances();
     EXPECT_EQ(predictions.dist_to_dest, 0);  // no plan yet
     plan.active.stpos = 1;
     vnav.toc_lat = 39.75;
     vnav.toc_stpos = 0;
     vnav.tod_lat = 41.5;
     vnav.tod_stpos = 3;
-    ComputeDistances(1);
+    ComputeDistances();
     EXPECT_NEAR(predictions.dist_to_dest, 150, 1e-6);
     EXPECT_NEAR(predictions.dist_to_toc, 15, 1e-6);
     EXPECT_NEAR(predictions.dist_to_tod, 120, 1e-6);

@@ -113,7 +113,7 @@ TEST(Aircraft, ZeroFuelWeightComesFromTheHostUntilTheCrewEntersOne) {
     UpdateWeights();
     EXPECT_EQ(weights.zfw, 301000);
     EXPECT_EQ(weights.gross_weight, 351000);
-    perf.ZfwEntry = weights.zfw = 290000;
+    perf.ZfwEntry = 290000;
     UpdateWeights();
     EXPECT_EQ(weights.gross_weight, 340000);
     perf.FuelEntry = -500;  // the crew knows of less fuel than is sensed

@@ -1,7 +1,9 @@
 #include "guidance/autoflight.h"
 
+#include "fmc/performance/published_values.h"
 #include "guidance/guidance_test.h"
 #include "guidance/mcp.h"
+#include "state/airports.h"
 #include "state/autoflight.h"
 #include "state/cfg.h"
 #include "state/vnav.h"
@@ -53,6 +55,34 @@ TEST_F(AutoflightContractTest, TargetsArePublished) {
     plan.fms_fpln_active = 2;
     PublishGuidance();
     EXPECT_EQ(host.NamedVar("lnav_hdg"), 999);
+}
+
+TEST_F(AutoflightContractTest, TheFinalIsPublishedByItsRunway) {
+    airports.dest_airport.runway_cnt = 1;
+    RunwayData& runway = airports.dest_airport.runways[1];
+    runway.lon = 1;
+    runway.course = 92;
+    plan.final_appr_crs = 85;
+    plan.map_ident = "RW09";
+    sim.mgvar = 2;
+    const struct {
+        int runway;
+        const char* approach;
+        double course, bearing, dist, by_route;
+    } kCases[] = {{0, "RNV", 0, 0, 0, 0},
+                  {1, "RNV", 85, 88, 30, 1},
+                  {1, "ILS", 85, 88, 30, 0},
+                  {1, "-", 92, 88, 30, 0}};
+    PlaceAt(0, 0.5, 90);
+    for (const auto& row : kCases) {
+        plan.mod.procedures.fms_dest_rwy_pos = row.runway;
+        plan.mod.procedures.appr_type = row.approach;
+        PublishApproachValues();
+        EXPECT_EQ(host.NamedVar("tz_dest_rwy_fac"), row.course) << row.approach;
+        EXPECT_NEAR(host.NamedVar("tz_dest_rwy_trk"), row.bearing, 1e-6);
+        EXPECT_NEAR(host.NamedVar("tz_dest_rwy_nm"), row.dist, 1e-6);
+        EXPECT_EQ(host.NamedVar("tz_fmc_ian_appr"), row.by_route) << row.approach;
+    }
 }
 
 TEST_F(AutoflightContractTest, ModesAreCopiedAndNewOnesBoxed) {

@@ -10,6 +10,7 @@
 #include "state/airports.h"
 #include "state/autoflight.h"
 #include "state/cdu.h"
+#include "state/cfg.h"
 #include "state/leg_words.h"
 #include "state/nav.h"
 #include "state/perf.h"
@@ -132,7 +133,7 @@ TEST_F(Vnav, EveryRuleSetsItsSpeed) {
         vnav.cross_at_elev = row.leg_speed == 220 ? 10000 : row.tod == 1 ? 3000 : 35000;
         if (row.code == 7) vnav.cross_at_elev = 9000;
         vnav.cross_at_nm = 6;
-        perf.des_spd_trans_alt = 10000;
+        cfg.DescTransAltRest = 10000;
         perf.speeds.descent_ias = 280;
         sim.ind_alt_ft = row.alt;
         sim.vs_fpm = row.vs;
@@ -140,13 +141,19 @@ TEST_F(Vnav, EveryRuleSetsItsSpeed) {
         to.restr_code = row.leg_speed > 0 ? kSpeedRestr : kFree;
         to.ias_restr = row.leg_speed > 0 ? row.leg_speed : 280;
         PlaceAt(0, row.lon, 90);
-        if (row.code == 6) perf.des_spd_trans_alt = 10300;
+        if (row.code == 6) cfg.DescTransAltRest = 10300;
         if (row.code == 6) vnav.cross_at_elev = 10350;
         VnavSpeedStep();
         EXPECT_EQ(vnav.vnav_lset_code, row.code) << row.alt << " " << row.mode;
         EXPECT_NEAR(IsTargetMach() ? vnav.vnav_mach : vnav.vnav_ias, row.target, 1e-9) << row.code;
     }
     EXPECT_EQ(vnav.vnav_spd_pending, 1);
+    for (const auto& [vs, code] :
+         {std::pair{-101, 20}, {0, 21}}) {  // also where the target stands, 90 nm away
+        sim.vs_fpm = vs;
+        VnavSpeedStep();
+        EXPECT_EQ(vnav.vnav_lset_code, code);
+    }
     perf.speeds.cruise_ias = 285;  // the leg's 220 kt have lowered it
     plan.mod.selected.CruiseSelected = 1;
     vnav.vnav_spd_mode = 2;

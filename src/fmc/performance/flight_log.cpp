@@ -8,12 +8,12 @@
 #include "base/units.h"
 #include "fmc/performance/predictions.h"
 #include "frame/named_variables.h"
-#include "navdata/from_aircraft.h"
 #include "platform/files.h"
 #include "state/cfg.h"
 #include "state/flight_log.h"
 #include "state/identity.h"
 #include "state/plan.h"
+#include "state/predictions.h"
 #include "state/sim.h"
 #include "state/time_base.h"
 
@@ -92,11 +92,6 @@ double HeldFor(bool holds, double& since) {
     return holds ? sim.abs_time - since : 0;
 }
 
-double DistanceToDestination() {
-    const FlightPlanLeg& dest = FlightPlanLegAt(plan.active.leg_cnt);
-    return FromAircraft(dest.lat, dest.lon).dist;
-}
-
 bool IsParked() {
     constexpr double kStanding = 5;
     return sim.on_ground == 1 && sim.ground_speed_kt < kStanding && sim.parking_brake >= kParkingBrakeSet;
@@ -119,7 +114,7 @@ bool HasPhaseEnded() {
             return HeldFor(sim.vs_fpm < -kSteepFpm, flight_log.descending_since) >= kSeconds;
         }
         case kDescent:
-            return DistanceToDestination() < 20;
+            return predictions.dist_to_dest < 20;
         case kApproach:
             return sim.ground_speed_kt < 60;
         case kLanding:
@@ -151,11 +146,11 @@ bool IsRowDue() {
     }
 }
 
-void BeginNextPhase() {
+void BeginNextPhase(bool at_waypoint) {
     if (flight_log.fplog_mode == kApproach) flight_log.landing_fltsecs = time_base.fltsecs;
     ++flight_log.fplog_mode;
     const bool row_at_change = flight_log.fplog_mode <= kClimb || flight_log.fplog_mode == kEndFlight;
-    if (row_at_change) WriteRow();
+    if (row_at_change || at_waypoint) WriteRow();
 }
 
 }  // namespace
@@ -173,7 +168,7 @@ void FlightLogStep(bool at_waypoint) {
         return;
     }
     if (HasPhaseEnded())
-        BeginNextPhase();
+        BeginNextPhase(at_waypoint);
     else if (at_waypoint || IsRowDue())
         WriteRow();
 }

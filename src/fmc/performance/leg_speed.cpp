@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "fmc/performance/predictions.h"
+#include "state/cfg.h"
 #include "state/leg_words.h"
 #include "state/perf.h"
 #include "state/sim.h"
@@ -40,16 +41,16 @@ double PlannedGroundSpeed(const RouteVersion& route, int leg) {
     switch (phase) {
         case LegPhase::kClimb:
             speed = IndicatedSpeed(speeds.climb_ias, speeds.climb_mach, at.alt);
-            if (at.alt < perf.clb_spd_trans_alt) Limit(speed, perf.clb_spd_trans_spd);
-            if (at.alt < perf.clb_restr_alt) Limit(speed, perf.clb_restr_spd);
+            if (at.alt < cfg.ClbTransAltRest) Limit(speed, cfg.ClbTransSpdRest);
+            if (at.alt < cfg.ClbAltRest) Limit(speed, cfg.ClbSpdRest);
             break;
         case LegPhase::kCruise:
             speed = IndicatedSpeed(speeds.cruise_ias, speeds.cruise_mach, at.alt);
             break;
         case LegPhase::kDescent:
             speed = IndicatedSpeed(speeds.descent_ias, speeds.descent_mach, at.alt);
-            if (at.alt < perf.des_spd_trans_alt) Limit(speed, perf.des_spd_trans_spd);
-            if (at.alt < perf.des_restr_alt) Limit(speed, perf.des_restr_spd);
+            if (at.alt < cfg.DescTransAltRest) Limit(speed, cfg.DescTransSpdRest);
+            if (at.alt < cfg.DesAltRest) Limit(speed, cfg.DesSpdRest);
             break;
     }
     if (HasSpeedRestr(at)) Limit(speed, at.ias_restr);

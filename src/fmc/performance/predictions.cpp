@@ -3,12 +3,14 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <utility>
 
 #include "base/angles.h"
 #include "base/units.h"
 #include "fmc/legs/find_leg.h"
 #include "fmc/legs/path.h"
 #include "fmc/performance/performance_tables.h"
+#include "frame/aircraft.h"
 #include "navdata/from_aircraft.h"
 #include "navdata/geodesy.h"
 #include "navdata/magnetic_model.h"
@@ -29,13 +31,6 @@ double LimitedRound(double value, double low, double high) {
     return std::clamp(std::round(value), low, high);
 }
 
-// The destination's selected runway, null when there is none.
-const RunwayData* DestinationRunway() {
-    const int place = plan.mod.procedures.fms_dest_rwy_pos;
-    const AirportData& airport = airports.dest_airport;
-    return place > 0 && place <= airport.runway_cnt ? &airport.runways[place] : nullptr;
-}
-
 // Five miles out on the final of the destination's runway, set once per route.
 void SetFinalPoint() {
     constexpr double kNear = 30, kFinal = 5;
@@ -50,6 +45,12 @@ void SetFinalPoint() {
 
 }  // namespace
 
+const RunwayData* DestinationRunway() {
+    const int place = plan.mod.procedures.fms_dest_rwy_pos;
+    const AirportData& airport = airports.dest_airport;
+    return place > 0 && place <= airport.runway_cnt ? &std::as_const(airport.runways)[place] : nullptr;
+}
+
 double DisplayWeight(double lb) {
     return cfg.WeightUnit == "KGS" ? lb * kKgPerLb : lb;
 }
@@ -59,7 +60,7 @@ double GrossWeight() {
     return sim.empty_weight + sim.payload_weight + sim.total_fuel + perf.FuelEntry;
 }
 
-void ComputeDistances(int) {
+void ComputeDistances() {
     predictions.dist_to_dest = 0;
     if (plan.active.stpos == kNoPlan || plan.active.stpos < 1) return;
     if (vnav.toc == 0) predictions.dist_to_toc = 0;
@@ -70,7 +71,7 @@ void ComputeDistances(int) {
     double sum = 0;
     for (int i = plan.active.stpos; i <= plan.active.leg_cnt; ++i) {
         const FlightPlanLeg& leg = legs[i];
-        if (!IsPlace(leg) || IsMissedApproach(leg)) continue;
+        if (!IsPlace(leg) || IsOfMissedApproach(leg)) continue;
         const auto measure = [&](int passed, int before, double at_lat, double at_lon, double& dist) {
             if (passed == 0 && before >= from && before < i && (at_lat != 0 || at_lon != 0))
                 dist = sum + GreatCircle(lat, lon, at_lat, at_lon).dist;
@@ -149,7 +150,7 @@ double BestAltitude() {
     if (route <= kShortest || route > kLongest) return 0;
     const double ceiling = std::max(35000.0, kAltitudeByWeight.back().altitude);
     double climbed = std::max(origin.alt, 0.0), descended = std::max(dest.alt, 0.0);
-    double weight = weights.zfw + 100;
+    double weight = ZeroFuelWeight() + 100;
     // Both ends are walked towards each other, the lower one first, until they have used up the route.
     for (double used = 0; used < route && std::min(climbed, descended) < ceiling; used += kStep) {
         const bool climbing = climbed <= descended;
@@ -158,7 +159,7 @@ double BestAltitude() {
         constexpr double kSpeedLimitAltitude = 10000, kFastestBelow = 300;
         double speed = climbing ? climb.speed : descent.speed;
         if (climbing && climbed < kSpeedLimitAltitude)
-            speed = std::min(PlanningTas(perf.clb_spd_trans_spd, climbed), kFastestBelow);
+            speed = std::min(PlanningTas(cfg.ClbTransSpdRest, climbed), kFastestBelow);
         const double minutes = std::min(kStep, route - used) / speed * 60;
         if (!climbing) {
             descended += cfg.DescFpa * 100 * descent.speed / 60 * minutes;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <string>
+#include "state/airports.h"
 
 // Speeds, fuel and altitudes that the plan implies, from the aircraft's built-in tables. Pounds, feet, knots,
 // nautical miles, feet per minute.
@@ -11,9 +11,12 @@ double DisplayWeight(double lb);
 /// Gross weight (lb): as the performance pages have it, else empty weight, payload and fuel of the aircraft.
 double GrossWeight();
 
+/// The destination's selected runway, null when there is none.
+const RunwayData* DestinationRunway();
+
 /// Distances along the route from the aircraft to the top of climb, the top of descent and the destination,
-/// and the bearing to it. With `at_exec` 0, at a sequencing, the step point is looked at as well.
-void ComputeDistances(int at_exec);
+/// and the bearing to it.
+void ComputeDistances();
 
 /// Sets the speeds of the row of the cost index table, those not set by hand: the set in force with `active`,
 /// else the pending one. An index that is no row changes nothing.

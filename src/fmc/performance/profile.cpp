@@ -34,7 +34,7 @@ struct Stretch {
 using Route = std::vector<Stretch>;
 
 bool IsFlown(const FlightPlanLeg& leg) {
-    return IsPlace(leg) && !IsMissedApproach(leg);
+    return IsPlace(leg) && !IsOfMissedApproach(leg);
 }
 
 FlightPlanLeg& LegOf(const Stretch& stretch) {
@@ -145,8 +145,8 @@ double ClimbDistance(const Route& route, double cruise_alt) {
     double altitude = StartAltitude();
     if (altitude >= cruise_alt) return 0;
     const double weight = GrossWeight();
-    const double near =
-        1.25 * (cruise_alt - altitude) / ClimbRate(weight, altitude).rate * predictions.clb_tas / kMinutes;
+    const double near = 1.25 * (cruise_alt - sim.ind_alt_ft) / ClimbRate(weight, sim.ind_alt_ft).rate *
+                        predictions.clb_tas / kMinutes;
     for (const Stretch& stretch : route) {
         const double rate = ClimbRate(weight, altitude).rate;
         const double speed = ClimbSpeed(TakeWind(stretch));
@@ -248,12 +248,13 @@ void FillMissedApproach() {
     const FlightPlanLeg* before = nullptr;
     for (int i = 1; i <= plan.active.leg_cnt; ++i) {
         FlightPlanLeg& leg = plan.active.legs[i];
-        if (before != nullptr && IsMissedApproach(leg) && IsPlace(leg)) {
+        if (before != nullptr && IsOfMissedApproach(leg) && IsPlace(leg)) {
             const double dist = GreatCircle(before->lat, before->lon, leg.lat, leg.lon).dist;
             const double climbed = before->alt + kRate / ClimbSpeed(LegWind(i - 1, i)) * dist;
             leg.alt = HeldInClimb(leg, CutToTen(climbed));
         }
-        if (IsMissedPoint(leg) || (before != nullptr && IsMissedApproach(leg) && IsPlace(leg))) before = &leg;
+        if (IsMissedPoint(leg) || (before != nullptr && IsOfMissedApproach(leg) && IsPlace(leg)))
+            before = &leg;
     }
 }
 
@@ -286,10 +287,9 @@ void FillSpeeds(const Route& route) {
             case Phase::kClimb:
                 leg.ias_restr = perf.speeds.climb_ias;
                 leg.mach_restr = perf.speeds.climb_mach;
-                if (leg.alt <= perf.clb_spd_trans_alt)
-                    leg.ias_restr =
-                        Lower(Lower(perf.speeds.climb_ias, perf.clb_spd_trans_spd), perf.spd_limit);
-                if (leg.alt <= perf.clb_restr_alt) leg.ias_restr = Lower(leg.ias_restr, perf.clb_restr_spd);
+                if (leg.alt <= cfg.ClbTransAltRest)
+                    leg.ias_restr = Lower(Lower(perf.speeds.climb_ias, cfg.ClbTransSpdRest), perf.spd_limit);
+                if (leg.alt <= cfg.ClbAltRest) leg.ias_restr = Lower(leg.ias_restr, cfg.ClbSpdRest);
                 break;
             case Phase::kCruise:
                 leg.ias_restr = perf.speeds.cruise_ias;
@@ -298,10 +298,10 @@ void FillSpeeds(const Route& route) {
             case Phase::kDescent:
                 leg.ias_restr = perf.speeds.descent_ias;
                 leg.mach_restr = perf.speeds.descent_mach;
-                if (leg.alt <= perf.des_spd_trans_alt)
+                if (leg.alt <= cfg.DescTransAltRest)
                     leg.ias_restr =
-                        Lower(Lower(perf.speeds.descent_ias, perf.des_spd_trans_spd), perf.spd_limit);
-                if (leg.alt <= perf.des_restr_alt) leg.ias_restr = Lower(leg.ias_restr, perf.des_restr_spd);
+                        Lower(Lower(perf.speeds.descent_ias, cfg.DescTransSpdRest), perf.spd_limit);
+                if (leg.alt <= cfg.DesAltRest) leg.ias_restr = Lower(leg.ias_restr, cfg.DesSpdRest);
                 break;
         }
     }

@@ -1,11 +1,41 @@
 #include "fmc/performance/published_values.h"
 
+#include "base/angles.h"
+#include "fmc/performance/predictions.h"
 #include "frame/named_variables.h"
+#include "navdata/from_aircraft.h"
 #include "state/airports.h"
 #include "state/cfg.h"
 #include "state/plan.h"
 #include "state/predictions.h"
+#include "state/sim.h"
 #include "state/takeoff_approach.h"
+
+namespace {
+
+// The system flies the final itself where no localizer leads to the runway.
+bool IsFlownByRoute(const ProcedureSelections& chosen) {
+    return chosen.appr_type != "-" && chosen.appr_type != "ILS" && chosen.appr_type != "LOC";
+}
+
+}  // namespace
+
+void PublishApproachValues() {
+    const RunwayData* runway = DestinationRunway();
+    DistBearing to_runway = {0, 0};
+    double final_course = 0;
+    if (runway != nullptr) {
+        const bool has_final = plan.mod.procedures.appr_type != "-" && !plan.map_ident.empty();
+        to_runway = FromAircraft(runway->lat, runway->lon);
+        to_runway.bearing = FoldBearing(to_runway.bearing - sim.mgvar);
+        final_course = has_final ? plan.final_appr_crs : runway->course;
+    }
+    WriteNamedVar(NamedVar("tz_dest_rwy_fac"), final_course);
+    WriteNamedVar(NamedVar("tz_dest_rwy_trk"), to_runway.bearing);
+    WriteNamedVar(NamedVar("tz_dest_rwy_nm"), to_runway.dist);
+    WriteNamedVar(NamedVar("tz_fmc_ian_appr"),
+                  runway != nullptr && IsFlownByRoute(plan.mod.procedures) ? 1 : 0);
+}
 
 void PublishFmcValues() {
     WriteNamedVar(NamedVar("tz_accel_ht"), cfg.AccelHt);

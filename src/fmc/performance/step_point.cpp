@@ -58,7 +58,7 @@ void WalkAhead(Visit visit) {
     double lat = sim.plane_lat, lon = sim.plane_lon, begins = 0;
     for (int i = std::max(plan.active.stpos, 1); i <= plan.active.leg_cnt; ++i) {
         const FlightPlanLeg& leg = FlightPlanLegAt(i);
-        if (!IsPlace(leg) || IsMissedApproach(leg)) continue;
+        if (!IsPlace(leg) || IsOfMissedApproach(leg)) continue;
         const double dist = GreatCircle(lat, lon, leg.lat, leg.lon).dist;
         if (visit(leg, lat, lon, dist, begins)) return;
         begins += dist;

@@ -21,7 +21,7 @@ int ProlongSegment(int start) {
     const double altitude = FlightPlanLegAt(start).alt_restr;
     for (int i = start + 1; i <= plan.active.leg_cnt; ++i) {
         const FlightPlanLeg& leg = FlightPlanLegAt(i);
-        if (IsMissedApproach(leg) || !HasAltitudeRestr(leg)) continue;
+        if (IsOfMissedApproach(leg) || !HasAltitudeRestr(leg)) continue;
         const bool met = leg.restr_type == kBetween
                              ? leg.block_above <= altitude
                              : leg.restr_type != kAtOrBelow && leg.alt_restr == altitude;
@@ -36,7 +36,7 @@ double RouteDistance(int from, int to) {
     int last = from;
     for (int i = from + 1; i <= to; ++i) {
         const FlightPlanLeg& leg = FlightPlanLegAt(i);
-        if (IsMissedApproach(leg) || IsDisco(leg)) continue;
+        if (IsOfMissedApproach(leg) || IsDisco(leg)) continue;
         const FlightPlanLeg& start = FlightPlanLegAt(last);
         dist += GreatCircle(start.lat, start.lon, leg.lat, leg.lon).dist;
         last = i;
@@ -44,11 +44,12 @@ double RouteDistance(int from, int to) {
     return dist;
 }
 
-double NextRestriction(bool (*binds)(const FlightPlanLeg&), double FlightPlanLeg::*window_limit) {
+double NextRestriction(int first, int last, bool (*binds)(const FlightPlanLeg&),
+                       double FlightPlanLeg::*window_limit) {
     if (plan.active.stpos == kNoPlan) return 0;
-    for (int i = plan.active.stpos; i <= plan.active.leg_cnt; ++i) {
+    for (int i = std::max(first, plan.active.stpos); i <= last; ++i) {
         const FlightPlanLeg& leg = FlightPlanLegAt(i);
-        if (IsMissedApproach(leg) || !HasAltitudeRestr(leg) || !binds(leg)) continue;
+        if (IsOfMissedApproach(leg) || !HasAltitudeRestr(leg) || !binds(leg)) continue;
         return ConstraintAltitude(leg, leg.*window_limit);
     }
     return 0;
@@ -61,7 +62,7 @@ void FindBottomOfDescent(int first) {
     plan.active.bod_pos = plan.active.leg_cnt;
     for (int i = first; i <= plan.active.leg_cnt; ++i) {
         const FlightPlanLeg& leg = FlightPlanLegAt(i);
-        if (IsMissedApproach(leg) || !HasAltitudeRestr(leg)) continue;
+        if (IsOfMissedApproach(leg) || !HasAltitudeRestr(leg)) continue;
         const RestrType other = vnav.toc == 0 ? kAtOrBelow : kAtOrAbove;
         if (leg.restr_type != kAt && leg.restr_type != other) continue;
         plan.active.bod_pos = leg.restr_type == kAtOrAbove ? ProlongSegment(i) : i;
@@ -100,11 +101,14 @@ void SetCrossAtPoint() {
 }
 
 void FindNextClimbRestriction() {
+    const bool has_top = vnav.toc_lat != 0 || vnav.toc_lon != 0;
     vnav.clb_next_restr_alt = NextRestriction(
+        1, has_top ? vnav.toc_stpos : plan.active.leg_cnt,
         [](const FlightPlanLeg& leg) { return leg.restr_type != kAtOrAbove; }, &FlightPlanLeg::block_below);
 }
 
 void FindNextDescentRestriction() {
     vnav.des_next_restr_alt = NextRestriction(
+        vnav.tod == 1 ? 1 : vnav.tod_stpos + 1, plan.active.leg_cnt,
         [](const FlightPlanLeg& leg) { return leg.restr_type != kAtOrBelow; }, &FlightPlanLeg::block_above);
 }

@@ -12,7 +12,7 @@ void FindBottomOfDescent(int first);
 /// a cruise altitude nothing changes.
 void SetCrossAtPoint();
 
-/// Set `clb_next_restr_alt`, `des_next_restr_alt` to the altitude of the next constraint from the TO leg on,
-/// 0 = none.
+/// Set `clb_next_restr_alt`, `des_next_restr_alt` to the altitude of the next constraint from the TO leg on:
+/// before the top of climb, behind the top of descent; 0 = none.
 void FindNextClimbRestriction();
 void FindNextDescentRestriction();

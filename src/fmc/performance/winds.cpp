@@ -53,9 +53,9 @@ double AlongTrack(std::span<const WindLevel> levels, double altitude, double bea
 
 // Along the leg, from the aircraft when it is the one that is flown.
 double LegBearing(int prev_leg, int leg) {
-    const FlightPlanLeg& to = plan.active.legs[leg];
+    const FlightPlanLeg& to = FlightPlanLegAt(leg);
     if (leg == plan.active.stpos) return FromAircraft(to.lat, to.lon).bearing;
-    const FlightPlanLeg& from = plan.active.legs[prev_leg];
+    const FlightPlanLeg& from = FlightPlanLegAt(prev_leg);
     return GreatCircle(from.lat, from.lon, to.lat, to.lon).bearing;
 }
 
@@ -211,6 +211,12 @@ const WxStation* FindWxStation(const FlightPlanLeg& leg) {
     return nullptr;
 }
 
+// The altitude of a level that nobody has given: the cruise altitude, as entered last.
+int CruiseLevel() {
+    const double entered = plan.mod.entries.cruise_alt;
+    return static_cast<int>(entered > 0 ? entered : perf.cruise_alt);
+}
+
 void SetTemperature(FlightPlanLeg& destination, double temperature) {
     destination.temp_alt = std::max(1, airports.dest_airport.elevation_ft);  // 0 would be none
     destination.temp = temperature;
@@ -219,7 +225,7 @@ void SetTemperature(FlightPlanLeg& destination, double temperature) {
 }  // namespace
 
 double LegWind(int prev_leg, int leg) {
-    const FlightPlanLeg& from = plan.active.legs[prev_leg];
+    const FlightPlanLeg& from = FlightPlanLegAt(prev_leg);
     const double altitude = leg == plan.active.stpos ? sim.ind_alt_ft : from.alt;
     return AlongTrack(from.wind, altitude, LegBearing(prev_leg, leg));
 }
@@ -227,7 +233,7 @@ double LegWind(int prev_leg, int leg) {
 double DescentWind(int leg) {
     const int prev_leg = std::max(0, PlaceBefore(plan.active.legs, leg));
     if (IsEmpty(winds.DescentForecast)) return LegWind(prev_leg, leg);
-    return AlongTrack(winds.DescentForecast, plan.active.legs[leg].alt, LegBearing(prev_leg, leg));
+    return AlongTrack(winds.DescentForecast, FlightPlanLegAt(leg).alt, LegBearing(prev_leg, leg));
 }
 
 bool RequestRouteWinds() {
@@ -250,7 +256,7 @@ bool RequestRouteWinds() {
 void ApplyRouteWinds(int side) {
     OpenModification();
     std::array<WindLevel, 4> altitudes = {};  // of the last leg that had some
-    altitudes[0].alt = static_cast<int>(perf.cruise_alt);
+    altitudes[0].alt = CruiseLevel();
     for (int i = 1; i <= plan.mod.leg_cnt; ++i) {
         FlightPlanLeg& leg = plan.mod.legs[i];
         const WxStation* station = IsPlace(leg) ? FindWxStation(leg) : nullptr;
@@ -282,7 +288,7 @@ bool RequestDescentWinds() {
     if (nearest == nullptr) return true;
     const Weather weather = FindWeather(*files, nearest->ident);
     const WxStation station = MakeWxStation(*nearest, plan.active.leg_cnt, destination, weather.winds);
-    if (IsEmpty(winds.DescentForecast)) winds.DescentForecast[0].alt = static_cast<int>(perf.cruise_alt);
+    if (IsEmpty(winds.DescentForecast)) winds.DescentForecast[0].alt = CruiseLevel();
     for (WindLevel& level : winds.DescentForecast)
         if (level.alt > 0) FillLevel(level, station);
     if (const auto temperature = MetarTemperature(weather.metar)) {

@@ -274,10 +274,12 @@ void ExecuteRoute() {
     perf.cruise_alt = ComingCruise();
     if (perf.cruise_alt >= kLowestCruise) PlanCruise();
     ComputeProfile(perf.cruise_alt, 0);
-    ComputeDistances(1);
+    ComputeDistances();
     ComputeStepPoint();
     FindBottomOfDescent(plan.active.stpos);
     SetCrossAtPoint();
+    FindNextClimbRestriction();
+    FindNextDescentRestriction();
     RefreshLegsForModification();
     RebuildRouteRows();
 }

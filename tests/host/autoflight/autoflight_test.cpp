@@ -286,16 +286,20 @@ TEST_F(AutoflightTest, TakesOffAlongTheRunwayAndHandsOverToLnav) {
     EXPECT_EQ(Mode("at_mode"), kSpeed);
 }
 
-TEST_F(AutoflightTest, AnApproachByTheRoutesNeedlesArmsItsOwnModes) {
+TEST_F(AutoflightTest, AnApproachByTheRouteArmsItsOwnModes) {
     EngageAutopilot();
     SetNamedValue("tz_fmc_ian_appr", 1);
-    SetNamedValue("tz_ian_fac_needle", 127);
-    SetNamedValue("tz_dest_rwy_trk", 75);
+    SetNamedValue("tz_dest_rwy_fac", 75);
+    SetNamedValue("tz_dest_rwy_nm", 8);
+    SetNamedValue("tz_dest_rwy_trk", 85);  // 1.4 nm to the right
+    SetNamedValue("tz_dest_elev", aircraft.altitude - 50 - 8 * 318.4 + 200);
     Press("ap_vert_mode_clicked", kGlideSlope);
     FlyFor(1);
     EXPECT_EQ(Mode("ap_lat_mode_armed"), kFinalApproachCourse);
     EXPECT_EQ(Mode("ap_vert_mode_armed"), kGlidePath);
-    SetNamedValue("tz_ian_fac_needle", 0);
+    EXPECT_EQ(Mode("tz_ian_fac_needle"), 127);
+    EXPECT_NEAR(NamedValue("tz_ian_gp_needle"), -200 / 400.0 * 127, 2);  // below the path
+    SetNamedValue("tz_dest_rwy_trk", 75);
     FlyFor(60);
     EXPECT_EQ(Mode("ap_lat_mode"), kFinalApproachCourse);
     EXPECT_NEAR(aircraft.track, 75, 0.3);
