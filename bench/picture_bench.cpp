@@ -6,18 +6,31 @@
 #include <string>
 #include <vector>
 
+#include "display/nd/nd_picture.h"
 #include "display/pictures/frame.h"
 #include "display/pictures/gauge.h"
 #include "display/routing/modes.h"
+#include "display/routing/nd_controls.h"
 #include "flying_session.h"
 #include "host/flightdeck/picture_stream.h"
 #include "host/screens.h"
+#include "navdata/nav_tables.h"
+#include "navdata/nearest.h"
 #include "paint/colours.h"
 #include "paint/painter.h"
 #include "paint/rasterise.h"
 #include "state/displays.h"
 #include "state/electrical.h"
+#include "state/fix_info.h"
+#include "state/irs.h"
+#include "state/leg_words.h"
+#include "state/nd.h"
+#include "state/plan.h"
+#include "state/side.h"
+#include "state/sim.h"
+#include "state/vnav.h"
 #include "support/fake_host.h"
+#include "support/world_navdata.h"
 
 // Pictures from composing to the wire.
 
@@ -61,6 +74,100 @@ void ComposeSlowestMode(benchmark::State& state) {
     state.counters["mode"] = slowest;
 }
 BENCHMARK(ComposeSlowestMode)->Name("ComposeDisplayUnit")->Unit(benchmark::kMicrosecond);
+
+// The captain's ND with all its layers over the densest terminal area of the world's data, around New York,
+// on a route of as many legs; the aircraft turns a little from picture to picture. The longest of a hundred
+// stands beside the mean.
+struct NdScene {
+    FakeHost host;
+    DrawList list;
+    NdSide& side = NdOf(kCaptain);
+
+    bool Load(int legs, double range) {
+        const bool world = UseWorldNavdata(host);
+        LoadNavTables();
+        sim.plane_lat = 40.7;
+        sim.plane_lon = -74.0;
+        sim.ground_speed_kt = 300;
+        sim.radio_alt_ft = sim.ind_alt_ft = 9000;
+        sim.wind_kt = 20;
+        sim.bank_deg = 15;
+        irs.irs_left = irs.irs_right = 1;
+        vnav.tod = 1;
+        for (int i = 0; i <= legs; ++i) {
+            FlightPlanLeg& leg = plan.active.legs[i];
+            leg.ident = "LEG" + std::to_string(i % 1000);
+            leg.type = "INT";
+            // Ten legs about the aircraft, the others away from it.
+            leg.lat = 40.4 + (i < 10 ? i % 5 * 0.2 : 0.3 + i * 0.02);
+            leg.lon = -74.2 + (i < 10 ? i / 5 * 0.3 : i % 7 * 0.3);
+            leg.alt = 9000;
+            leg.alt_restr = 9000;
+            leg.restr_code = kAltitudeRestr;
+        }
+        plan.active.leg_cnt = legs;
+        plan.active.stpos = 1;
+        plan.active.active_leg = {.from = "LEG0", .from_lat = 40.4, .from_lon = -74.2, .to = "LEG1"};
+        plan.fms_fpln_active = kRouteActive;
+        plan.HoldList[1].leg = 3;
+        plan.hold_cnt = 1;
+        fix_info.FixPages[1] = {"JFK", 40.63, -73.77, {{{}, {.dist = 10}, {.bearing = 90}, {}}}};
+        side.rng_nm = range;
+        side.nd_apt = side.nd_wpt = side.nd_sta = side.nd_pos = side.nd_data = side.nd_tfc = 1;
+        side.nd_vor_l = side.nd_vor_r = side.nd_wxr_lamp = 1;
+        sim.nav1_radial = sim.nav2_radial = 80;
+        RefreshNearest();
+        return world;
+    }
+    void Draw() {
+        sim.mag_hdg = std::fmod(sim.mag_hdg + 0.1, 360);
+        Graphics graphics = GdipCreateGraphics(list, 564, 424);
+        DrawNdPicture(graphics, kCaptain, 1, true);
+    }
+};
+
+void ComposeNd(benchmark::State& state, void (*prepare)(NdScene& scene), void (*step)(NdScene& scene)) {
+    NdScene scene;
+    const bool world = scene.Load(static_cast<int>(state.range(0)), static_cast<double>(state.range(1)));
+    prepare(scene);
+    for (int i = 0; i < 100; ++i) scene.Draw();  // fonts, and the list's growth
+    std::vector<double> seconds;
+    for (auto _ : state) {
+        step(scene);
+        const auto start = Clock::now();
+        scene.Draw();
+        seconds.push_back(SecondsSince(start));
+        state.SetIterationTime(seconds.back());
+    }
+    std::ranges::sort(seconds);
+    state.counters["p99_us"] = seconds[seconds.size() * 99 / 100] * 1e6;
+    state.counters["primitives"] = static_cast<double>(scene.list.primitives.size());
+    state.counters["world_data"] = world;
+}
+
+void ComposeNdMap(benchmark::State& state) {
+    ComposeNd(
+        state, [](NdScene&) {}, [](NdScene&) {});
+}
+BENCHMARK(ComposeNdMap)
+    ->ArgNames({"legs", "nm"})
+    ->Args({60, 40})
+    ->Args({1000, 40})
+    ->Args({60, 640})
+    ->UseManualTime()
+    ->Unit(benchmark::kMicrosecond);
+
+// The map moves on by a leg from picture to picture; its lists follow it once a second, outside the picture.
+void ComposeNdPlan(benchmark::State& state) {
+    ComposeNd(
+        state, [](NdScene& scene) { scene.side.nd_mode = kNdPlan; },
+        [](NdScene& scene) { scene.side.plan_step = (scene.side.plan_step + 1) % 60; });
+}
+BENCHMARK(ComposeNdPlan)
+    ->ArgNames({"legs", "nm"})
+    ->Args({60, 1280})
+    ->UseManualTime()
+    ->Unit(benchmark::kMicrosecond);
 
 // As full as a map with all its layers over a busy terminal area.
 DrawList DensePicture() {

@@ -1,7 +1,10 @@
 #include "navdata/nearest.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
+#include <functional>
+#include <span>
 #include <string>
 #include <tuple>
 #include <utility>
@@ -54,13 +57,36 @@ void Rebuild(NearList<Row>& list, const GrowingList<Row>& source, int source_cnt
 }
 
 template <class Row>
+std::span<Row> RowsOf(NearList<Row>& list) {
+    return list.cnt > 0 ? std::span(&list.rows[1], static_cast<std::size_t>(list.cnt)) : std::span<Row>();
+}
+
+// A map that has no room for all shows the first ones: airports with long runways.
+void Arrange(NearList<AirportRow>& list) {
+    std::ranges::stable_sort(RowsOf(list), std::greater<>(), &AirportRow::longest_runway);
+}
+
+// A fix stands in the table once for each airway, but once on the map.
+void Arrange(NearList<AirwayFixRow>& list) {
+    const auto key = [](const AirwayFixRow& row) { return std::tie(row.lat, row.lon, row.ident); };
+    const std::span<AirwayFixRow> rows = RowsOf(list);
+    std::ranges::sort(rows, {}, key);
+    list.cnt -= static_cast<int>(std::ranges::unique(rows, {}, key).size());
+}
+
+void Arrange(NearList<NavaidRow>&) {}
+
+template <class Row>
 bool BringTo(NearListPair<Row>& pair, const GrowingList<Row>& table, int count, double lat, double lon,
              double far_nm, double near_nm) {
     const auto every_row = [](const Row&) { return true; };
     const bool far_moved = HasMoved(pair.far, lat, lon, kFarRebuildNm);
     if (far_moved) Rebuild(pair.far, table, count, lat, lon, far_nm, every_row);
     const bool near_moved = HasMoved(pair.near, lat, lon, kNearRebuildNm);
-    if (near_moved) Rebuild(pair.near, pair.far.rows, pair.far.cnt, lat, lon, near_nm, every_row);
+    if (near_moved) {
+        Rebuild(pair.near, pair.far.rows, pair.far.cnt, lat, lon, near_nm, every_row);
+        Arrange(pair.near);
+    }
     return far_moved || near_moved;
 }
 

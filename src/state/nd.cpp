@@ -49,6 +49,8 @@ constexpr Variable kNdRows[] = {
     {"fo.plan_step", &nd[1].plan_step},
     {"capt.nd_pick_pending", &nd[0].nd_pick_pending},
     {"fo.nd_pick_pending", &nd[1].nd_pick_pending},
+    {"capt.nd_pick_use", &nd[0].nd_pick_use},
+    {"fo.nd_pick_use", &nd[1].nd_pick_use},
     {"capt.nd_pick_taken", &nd[0].nd_pick_taken},
     {"fo.nd_pick_taken", &nd[1].nd_pick_taken},
     {"capt.nd_cursor_x", &nd[0].nd_cursor_x},

@@ -20,10 +20,14 @@ struct NdSide {
     int nd_vor_l = 0, nd_vor_r = 0;
     double plan_lat = 0, plan_lon = 0;     // centre of PLAN, degrees; 0, 0 = unset
     int plan_step = 0;                     // leg at the centre of PLAN
-    int nd_pick_pending = 0;               // PICK WPT has been pressed: the next click on the map picks
-    int nd_pick_taken = 0;                 // it has been clicked, at the cursor
+    int nd_pick_pending = 0;               // the next press on the map is a point of it
+    int nd_pick_use = 0;                   // what the point is for: one of those below
+    int nd_pick_taken = 0;                 // the map has been pressed, at the cursor
     int nd_cursor_x = 0, nd_cursor_y = 0;  // from the half's upper left corner
 };
+
+/// Of nd_pick_use: the key that has been pressed in PLAN.
+constexpr int kPickWaypoint = 0, kPickCursor = 1, kPickCentre = 2;
 
 /// What both navigation displays remember from picture to picture.
 struct NdMemory {

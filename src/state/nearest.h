@@ -8,7 +8,7 @@
 #include "state/nav_tables.h"
 #include "state/variable.h"
 
-/// Rows of a big table around a point, in the table's order, from 1.
+/// Rows of a big table around a point, from 1.
 template <class Row>
 struct NearList {
     GrowingList<Row> rows;
@@ -17,7 +17,8 @@ struct NearList {
     int built = 0;            // 0 until there has been one
 };
 
-/// The far list is taken from the full table, the near list from the far one.
+/// The far list is taken from the full table and in its order, the near list from the far one: airports with
+/// the longest runways first, a fix only once.
 template <class Row>
 struct NearListPair {
     NearList<Row> far, near;

@@ -71,6 +71,8 @@ TEST(DisplayClicks, PickOnTheMapGoesBeforeItsKeys) {
         EXPECT_EQ(NdOf(row.side).nd_pick_taken, 1) << row.unit << ", " << row.mode;
         EXPECT_EQ(NdOf(row.side).nd_cursor_x, 100);
         EXPECT_EQ(NdOf(3 - row.side).nd_pick_taken, 0);
+        EXPECT_EQ(NdOf(row.side).nd_pick_pending, 0) << "one press, one point";
+        NdOf(row.side).nd_pick_pending = 1;
         OnDisplayUnitClick(row.x, 380, row.unit);
         EXPECT_EQ(NdOf(row.side).nd_cursor_y, row.y) << "below the map";
     }

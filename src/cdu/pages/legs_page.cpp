@@ -163,7 +163,9 @@ bool MapStandsOnALeg(const PageCall& call) {
 }
 
 void StepMapCentre(PageCall& call) {
-    int& centre = NdOf(call.side).plan_step;
+    NdSide& map = NdOf(call.side);
+    map.plan_lat = map.plan_lon = 0;  // an entered centre gives way
+    int& centre = map.plan_step;
     const int first = FirstShownLeg();
     int leg = centre < first ? first : centre + 1;
     while (leg <= ShownCount() && !IsPlace(ShownLeg(leg))) ++leg;

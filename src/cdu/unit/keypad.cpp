@@ -49,6 +49,10 @@ void OnCduKeyChar(int side, char character) {
     Append(CduOf(side).ScratchPad, character);
 }
 
+void PutOnScratchpad(int side, std::string_view text) {
+    CduOf(side).ScratchPad = text.substr(0, kScratchPadLimit);
+}
+
 void OnSpace(int side) {
     CduState& unit = CduOf(side);
     if (unit.ScratchMessage == kDeleteMessage) {

@@ -1,9 +1,10 @@
 #include "display/formats/nd.h"
 
 #include "base/area.h"
-#include "display/formats/touch.h"
+#include "display/nd/nd_keys.h"
 #include "display/nd/nd_picture.h"
 #include "display/routing/modes.h"
+#include "state/displays.h"
 #include "state/nd.h"
 
 void DrawNd(Graphics& graphics, const ContentPlace& place) {
@@ -18,13 +19,8 @@ void TouchNd(const FormatTouch& at) {
         {226, 257, 297, 312},  // its EXIT
         {7, 278, 394, 416},    // keys of PLAN
     };
-    NdSide& map = NdOf(at.side);
-    if (at.y <= kMapBottom && map.nd_pick_pending == 1) {
-        map.nd_pick_taken = 1;
-        map.nd_cursor_x = at.x;
-        map.nd_cursor_y = at.y;
-        return;
-    }
+    if (at.y <= kMapBottom && NdOf(at.side).nd_pick_pending == 1)
+        return OnNdMapPress(at.side, DisplayModeOf(at.unit) == kModeWideNd, at.x, at.y);
     for (const Area& area : kKeys)
-        if (area.Has(at.x, at.y)) return LeaveClick(displays.nd_click, at);
+        if (area.Has(at.x, at.y)) return OnNdKey(at.side, at.x, at.y);
 }

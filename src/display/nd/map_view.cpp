@@ -1,6 +1,7 @@
 #include "display/nd/map_view.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 #include "base/angles.h"
@@ -115,6 +116,21 @@ void DrawMapLine(Graphics& graphics, const Pen& pen, const MapView& view, MapPoi
     if (!ClipLine(room, seen_a, seen_b)) return;
     if (!ClipLine({-kFar, -kFar, kFar, kFar}, a, b)) return;
     GdipDrawLine(graphics, pen, a.x, a.y, b.x, b.y);
+}
+
+void DrawArcLine(Graphics& graphics, const Pen& pen, MapPoint middle, double radius, double start,
+                 double sweep) {
+    constexpr double kChordsPerTurn = 96;
+    std::array<PaintPoint, 97> points;
+    const double share = std::clamp(std::fabs(sweep) / 360 * kChordsPerTurn, 1.0, kChordsPerTurn);
+    const auto chords = static_cast<std::size_t>(share);
+    for (std::size_t i = 0; i <= chords; ++i) {
+        const double angle =
+            (start + sweep * static_cast<double>(i) / static_cast<double>(chords)) * kRadPerDeg;
+        points[i] = {static_cast<float>(middle.x + std::cos(angle) * radius),
+                     static_cast<float>(middle.y + std::sin(angle) * radius)};
+    }
+    GdipDrawLines(graphics, pen, {points.data(), chords + 1});
 }
 
 void DrawCircle(Graphics& graphics, const Pen& pen, MapPoint middle, double diameter) {

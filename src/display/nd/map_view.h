@@ -57,5 +57,9 @@ bool ClipLine(const MapBox& box, MapPoint& a, MapPoint& b);
 /// A line of the map. What can't be seen is left out.
 void DrawMapLine(Graphics& graphics, const Pen& pen, const MapView& view, MapPoint a, MapPoint b);
 
+/// An arc about a point, degrees clockwise from the right.
+void DrawArcLine(Graphics& graphics, const Pen& pen, MapPoint middle, double radius, double start,
+                 double sweep);
+
 /// A circle about a point, as wide as a number of units.
 void DrawCircle(Graphics& graphics, const Pen& pen, MapPoint middle, double diameter);

@@ -256,7 +256,7 @@ void DrawNdHeader(Graphics& graphics, const NdFrame& frame) {
     else
         DrawSelectedHeading(graphics, frame);
     DrawWind(graphics, frame);
-    if (frame.irs_on) DrawVorReceivers(graphics, frame);
+    if (!frame.in_plan && frame.irs_on) DrawVorReceivers(graphics, frame);
     if (!frame.in_plan) DrawVnavScale(graphics, frame);
     GdipResetWorldTransform(graphics);
 }
