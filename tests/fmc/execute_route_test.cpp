@@ -275,6 +275,9 @@ TEST_F(ExecuteRouteTest, SpeedsAndLevelsFollowAtExec) {
     AdvanceRouteState();
     ExecuteRoute();
     EXPECT_EQ(perf.cost_index, 100);
+    EXPECT_EQ(perf.speeds.climb_ias, 321);     // economy at 400000 lb
+    EXPECT_EQ(perf.speeds.climb_mach, 0.846);  // the index's row
+    EXPECT_EQ(perf.speeds.cruise_ias, 324);
     EXPECT_EQ(plan.mod.selected.CruiseMachSelected, 0);
     EXPECT_EQ(perf.fms_step_to_alt, 0);  // 42000 is above the maximum of 41800
     EXPECT_NEAR(predictions.perf_factor, 10 * 0.0071 - 0.03, 1e-9);

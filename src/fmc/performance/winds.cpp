@@ -217,6 +217,16 @@ int CruiseLevel() {
     return static_cast<int>(entered > 0 ? entered : perf.cruise_alt);
 }
 
+// A forecast that is still empty: the configured altitudes, else the cruise altitude.
+void BeginForecast(std::array<WindLevel, 4>& levels) {
+    constexpr int kLowest = 1000;
+    const int configured[] = {cfg.DescForecastAlt1, cfg.DescForecastAlt2, cfg.DescForecastAlt3,
+                              cfg.DescForecastAlt4};
+    for (std::size_t i = 0; i < levels.size(); ++i)
+        if (configured[i] >= kLowest) levels[i].alt = configured[i];
+    if (IsEmpty(levels)) levels[0].alt = CruiseLevel();
+}
+
 void SetTemperature(FlightPlanLeg& destination, double temperature) {
     destination.temp_alt = std::max(1, airports.dest_airport.elevation_ft);  // 0 would be none
     destination.temp = temperature;
@@ -288,7 +298,7 @@ bool RequestDescentWinds() {
     if (nearest == nullptr) return true;
     const Weather weather = FindWeather(*files, nearest->ident);
     const WxStation station = MakeWxStation(*nearest, plan.active.leg_cnt, destination, weather.winds);
-    if (IsEmpty(winds.DescentForecast)) winds.DescentForecast[0].alt = CruiseLevel();
+    if (IsEmpty(winds.DescentForecast)) BeginForecast(winds.DescentForecast);
     for (WindLevel& level : winds.DescentForecast)
         if (level.alt > 0) FillLevel(level, station);
     if (const auto temperature = MetarTemperature(weather.metar)) {

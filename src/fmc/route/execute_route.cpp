@@ -62,25 +62,26 @@ void BeginNewRoute() {
 
 // The cruise altitude that this EXEC brings, 0 = none.
 double ComingCruise() {
-    return plan.mod.entries.cruise_alt > 0 ? plan.mod.entries.cruise_alt : perf.cruise_alt;
+    if (plan.mod.entries.cruise_alt > 0) return plan.mod.entries.cruise_alt;
+    return perf.cruise_alt > 0 ? perf.cruise_alt : BestAltitude();
 }
 
 void FillSpeeds() {
     const SpeedSelections& selected = plan.mod.selected;
     PlannedSpeeds& speeds = perf.speeds;
     FillMissingSpeeds(speeds);
-    const double cruise = ComingCruise();
     if (perf.cost_index < 0) {
         constexpr double kUsualCruise = 30000;
-        const double altitude = cruise > 0 ? cruise : kUsualCruise;
+        const double altitude = perf.cruise_alt > 0 ? perf.cruise_alt : kUsualCruise;
         if (selected.climb_mach_manual == 0) speeds.climb_mach = IasToMach(speeds.climb_ias, altitude);
         if (selected.CruiseMachSelected == 0) speeds.cruise_mach = IasToMach(speeds.cruise_ias, altitude);
         if (selected.descent_mach_manual == 0) speeds.descent_mach = IasToMach(speeds.descent_ias, altitude);
         return;
     }
+    ApplyCostIndexRow(true, perf.cost_index);
     if (selected.ClimbSelected == 0) speeds.climb_ias = EconClimbSpeed(perf.cost_index);
     const int cruise_index = selected.LrcSelected == 1 ? kLongRangeCruise : perf.cost_index;
-    if (selected.CruiseMachSelected == 0) speeds.cruise_mach = EconCruiseMach(cruise_index, cruise);
+    if (selected.CruiseMachSelected == 0) speeds.cruise_mach = EconCruiseMach(cruise_index, perf.cruise_alt);
     if (selected.DescentSelected == 0) speeds.descent_ias = EconDescentSpeed(perf.cost_index);
 }
 
@@ -261,7 +262,6 @@ void ExecuteRoute() {
     if (plan.mod.leg_cnt < 1 || !IsPlace(plan.mod.legs[plan.mod.leg_cnt])) return;
     ApplyEntries();
     BeginNewRoute();
-    FillSpeeds();
     const ActiveLegRecord flown = plan.active.active_leg;
     TakeOverModification();
     KeepFinalApproach();
@@ -272,6 +272,7 @@ void ExecuteRoute() {
     SettleOrigin();
     plan.fms_fpln_active = kRouteActive;
     perf.cruise_alt = ComingCruise();
+    FillSpeeds();
     if (perf.cruise_alt >= kLowestCruise) PlanCruise();
     ComputeProfile(perf.cruise_alt, 0);
     ComputeDistances();
