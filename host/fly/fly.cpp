@@ -191,6 +191,10 @@ int Fly(const FlyOptions& given) {
         std::fprintf(stderr, "tz900 fly: %s\n", recorder.error.c_str());
         return 1;
     }
+    if (!world.never_a_number.empty()) {
+        std::fprintf(stderr, "tz900 fly: %s was no number\n", world.never_a_number.c_str());
+        return 1;
+    }
     return options.headless && !route.arrived ? 1 : 0;
 }
 

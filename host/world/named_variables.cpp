@@ -1,5 +1,7 @@
 #include "host/world/named_variables.h"
 
+#include <cmath>
+
 #include "host/world/world.h"
 
 namespace host {
@@ -83,7 +85,10 @@ double GetNamedVar(int id) {
 }
 
 void SetNamedVar(int id, double value) {
-    if (NamedVariable* variable = VariableById(id)) variable->value = value;
+    NamedVariable* variable = VariableById(id);
+    if (variable == nullptr) return;
+    if (!std::isfinite(value)) world.never_a_number = variable->name;
+    variable->value = value;
 }
 
 }  // namespace host

@@ -66,6 +66,7 @@ struct World {
     std::bitset<kTokenCount> pinned;  // set by hand: holds until changed
     std::vector<NamedVariable> named;
     TextMap<int> named_ids;
+    std::string never_a_number;  // the last one to which the module wrote what is no number
     TextMap<CalcValue> calc;
     std::array<bool, 100> windows = {};
     std::array<std::uint8_t, 256> keyboard = {};
