@@ -12,6 +12,7 @@
 #include "fmc/route/modification.h"
 #include "fmc/route_model.h"
 #include "navdata/parse_entry.h"
+#include "state/cfg.h"
 #include "state/leg_words.h"
 #include "state/lnav.h"
 #include "state/perf.h"
@@ -285,6 +286,19 @@ TEST_F(ExecuteRouteTest, SpeedsAndLevelsFollowAtExec) {
     AdvanceRouteState();
     ExecuteRoute();
     EXPECT_NEAR(perf.speeds.cruise_mach, 0.815, 1e-9);  // long range at 400000 lb and 35000 ft
+}
+
+TEST_F(ExecuteRouteTest, AMachThatNobodyGivesFollowsFromItsSpeed) {
+    Enter("ORIG AAA DEST");
+    perf.cost_index = 35;  // no row of the table
+    plan.mod.entries.cruise_alt = 35000;
+    weights.gross_weight = 400000;
+    cfg.DescentMach = 0.8;
+    std::string error;
+    ExecuteEnteredRoute(error);
+    EXPECT_EQ(perf.speeds.climb_ias, 311);
+    EXPECT_NEAR(perf.speeds.climb_mach, 311 / 280.0 * 0.7918, 1e-4);
+    EXPECT_EQ(perf.speeds.descent_mach, 0.8);
 }
 
 TEST(StepToAltitude, TakesTheNextLevelOfItsKind) {

@@ -1,5 +1,6 @@
 #include "fmc/performance/default_speeds.h"
 
+#include "fmc/performance/predictions.h"
 #include "state/cfg.h"
 #include "state/perf.h"
 #include "state/plan.h"
@@ -8,6 +9,15 @@ void FillMissingSpeeds(PlannedSpeeds& speeds) {
     if (speeds.climb_ias <= 0) speeds.climb_ias = cfg.ClimbIas;
     if (speeds.cruise_ias <= 0) speeds.cruise_ias = cfg.CruiseIas > 0 ? cfg.CruiseIas : cfg.ClimbIas;
     if (speeds.descent_ias <= 0) speeds.descent_ias = cfg.DescentIas > 0 ? cfg.DescentIas : cfg.ClimbIas;
+}
+
+void FillMissingMachs(PlannedSpeeds& speeds, double cruise_alt) {
+    const auto fill = [cruise_alt](double& mach, double configured, double ias) {
+        if (mach <= 0) mach = configured > 0 ? configured : IasToMach(ias, cruise_alt);
+    };
+    fill(speeds.climb_mach, cfg.ClimbMach, speeds.climb_ias);
+    fill(speeds.cruise_mach, cfg.CruiseMach, speeds.cruise_ias);
+    fill(speeds.descent_mach, cfg.DescentMach, speeds.descent_ias);
 }
 
 void SetDefaultSpeeds(SpeedsCount when) {

@@ -12,3 +12,6 @@ void SetDefaultSpeeds(SpeedsCount when);
 /// An airspeed that is still 0 takes its default: climb the configuration's, cruise and descent their own,
 /// else the climb's.
 void FillMissingSpeeds(PlannedSpeeds& speeds);
+
+/// A Mach that is still 0 takes the configuration's, else that of its airspeed at the cruise altitude.
+void FillMissingMachs(PlannedSpeeds& speeds, double cruise_alt);

@@ -70,9 +70,9 @@ void FillSpeeds() {
     const SpeedSelections& selected = plan.mod.selected;
     PlannedSpeeds& speeds = perf.speeds;
     FillMissingSpeeds(speeds);
+    constexpr double kUsualCruise = 30000;
+    const double altitude = perf.cruise_alt > 0 ? perf.cruise_alt : kUsualCruise;
     if (perf.cost_index < 0) {
-        constexpr double kUsualCruise = 30000;
-        const double altitude = perf.cruise_alt > 0 ? perf.cruise_alt : kUsualCruise;
         if (selected.climb_mach_manual == 0) speeds.climb_mach = IasToMach(speeds.climb_ias, altitude);
         if (selected.CruiseMachSelected == 0) speeds.cruise_mach = IasToMach(speeds.cruise_ias, altitude);
         if (selected.descent_mach_manual == 0) speeds.descent_mach = IasToMach(speeds.descent_ias, altitude);
@@ -81,8 +81,9 @@ void FillSpeeds() {
     ApplyCostIndexRow(true, perf.cost_index);
     if (selected.ClimbSelected == 0) speeds.climb_ias = EconClimbSpeed(perf.cost_index);
     const int cruise_index = selected.LrcSelected == 1 ? kLongRangeCruise : perf.cost_index;
-    if (selected.CruiseMachSelected == 0) speeds.cruise_mach = EconCruiseMach(cruise_index, perf.cruise_alt);
+    if (selected.CruiseMachSelected == 0) speeds.cruise_mach = EconCruiseMach(cruise_index, altitude);
     if (selected.DescentSelected == 0) speeds.descent_ias = EconDescentSpeed(perf.cost_index);
+    FillMissingMachs(speeds, altitude);
 }
 
 void TakeOverModification() {
