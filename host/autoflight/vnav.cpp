@@ -142,6 +142,16 @@ double VnavSpeedTarget(const AutoflightLogic& logic, const FlightValues& now) {
     return IsVnavDescending(logic) ? std::min(ias, logic.entry_ias) : ias;
 }
 
+void ShowSpeedTarget(AutoflightLogic& logic, const FlightValues& now) {
+    constexpr double kLowest = 100, kHighest = 399;
+    if (!IsVnav(logic.vertical) || logic.speed_intervention) return;
+    const double target = VnavSpeedTarget(logic, now);
+    if (target <= 0) return;
+    SetToken(116, std::clamp(std::round(target), kLowest, kHighest));
+    logic.window_speed = TokenOf(116);
+    if (const double mach = NamedValue("vnav_spd"); mach < kMostSpeed) SetToken(118, mach);
+}
+
 double VnavPathAngle(AutoflightLogic& logic, const FlightValues& now, double dt) {
     if (logic.vnav_level) return PathToLevel(logic.held_altitude, now);
     // The profile's own slope, and what closes in on it from where the aircraft is.
