@@ -148,7 +148,7 @@ void ShowSpeedTarget(AutoflightLogic& logic, const FlightValues& now) {
     const double target = VnavSpeedTarget(logic, now);
     if (target <= 0) return;
     SetToken(116, std::clamp(std::round(target), kLowest, kHighest));
-    logic.window_speed = TokenOf(116);
+    logic.window_speed = logic.window_knots = TokenOf(116);
     if (const double mach = NamedValue("vnav_spd"); mach < kMostSpeed) SetToken(118, mach);
 }
 
