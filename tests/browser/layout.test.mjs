@@ -2,7 +2,7 @@
 
 import assert from 'node:assert/strict';
 import {test} from 'node:test';
-import {openDeck, startHost} from './support.mjs';
+import {openDeck, passStart, startHost, untilValue} from './support.mjs';
 
 const SIZES = [
   [390, 844], [844, 390], [768, 1024], [1024, 768], [1280, 800], [1920, 1080], [2560, 1440], [3840, 2160],
@@ -21,8 +21,8 @@ function faultsOf({target, text}) {
     for (let holder = element.parentElement; holder !== document.body; holder = holder.parentElement) {
       if (getComputedStyle(holder).overflowY === 'visible') continue;
       const edge = holder.getBoundingClientRect();
-      box.top = Math.max(box.top, edge.top);
-      box.bottom = Math.min(box.bottom, edge.bottom);
+      for (const side of ['left', 'top']) box[side] = Math.max(box[side], edge[side]);
+      for (const side of ['right', 'bottom']) box[side] = Math.min(box[side], edge[side]);
     }
     return box;
   };
@@ -68,6 +68,49 @@ test('by mouse, at eight sizes', async (t) => {
   const faults = [];
   for (const size of SIZES) faults.push(...await look(t, host, size, {}, 24));
   assert.deepEqual(faults, []);
+});
+
+test('one unit alone keeps its proportions, and is large and small again', async (t) => {
+  const host = await startHost(t);
+  const boxOf = (page, name) => page.locator(`canvas[data-screen="${name}"]`).boundingBox();
+  for (const [width, height] of [[800, 390], [390, 844]]) {
+    const alone = await openDeck(t, host.address, 'screen/stby', {viewport: {width, height}});
+    const {width: wide, height: high} = await boxOf(alone, 'stby');
+    assert.ok(Math.abs(wide / high - 100 / 92) < 0.01, `${wide} by ${high}`);
+  }
+  const bare = await openDeck(t, host.address, 'screen/lower?bare');
+  assert.equal((await bare.textContent('body')).trim(), '');
+  assert.equal(await bare.evaluate(() => document.activeElement.dataset.screen), 'lower', 'it takes typing at once');
+
+  const page = await openDeck(t, host.address, '', {viewport: {width: 1280, height: 800}});
+  const ends = [(large) => large.press('Escape'), (large) => large.click(), () => page.mouse.click(5, 5)];
+  for (const [i, name] of ['stby', 'lower', 'efb_l'].entries()) {
+    const key = page.locator(`.unit.${name} button.tool`), before = await boxOf(page, name);
+    await key.click();
+    const box = await boxOf(page, name), tool = await key.boundingBox();
+    assert.ok(box.width > 1200 || box.height > 740, `${name} is ${box.width} by ${box.height}`);
+    assert.ok(tool.x > 0 && tool.x + tool.width < 1280 && tool.y >= 0, 'its key is within reach');
+    await ends[i](key);
+    assert.equal((await boxOf(page, name)).width, before.width, name);
+  }
+});
+
+test('one unit for a phone', async (t) => {
+  const host = await startHost(t), faults = [];
+  for (const path of ['cdu/l', 'tablet/r'])
+    for (const [width, height] of [[390, 844], [844, 390], [1024, 768]]) {
+      const page = await openDeck(t, host.address, path, {viewport: {width, height}});
+      await page.waitForSelector('button.face');
+      const found = await page.evaluate(faultsOf, {target: 24, text: SMALLEST_TEXT});
+      if (await page.evaluate(() => document.documentElement.scrollHeight > innerHeight)) found.push('it scrolls');
+      faults.push(...found.map((fault) => `${path} ${width} by ${height}: ${fault}`));
+    }
+  assert.deepEqual(faults, []);
+  const page = await openDeck(t, host.address, 'cdu/r', {viewport: {width: 390, height: 844}, hasTouch: true});
+  await passStart(page);
+  await page.tap('[data-name="TZ_FMC_R_Q_Button"] .face');
+  await page.evaluate(() => window.deck.link.watch('fo.ScratchPad', () => {}));
+  await untilValue(page, 'fo.ScratchPad', 'Q');
 });
 
 test('by touch', async (t) => {
