@@ -194,6 +194,13 @@ TEST_F(Profile, PlacesTopsAltitudesSpeedsAndBurns) {
     EXPECT_EQ(cdu[0].CduMessageCount, 0);
 }
 
+TEST_F(Profile, TakesTheWindOfEveryLeg) {
+    for (int leg = 0; leg <= 4; ++leg) plan.active.legs[leg].wind[0] = {30000, 180, 50};
+    ComputeProfile(30000, 0);
+    for (int leg = 0; leg <= 4; ++leg) EXPECT_NEAR(Leg(leg).along_wind, 50, 1e-9) << leg;
+    EXPECT_EQ(Leg(1).alt, 28450);  // 60 nm at 417.5 kt and 3300 ft a minute
+}
+
 TEST_F(Profile, ConstraintsBendIt) {
     plan.active.legs[4].restr_code = kAltitudeRestr;
     plan.active.legs[4].restr_type = kAtOrBelow;

@@ -67,16 +67,18 @@ TEST_F(AutoflightContractTest, TheFinalIsPublishedByItsRunway) {
     sim.mgvar = 2;
     const struct {
         int runway;
-        const char* approach;
+        const char *approach, *ils;
         double course, bearing, dist, by_route;
-    } kCases[] = {{0, "RNV", 0, 0, 0, 0},
-                  {1, "RNV", 85, 88, 30, 1},
-                  {1, "ILS", 85, 88, 30, 0},
-                  {1, "-", 92, 88, 30, 0}};
+    } kCases[] = {{0, "RNV", "", 0, 0, 0, 0},
+                  {1, "RNV", "110.30", 85, 88, 30, 1},
+                  {1, "ILS", "110.30", 85, 88, 30, 0},
+                  {1, "-", "110.30", 92, 88, 30, 0},
+                  {1, "-", "", 92, 88, 30, 1}};
     PlaceAt(0, 0.5, 90);
     for (const auto& row : kCases) {
         plan.mod.procedures.fms_dest_rwy_pos = row.runway;
         plan.mod.procedures.appr_type = row.approach;
+        runway.ils_freq = row.ils;
         PublishApproachValues();
         EXPECT_EQ(host.NamedVar("tz_dest_rwy_fac"), row.course) << row.approach;
         EXPECT_NEAR(host.NamedVar("tz_dest_rwy_trk"), row.bearing, 1e-6);

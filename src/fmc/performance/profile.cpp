@@ -132,12 +132,14 @@ double ClimbSpeed(double wind) {  // nm a minute
     return std::max(wind + predictions.clb_tas, 1.0) / kMinutes;
 }
 
-// Takes the wind of a stretch for the leg that it begins at.
-double TakeWind(const Stretch& stretch) {
-    const int before = std::max(PlaceBefore(plan.active.legs, stretch.to), 0);
-    const double wind = LegWind(before, stretch.to);
-    plan.active.legs[before].along_wind = wind;
-    return wind;
+// The wind of a stretch stands with the leg that it begins at.
+double& WindOf(const Stretch& stretch) {
+    return plan.active.legs[std::max(PlaceBefore(plan.active.legs, stretch.to), 0)].along_wind;
+}
+
+void TakeWinds(const Route& route) {
+    for (const Stretch& stretch : route)
+        WindOf(stretch) = LegWind(std::max(PlaceBefore(plan.active.legs, stretch.to), 0), stretch.to);
 }
 
 // Distance to the point at which the climb reaches the cruise altitude, at most the route's length.
@@ -149,7 +151,7 @@ double ClimbDistance(const Route& route, double cruise_alt) {
                         predictions.clb_tas / kMinutes;
     for (const Stretch& stretch : route) {
         const double rate = ClimbRate(weight, altitude).rate;
-        const double speed = ClimbSpeed(TakeWind(stretch));
+        const double speed = ClimbSpeed(WindOf(stretch));
         double reached = CutToTen(altitude + rate / speed * stretch.dist);
         // A constraint at the end of a leg longer than the whole climb is met by waiting, not by climbing
         // slowly.
@@ -184,7 +186,7 @@ void FillForward(const Route& route, double cruise_alt) {
         FlightPlanLeg& leg = LegOf(stretch);
         if (&stretch == &route.back() && IsAirport(leg)) return;
         const double climbed =
-            altitude + ClimbRate(GrossWeight(), altitude).rate / ClimbSpeed(leg.along_wind) * stretch.dist;
+            altitude + ClimbRate(GrossWeight(), altitude).rate / ClimbSpeed(WindOf(stretch)) * stretch.dist;
         level = std::max(level, leg.step_alt);
         const double free = std::min(CutToTen(climbed), level);
         const bool climbing = vnav.toc == 0 && altitude < cruise_alt;
@@ -422,6 +424,7 @@ void ComputeProfile(double cruise_alt, int) {
     PlanTas(cruise_alt);
     const Route route = RouteAhead();
     if (route.empty()) return;
+    TakeWinds(route);
     if (vnav.toc == 0 && vnav.tod == 0) PlaceTopOfClimb(route, cruise_alt);
     if (vnav.tod == 0) FillForward(route, cruise_alt);
     predictions.tod_rod = RateOfDescent();
@@ -432,11 +435,4 @@ void ComputeProfile(double cruise_alt, int) {
     if (vnav.toc == 0 && vnav.tod == 0 && predictions.dist_to_tod < predictions.dist_to_toc)
         PostCduMessage("UNABLE CRZ ALT", kEntryError, kHelpTodBeforeToc, kBothSides);
     ComputeBurns(route);
-}
-
-void ForgetProfile() {
-    vnav.toc = vnav.tod = vnav.init_tod = 0;
-    vnav.toc_lat = vnav.toc_lon = vnav.tod_lat = vnav.tod_lon = vnav.step_lat = vnav.step_lon = 0;
-    vnav.toc_stpos = vnav.tod_stpos = 0;
-    vnav.dist_to_step = predictions.dist_to_toc = predictions.dist_to_tod = 0;
 }

@@ -13,9 +13,11 @@
 
 namespace {
 
-// The system flies the final itself where no localizer leads to the runway.
-bool IsFlownByRoute(const ProcedureSelections& chosen) {
-    return chosen.appr_type != "-" && chosen.appr_type != "ILS" && chosen.appr_type != "LOC";
+// The system flies the final itself where no localizer leads to the runway: by the approach that is chosen,
+// else by what the runway has.
+bool IsFlownByRoute(const ProcedureSelections& chosen, const RunwayData& runway) {
+    if (chosen.appr_type == "-") return runway.ils_freq.empty();
+    return chosen.appr_type != "ILS" && chosen.appr_type != "LOC";
 }
 
 }  // namespace
@@ -34,7 +36,7 @@ void PublishApproachValues() {
     WriteNamedVar(NamedVar("tz_dest_rwy_trk"), to_runway.bearing);
     WriteNamedVar(NamedVar("tz_dest_rwy_nm"), to_runway.dist);
     WriteNamedVar(NamedVar("tz_fmc_ian_appr"),
-                  runway != nullptr && IsFlownByRoute(plan.mod.procedures) ? 1 : 0);
+                  runway != nullptr && IsFlownByRoute(plan.mod.procedures, *runway) ? 1 : 0);
 }
 
 void PublishFmcValues() {

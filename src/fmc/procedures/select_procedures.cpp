@@ -245,6 +245,13 @@ void SelectApproachTransition(int, int index) {
 
 namespace {
 
+Names ApproachNames() {
+    Names names;
+    for (const ApproachChoice& choice : ApproachChoices(airports.dest_airport))
+        names.push_back(choice.kind + choice.runway);
+    return names;
+}
+
 // Calls `select` with the place of a name that isn't chosen yet; true when it is chosen then.
 template <class Select>
 bool SelectByName(const Names& names, std::string_view name, const std::string& chosen, Select select) {
@@ -274,6 +281,17 @@ bool SelectStarByName(std::string_view name) {
 bool SelectArrivalTransitionByName(std::string_view name) {
     return SelectByName(ArrivalTransitions(airports.dest_airport), name, plan.mod.procedures.arr_trans,
                         [](int index) { SelectArrivalTransition(kCaptain, index); });
+}
+
+bool SelectApproachByName(std::string_view name) {
+    const ProcedureSelections& chosen = plan.mod.procedures;
+    return SelectByName(ApproachNames(), name, chosen.arr_appr + chosen.arr_appr_rwy,
+                        [](int index) { SelectApproach(kCaptain, index); });
+}
+
+bool HasApproach(std::string_view name) {
+    const Names names = ApproachNames();
+    return std::find(names.begin(), names.end(), name) != names.end();
 }
 
 bool IsArrivalTransition(const std::string& star, std::string_view name) {

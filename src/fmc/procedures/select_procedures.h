@@ -31,6 +31,9 @@ bool SelectSidByName(std::string_view name);
 bool SelectDepartureTransitionByName(std::string_view name);
 bool SelectStarByName(std::string_view name);
 bool SelectArrivalTransitionByName(std::string_view name);
+/// An approach by kind and runway, "ILS24R".
+bool SelectApproachByName(std::string_view name);
+bool HasApproach(std::string_view name);
 /// A STAR of the destination has a transition of that name.
 bool IsArrivalTransition(const std::string& star, std::string_view name);
 

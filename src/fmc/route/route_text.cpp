@@ -88,7 +88,8 @@ RouteWords SplitRoute(std::string_view text) {
     }
 }
 
-// "KSEA/16L" and "KSEA/RW16L" in airport and runway.
+// "KSEA/16L" and "KSEA/RW16L" in airport and runway; behind the destination an approach may stand for the
+// runway, "KLAX/ILS24R".
 struct EndWord {
     std::string_view airport, runway;
 };
@@ -111,7 +112,7 @@ bool EnterEnds(const RouteWords& words, std::string& error) {
     if (!origin.runway.empty() && SelectOriginRunway(origin.runway) == 0)
         return wrong(0, "the airport has no such runway");
     if (EnterDestination(dest.airport) == 0) return wrong(last, "no such airport");
-    if (!dest.runway.empty() && SelectDestinationRunway(dest.runway) == 0)
+    if (!dest.runway.empty() && SelectDestinationRunway(dest.runway) == 0 && !HasApproach(dest.runway))
         return wrong(last, "the airport has no such runway");
     return true;
 }
@@ -305,6 +306,7 @@ bool EnterWords(const RouteWords& words, std::string& error) {
             !direct && IsAirway(words.text[i]) ? EnterAirway(words, i, error) : EnterFix(words, i, error);
         if (!entered) return false;
     }
+    SelectApproachByName(SplitEnd(words.text[last]).runway);
     OpenModification();  // when all is right, for it may load fuel and set the MCP
     return true;
 }
