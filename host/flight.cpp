@@ -50,6 +50,14 @@ void FollowTerrain() {
     aircraft.ground_elevation = GroundFeet(Latitude(aircraft), Longitude(aircraft));
 }
 
+// A stick that is let go holds the path, wings level.
+void FollowStick(const Stick& stick, FlightControls& controls) {
+    constexpr double kPathRate = 2, kMostBank = 30, kSteeringRate = 4;  // degrees a second, degrees
+    controls.path += stick.pitch * kPathRate * kTick;
+    controls.bank = stick.roll * kMostBank;
+    controls.steering = stick.pedals * kSteeringRate;
+}
+
 }  // namespace
 
 Placement DemonstrationStand() {
@@ -125,7 +133,9 @@ void StepFlight(bool moves) {
     }
     TakeControlsFromTokens(aircraft);
     FollowTerrain();
-    FollowCommands(StepAutoflight(flight.autoflight, kTick), aircraft.controls);
+    const AutoflightCommands commands = StepAutoflight(flight.autoflight, kTick);
+    FollowCommands(commands, aircraft.controls);
+    if (!commands.flies) FollowStick(world.stick, aircraft.controls);
     StepAircraft(aircraft, kTick);
     FillTokens(aircraft);
     StepReceivers(

@@ -35,11 +35,14 @@ void StepEngine(Engine& engine, const EngineMake& make, double lever, double mac
     const double spool = std::clamp((engine.n1 - kIdleN1) / (kFullN1 - kIdleN1), 0.0, 1.0);
     if (engine.running && engine.n2 >= kIdleN2) engine.n2 = kIdleN2 + 32 * spool;
 
-    // Full thrust falls with speed and, less than the density, with height; idle gives a little at rest and
-    // turns to drag at speed. A fit to figures published for fans of bypass ratio 9.
+    // Full thrust falls with speed and, less than the density, with height. A fit to figures published for
+    // fans of bypass ratio 9.
     const double full =
         make.static_thrust_n * (0.9 - 0.75 * mach + 0.35 * mach * mach) * std::pow(density_ratio, 0.77);
-    const double idle = make.static_thrust_n * (0.05 - 0.045 * mach) * density_ratio;
+    // Idle pushes at rest; in flight its control keeps what brings the aircraft down its planned path.
+    constexpr double kFlightIdle = 7300, kAtRest = 0.025, kSlowMach = 0.3;  // N, share of the full thrust
+    const double idle = kFlightIdle * std::pow(density_ratio, 0.65) +
+                        make.static_thrust_n * kAtRest * std::max(1 - mach / kSlowMach, 0.0);
     const double gross = engine.running ? core * core * (full - idle) * std::pow(spool, 1.3) : 0;
     constexpr double kTurnedBack = 0.45;  // of the fan's thrust
     engine.thrust_n = engine.running ? (reverse ? -kTurnedBack * gross : core * core * idle + gross) : 0;

@@ -10,37 +10,41 @@
 
 namespace host {
 
-/// What is expected, or was, at one fix. Seconds of the run, ft, kt IAS, lb; 0 or less = not known.
+/// What is expected, or was, over one fix. Seconds of the run, ft, kt IAS, lb; 0 or less = not known.
 struct FixRow {
     std::string ident;
     double seconds = 0, altitude = 0, ias = 0, fuel = 0;
 };
 
-/// A fix that has been passed.
+/// A fix of the plan that is flown to; the way after a missed approach and the plan's markers are none.
+struct RouteFix {
+    std::string ident, via, role;  // the role in an approach
+    double lat = 0, lon = 0;
+    double altitude = 0, ias = 0;                 // predicted there, ft and kt; below 0 = none
+    double wind = 0;                              // kt, predicted along the way to it
+    double lowest = 0, highest = 0, fastest = 0;  // what it asks for, ft and kt; 0 = nothing
+};
+
+/// A fix that is being passed, or has been.
 struct PassedFix {
-    std::string via;
-    FixRow actual, plan;
-    double cross_track = 0;  // nm
+    RouteFix fix;
+    FixRow actual, plan;     // actual where the aircraft is, or was, nearest
+    double nearest = 1e9;    // nm
+    double cross_track = 0;    // nm, where its turn begins
+    double turn_altitude = 0;  // ft, there
+    bool sequenced = false;  // the plan has moved on
 };
 
 struct FlightLog {
     std::vector<FixRow> forecast;  // of the fixes ahead, in order
-    double start_fuel = 0;         // lb
     double forecast_seconds = 0;   // when the forecast was made
-    double forecast_fuel = 0;
     bool at_top_of_climb = false;  // the forecast in force was made there
-    std::vector<PassedFix> passed;
+    std::vector<PassedFix> passing, passed;
+    double start_fuel = 0, touchdown_fuel = 0, planned_fuel = 0;  // lb; planned for the last fix
     // since the top of climb: greatest error of a time over a fix, percent of the time since the forecast
     double worst_time = 0;
-    double last_forecast_fuel = 0;
 };
 
-/// A fix of the plan that is flown to; the way after a missed approach and the plan's markers are none.
-struct RouteFix {
-    std::string ident;
-    double lat = 0, lon = 0;
-    double altitude = 0, ias = 0;  // predicted there, ft and kt; below 0 = none
-};
 /// From the TO fix on.
 std::vector<RouteFix> FixesAhead(const Session& session);
 
@@ -52,8 +56,9 @@ void PrintProgress(const std::string& what);
 /// Makes the forecast anew from the flight plan as it stands.
 void TakeForecast(const Session& session, FlightLog& log);
 
-/// Takes down the fix that has just been passed.
-void LogFix(const Session& session, FlightLog& log);
+/// Looks at the fix flown to and at those whose turn is being flown, once a second; `sequenced` tells that
+/// the plan has just moved on. A fix is taken down when the aircraft is past it.
+void WatchFixes(const Session& session, FlightLog& log, bool sequenced);
 
 void PrintLog(const FlightLog& log);
 

@@ -5,9 +5,11 @@
 #include <cstdio>
 #include <vector>
 
+#include "host/flight.h"
 #include "host/fly/deck_loop.h"
 #include "host/fly/flight_log.h"
 #include "host/fly/pilot.h"
+#include "host/fly/profile_check.h"
 #include "host/fly/start.h"
 #include "host/process.h"
 #include "host/scenario/words.h"
@@ -23,6 +25,7 @@ constexpr double kMaxHours = 24;
 struct RouteFlight {
     Pilot pilot;
     FlightLog log;
+    DescentCheck check;
     int last = 0;
     int to = 0;  // the TO leg when it was last looked at
     double to_lat = 0, to_lon = 0;
@@ -33,25 +36,27 @@ struct RouteFlight {
     bool arrived = false;
 };
 
-std::string Leg(int index, const char* field) {
-    return "FlightPlan[" + std::to_string(index) + "]." + field;
-}
-
 // The route ends on a final approach when its last leg leads to the runway along the landing course.
-bool LinesUp(const Session& session, const RunwayEnd& runway, int last) {
-    constexpr double kShortest = 3, kMostAside = 0.15;
-    const RunwayPosition from = PositionBefore(runway, ModuleNumber(session, Leg(last - 1, "lat")),
-                                               ModuleNumber(session, Leg(last - 1, "lon")));
-    return from.before > kShortest && std::fabs(from.right) < kMostAside * from.before;
+bool LinesUp(const Session& session, const RunwayEnd& runway) {
+    constexpr double kShortest = 3, kMostAside = 0.15;  // nm
+    const std::vector<RouteFix> fixes = FixesAhead(session);
+    for (auto fix = fixes.rbegin(); fix != fixes.rend(); ++fix) {
+        const RunwayPosition from = PositionBefore(runway, fix->lat, fix->lon);
+        if (std::hypot(from.before, from.right) < kShortest) continue;  // of the runway itself
+        return from.before > 0 && std::fabs(from.right) < kMostAside * from.before;
+    }
+    return false;
 }
 
 RouteFlight BeginFlight(const Session& session) {
     RouteFlight route;
     route.last = static_cast<int>(ModuleNumber(session, "fp_cnt"));
     route.pilot.cruise_ft = ModuleNumber(session, "cruise_alt");
-    route.pilot.arrival =
-        ReadRunway(session, "dest_airport", static_cast<int>(ModuleNumber(session, "fms_dest_rwy_pos")));
-    route.leads_to_runway = LinesUp(session, route.pilot.arrival, route.last);
+    const int place = static_cast<int>(ModuleNumber(session, "fms_dest_rwy_pos"));
+    route.pilot.arrival = ReadRunway(session, "dest_airport", place);
+    // The system leads to a runway without a landing system when it is the one that has been entered.
+    if (route.pilot.arrival.ils_frequency.empty() && place == 0) route.pilot.arrival = {};
+    route.leads_to_runway = LinesUp(session, route.pilot.arrival);
     route.pilot.route_lines_up = route.leads_to_runway;
     route.log.start_fuel = AircraftNumber("fuel");
     return route;
@@ -60,8 +65,8 @@ RouteFlight BeginFlight(const Session& session) {
 // Looks at the plan anew when it has moved on.
 void FollowPlan(const Session& session, RouteFlight& route) {
     const int to = static_cast<int>(ModuleNumber(session, "stpos"));
+    WatchFixes(session, route.log, route.to > 0 && to != route.to);
     if (to == route.to) return;
-    if (route.to > 0) LogFix(session, route.log);
     route.to = to;
     route.last = static_cast<int>(ModuleNumber(session, "fp_cnt"));
     route.behind_to = 0;
@@ -105,8 +110,10 @@ void StepRoute(Session& session, RouteFlight& route) {
     const Pilot::Phase before = route.pilot.phase;
     StepPilot(route.pilot, session, to_go);
     if (route.pilot.phase != before) TellPhase(route.pilot.phase);
+    if (!flight.aircraft.on_ground) route.log.touchdown_fuel = AircraftNumber("fuel");
     KeepLog(session, route);
-    if (!route.pilot.arrival.ils_frequency.empty()) {
+    StepDescentCheck(session, route.check);
+    if (!route.pilot.arrival.name.empty()) {
         route.arrived = route.pilot.phase == Pilot::kStopped;
         return;
     }
@@ -139,11 +146,9 @@ void PrintEnd(const RouteFlight& route, double wall_seconds) {
     std::printf(" after %s, %d fixes passed, %.0f lb burned; %.0f times real time\n",
                 DurationText(world.seconds).c_str(), static_cast<int>(route.log.passed.size()), burnt,
                 world.seconds / wall_seconds);
-    if (!route.arrived || !route.log.at_top_of_climb || !route.leads_to_runway) return;
-    const double planned = route.log.forecast_fuel - route.log.last_forecast_fuel;
-    const double since = route.log.forecast_fuel - AircraftNumber("fuel");
-    std::printf("Against the prediction at the top of climb: times within %.1f %%, burn %+.1f %%\n",
-                route.log.worst_time, planned > 0 ? (since / planned - 1) * 100 : 0.0);
+    PrintDescentCheck(route.check);
+    PrintConstraintCheck(route.log);
+    if (route.arrived && route.log.at_top_of_climb && route.leads_to_runway) PrintForecastCheck(route.log);
 }
 
 // A flight that can't start leaves nothing.

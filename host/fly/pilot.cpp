@@ -19,8 +19,8 @@ constexpr int kTuneNav1 = 0x100ac;
 constexpr double kReverse = -4096;
 
 // Modes as the autopilot reports them.
-constexpr int kModeVnavSpeed = 5, kModeVnavPath = 6, kModeLocalizer = 7, kModeGlideSlope = 10,
-              kModeFlare = 11;
+constexpr int kModeVnavSpeed = 5, kModeVnavPath = 6, kModeLocalizer = 7, kModeFinalCourse = 10,
+              kModeGlideSlope = 10, kModeFlare = 11, kModeGlidePath = 13;
 
 constexpr double kSetUpSeconds = 3, kTakeoffSeconds = 20;  // of the pilot's work
 constexpr double kFeetPerNm = 225;                         // of the descent, where nobody plans it
@@ -106,6 +106,16 @@ bool IsVnavEngaged() {
     return VerticalMode() == kModeVnavSpeed || VerticalMode() == kModeVnavPath;
 }
 
+bool IsOnFinal() {
+    const int mode = static_cast<int>(NamedValue("ap_lat_mode"));
+    return mode == kModeLocalizer || mode == kModeFinalCourse;
+}
+
+bool IsOnSlope() {
+    return VerticalMode() == kModeGlideSlope || VerticalMode() == kModeGlidePath ||
+           VerticalMode() == kModeFlare;
+}
+
 double HeightOverField() {
     return Flown().altitude - Flown().ground_elevation;
 }
@@ -174,7 +184,7 @@ void RetractFlaps(Pilot& pilot, Session& session) {
 }
 
 double PlatformAltitude(const Pilot& pilot) {
-    constexpr double kOverField = 2500;
+    constexpr double kOverField = 2000;
     return std::round((pilot.arrival.elevation + kOverField) / 100) * 100;
 }
 
@@ -274,7 +284,7 @@ Gate GateOf(const Pilot& pilot, const RunwayPosition& here) {
 // Leads to the gate, then across the centre line at an angle until the localizer is captured.
 void SteerToFinal(Pilot& pilot, Session& session, const RunwayPosition& here) {
     constexpr double kCut = 40, kNearGate = 2, kJoinNm = 10;
-    if (NamedValue("ap_lat_mode") == kModeLocalizer) return;
+    if (IsOnFinal()) return;
     const Gate gate = GateOf(pilot, here);
     const bool at_gate = std::hypot(gate.ahead, gate.across) < kNearGate;
     const double joins_at = here.before - std::fabs(here.right) / std::tan(kCut * kRad);
@@ -290,7 +300,7 @@ void Descend(Pilot& pilot, Session& session, double to_go_nm) {
     constexpr double kApproachNm = 35, kVectorsNm = 40;
     if (pilot.by_level_change) SelectSpeed(pilot, session, PlainSpeed(290));
     WorkSpeedbrake(pilot, session, to_go_nm);
-    if (pilot.arrival.ils_frequency.empty()) return;
+    if (pilot.arrival.name.empty()) return;
     if (to_go_nm > (pilot.route_lines_up ? kApproachNm : kVectorsNm)) return;
     if (!pilot.route_lines_up) {
         pilot.by_level_change = true;
@@ -304,7 +314,7 @@ void Configure(Pilot& pilot, Session& session, double miles) {
     struct Step {
         double miles, flaps;
     };
-    constexpr Step kSteps[] = {{32, 0}, {25, 1}, {19, 5}, {10, 15}, {8, 20}, {6, 30}};
+    constexpr Step kSteps[] = {{25, 0}, {19, 1}, {14, 5}, {9, 15}, {7.5, 20}, {6, 30}};
     double flaps = -1;
     for (const Step& step : kSteps)
         if (miles < step.miles) flaps = step.flaps;
@@ -351,7 +361,7 @@ void ClimbAway(Pilot& pilot, Session& session) {
 void Approach(Pilot& pilot, Session& session, double to_go_nm) {
     constexpr double kArmNm = 22, kMostCut = 75, kLastTurnNm = 2, kNoTurnsBelow = 600;
     const RunwayPosition here = PositionBefore(pilot.arrival, Latitude(Flown()), Longitude(Flown()));
-    const bool on_final = NamedValue("ap_lat_mode") == kModeLocalizer;
+    const bool on_final = IsOnFinal();
     const double straight = std::hypot(here.before, here.right);
     const double miles = on_final || pilot.approach_armed ? straight
                          : pilot.route_lines_up           ? to_go_nm
@@ -369,14 +379,16 @@ void Approach(Pilot& pilot, Session& session, double to_go_nm) {
     const double cut = std::fabs(std::remainder(Flown().track - pilot.arrival.course, 360));
     // Near the beam's line, with no more than the last turn ahead.
     const bool on_last_leg = to_go_nm < straight + kLastTurnNm;
-    const bool can_arm =
-        TokenOf(49) > 0 && on_last_leg && here.before > 0 && straight < kArmNm && cut < kMostCut;
+    const bool is_led = TokenOf(49) > 0 || pilot.arrival.ils_frequency.empty();
+    const bool can_arm = is_led && on_last_leg && here.before > 0 && straight < kArmNm && cut < kMostCut;
     if (pilot.route_lines_up && !pilot.approach_armed && can_arm) {
         Press(session, "app");
         pilot.approach_armed = true;
     }
     constexpr double kLastPoint = 2.5;
-    const bool on_slope = VerticalMode() == kModeGlideSlope || VerticalMode() == kModeFlare;
+    const bool by_hand = pilot.arrival.ils_frequency.empty() && (IsOnSlope() || pilot.by_hand.flies);
+    if (by_hand) StepHandLanding(pilot.by_hand, session, pilot.arrival);
+    const bool on_slope = IsOnSlope() || pilot.by_hand.flies;
     const bool missed = pilot.approach_armed && here.before < kLastPoint && !on_slope;
     if (Flown().on_ground)
         pilot.phase = Pilot::kRollout;
@@ -386,6 +398,7 @@ void Approach(Pilot& pilot, Session& session, double to_go_nm) {
 
 void RollOut(Pilot& pilot, Session& session) {
     constexpr double kReverseAbove = 65, kStopped = 1;
+    if (pilot.by_hand.flies) StepHandLanding(pilot.by_hand, session, pilot.arrival);
     const bool reverse = Flown().ground_speed > kReverseAbove;
     if (NamedValue("at_mode") == 0 && (TokenOf(128) < 0) != reverse)
         Set(session, kSetLevers, reverse ? kReverse : 0);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/fly/hand_landing.h"
 #include "host/fly/runway.h"
 #include "host/session.h"
 
@@ -20,6 +21,7 @@ struct Pilot {
     double speed = 0;              // kt, of the speed window
     double heading = -1;           // degrees, of the heading window while it steers
     bool by_level_change = false;  // climbs and descends by FLCH, VNAV isn't there
+    HandLanding by_hand;           // where no landing system leads to the ground
     bool speedbrake = false, gear_up = false, approach_armed = false, window_reset = false;
 };
 

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <filesystem>
 
+#include "host/aircraft/air.h"
 #include "host/aircraft/angles.h"
 #include "host/flightdeck/commands.h"
 #include "host/fly/flight_log.h"
@@ -51,69 +52,98 @@ Placement LinedUp(const Session& session) {
     return placement;
 }
 
-double MaxAltitudeLevel(const Session& session) {
-    const InspectionAnswer answer = Ask(session.linkage->inspection->call_function, "MaxAltitude");
+// The first result of a function of the system.
+double CalledNumber(const Session& session, const std::string& call) {
+    const InspectionAnswer answer = Ask(session.linkage->inspection->call_function, call.c_str());
     return answer.good && !answer.results.empty() ? std::atof(answer.results[0].second.c_str()) : 0;
 }
 
-// Miles along the route that has been entered.
-double RouteMiles(const Session& session) {
+// The route that has been entered, in miles over the ground and through the air.
+struct RouteLength {
+    double miles = 0, air_miles = 0;
+};
+RouteLength MeasureRoute(const Session& session, const FlyOptions& options) {
+    constexpr double kCruiseTas = 480;
     const int last = static_cast<int>(ModuleNumber(session, "mod_cnt"));
-    double miles = 0, lat = 0, lon = 0;
+    RouteLength length;
+    double lat = 0, lon = 0;
     for (int leg = 0; leg <= last; ++leg) {
         const std::string path = "FlightPlanMod[" + std::to_string(leg) + "].";
         const double to_lat = ModuleNumber(session, path + "lat"),
                      to_lon = ModuleNumber(session, path + "lon");
         if (to_lat == 0 && to_lon == 0) continue;
-        if (leg > 0) miles += DistanceNm(lat, lon, to_lat, to_lon);
+        const double miles = leg > 0 ? DistanceNm(lat, lon, to_lat, to_lon) : 0;
+        const double east = std::remainder(to_lon - lon, 360) * std::cos((lat + to_lat) / 2 * kRad);
+        const double along =
+            options.wind.size() == 2
+                ? -options.wind[1] * std::cos(options.wind[0] * kRad - std::atan2(east, to_lat - lat))
+                : 0;
+        length.miles += miles;
+        length.air_miles += miles * kCruiseTas / std::max(kCruiseTas + along, kCruiseTas / 2);
         lat = to_lat;
         lon = to_lon;
     }
-    return miles;
+    return length;
 }
 
 // As high as the way allows: climb and descent take some three hundred miles to 35,000 ft and back.
 double CruiseAltitude(const Session& session, double miles) {
     constexpr double kHighest = 35000, kLowest = 7000, kMilesForHighest = 330, kStep = 1000;
-    const double flight_level = MaxAltitudeLevel(session);
+    const double flight_level = CalledNumber(session, "MaxAltitude");
     const double most = std::min(kHighest, std::floor(flight_level / 10) * kStep);
     const double altitude = std::floor(kHighest * miles / kMilesForHighest / kStep) * kStep;
     return std::clamp(altitude, kLowest, std::max(most, kLowest));
 }
 
-// For the way and a reserve; what every flight has on board is enough for the shorter ones.
-void LoadFuelFor(Session& session, double miles) {
-    constexpr double kReserve = 35000, kPerMile = 29, kStep = 1000;
+// For climb and way and a reserve.
+void LoadFuelFor(Session& session, double air_miles) {
+    constexpr double kReserve = 36000, kPerMile = 27, kStep = 1000;
     constexpr int kSensed = 18;  // ticks
-    const double pounds = std::ceil((kReserve + kPerMile * miles) / kStep) * kStep;
-    if (pounds <= FuelOnBoard(flight.aircraft)) return;
+    const double pounds = std::ceil((kReserve + kPerMile * air_miles) / kStep) * kStep;
     Record(session.recorder, {"fuel", NumberText(pounds)});
     LoadFuel(pounds);
     for (int tick = 0; tick < kSensed; ++tick) TickSession(session, false);
 }
 
-// What the crew enters before EXEC: the cruise altitude, and the speeds of cost index 60.
+void Enter(Session& session, const std::string& name, double value) {
+    ApplyDeckCommand(session, {.kind = DeckCommand::kStateVariable, .name = name, .text = NumberText(value)});
+}
+
+// What the crew enters before EXEC: the cruise altitude, and speeds. Climb and cruise are those of cost index
+// 60; below the altitude for which its Mach holds, the Mach is that of the true airspeed that is planned
+// with. The descent is slow enough for engines at idle to keep to the path.
 void EnterPerformance(Session& session, double miles) {
+    const double cruise = CruiseAltitude(session, miles);
+    constexpr double kClimbIas = 317, kCruiseMach = 0.836, kDescentIas = 280, kSlowIas = 290, kHigh = 33000;
+    const bool high = cruise >= kHigh;
+    const double cruise_ias = high ? kClimbIas : kSlowIas;
+    const double planned =
+        CalledNumber(session, "PlanningTas " + NumberText(cruise_ias) + " " + NumberText(cruise));
+    const double cruise_mach = high ? kCruiseMach : planned / SpeedOfSound(cruise, {});
     struct Entry {
         const char* name;
         double value;
     };
     const Entry entries[] = {
-        {"pending_cruise_alt", CruiseAltitude(session, miles)},
-        {"climb_ias", 317},
-        {"climb_mach", 0.835},
-        {"cruise_ias", 317},
-        {"cruise_mach", 0.836},
-        {"descent_ias", 301},
-        {"descent_mach", 0.829},
-        {"climb_mach_manual", 1},
-        {"CruiseMachSelected", 1},
-        {"descent_mach_manual", 1},
+        {"pending_cruise_alt", cruise}, {"climb_ias", high ? kClimbIas : kSlowIas},
+        {"climb_mach", cruise_mach},    {"cruise_ias", cruise_ias},
+        {"cruise_mach", cruise_mach},   {"descent_ias", kDescentIas},
+        {"descent_mach", cruise_mach},  {"climb_mach_manual", 1},
+        {"CruiseMachSelected", 1},      {"descent_mach_manual", 1},
     };
-    for (const Entry& entry : entries)
-        ApplyDeckCommand(
-            session,
-            {.kind = DeckCommand::kStateVariable, .name = entry.name, .text = NumberText(entry.value)});
+    for (const Entry& entry : entries) Enter(session, entry.name, entry.value);
+}
+
+// The wind of the briefing, at all fixes for the whole way up.
+void EnterWinds(Session& session, const FlyOptions& options) {
+    if (options.wind.size() != 2) return;
+    const int last = static_cast<int>(ModuleNumber(session, "mod_cnt"));
+    for (int leg = 0; leg <= last; ++leg) {
+        const std::string level = "FlightPlanMod[" + std::to_string(leg) + "].wind[0].";
+        Enter(session, level + "alt", ModuleNumber(session, "pending_cruise_alt"));
+        Enter(session, level + "dir", options.wind[0]);
+        Enter(session, level + "spd", options.wind[1]);
+    }
 }
 
 }  // namespace
@@ -147,9 +177,10 @@ bool StartFlight(Session& session, const FlyOptions& options, std::string& error
     }
     Record(session.recorder, {"route", options.route});
     if (!EnterRoute(session, options.route, error)) return false;
-    const double miles = RouteMiles(session);
-    LoadFuelFor(session, miles);
-    EnterPerformance(session, miles);
+    const RouteLength length = MeasureRoute(session, options);
+    LoadFuelFor(session, length.air_miles);
+    EnterPerformance(session, length.miles);
+    EnterWinds(session, options);
     Record(session.recorder, {"exec"});
     if (!ExecuteRoute(session, error)) return false;
     const Placement at = LinedUp(session);

@@ -74,6 +74,11 @@ void ChangeCalc(const char* expression, double value) {
     world.calc[expression].pinned = pinned;
 }
 
+double ShareOfAxis(int value) {
+    constexpr double kFull = 16383;
+    return std::clamp(value / kFull, -1.0, 1.0);
+}
+
 // Steps the simulation rate by doubling or halving, 1/4 to 64.
 void ScaleRate(double factor) {
     world.sim_rate = std::clamp(world.sim_rate * factor, 0.25, 64.0);
@@ -88,6 +93,15 @@ void ApplyKeyEvent(int event, int value) {
         case 0x10019:
             world.paused = !world.paused;
             SendSimMessage(SimMessage::kEvent, 12, world.paused ? 1 : 0, nullptr);
+            break;
+        case 0x100e2:
+            world.stick.pitch = ShareOfAxis(value);
+            break;
+        case 0x100e3:
+            world.stick.roll = ShareOfAxis(value);
+            break;
+        case 0x100e4:
+            world.stick.pedals = ShareOfAxis(value);
             break;
         case 0x100fd:
             ScaleRate(2);

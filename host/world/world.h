@@ -60,10 +60,16 @@ struct ClientEvent {
 
 constexpr int kTokenCount = 1024;
 
+/// Where the pilot's own stick and pedals stand, -1 to 1: nose up, right wing down, nose right.
+struct Stick {
+    double pitch = 0, roll = 0, pedals = 0;
+};
+
 struct World {
     // values
     std::array<double, kTokenCount> tokens = {};
     std::bitset<kTokenCount> pinned;  // set by hand: holds until changed
+    Stick stick;
     std::vector<NamedVariable> named;
     TextMap<int> named_ids;
     std::string never_a_number;  // the last one to which the module wrote what is no number
