@@ -82,6 +82,7 @@ struct NdScene {
     FakeHost host;
     DrawList list;
     NdSide& side = NdOf(kCaptain);
+    bool wide = false;
 
     bool Load(int legs, double range) {
         const bool world = UseWorldNavdata(host);
@@ -98,9 +99,10 @@ struct NdScene {
             FlightPlanLeg& leg = plan.active.legs[i];
             leg.ident = "LEG" + std::to_string(i % 1000);
             leg.type = "INT";
-            // Ten legs about the aircraft, the others away from it.
-            leg.lat = 40.4 + (i < 10 ? i % 5 * 0.2 : 0.3 + i * 0.02);
-            leg.lon = -74.2 + (i < 10 ? i / 5 * 0.3 : i % 7 * 0.3);
+            // Twenty legs about the aircraft, the others over the ocean.
+            const bool near = i < 20;
+            leg.lat = near ? 40.4 + i % 5 * 0.2 : 10 + i % 50;
+            leg.lon = near ? -74.4 + i / 5 * 0.25 : -70 + i / 50 * 2;
             leg.alt = 9000;
             leg.alt_restr = 9000;
             leg.restr_code = kAltitudeRestr;
@@ -122,7 +124,7 @@ struct NdScene {
     void Draw() {
         sim.mag_hdg = std::fmod(sim.mag_hdg + 0.1, 360);
         Graphics graphics = GdipCreateGraphics(list, 564, 424);
-        DrawNdPicture(graphics, kCaptain, 1, true);
+        DrawNdPicture(graphics, kCaptain, 1, wide);
     }
 };
 
@@ -149,11 +151,22 @@ void ComposeNdMap(benchmark::State& state) {
     ComposeNd(
         state, [](NdScene&) {}, [](NdScene&) {});
 }
+
+void ComposeNdWide(benchmark::State& state) {
+    ComposeNd(
+        state, [](NdScene& scene) { scene.wide = true; }, [](NdScene&) {});
+}
 BENCHMARK(ComposeNdMap)
     ->ArgNames({"legs", "nm"})
     ->Args({60, 40})
     ->Args({1000, 40})
     ->Args({60, 640})
+    ->UseManualTime()
+    ->Unit(benchmark::kMicrosecond);
+
+BENCHMARK(ComposeNdWide)
+    ->ArgNames({"legs", "nm"})
+    ->Args({60, 40})
     ->UseManualTime()
     ->Unit(benchmark::kMicrosecond);
 

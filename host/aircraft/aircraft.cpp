@@ -302,6 +302,11 @@ double StallSpeed(const Aircraft& aircraft) {
     return StallSpeedAt(aircraft, aircraft.flaps);
 }
 
+double StallMargin(const Aircraft& aircraft) {
+    const double stalls = MaxLift(aircraft) / kLiftPerDegree + ZeroLiftAngle(aircraft);
+    return stalls - (aircraft.pitch - aircraft.path);
+}
+
 double StallSpeedAt(const Aircraft& aircraft, double flaps) {
     const double max_lift = kCleanMaxLift + EffectOfFlaps(flaps).max_lift;
     const double pressure = WeightNewton(aircraft) / (kWingArea * max_lift);

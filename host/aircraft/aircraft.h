@@ -79,5 +79,7 @@ double GrossWeight(const Aircraft& aircraft);  // lb
 /// Speed (kt IAS) at which the wing stops carrying the weight, flaps as they stand or at an angle (degrees).
 double StallSpeed(const Aircraft& aircraft);
 double StallSpeedAt(const Aircraft& aircraft, double flaps);
+/// Degrees by which the nose may still rise against the path before the wing stalls.
+double StallMargin(const Aircraft& aircraft);
 
 }  // namespace host

@@ -115,12 +115,16 @@ void FillSurfaces(const Aircraft& aircraft) {
 // What the cockpit model and its gauges work out for themselves.
 void FillModelVariables(const Aircraft& aircraft) {
     constexpr double kFastest = 360, kFastestMach = 0.90;
+    constexpr double kMarginAtStall = 13000;  // of the pitch limit; a thousand is a degree
     const double stall = StallSpeed(aircraft);
     const double altitude = IndicatedAltitude(aircraft.altitude, kStandardHpa, aircraft.air);
     SetModelValue("airspeed_smooth", aircraft.ias);
     SetModelValue("TZ_V_S", stall);
     SetModelValue("TZ_V_A", stall * 1.3);
-    SetModelValue("TZ_V_MO", std::min(kFastest, CasOfMach(kFastestMach, altitude)));
+    const double fastest = std::min(kFastest, CasOfMach(kFastestMach, altitude));
+    SetModelValue("TZ_V_MO", fastest);
+    SetToken(349, fastest * 128);
+    SetToken(354, kMarginAtStall + StallMargin(aircraft) * 1000);
     SetCalc("(A:Design Speed VS0, knots)", stall);
     SetCalc("(A:Design Speed VS1, knots)", stall);
 }

@@ -88,6 +88,14 @@ void TakeDisconnect(AutoflightLogic& logic) {
     Disengage(logic);
 }
 
+// Where the flight director wants the nose, degrees up: what the path needs with the present incidence, and
+// on the runway what the take-off begins with.
+double DirectorPitch(const AutoflightLogic& logic, const FlightValues& now) {
+    constexpr double kTakeoffPitch = 8;
+    if (now.on_ground) return logic.vertical == kVerticalToGa ? kTakeoffPitch : 0;
+    return logic.path_command + now.pitch - now.path;
+}
+
 void Report(const AutoflightLogic& logic) {
     const double engaged = logic.engaged ? 1 : 0;
     for (const char* name : {"ap_master_l", "tz_ap_master_l"}) SetNamedValue(name, engaged);
@@ -134,8 +142,10 @@ AutoflightCommands StepAutoflight(AutoflightLogic& logic, double dt) {
     commands.steering = GroundSteering(logic, now);
     commands.moves_levers = logic.throttle != kThrottleNone && logic.throttle != kThrottleHold;
     commands.thrust_lever = logic.lever_command;
+    ShowSpeedTarget(logic, now);
+    ReportAltitudeAlert(logic, now);
     SetNamedValue("TZ_FD_Bank", -logic.bank_command);
-    SetNamedValue("TZ_FD_Pitch", -logic.path_command);
+    SetNamedValue("TZ_FD_Pitch", -DirectorPitch(logic, now));
     return commands;
 }
 

@@ -73,11 +73,12 @@ struct AutoflightLogic {
     // VNAV
     bool vnav_level = false;  // PTH holds `held_altitude`
     bool speed_intervention = false;
-    double entry_ias = 0;      // kt, with which the descent began
-    double window_speed = 0;   // as it stood, to see that the pilot turns it
-    bool mach_window = false;  // the speed window shows a Mach number
-    double window_knots = 0;   // its knots as they stood, which the knob turns
-    bool took_off = false;     // since the last take-off the acceleration height isn't reached
+    double entry_ias = 0;          // kt, with which the descent began
+    double window_speed = 0;       // as it stood, to see that the pilot turns it
+    bool mach_window = false;      // the speed window shows a Mach number
+    double window_knots = 0;       // its knots as they stood, which the knob turns
+    bool took_off = false;         // since the last take-off the acceleration height isn't reached
+    double alerted_altitude = -1;  // the selected altitude that has been reached; below 0 none
     // autothrottle
     int phase_limit = -1;  // the ThrustLimit that the phase of flight has set last
     bool was_armed = false;

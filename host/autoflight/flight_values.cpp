@@ -30,6 +30,7 @@ FlightValues ReadFlightValues() {
     now.variation = TokenOf(82);
     now.true_heading = TokenOf(86);
     now.bank = -TokenOf(79);
+    now.pitch = -TokenOf(77);
     now.tas = CalcOf("(A:AIRSPEED TRUE, knots)");
     now.ias = TokenOf(63);
     now.mach = TokenOf(64) / 20480;

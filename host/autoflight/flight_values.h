@@ -9,7 +9,7 @@ constexpr double kFeetPerMinutePerKnot = 6076.115 / 60;
 struct FlightValues {
     double magnetic_heading, true_heading, variation;
     double track;  // degrees magnetic, from heading, airspeed and wind
-    double bank;
+    double bank, pitch;
     double tas, ias, mach, ground_speed;
     double altitude, vertical_speed, radio_altitude;
     double path;  // degrees

@@ -99,6 +99,18 @@ double SelectedAltitude() {
     return CalcOf("(A:AUTOPILOT ALTITUDE LOCK VAR, feet)");
 }
 
+void ReportAltitudeAlert(AutoflightLogic& logic, const FlightValues& now) {
+    constexpr double kReached = 200, kGone = 900;  // ft
+    constexpr double kNone = -1;
+    const double selected = SelectedAltitude(), off = std::fabs(selected - now.altitude);
+    const bool landing =
+        logic.vertical == kGlideSlope || logic.vertical == kGlidePath || logic.vertical == kFlare;
+    if (now.on_ground || landing || selected != logic.alerted_altitude) logic.alerted_altitude = kNone;
+    if (!now.on_ground && !landing && off < kReached) logic.alerted_altitude = selected;
+    const bool alert = logic.alerted_altitude != kNone && off >= kReached && off <= kGone;
+    SetModelValue("tz_altitude_alert", alert ? 1 : 0);
+}
+
 double IasOfMach(double mach, const FlightValues& now) {
     return now.mach > 0.1 ? now.ias * mach / now.mach : now.ias;
 }

@@ -14,6 +14,10 @@ double VerticalPath(AutoflightLogic& logic, const FlightValues& now, double dt);
 /// The altitude of the panel's window, ft.
 double SelectedAltitude();
 
+/// Reports that the aircraft has left the selected altitude, once it has been there, by 200 to 900 ft. Not on
+/// the way down to a runway.
+void ReportAltitudeAlert(AutoflightLogic& logic, const FlightValues& now);
+
 /// The speed that pitch or thrust is to hold, kt IAS at this height: the profile's in VNAV, else the panel's
 /// window, a Mach window included; within what the aircraft can fly.
 double TargetSpeed(const AutoflightLogic& logic, const FlightValues& now);

@@ -20,6 +20,10 @@ bool IsClimb() {
     return NamedValue("vnav_fpa") >= kNoPath && NamedValue("lnav_hdg") != kNoRoute;
 }
 
+bool IsCruise() {
+    return NamedValue("vnav_fpa") == 0;
+}
+
 bool IsDescent() {
     const double angle = NamedValue("vnav_fpa");
     return angle > 0 && angle < kNoPath;
@@ -35,6 +39,13 @@ double DescentLimit() {
     return std::max(NamedValue("fms_cross_at_elev"), SelectedAltitude());
 }
 
+// The last feet to the cruise altitude, and a step to a higher one.
+bool IsCruiseClimb(const AutoflightLogic& logic) {
+    if (!IsCruise()) return false;
+    if (logic.vertical == kVnavSpeed) return true;
+    return logic.vnav_level && ClimbLimit() > logic.held_altitude + kNearLevel;
+}
+
 void HoldLevel(AutoflightLogic& logic, double altitude) {
     logic.vertical = kVnavPath;
     logic.vnav_level = true;
@@ -46,7 +57,7 @@ void EngageVnav(AutoflightLogic& logic, const FlightValues& now) {
     logic.window_speed = TokenOf(116);
     logic.slope_bias = 0;
     if (logic.vertical_armed == kVnavSpeed) logic.vertical_armed = kVerticalNone;
-    if (IsClimb() && ClimbLimit() > now.altitude + kNearLevel) {
+    if ((IsClimb() || IsCruise()) && ClimbLimit() > now.altitude + kNearLevel) {
         logic.vertical = kVnavSpeed;
         logic.vnav_level = false;
         return;
@@ -122,7 +133,7 @@ void UpdateVnav(AutoflightLogic& logic, const FlightValues& now) {
     }
     WatchSpeedWindow(logic);
     WatchDescent(logic, now);
-    if (IsClimb())
+    if (IsClimb() || IsCruiseClimb(logic))
         FollowClimb(logic, now);
     else if (IsDescent())
         FollowDescent(logic, now);
@@ -140,6 +151,16 @@ double VnavSpeedTarget(const AutoflightLogic& logic, const FlightValues& now) {
     // comes only below the speed of its beginning.
     const double ias = IasOfMach(target, now);
     return IsVnavDescending(logic) ? std::min(ias, logic.entry_ias) : ias;
+}
+
+void ShowSpeedTarget(AutoflightLogic& logic, const FlightValues& now) {
+    constexpr double kLowest = 100, kHighest = 399;
+    if (!IsVnav(logic.vertical) || logic.speed_intervention) return;
+    const double target = VnavSpeedTarget(logic, now);
+    if (target <= 0) return;
+    SetToken(116, std::clamp(std::round(target), kLowest, kHighest));
+    logic.window_speed = logic.window_knots = TokenOf(116);
+    if (const double mach = NamedValue("vnav_spd"); mach < kMostSpeed) SetToken(118, mach);
 }
 
 double VnavPathAngle(AutoflightLogic& logic, const FlightValues& now, double dt) {

@@ -23,6 +23,10 @@ bool IsVnavDescending(const AutoflightLogic& logic);
 /// Speed of the profile, kt IAS at this height; 0 = it has none.
 double VnavSpeedTarget(const AutoflightLogic& logic, const FlightValues& now);
 
+/// Turns the speed window, which is blank then, along with the profile's speed: the speed tape's bug stands
+/// on it, and a pilot who takes the speed over begins there.
+void ShowSpeedTarget(AutoflightLogic& logic, const FlightValues& now);
+
 /// Flight path (degrees) of VNAV PTH.
 double VnavPathAngle(AutoflightLogic& logic, const FlightValues& now, double dt);
 

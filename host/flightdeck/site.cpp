@@ -24,14 +24,18 @@ SiteAnswer FileAnswer(const std::filesystem::path& file) {
     return {200, MediaType(file), {std::istreambuf_iterator<char>(in), {}}};
 }
 
-// A file of the page's folder, by one plain name; every screen of its own is the one page.
+// Of a screen alone, or of one unit for a phone or tablet.
+bool IsPageOfOneUnit(std::string_view name) {
+    constexpr std::string_view kScreenPage = "screen/";
+    if (name.starts_with(kScreenPage))
+        return ScreenIndex(name.substr(kScreenPage.size())) != kScreens.size();
+    return name == "cdu/l" || name == "cdu/r" || name == "tablet/l" || name == "tablet/r";
+}
+
+// A file of the page's folder, by one plain name; every page of one unit is the one page.
 SiteAnswer PageFile(const DeckSettings& settings, std::string_view path) {
     std::string name(path.substr(std::min<std::size_t>(1, path.size())));
-    if (name.empty()) name = "index.html";
-    if (name.starts_with("screen/")) {
-        if (ScreenIndex(std::string_view(name).substr(7)) == kScreens.size()) return {};
-        name = "index.html";
-    }
+    if (name.empty() || IsPageOfOneUnit(name)) name = "index.html";
     const std::filesystem::path file = std::filesystem::path(settings.page_folder) / name;
     std::error_code failed;
     // A link in the folder is not followed: it may lead anywhere.

@@ -1,10 +1,12 @@
 #include "frame/model_values.h"
 
+#include "base/numbers.h"
 #include "frame/controls.h"
 #include "frame/named_variables.h"
 #include "state/cfg.h"
 #include "state/cockpit.h"
 #include "state/identity.h"
+#include "state/instruments.h"
 #include "state/sim.h"
 
 namespace {
@@ -27,6 +29,8 @@ constexpr ModelValue kModelValues[] = {
     {NamedVar("tz_cabin_aft_ofv"), &SimSnapshot::cabin_aft_ofv},
 };
 
+constexpr double kBarberPolePerKnot = 128;
+
 }  // namespace
 
 void PublishModelSettings() {
@@ -37,6 +41,8 @@ void PublishModelSettings() {
 
 void ReadModelValues() {
     for (const ModelValue& row : kModelValues) sim.*row.value = ReadNamedVar(row.variable);
+    if (cfg.RealismMode == 1) sim.v_mo_kt = sim.barber_pole / kBarberPolePerKnot;
+    instruments.altitude_alert = WholeNumber(ReadNamedVar(NamedVar("tz_altitude_alert")));
     sim.low_speed_limit = (sim.v_a_kt - sim.v_s_kt) * 0.7 + sim.v_s_kt;
 }
 

@@ -61,6 +61,9 @@ constexpr PlainValue kPlainValues[] = {
     {kTokenWindSpeed, &SimSnapshot::wind_kt},
     {kTokenWindDirection, &SimSnapshot::wind_dir},
     {kTokenTat, &SimSnapshot::tat_c, 256},
+    {kTokenSlipBall, &SimSnapshot::slip_value},
+    {kTokenStallMargin, &SimSnapshot::pli_margin},
+    {kTokenBarberPole, &SimSnapshot::barber_pole},
     {kTokenNav1Course, &SimSnapshot::nav1_course},
     {kTokenAbsoluteTime, &SimSnapshot::abs_time},
     {kTokenEng1N1, &SimSnapshot::n1_l},
@@ -149,6 +152,7 @@ void ReadRadios() {
     ReadNavFrequencies();
     sim.nav1_radial = RadialOf(kTokenNav1Radial);
     sim.nav2_radial = RadialOf(kTokenNav2Radial);
+    sim.marker_state = WholeToken(kTokenMarker);
     sim.transponder_code = DecodeBcd(ReadToken(kTokenTransponder));
     const int codes1 = WholeToken(kTokenNav1Codes), codes2 = WholeToken(kTokenNav2Codes);
     sim.nav1_is_loc = (codes1 & kLocalizer) != 0 ? 1 : 0;

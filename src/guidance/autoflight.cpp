@@ -2,16 +2,19 @@
 
 #include "base/numbers.h"
 #include "frame/controls.h"
+#include "frame/key_events.h"
 #include "frame/named_variables.h"
 #include "guidance/autothrottle.h"
 #include "guidance/lnav.h"
 #include "guidance/vnav_speed.h"
+#include "platform/host.h"
 #include "state/autoflight.h"
 #include "state/cfg.h"
 #include "state/cockpit.h"
 #include "state/leg_words.h"
 #include "state/lnav.h"
 #include "state/plan.h"
+#include "state/sim.h"
 #include "state/vnav.h"
 
 namespace {
@@ -33,8 +36,11 @@ void TakeMode(NamedVarRef variable, int& mode, int& timer) {
     mode = reported;
 }
 
-bool IsAutopilotEngaged() {
-    return autoflight.ap_master_l != 0 || autoflight.ap_master_r != 0;
+// While the speed is protected the director's pitch command isn't to be followed.
+void TakeEnvelopeProtection() {
+    const int protects = ReadInt(NamedVar("ap_envelope_prot"));
+    if (protects != autoflight.ap_envelope_prot) autoflight.fd_pitch_bar_off = protects != 0 ? 1 : 0;
+    autoflight.ap_envelope_prot = protects;
 }
 
 void ReadAutopilots() {
@@ -125,7 +131,12 @@ void ReadAutoflightModes() {
     autoflight.at_mode_armed = ReadInt(NamedVar("at_mode_armed"));
     autoflight.at_armed_left = ReadInt(NamedVar("at_armed_left"));
     autoflight.at_armed_right = ReadInt(NamedVar("at_armed_right"));
-    autoflight.ap_envelope_prot = ReadInt(NamedVar("ap_envelope_prot"));
+    autoflight.fd_roll_cmd = ReadNamedVar(NamedVar("TZ_FD_Bank"));
+    autoflight.fd_pitch_cmd = ReadNamedVar(NamedVar("TZ_FD_Pitch"));
+    autoflight.fac_approach = ReadInt(NamedVar("tz_fmc_ian_appr"));
+    autoflight.fac_lat_needle = ReadNamedVar(NamedVar("tz_ian_fac_needle"));
+    autoflight.gp_needle = ReadNamedVar(NamedVar("tz_ian_gp_needle"));
+    TakeEnvelopeProtection();
     autoflight.spd_intv_active = ReadInt(NamedVar("tz_spd_intv_active"));
     autoflight.thrust_limit = ReadInt(NamedVar("tz_thrust_limit"));
     FollowEngagedModes();
@@ -143,6 +154,11 @@ void PublishGuidance() {
     WriteNamedVar(NamedVar("vnav_fpa"), VnavPathAngle());
     WriteNamedVar(NamedVar("vnav_vert_dev"), vnav.vnav_vert_dev);
     WriteNamedVar(NamedVar("fms_cross_at_elev"), vnav.cross_at_elev);
+}
+
+void AgreeFlightDirector() {
+    const bool wanted = cockpit.capt_fd_switch == 1 || cockpit.fo_fd_switch == 1;
+    if (wanted != (sim.fd_active != 0)) SendKeyEvent(kKeyFlightDirectorToggle, 0);
 }
 
 void StepAutoflightTimers() {

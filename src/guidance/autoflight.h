@@ -10,5 +10,8 @@ void ReadAutoflightModes();
 /// Writes the lateral and vertical targets: headings and a path of 999 mean none, a speed below 2 is a Mach.
 void PublishGuidance();
 
+/// Brings the host's flight director to what the switches say: on while one of them is.
+void AgreeFlightDirector();
+
 /// Counts the mode boxes down by one tick.
 void StepAutoflightTimers();

@@ -92,7 +92,7 @@ void BeginDescent(bool at_the_top) {
     }
     if (vnav.init_tod == 0 && perf.init_cruise_alt == perf.cruise_alt) vnav.init_tod = 1;
     vnav.toc = vnav.tod = 1;
-    vnav.spd_limit_done = 0;
+    vnav.spd_limit_done = vnav.leg_speed_taken = 0;
     ++vnav.descent_cnt;
     requests.vnav_phase = kVnavDesPage;
     vnav.tod_stpos = plan.active.stpos;

@@ -2,6 +2,7 @@
 
 #include "cdu/unit/exec_lamps.h"
 #include "display/nd/nd_memory.h"
+#include "display/pfd/pfd_memory.h"
 #include "display/pictures/remote_bridge.h"
 #include "display/routing/routing.h"
 #include "fmc/performance/published_values.h"
@@ -18,6 +19,7 @@
 #include "sound/environment.h"
 #include "state/time_base.h"
 #include "surveillance/terrain.h"
+#include "surveillance/traffic.h"
 #include "systems/air_lamps.h"
 #include "systems/apu.h"
 #include "systems/battery.h"
@@ -55,6 +57,7 @@ void FirstGroup() {
 
 void SecondGroup() {
     StartApuInFlight();
+    AgreeFlightDirector();
 }
 
 void ThirdGroup() {
@@ -92,6 +95,8 @@ void TickOutputs(bool ticked) {
     PublishGuidance();
     ReadAutoflightModes();
     if (ticked) StepNdMemory();
+    ReadTrafficAdvisory();
+    if (ticked) StepPfdMemory();
     if (ticked) StepPhases(time_base.tick_phase);
     TakeDisplaySelector();
     if (time_base.frame_phase % 2 == 0) ReadModelValues();

@@ -15,6 +15,12 @@ struct AutoflightState {
     int at_mode = 0, at_mode_armed = 0;
     int at_armed_left = 0, at_armed_right = 0;
     int ap_envelope_prot = 0;
+    double fd_roll_cmd = 0;     // degrees, the host's sign: left wing down positive
+    double fd_pitch_cmd = 0;    // degrees, nose down positive
+    int fd_pitch_bar_off = 0;   // the director has no pitch to command
+    int fac_approach = 0;       // 1: the approach is flown along its final course, without a landing system
+    double fac_lat_needle = 0;  // -127 to 127, the course on the right positive
+    double gp_needle = 0;       // -127 to 127, the path below positive
     int ap_master_disconnect = 0;
     int spd_intv_active = 0;  // 1 while the pilot holds the speed in VNAV
     int thrust_limit = 0;
@@ -31,3 +37,7 @@ struct AutoflightState {
 
 extern AutoflightState autoflight;
 extern const std::span<const Variable> kAutoflightVariables;
+
+inline bool IsAutopilotEngaged() {
+    return autoflight.ap_master_l != 0 || autoflight.ap_master_r != 0;
+}

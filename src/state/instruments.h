@@ -23,6 +23,18 @@ struct InstrumentState {
     double stby_brightness = 1;  // 0 to 1
     int stby_app_mode = 0;       // 0, or 2 = approach
     int stby_baro_in = 0;        // 1 inches of mercury, else hPa
+    int altitude_alert = 0;      // the aircraft leaves, or nears, the selected altitude
+    int gpws_warning = 0;        // 3 = "PULL UP"
+    int ldg_alt_flag = 0;        // no landing altitude is known
+    // What a primary flight display remembers from picture to picture. Stepped by display/pfd.
+    double fd_pitch_smooth = 0;   // degrees, of the director's pitch command below the nose
+    double baro_preset = 29.92;   // inHg, the last setting that wasn't standard
+    int vspeed_bugs_removed = 0;  // the V2 bug is gone for this flight
+    int mach_box_timer = 0;       // ticks left of the box around a Mach number that has just appeared
+    int fd_status_timer = 0;      // the same around "FLT DIR"
+    int mach_shown = 0, fd_status_shown = 0;
+    int minimums_above = 0;  // at the previous tick: higher than the minimums
+    int pfd_on_ground = 0;   // at the previous tick
 };
 
 extern InstrumentState instruments;

@@ -25,8 +25,11 @@ struct SimSnapshot {
     double true_hdg = 0;
     double mag_track_deg = 0;
     double true_track_deg = 0;
-    double drift_deg = 0;  // positive: wind from the right
-    double mgvar = 0;      // degrees, east positive, at the aircraft
+    double drift_deg = 0;    // positive: wind from the right
+    double mgvar = 0;        // degrees, east positive, at the aircraft
+    double slip_value = 0;   // ball, -127 left to 127 right
+    double pli_margin = 0;   // to the stall: 13000 at it, and 1000 more for each degree of incidence
+    double barber_pole = 0;  // 128 times the highest speed, kt
     int on_ground = 0;
     // air
     double wind_kt = 0;
@@ -94,6 +97,7 @@ struct SimSnapshot {
     int transponder_code = 0;  // four octal digits, as read
     double dh_host = 0;        // ft, decision height as the host has it
     int fd_active = 0;         // the host's flight director
+    int marker_state = 0;      // beacon received: 1 outer, 2 middle, 3 inner
     // engines
     double n1_l = 0, n1_r = 0;  // percent
     double n2_l = 0, n2_r = 0;

@@ -80,7 +80,7 @@ constexpr StateGroup kGroups[] = {
      "cdu/words/constraint_entry"},
     {"predictions", Reset<&predictions>, &kPredictionVariables, "fmc/performance/ fmc/route/"},
     {"takeoff_approach", Reset<&takeoff_approach>, &kTakeoffApproachVariables,
-     "frame/aircraft fmc/performance/approach_speeds cdu/unit/keypad"},
+     "frame/aircraft fmc/performance/approach_speeds cdu/unit/keypad display/pfd/pfd_memory"},
     {"flight_log", Reset<&flight_log>, &kFlightLogVariables,
      "fmc/performance/flight_log fmc/route/execute_route fmc/files/loaded_route"},
     {"vnav", Reset<&vnav>, &kVnavVariables, "frame/crew_messages fmc/performance/ fmc/route/ guidance/"},
@@ -97,7 +97,8 @@ constexpr StateGroup kGroups[] = {
     {"nd_memory", Reset<&nd_memory>, &kNdMemoryVariables, "display/nd/nd_memory"},
     {"fix_info", Reset<&fix_info>, &kFixInfoVariables, ""},
     {"instruments", Reset<&instruments>, &kInstrumentVariables,
-     "frame/named_variable_catalogue guidance/decision_height display/routing/instrument_controls"},
+     "frame/named_variable_catalogue frame/model_values guidance/decision_height "
+     "display/routing/instrument_controls display/pfd/pfd_memory"},
     {"efb", Reset<&efb>, &kEfbVariables, "efb/tablet_input"},
     {"remote", Reset<&remote>, &kRemoteVariables, "display/pictures/remote_bridge module/remote_input"},
     {"requests", Reset<&requests>, &kRequestVariables,

@@ -16,6 +16,7 @@ async function openFlying(t, options) {
 
 // Where a place of a unit's frame lies on the page.
 async function placeOn(page, [x, y]) {
+  await page.locator(CANVAS).scrollIntoViewIfNeeded();
   const box = await page.locator(CANVAS).boundingBox();
   return [box.x + x * box.width / 564, box.y + y * box.height / 424];
 }

@@ -8,7 +8,9 @@ import {Link} from './link.js';
 import {efbKeys, efbLabels, overhead, pedestal} from './panels.js';
 import {Screens} from './screens.js';
 
-const alone = location.pathname.match(/^\/screen\/(\w+)$/)?.[1];
+// A page of one screen, or of one unit for a phone or tablet; else the whole deck.
+const [, kind, which] = location.pathname.match(/^\/(screen|cdu|tablet)\/(\w+)$/) ?? [];
+const alone = kind === 'screen' ? which : null;
 
 const link = new Link({
   hello(message) {
@@ -16,7 +18,7 @@ const link = new Link({
     screens.setFamilies(message.fonts ?? []);
     loadFonts(message.fonts ?? []);
     panels.setControls(message.controls ?? {});
-    if (!built) deck();
+    if (!built) (kind ? handheld : deck)();
     built = true;
     inspector.setNames(message.variables ?? {}, message.named ?? []);
   },
@@ -124,11 +126,40 @@ function deck() {
   document.body.append(bar(), makeGlareshield(panels), displays, lower());
 }
 
-document.body.classList.add('lost');
-if (alone) {
+// One unit with its keys, as large as the phone or tablet is.
+function handheld() {
+  const side = which.toUpperCase();
+  document.body.classList.add('handheld');
+  document.title = `TZ900 ${kind} ${side}`;
+  if (kind === 'tablet') return document.body.append(tablet(side));
+  document.body.append(element('div', `half ${side}`, '', screens.canvas('lower')), makeKeypad(panels, side));
+}
+
+// One screen for a monitor of its own. With ?bare there is nothing but the picture.
+function screenAlone() {
   document.body.classList.add('alone');
   document.title = `TZ900 ${alone}`;
-  document.body.append(screens.canvas(alone));
+  const canvas = screens.canvas(alone);
+  document.body.append(canvas);
+  if (!new URLSearchParams(location.search).has('bare'))
+    document.body.append(element('footer', 'hints', '', element('span', '', alone),
+                                 element('span', '', 'Alt+Enter: full screen'), element('span', '', '?bare: the picture alone')));
+  canvas.focus();
+  addEventListener('keydown', (event) => {
+    if (!event.altKey || event.key !== 'Enter') return;
+    event.preventDefault();
+    if (document.fullscreenElement) document.exitFullscreen();
+    else document.documentElement.requestFullscreen();
+  });
+  // A monitor in a home cockpit stays on; the lock ends whenever the page is hidden.
+  const stayAwake = () => {
+    if (document.visibilityState === 'visible') navigator.wakeLock?.request('screen').catch(() => {});
+  };
+  document.addEventListener('visibilitychange', stayAwake);
+  stayAwake();
 }
+
+document.body.classList.add('lost');
+if (alone) screenAlone();
 // For tests and the curious.
 window.deck = {link, screens, panels};

@@ -3,11 +3,13 @@
 import {element} from './controls.js';
 import {Screen} from './picture.js';
 
-/** In the order of the host's stream. */
+const UNIT = 564 / 424, TABLET = 340 / 448;  // width by height
+
+/** In the order of the host's stream: name, title, proportions. */
 export const SCREENS = [
-  ['capt_outb', 'Captain outboard'], ['capt_inb', 'Captain inboard'], ['fo_inb', 'F/O inboard'],
-  ['fo_outb', 'F/O outboard'], ['lower', 'Lower'], ['hud', 'HUD'], ['stby', 'Standby'],
-  ['efb_l', 'Tablet L'], ['efb_r', 'Tablet R'], ['debug', 'Debug'],
+  ['capt_outb', 'Captain outboard', UNIT], ['capt_inb', 'Captain inboard', UNIT], ['fo_inb', 'F/O inboard', UNIT],
+  ['fo_outb', 'F/O outboard', UNIT], ['lower', 'Lower', UNIT], ['hud', 'HUD', 480 / 410], ['stby', 'Standby', 100 / 92],
+  ['efb_l', 'Tablet L', TABLET], ['efb_r', 'Tablet R', TABLET], ['debug', 'Debug', UNIT],
 ];
 
 export class Screens {
@@ -20,6 +22,26 @@ export class Screens {
     this.observer = new IntersectionObserver((entries) => {
       for (const {target, isIntersecting} of entries) this.show(target.dataset.screen, isIntersecting);
     });
+    // A large unit goes back by Escape and by a press beside it, which does nothing else.
+    addEventListener('keydown', (event) => { if (event.key === 'Escape' && this.shrink()) event.stopPropagation(); }, true);
+    addEventListener('click', (event) => {
+      if (!this.large || this.large.contains(event.target)) return;
+      event.stopPropagation();
+      this.shrink();
+    }, true);
+  }
+
+  enlarge(unit) {
+    this.shrink();
+    this.large = unit;
+    unit.classList.add('large');
+  }
+  /** False when no unit was large. */
+  shrink() {
+    if (!this.large) return false;
+    this.large.classList.remove('large');
+    this.large = null;
+    return true;
   }
 
   setFamilies(families) {
@@ -43,8 +65,11 @@ export class Screens {
   }
 
   canvas(name) {
-    const canvas = element('canvas', 'screen');
+    const [, title, aspect] = SCREENS.find(([id]) => id === name), canvas = element('canvas', 'screen');
     canvas.dataset.screen = name;
+    canvas.style.setProperty('--aspect', aspect);
+    canvas.setAttribute('role', 'application');
+    canvas.setAttribute('aria-label', title);
     canvas.tabIndex = 0;
     const screen = new Screen(canvas, this.families);
     this.screens.set(name, screen);
@@ -68,14 +93,15 @@ export class Screens {
 
   /** The screen in its bezel, which opens it large or alone. */
   unit(name) {
-    const [, title] = SCREENS.find(([id]) => id === name);
+    const [, title, aspect] = SCREENS.find(([id]) => id === name);
     const unit = element('figure', `unit ${name}`);
     const large = element('button', 'tool', '\u2922'), alone = element('a', 'tool', '\u2197');
-    large.title = 'Large, and back';
+    unit.style.setProperty('--aspect', aspect);
+    large.title = 'Large, and back by this key, Escape or a press beside it';
     alone.title = 'Alone in a window';
     alone.href = `/screen/${name}`;
     alone.target = '_blank';
-    large.addEventListener('click', () => unit.classList.toggle('large'));
+    large.addEventListener('click', () => unit === this.large ? this.shrink() : this.enlarge(unit));
     unit.append(this.canvas(name), element('figcaption', '', title, large, alone));
     return unit;
   }

@@ -46,6 +46,6 @@ ContentPlace PlaceOf(Content content, int mode, int unit, int half) {
             .unit = unit,
             .half = half,
             .side = SideOf(unit, by_inboard ? 1 : half),
-            .narrow = content == Content::kPfd && mode >= 80 && mode <= 87,
+            .narrow = content == Content::kPfd && mode >= 80 && mode <= 95,
             .system_page = SystemPageOf(unit, half)};
 }

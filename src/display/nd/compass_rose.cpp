@@ -87,9 +87,9 @@ void DrawRoseTicks(Graphics& graphics, const RoseTicks& ticks, double up) {
     const TransformBlock block(graphics);
     const Matrix upright = graphics.world;
     const Pen pen = GdipCreatePen1(Scaled(ticks.colour), ticks.width);
-    for (int degrees = 0; degrees < 360; degrees += 5) {
+    const int step = ticks.fives == ticks.outer ? 10 : 5;
+    for (int degrees = 0; degrees < 360; degrees += step) {
         const bool ten = degrees % 10 == 0;
-        if (!ten && ticks.fives == ticks.outer) continue;
         if (std::fabs(std::remainder(degrees - up, 360)) > ticks.within) continue;
         graphics.world = upright;
         GdipRotateWorldTransform(graphics, degrees - up);

@@ -21,7 +21,7 @@ void DrawRing(Graphics& graphics, const MapView& view, MapPoint middle, double n
     if (middle.x - radius > seen.right || middle.x + radius < seen.left || middle.y - radius > seen.bottom ||
         middle.y + radius < seen.top)
         return;
-    DrawArcLine(graphics, GdipCreatePen1(Scaled(kGreen), 1), middle, radius, 0, 360);
+    DrawCircle(graphics, GdipCreatePen1(Scaled(kGreen), 1), middle, 2 * radius);
     constexpr double kInside = -15;
     for (int degrees = 0; degrees < 360; degrees += 15) {
         const double angle = degrees * kRadPerDeg;

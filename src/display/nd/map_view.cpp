@@ -1,7 +1,6 @@
 #include "display/nd/map_view.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 
 #include "base/angles.h"
@@ -9,17 +8,36 @@
 
 namespace {
 
-double Dot(Direction a, Direction b) {
-    return a.x * b.x + a.y * b.y + a.z * b.z;
+// Into -180 to 180, for the difference of two longitudes.
+double FoldDifference(double lon) {
+    return lon > 180 ? lon - 360 : lon < -180 ? lon + 360 : lon;
 }
 
-Direction Mix(Direction a, double of_a, Direction b, double of_b) {
-    return {a.x * of_a + b.x * of_b, a.y * of_a + b.y * of_b, a.z * of_a + b.z * of_b};
+struct SinCos {
+    double sin, cos;
+};
+
+// Of a small angle, up to a tenth of a radian, by series: to twelve places.
+SinCos SmallSinCos(double x) {
+    const double xx = x * x;
+    return {x * (1 - xx / 6 * (1 - xx / 20 * (1 - xx / 42))),
+            1 - xx / 2 * (1 - xx / 12 * (1 - xx / 30 * (1 - xx / 56)))};
+}
+SinCos FullSinCos(double x) {
+    return {std::sin(x), std::cos(x)};
+}
+constexpr double kSmall = 0.1;
+
+SinCos SinCosOf(double x) {
+    return std::fabs(x) < kSmall ? SmallSinCos(x) : FullSinCos(x);
 }
 
-// Into -180 to 180.
-double FoldLongitude(double lon) {
-    return std::remainder(lon, 360);
+// The arc that belongs to its sine and cosine, as parts of its sine.
+double ArcOverSine(double sine, double cosine) {
+    const double ss = sine * sine;
+    if (sine < kSmall && cosine > 0)
+        return 1 + ss / 6 * (1 + ss * 9 / 20 * (1 + ss * 25 / 42 * (1 + ss * 49 / 72)));
+    return std::atan2(sine, cosine) / sine;
 }
 
 }  // namespace
@@ -27,12 +45,16 @@ double FoldLongitude(double lon) {
 void OrientMap(MapView& view) {
     if (!(std::fabs(view.lat) <= 90) || !(std::fabs(view.lon) <= 360)) view.lat = view.lon = 0;
     if (!std::isfinite(view.up)) view.up = 0;
-    const double lat = view.lat * kRadPerDeg, lon = view.lon * kRadPerDeg, up = view.up * kRadPerDeg;
-    const Direction east{-std::sin(lon), std::cos(lon), 0};
-    const Direction north{-std::sin(lat) * std::cos(lon), -std::sin(lat) * std::sin(lon), std::cos(lat)};
-    view.centre = DirectionTo(view.lat, view.lon);
-    view.right = Mix(east, std::cos(up), north, -std::sin(up));
-    view.ahead = Mix(north, std::cos(up), east, std::sin(up));
+    const double lat = view.lat * kRadPerDeg, up = view.up * kRadPerDeg;
+    view.sin_lat = std::sin(lat);
+    view.cos_lat = std::cos(lat);
+    view.sin_up = std::sin(up);
+    view.cos_up = std::cos(up);
+
+    constexpr double kFlatRange = 80, kFlatLatitude = 70;
+    view.is_flat = view.range <= kFlatRange && std::fabs(view.lat) <= kFlatLatitude;
+    view.north_scale = 60 * view.scale;
+    view.east_scale = view.north_scale * view.cos_lat;
 
     constexpr double kRanges = 1.5, kMargin = 10, kNmPerDegree = 60;
     view.lat_reach = (kRanges * view.range + kMargin) / kNmPerDegree;
@@ -40,7 +62,7 @@ void OrientMap(MapView& view) {
     view.lon_reach =
         holds_pole
             ? 180
-            : std::asin(std::min(std::sin(view.lat_reach * kRadPerDeg) / std::cos(lat), 1.0)) * kDegPerRad;
+            : std::asin(std::min(std::sin(view.lat_reach * kRadPerDeg) / view.cos_lat, 1.0)) * kDegPerRad;
 }
 
 void EnterMapFrame(Graphics& graphics, const MapView& view) {
@@ -48,38 +70,40 @@ void EnterMapFrame(Graphics& graphics, const MapView& view) {
     GdipTranslateWorldTransform(graphics, view.centre_x, view.centre_y);
 }
 
-Direction DirectionTo(double lat, double lon) {
-    const double cos_lat = std::cos(lat * kRadPerDeg);
-    return {cos_lat * std::cos(lon * kRadPerDeg), cos_lat * std::sin(lon * kRadPerDeg),
-            std::sin(lat * kRadPerDeg)};
-}
-
-MapPoint PointOnMap(const MapView& view, Direction place) {
-    const double right = Dot(place, view.right), ahead = Dot(place, view.ahead);
-    const double across = std::sqrt(right * right + ahead * ahead);
-    if (across < 1e-12) return {0, 0};  // the centre, or the place opposite, which lies on no bearing
-    const double dist = std::atan2(across, Dot(place, view.centre)) * kEarthRadiusNm * view.scale;
-    return {right / across * dist, -ahead / across * dist};
-}
-
 MapPoint PointOnMap(const MapView& view, double lat, double lon) {
-    return PointOnMap(view, DirectionTo(lat, lon));
+    const double turn = FoldDifference(lon - view.lon) * kRadPerDeg;
+    const SinCos north_of = SinCosOf((lat - view.lat) * kRadPerDeg), east_of = SinCosOf(turn);
+    const double cos_lat = view.cos_lat * north_of.cos - view.sin_lat * north_of.sin;
+    const double bend = cos_lat * (1 - east_of.cos);  // what the parallel curves towards the pole
+    const double east = cos_lat * east_of.sin;
+    const double north = north_of.sin + view.sin_lat * bend;
+    const double across = std::sqrt(east * east + north * north);
+    if (!(across > 1e-12)) return {0, 0};  // the centre, or the place opposite, which lies on no bearing
+    const double units =
+        ArcOverSine(across, north_of.cos - view.cos_lat * bend) * kEarthRadiusNm * view.scale;
+    return {(east * view.cos_up - north * view.sin_up) * units,
+            -(north * view.cos_up + east * view.sin_up) * units};
 }
 
 bool IsInReach(const MapView& view, double lat, double lon) {
-    if (!(std::fabs(lat - view.lat) <= view.lat_reach)) return false;
-    const double east = std::fabs(lon - view.lon);
-    return east <= view.lon_reach || east >= 360 - view.lon_reach;
+    const double north = lat - view.lat;
+    if (!(std::fabs(north) <= view.lat_reach)) return false;
+    const double east = FoldDifference(lon - view.lon);
+    if (!(std::fabs(east) <= view.lon_reach)) return false;
+    if (!view.is_flat) return true;
+    constexpr double kRoom = 80;  // for a label, and what the flat earth is wrong by
+    const double e = east * view.east_scale, n = north * view.north_scale;
+    return view.seen.Has({e * view.cos_up - n * view.sin_up, -n * view.cos_up - e * view.sin_up}, kRoom);
 }
 
 bool IsLegInReach(const MapView& view, double lat1, double lon1, double lat2, double lon2) {
     // A great circle swells towards its pole, and a leg that is long in longitude may pass anywhere.
     constexpr double kShort = 20, kSwell = 0.5;
-    const double turn = FoldLongitude(lon2 - lon1);
+    const double turn = FoldDifference(lon2 - lon1);
     if (std::fabs(turn) > kShort) return true;
     const double south = view.lat - view.lat_reach - kSwell, north = view.lat + view.lat_reach + kSwell;
     if ((lat1 < south && lat2 < south) || (lat1 > north && lat2 > north)) return false;
-    const double from = FoldLongitude(lon1 - view.lon), to = from + turn;
+    const double from = FoldDifference(lon1 - view.lon), to = from + turn;
     return std::max(from, to) >= -view.lon_reach && std::min(from, to) <= view.lon_reach;
 }
 
@@ -118,25 +142,15 @@ void DrawMapLine(Graphics& graphics, const Pen& pen, const MapView& view, MapPoi
     GdipDrawLine(graphics, pen, a.x, a.y, b.x, b.y);
 }
 
-void DrawArcLine(Graphics& graphics, const Pen& pen, MapPoint middle, double radius, double start,
-                 double sweep) {
-    constexpr double kChordsPerTurn = 96;
-    std::array<PaintPoint, 97> points;
-    const double share = std::clamp(std::fabs(sweep) / 360 * kChordsPerTurn, 1.0, kChordsPerTurn);
-    const auto chords = static_cast<std::size_t>(share);
-    for (std::size_t i = 0; i <= chords; ++i) {
-        const double angle =
-            (start + sweep * static_cast<double>(i) / static_cast<double>(chords)) * kRadPerDeg;
-        points[i] = {static_cast<float>(middle.x + std::cos(angle) * radius),
-                     static_cast<float>(middle.y + std::sin(angle) * radius)};
-    }
-    GdipDrawLines(graphics, pen, {points.data(), chords + 1});
-}
-
 void DrawCircle(Graphics& graphics, const Pen& pen, MapPoint middle, double diameter) {
+    constexpr int kHalf = 500;  // a circle of whole numbers, brought to its size
+    const double scale = diameter / (2 * kHalf);
+    if (!(scale > 0)) return;
     const Matrix world = graphics.world;
     GdipTranslateWorldTransform(graphics, middle.x, middle.y);
-    const int half = static_cast<int>(diameter / 2);
-    GdipDrawEllipseI(graphics, pen, -half, -half, 2 * half, 2 * half);
+    GdipScaleWorldTransform(graphics, scale, scale);
+    Pen scaled = pen;
+    scaled.width = static_cast<float>(pen.width / scale);
+    GdipDrawEllipseI(graphics, scaled, -kHalf, -kHalf, 2 * kHalf, 2 * kHalf);
     graphics.world = world;
 }

@@ -17,10 +17,6 @@ struct MapBox {
     }
 };
 
-struct Direction {  // of a place, from the centre of the earth; a unit vector
-    double x, y, z;
-};
-
 /// What a map is centred on, how it is turned, and how large it is.
 struct MapView {
     double lat = 0, lon = 0;            // degrees, of the centre
@@ -30,8 +26,11 @@ struct MapView {
     MapBox seen = {-1, -1, 1, 1};       // the box about the clip
     double centre_x = 0, centre_y = 0;  // of the centre in the frame of the display
     // set by OrientMap
-    Direction centre = {1, 0, 0}, right = {0, 1, 0}, ahead = {0, 0, 1};
     double lat_reach = 0, lon_reach = 0;  // degrees, to all that may be drawn
+    // On a small map, away from the poles, the earth is flat enough to tell what can't be seen.
+    bool is_flat = false;
+    double east_scale = 0, north_scale = 0;  // units per degree
+    double sin_lat = 0, cos_lat = 1, sin_up = 0, cos_up = 1;
 };
 
 /// Fits the rest of a view to its centre, direction and range. A centre that is no place becomes 0, 0.
@@ -40,13 +39,11 @@ void OrientMap(MapView& view);
 /// Puts the origin of the drawings at the view's centre.
 void EnterMapFrame(Graphics& graphics, const MapView& view);
 
-Direction DirectionTo(double lat, double lon);
-
 /// Where a place stands on the map.
-MapPoint PointOnMap(const MapView& view, Direction place);
 MapPoint PointOnMap(const MapView& view, double lat, double lon);
 
-/// False for a place farther than 1.5 ranges and 10 nm; a quick test, which lets some farther ones pass.
+/// False for a place farther than 1.5 ranges and 10 nm, and for one that with its label can't be seen: a
+/// quick test, which lets some more pass.
 bool IsInReach(const MapView& view, double lat, double lon);
 /// The same for any part of a leg between two places.
 bool IsLegInReach(const MapView& view, double lat1, double lon1, double lat2, double lon2);
@@ -56,10 +53,6 @@ bool ClipLine(const MapBox& box, MapPoint& a, MapPoint& b);
 
 /// A line of the map. What can't be seen is left out.
 void DrawMapLine(Graphics& graphics, const Pen& pen, const MapView& view, MapPoint a, MapPoint b);
-
-/// An arc about a point, degrees clockwise from the right.
-void DrawArcLine(Graphics& graphics, const Pen& pen, MapPoint middle, double radius, double start,
-                 double sweep);
 
 /// A circle about a point, as wide as a number of units.
 void DrawCircle(Graphics& graphics, const Pen& pen, MapPoint middle, double diameter);

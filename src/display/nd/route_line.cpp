@@ -28,12 +28,20 @@ struct Place {
     bool there = false;  // the line comes from here
     LatLon at = {};
     int leg = kNoLeg;
+    // worked out when asked for first
+    MapPoint on_map = {};
+    double course_behind = 0;  // true, of the leg that begins here
+    bool has_point = false, has_course = false;
 };
 
 Place PlaceOfLeg(const RouteVersion& route, int index) {
     const FlightPlanLeg& leg = route.legs[index];
     const bool there = index >= 0 && index <= route.leg_cnt && IsPlace(leg);
-    return {there, {leg.lat, leg.lon}, index};
+    Place place;
+    place.there = there;
+    place.at = {leg.lat, leg.lon};
+    place.leg = index;
+    return place;
 }
 
 bool IsSamePlace(LatLon a, LatLon b) {
@@ -109,30 +117,55 @@ class RouteDrawing {
 
     void Draw(int first, Place from, const RoutePens& pens) {
         const bool missed_alike = first <= route_.leg_cnt && IsMissedApproach(route_.legs[first]);
-        Place before = PlaceBeforeFrom(first, from);
+        Place before = PlaceBeforeFrom(first, from), to;
         StartOfRoute(first, before, from);
+        LatLon start = from.at;
+        bool is_near = true;  // `before` and `from` are those of the leg
         for (int i = first; i <= route_.leg_cnt; ++i) {
-            const Place to = PlaceOfLeg(route_, i);
-            if (to.there && from.there) {
-                const bool missed = IsMissedApproach(route_.legs[i]) && !missed_alike;
-                line_.Use(missed ? pens.missed : pens.line, pens.band);
-                DrawLeg(before, from, to, NextPlace(i));
+            const FlightPlanLeg& leg = route_.legs[i];
+            // Of a long route most legs are far away: they cost no more than this.
+            const bool in_reach = IsLegInReach(view_, start.lat, start.lon, leg.lat, leg.lon);
+            start = {leg.lat, leg.lon};
+            if (!in_reach) {
+                Interrupt();
+                is_near = false;
+                continue;
+            }
+            if (!is_near) {
+                before = i - 1 > first ? StartAt(i - 2) : Place{};
+                from = StartAt(i - 1);
+                to = PlaceOfLeg(route_, i);
             } else {
-                line_.Finish();
-                turn_drawn_at_ = kNoLeg;
+                to = to.leg == i ? to : PlaceOfLeg(route_, i);
+            }
+            is_near = true;
+            Place next = StartAt(i).there ? PlaceOfLeg(route_, i + 1) : Place{};
+            if (to.there && from.there) {
+                const bool missed = !missed_alike && IsMissedApproach(leg);
+                line_.Use(missed ? pens.missed : pens.line, pens.band);
+                DrawLeg(before, from, to, next);
+            } else {
+                Interrupt();
             }
             before = from;
             from = to;
-            if (IsVectors(route_.legs[i])) from.there = false;  // its heading leads to no fix
+            from.there = to.there && !IsVectors(leg);
+            to = next;
         }
         line_.Finish();
     }
 
   private:
-    Place NextPlace(int leg) const {
-        Place next = PlaceOfLeg(route_, leg + 1);
-        if (IsVectors(route_.legs[leg])) next.there = false;
-        return next;
+    void Interrupt() {
+        line_.Finish();
+        turn_drawn_at_ = kNoLeg;
+    }
+
+    // The place at which the leg behind this one begins; a heading leads to no fix.
+    Place StartAt(int leg) const {
+        Place place = PlaceOfLeg(route_, leg);
+        place.there = place.there && !IsVectors(route_.legs[leg]);
+        return place;
     }
 
     // The turn onto the first leg is still under way when its line begins where the leg before ended.
@@ -156,29 +189,36 @@ class RouteDrawing {
         before = from;
         from.at = ProjectPoint(from.at.lat, from.at.lon, course, kAlongRunway);
         from.leg = kNoLeg;
+        from.has_point = from.has_course = false;
         follows_runway_ = true;
     }
 
-    void DrawLeg(const Place& before, const Place& from, const Place& to, const Place& after) {
-        if (!IsLegInReach(view_, from.at.lat, from.at.lon, to.at.lat, to.at.lon)) {
-            line_.Finish();
-            turn_drawn_at_ = kNoLeg;
-            return;
-        }
-        const MapPoint start = PointOnMap(view_, from.at.lat, from.at.lon);
-        const MapPoint end = PointOnMap(view_, to.at.lat, to.at.lon);
+    MapPoint PointOf(Place& place) const {
+        if (!place.has_point) place.on_map = PointOnMap(view_, place.at.lat, place.at.lon);
+        place.has_point = true;
+        return place.on_map;
+    }
+
+    static double CourseOf(Place& place, const Place& next) {
+        if (!place.has_course)
+            place.course_behind = GreatCircle(place.at.lat, place.at.lon, next.at.lat, next.at.lon).bearing;
+        place.has_course = true;
+        return place.course_behind;
+    }
+
+    void DrawLeg(Place& before, Place& from, Place& to, Place& after) {
+        const MapPoint start = PointOf(from), end = PointOf(to);
         const double length = std::hypot(end.x - start.x, end.y - start.y);
         TurnShape first_turn;
         if (turn_drawn_at_ == from.leg && turn_drawn_at_ != kNoLeg)
             first_turn = last_turn_;
         else if (before.there)
-            first_turn = Turn(before, from, to, start, kAllOfIt);
-        if (follows_runway_)
-            AddStraight(PointOnMap(view_, before.at.lat, before.at.lon), start, 0, first_turn.leaves);
+            first_turn = Turn(before, from, to, kAllOfIt);
+        if (follows_runway_) AddStraight(PointOf(before), start, 0, first_turn.leaves);
         follows_runway_ = false;
         for (const PaintPoint& p : first_turn.All()) line_.Add(p);
         last_turn_ = {};
-        if (after.there) last_turn_ = Turn(from, to, after, end, length - first_turn.joins);
+        if (after.there) last_turn_ = Turn(from, to, after, length - first_turn.joins);
         turn_drawn_at_ = to.leg;
         AddStraight(start, end, first_turn.joins, last_turn_.leaves);
     }
@@ -191,27 +231,25 @@ class RouteDrawing {
                      {to.x - way.x * cut_behind, to.y - way.y * cut_behind});
     }
 
-    // The turn at `fix`, which stands at a point of the map, taking `room` units of the leg before at most.
-    TurnShape Turn(const Place& before, const Place& fix, const Place& after, MapPoint at, double room) {
-        constexpr double kLargestTurn = 10;  // nm
-        if (view_.scale * kLargestTurn < 2) return {};
-        const MapPoint from = PointOnMap(view_, before.at.lat, before.at.lon);
-        const MapPoint to = PointOnMap(view_, after.at.lat, after.at.lon);
-        return ShapeTurn(from, at, to, TurnFlownAt(before, fix, after), IsFlyOver(fix), view_.scale, room);
+    // The turn at `fix`, taking `room` units of the leg before at most.
+    TurnShape Turn(Place& before, Place& fix, Place& after, double room) const {
+        constexpr double kLargestTurn = 12;  // nm
+        const double reach = view_.scale * kLargestTurn;
+        if (reach < 2 || !view_.seen.Has(PointOf(fix), reach)) return {};
+        return ShapeTurn(PointOf(before), PointOf(fix), PointOf(after), TurnFlownAt(before, fix, after),
+                         IsFlyOver(fix), view_.scale, room);
     }
 
     bool IsFlyOver(const Place& fix) const { return fix.leg >= 0 && route_.legs[fix.leg].flyover == 1; }
 
-    FixTurn TurnFlownAt(const Place& before, const Place& fix, const Place& after) const {
+    FixTurn TurnFlownAt(Place& before, Place& fix, const Place& after) const {
         constexpr double kTurnMattersNm = 15;
         const bool flown_to = active_ && fix.leg == route_.stpos && lnav.wpt_dist < kTurnMattersNm;
         const bool just_passed = active_ && fix.leg >= 0 && fix.leg < route_.stpos;
         const double speed = flown_to || just_passed || fix.leg == kNoLeg
                                  ? sim.ground_speed_kt
                                  : PlannedGroundSpeed(route_, fix.leg);
-        const double course_in = GreatCircle(before.at.lat, before.at.lon, fix.at.lat, fix.at.lon).bearing;
-        const double course_out = GreatCircle(fix.at.lat, fix.at.lon, after.at.lat, after.at.lon).bearing;
-        FixTurn turn = TurnAtFix(FoldCourse(course_in - sim.mgvar), course_out, speed);
+        FixTurn turn = TurnAtFix(FoldCourse(CourseOf(before, fix) - sim.mgvar), CourseOf(fix, after), speed);
         if (IsFlyOver(fix)) turn.begins = FlyOverDistance(speed);
         // A sharp turn waits until its fix is this near.
         constexpr double kSharp = 120, kNearest = 5;
@@ -231,7 +269,10 @@ class RouteDrawing {
 
 Place StartOf(const ActiveLegRecord& leg) {
     const bool there = !leg.from.empty() && leg.from != kDiscoIdent && leg.from != kThenIdent;
-    return {there, {leg.from_lat, leg.from_lon}, kNoLeg};
+    Place place;
+    place.there = there;
+    place.at = {leg.from_lat, leg.from_lon};
+    return place;
 }
 
 // The band's two lines are the edges of a pen as wide as the corridor; both are parts of its width.

@@ -436,3 +436,10 @@ void ComputeProfile(double cruise_alt, int) {
         PostCduMessage("UNABLE CRZ ALT", kEntryError, kHelpTodBeforeToc, kBothSides);
     ComputeBurns(route);
 }
+
+void ForgetProfile() {
+    vnav.toc = vnav.tod = vnav.init_tod = 0;
+    vnav.toc_lat = vnav.toc_lon = vnav.tod_lat = vnav.tod_lon = vnav.step_lat = vnav.step_lon = 0;
+    vnav.toc_stpos = vnav.tod_stpos = 0;
+    vnav.dist_to_step = predictions.dist_to_toc = predictions.dist_to_tod = 0;
+}

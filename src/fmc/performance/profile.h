@@ -5,3 +5,6 @@
 /// on changes of its inputs. Without a cruise altitude one is sought for a short route; with none at all the
 /// old profile stands.
 void ComputeProfile(double cruise_alt, int mode);
+
+/// No tops and no step point: a new route has none until its profile is computed.
+void ForgetProfile();

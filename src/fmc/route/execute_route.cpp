@@ -55,7 +55,7 @@ void BeginNewRoute() {
     plan.active.active_leg = plan.mod.active_leg = {};
     plan.direct_to_pending = 0;
     plan.direct_abeam_check = 1;
-    vnav.toc = vnav.tod = vnav.init_tod = 0;
+    ForgetProfile();
     predictions.final_point_set = 0;
     plan.terrain_profile_due = 1;
 }

@@ -2,6 +2,7 @@
 
 #include "fmc/legs/holds.h"
 #include "fmc/legs/route_rows.h"
+#include "fmc/performance/profile.h"
 #include "fmc/procedures/end_airports.h"
 #include "fmc/procedures/procedure_legs.h"
 #include "state/airports.h"
@@ -11,7 +12,6 @@
 #include "state/plan.h"
 #include "state/predictions.h"
 #include "state/requests.h"
-#include "state/vnav.h"
 
 namespace {
 
@@ -57,7 +57,7 @@ void ClearFlightPlan() {
     perf.cruise_alt = 0;
     perf.init_cruise_alt = 0;
     perf.planned_fuel = 0;
-    vnav.toc = vnav.tod = vnav.init_tod = 0;
+    ForgetProfile();
     lnav.lnav_init_mode = 0;
     lnav.holding = lnav.hold_point = lnav.hold_exit = 0;
     airports.origin_airport = {};

@@ -359,6 +359,14 @@ TEST_F(AutoflightTest, VnavClimbsToWhatComesFirstAndCruisesAtTheMach) {
     EXPECT_EQ(Mode("at_mode"), kMach);
     EXPECT_NEAR(aircraft.mach, 0.82, 0.002);
     EXPECT_NEAR(aircraft.altitude, 34000, 15);
+    // A step to a higher cruise altitude, with the window there.
+    PublishProfile(0, 0.82, 35000);
+    SetCalc(kAltitudeWindow, 35000);
+    FlyFor(10);
+    EXPECT_EQ(Mode("ap_vert_mode"), kVnavSpeed);
+    FlyFor(200);
+    EXPECT_EQ(Mode("ap_vert_mode"), kVnavPath);
+    EXPECT_NEAR(aircraft.altitude, 35000, 15);
 }
 
 TEST_F(AutoflightTest, VnavFollowsThePathDownAndStopsAtTheHigherOfWindowAndConstraint) {

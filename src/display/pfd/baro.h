@@ -1,0 +1,10 @@
+#pragma once
+
+#include "display/pfd/pfd_view.h"
+
+/// The altimeter's setting below the altitude tape, in a box where it doesn't fit the altitude.
+void DrawBaro(const PfdView& view);
+/// Whether the setting should be another one: standard below the transition altitude, a local one above.
+bool IsBaroCautioned();
+/// Decision height or altitude, blinking while it alerts.
+void DrawMinimums(const PfdView& view);

@@ -1,0 +1,89 @@
+#pragma once
+
+#include <initializer_list>
+#include <span>
+#include <string_view>
+
+#include "paint/painter.h"
+#include "state/side.h"
+
+// What the pieces of a primary flight display share: where they stand, whose data they show, what is known,
+// and the few words of drawing that only they use. Coordinates are offsets from the middle of the attitude, y
+// down, and never cut to whole units, so that tapes and horizon move smoothly.
+
+/// One picture of the display. The frame's origin is the middle of the attitude.
+struct PfdView {
+    Graphics& graphics;
+    int side;     // whose data
+    bool narrow;  // beside a content of a whole half
+    int left;     // x at which the speeds begin
+};
+
+/// Whether there is anything to show: attitude, speeds and altitudes come up ten seconds after power.
+bool IsPfdLit();
+/// Whether an inertial unit is aligned.
+bool IsAttitudeKnown();
+bool IsOnCaptains(const PfdView& view);
+
+constexpr double kUnitsPerDegree = 3;  // of pitch
+/// Where the horizon stands, below the middle.
+double HorizonOffset();
+
+/// The altimeter's setting is the standard pressure.
+bool IsBaroStandard();
+constexpr double kLowestMachShown = 0.4;
+constexpr int kMinimumsShown = 0, kMinimumsAlert = 1;  // of minimums_mode; from 2 on hidden
+
+/// The on half of a blink, 8 of 18 ticks.
+bool IsBlinkOn();
+
+/// A value between two others; what is no number is the lower one.
+constexpr double Bounded(double value, double low, double high) {
+    return !(value > low) ? low : value < high ? value : high;
+}
+
+constexpr char kDegreeSign = '\xb0';  // of the ANSI code page
+constexpr Rgb kPfdRed{255, 0, 0}, kWarningRed{250, 0, 0};
+constexpr double kTapeReach = 100;  // units of a tape above and below its middle
+
+/// The translucent grey of the tapes, and the pen around them.
+Brush TapeFill();
+Pen TapeFrame();
+inline Pen PenOf(Rgb colour, float width = 1) {
+    return GdipCreatePen1(Scaled(colour), width);
+}
+inline Brush BrushOf(Rgb colour) {
+    return GdipCreateSolidFill(Scaled(colour));
+}
+
+/// Lines through points and back to the first one; the same filled.
+void DrawOutline(Graphics& graphics, const Pen& pen, std::initializer_list<PaintPoint> points);
+void FillOutline(Graphics& graphics, const Brush& brush, std::initializer_list<PaintPoint> points);
+/// A point of a figure, from whatever it was worked out in.
+inline PaintPoint At(double x, double y) {
+    return {static_cast<float>(x), static_cast<float>(y)};
+}
+void FilledRectangle(Graphics& graphics, const Brush& brush, double x, double y, double width, double height);
+
+/// Lets only a rectangle be drawn on until the end of the block.
+class ClipBlock {
+  public:
+    ClipBlock(Graphics& graphics, int x, int y, int width, int height);
+    ~ClipBlock() { GdipResetClip(graphics_); }
+    ClipBlock(const ClipBlock&) = delete;
+    ClipBlock& operator=(const ClipBlock&) = delete;
+
+  private:
+    Graphics& graphics_;
+};
+
+/// Text whose middle stands at x, y; text that ends or begins at x, with its middle at y.
+void TextAbout(Graphics& graphics, double x, double y, float size, Rgb colour, std::string_view text);
+void TextUpTo(Graphics& graphics, double x, double y, float size, Rgb colour, std::string_view text);
+void TextFrom(Graphics& graphics, double x, double y, float size, Rgb colour, std::string_view text);
+
+/// Words one under the other about x, 8 apart, the first one's middle at y: "SPD" letter by letter.
+void StackedText(Graphics& graphics, double x, double y, float size, Rgb colour,
+                 std::initializer_list<std::string_view> words);
+/// A flag: a black box with an amber frame around amber letters.
+void DrawFlag(Graphics& graphics, int x, int y, int width, int height, std::string_view text);

@@ -1,0 +1,9 @@
+#pragma once
+
+#include "display/pfd/pfd_view.h"
+
+/// The marks beside the speed tape: take-off speeds, flap manoeuvre speeds, the approach speed.
+void DrawSpeedMarks(const PfdView& view);
+
+/// The flap setting, by the position of the lever and the variant.
+int FlapDetent();

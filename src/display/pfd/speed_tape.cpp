@@ -1,0 +1,161 @@
+#include "display/pfd/speed_tape.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "base/numbers.h"
+#include "base/text.h"
+#include "display/pfd/drum.h"
+#include "state/autoflight.h"
+#include "state/cockpit.h"
+#include "state/instruments.h"
+#include "state/sim.h"
+#include "state/vnav.h"
+
+namespace {
+
+constexpr double kTapeSlowest = 30, kFastest = 9000;  // kt
+constexpr double kSeenKnots = 70;                     // above and below the middle
+
+void DrawSpeedScale(const PfdView& view, double speed) {
+    constexpr int kTick = 10, kNumbered = 20;
+    constexpr float kSize = 13;
+    const Pen pen = PenOf(kWhite);
+    int value = static_cast<int>(std::ceil((speed - kSeenKnots) / kTick)) * kTick;
+    for (value = std::max(value, static_cast<int>(kTapeSlowest)); value <= speed + kSeenKnots;
+         value += kTick) {
+        const double y = (speed - value) * kUnitsPerKnot;
+        GdipDrawLine(view.graphics, pen, view.left + 33, y, view.left + 40, y);
+        if (value % kNumbered == 0)
+            TextUpTo(view.graphics, view.left + 32, y, kSize, kWhite, Format("%d", value));
+    }
+}
+
+// Red and black dashes from a limit outwards, up negative.
+void DrawDashes(const PfdView& view, double limit, double direction, double count) {
+    constexpr double kStep = 8, kDash = 4, kWidth = 5;
+    const Brush red = BrushOf(kPfdRed), black = BrushOf(kBlack);
+    for (int i = 0; i < count; ++i) {
+        const double near = limit + direction * i * kStep;
+        if (near * direction > kTapeReach) break;
+        if ((near + direction * kStep) * direction < -kTapeReach) continue;
+        const double top = direction > 0 ? near : near - kDash;
+        FilledRectangle(view.graphics, red, view.left + 40, top, kWidth, kDash);
+        FilledRectangle(view.graphics, black, view.left + 40, top + direction * kDash, kWidth, kDash);
+    }
+}
+
+void DrawSpeedLimits(const PfdView& view, double speed) {
+    constexpr double kOffGround = 10, kInReach = 140, kFarBeyond = 120, kKnotsPerDash = 4.5;
+    constexpr double kFewest = 40;
+    if (!(sim.radio_alt_ft > kOffGround)) return;
+    const auto offset = [&](double value) { return (speed - value) * kUnitsPerKnot; };
+    const double ias = Bounded(sim.ias_kt, 0, kFastest);
+    const double high = sim.v_mo_kt + kFarBeyond < ias ? ias - kSeenKnots : sim.v_mo_kt;
+    if (std::fabs(high - speed) < kInReach)
+        DrawDashes(view, offset(high), -1, std::max((speed + kSeenKnots - high) / kKnotsPerDash, kFewest));
+    if (std::fabs(sim.v_s_kt - speed) < kInReach) DrawDashes(view, offset(sim.v_s_kt), 1, kFewest);
+    const double manoeuvre = Bounded(offset(sim.v_a_kt), -2 * kTapeReach, 2 * kTapeReach);
+    const double stall = Bounded(offset(sim.v_s_kt), -2 * kTapeReach, 2 * kTapeReach);
+    if (manoeuvre >= stall) return;
+    const Pen pen = PenOf(kAmber);
+    GdipDrawLine(view.graphics, pen, view.left + 43, manoeuvre, view.left + 43, stall);
+    GdipDrawLine(view.graphics, pen, view.left + 40, manoeuvre, view.left + 43, manoeuvre);
+}
+
+void DrawSpeedBug(const PfdView& view) {
+    const double b = SpeedOffset(sim.ap_spdbug);
+    const int left = view.left;
+    DrawOutline(view.graphics, PenOf(kPfdMagenta, 1.5f),
+                {At(left + 34, b), At(left + 39, b - 5), At(left + 54, b - 5), At(left + 54, b + 5),
+                 At(left + 39, b + 5)});
+}
+
+void DrawSpeedTrend(const PfdView& view, double speed) {
+    constexpr double kUnitsPerTrendKnot = 1.45, kHead = 5, kHalfHead = 4, kLeastTrend = 2;
+    if (!(sim.ias_kt >= kTapeSlowest)) return;
+    const double t = Bounded((speed - autoflight.spd_trend) * kUnitsPerTrendKnot, -kTapeReach, kTapeReach);
+    const double x = view.left + 37;
+    const Pen pen = PenOf(kGreen, 1.5f);
+    GdipDrawLine(view.graphics, pen, x, 0, x, t);
+    if (std::fabs(autoflight.spd_trend - speed) <= kLeastTrend) return;
+    const double base = t - std::copysign(kHead, t);
+    FillOutline(view.graphics, BrushOf(kGreen), {At(x, t), At(x - kHalfHead, base), At(x + kHalfHead, base)});
+}
+
+std::string MachText(double mach) {
+    return Format(".%03d", WholeNumber(std::round(mach * 1000)));
+}
+
+bool IsFmcMach() {
+    const double target = sim.vnav_spd_readback;
+    return vnav.vnav_engaged == 1 && autoflight.spd_intv_active == 0 && target > 0 && target < 2;
+}
+
+}  // namespace
+
+double ShownSpeed() {
+    return Bounded(sim.ias_kt, kTapeSlowest, kFastest);
+}
+
+double SpeedOffset(double speed) {
+    return Bounded((ShownSpeed() - speed) * kUnitsPerKnot, -kTapeReach, kTapeReach);
+}
+
+void DrawSpeedTape(const PfdView& view) {
+    if (!IsPfdLit()) return;
+    Graphics& graphics = view.graphics;
+    GdipFillRectangleI(graphics, TapeFill(), view.left + 4, -100, 35, 200);
+    GdipDrawRectangleI(graphics, TapeFrame(), view.left + 4, -100, 35, 200);
+    const double speed = ShownSpeed();
+    const ClipBlock clip(graphics, view.left + kTapeLeft, -100, kTapeWidth, 200);
+    DrawSpeedScale(view, speed);
+    DrawSpeedLimits(view, speed);
+    DrawSpeedBug(view);
+    DrawSpeedTrend(view, speed);
+}
+
+void DrawSpeedPointer(const PfdView& view) {
+    if (!IsPfdLit()) return;
+    Graphics& graphics = view.graphics;
+    const int left = view.left;
+    const auto outline = {At(left + 33, 0), At(left + 28, -3), At(left + 28, -10), At(left + 2, -10),
+                          At(left + 2, 10), At(left + 28, 10), At(left + 28, 3)};
+    FillOutline(graphics, BrushOf(kBlack), outline);
+    DrawOutline(graphics, PenOf(kWhite), outline);
+    const ClipBlock clip(graphics, left + 2, -8, 28, 17);
+    constexpr float kSize = 13;
+    const DrumFace face{graphics, kSize, kWhite};
+    const double speed = ShownSpeed();
+    DrawDrum(face, left + 7, speed, 100, 1);
+    DrawDrum(face, left + 15, speed, 10, 1);
+    DrawUnitsDrum(face, left + 23, speed);
+}
+
+void DrawSelectedSpeed(const PfdView& view) {
+    constexpr int kTop = -119, kMachSpeedMode = 3;
+    constexpr float kSize = 14;
+    Graphics& graphics = view.graphics;
+    const int left = view.left + 2;
+    const auto readout = [&](int x, int width, int height, const std::string& text) {
+        FilledBox(graphics, x, kTop, width, height, kBlack);
+        TextUpTo(graphics, x + width - 1, kTop + height / 2.0, kSize, kPfdMagenta, text);
+    };
+    const bool mach_mode = vnav.vnav_engaged == 1 && autoflight.at_mode == kMachSpeedMode;
+    if (IsFmcMach())
+        readout(left, 40, 14, MachText(sim.vnav_spd_readback));
+    else if (mach_mode || cockpit.mach_selected == 1)
+        readout(left, 40, 15, MachText(sim.ap_machbug));
+    else
+        readout(left + 10, 30, 15, Format("%3.0f", Bounded(sim.ap_spdbug, 0, kFastest)));
+}
+
+void DrawMach(const PfdView& view) {
+    constexpr float kSize = 13;
+    Graphics& graphics = view.graphics;
+    if (sim.mach >= kLowestMachShown) {
+        const double mach = Bounded(sim.mach, 0, 99);
+        Text(graphics, view.left, 110, kSize, kWhite, mach < 0.9995 ? MachText(mach) : Format("%.3f", mach));
+    }
+    if (instruments.mach_box_timer > 0) BoxOutline(graphics, view.left - 1, 108, 42, 17, kWhite);
+}
