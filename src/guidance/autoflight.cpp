@@ -53,6 +53,15 @@ void ReadAutopilots() {
         autoflight.ap_status_timer = kModeBoxTicks;
 }
 
+// The needles of a final that the route leads to are AutoflightLogic's.
+void ReadFinalByRoute() {
+    const int by_route = ReadInt(NamedVar("tz_fmc_ian_appr"));
+    if (by_route != autoflight.ian_approach) autoflight.fac_approach = autoflight.ian_approach = by_route;
+    if (by_route == 0) return;
+    autoflight.fac_lat_needle = ReadNamedVar(NamedVar("tz_ian_fac_needle"));
+    autoflight.gp_needle = ReadNamedVar(NamedVar("tz_ian_gp_needle"));
+}
+
 // LNAV keeps off behind the end of the plan although the mode still stands.
 void FollowEngagedModes() {
     const bool lnav_mode = autoflight.ap_lat_mode == kModeLnav || autoflight.ap_lat_mode_armed == kModeLnav;
@@ -139,6 +148,7 @@ void ReadAutoflightModes() {
     TakeEnvelopeProtection();
     autoflight.spd_intv_active = ReadInt(NamedVar("tz_spd_intv_active"));
     autoflight.thrust_limit = ReadInt(NamedVar("tz_thrust_limit"));
+    ReadFinalByRoute();
     FollowEngagedModes();
     StepDisconnect();
 }

@@ -18,6 +18,7 @@ constexpr Variable kAutoflightRows[] = {
     {"fac_approach", &autoflight.fac_approach},
     {"fac_lat_needle", &autoflight.fac_lat_needle},
     {"gp_needle", &autoflight.gp_needle},
+    {"ian_approach", &autoflight.ian_approach},
     {"fd_roll_cmd", &autoflight.fd_roll_cmd},
     {"fd_pitch_cmd", &autoflight.fd_pitch_cmd},
     {"fd_pitch_bar_off", &autoflight.fd_pitch_bar_off},

@@ -21,6 +21,7 @@ struct AutoflightState {
     int fac_approach = 0;       // 1: the approach is flown along its final course, without a landing system
     double fac_lat_needle = 0;  // -127 to 127, the course on the right positive
     double gp_needle = 0;       // -127 to 127, the path below positive
+    int ian_approach = 0;       // tz_fmc_ian_appr as it was read last
     int ap_master_disconnect = 0;
     int spd_intv_active = 0;  // 1 while the pilot holds the speed in VNAV
     int thrust_limit = 0;
