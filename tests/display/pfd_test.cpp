@@ -538,13 +538,13 @@ TEST_F(PrimaryFlightDisplay, CompassTurnsUnderTheHeading) {
     SetVariables("mag_hdg 355, ap_hdgbug 5");
     std::string picture = Picture();
     // heading up at (191, 370); north stands five degrees right: 62 sin 5 = 5.4, 62 cos 5 = 61.8
-    EXPECT_TRUE(Has(picture, "M 196.4 308.24 L 197.1 300.27"));
+    EXPECT_TRUE(Has(picture, "M 197.1 300.27 L 196.4 308.24"));
     EXPECT_TRUE(Has(picture, "stroke 201,8,233,255 1 M 191 370 L 203.16 301.06"));  // the bug: ten
     EXPECT_TRUE(Shows(picture, "MAG"));
     EXPECT_TRUE(Shows(picture, "HDG"));
-    SetVariables("true_reference 1, true_hdg 0, hdg_trk_mode 1");
+    SetVariables("TZ_OH_HDG_REF_Button 1, true_hdg 0, hdg_trk_mode 1");
     picture = Picture();
-    EXPECT_TRUE(Has(picture, "M 191 308 L 191 300"));
+    EXPECT_TRUE(Has(picture, "M 191 300 L 191 308"));
     EXPECT_TRUE(Shows(picture, "TRU"));
     EXPECT_TRUE(Shows(picture, "TRK"));
 }

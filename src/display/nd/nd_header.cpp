@@ -7,6 +7,7 @@
 
 #include "base/angles.h"
 #include "display/nd/header_text.h"
+#include "display/nd/passage.h"
 #include "display/nd/vnav_scale.h"
 #include "paint/painter.h"
 #include "state/cfg.h"
@@ -85,26 +86,14 @@ void DrawSpeeds(Graphics& graphics, const NdFrame& frame) {
     PrintText(graphics, AtSide(frame, -93), -205, kNdValueSize, kWhite, "%.0f", sim.tas_kt);
 }
 
-// Minutes of the day and tenths at which the aircraft is there, cut.
-void DrawTimeOfPassage(Graphics& graphics, double x, double dist) {
-    constexpr int kMinutesOfDay = 24 * 60;
-    constexpr double kFarthest = 1e5;  // minutes
-    const double to_go = std::clamp(dist / sim.ground_speed_kt * 60, 0.0, kFarthest);
-    const double now = sim.utc_hours * 60 + sim.utc_minutes + sim.utc_seconds / 60.0;
-    const int tenths = static_cast<int>(std::fmod(std::max(now, 0.0) + to_go, kMinutesOfDay) * 10);
-    PrintText(graphics, x, -199, kNdValueSize - 1, kWhite, "%02d%02d.%d", tenths / 600, tenths / 10 % 60,
-              tenths % 10);
-}
-
 void DrawNextWaypoint(Graphics& graphics, const NdFrame& frame) {
-    constexpr double kLeastSpeed = 50;
     const bool has_route = HasRoute();
     if (has_route)
         Text(graphics, AtSide(frame, 90), -210, kNdValueSize, kMagenta, ToLeg().ident.substr(0, 7));
-    if (has_route && sim.ground_speed_kt > kLeastSpeed)
-        DrawTimeOfPassage(graphics, AtSide(frame, 91), lnav.wpt_dist);
-    else
-        Text(graphics, AtSide(frame, 92), -199, kNdValueSize - 1, kWhite, "------");
+    const std::string passage = TimeOfPassage(has_route ? lnav.wpt_dist : 0);
+    const bool is_known = has_route && passage.front() != '-';
+    Text(graphics, AtSide(frame, is_known ? 91 : 92), -199, kNdValueSize - 1, kWhite,
+         is_known ? passage : "------");
     if (has_route)
         PrintText(graphics, AtSide(frame, 67), -188, kNdValueSize - 1, kWhite, "%9.1f",
                   std::max(lnav.wpt_dist, 0.0));
@@ -162,12 +151,6 @@ void DrawSelectedHeading(Graphics& graphics, const NdFrame& frame) {
     if (frame.reference.is_true && (!changed || flight_log.fplog_mode < kDescending))
         BoxOutline(graphics, 20, y, 22, 14, kWhite);
     if (!frame.reference.is_true && changed) BoxOutline(graphics, 20, y, 22, 14, kGreen);
-}
-
-int TicksToAlign() {
-    const int left = irs.irs_timer_l, right = irs.irs_timer_r;
-    if (left <= 0 || right <= 0) return std::max(left, right);
-    return std::min(left, right);
 }
 
 void DrawWindArrow(Graphics& graphics, const NdFrame& frame) {

@@ -75,7 +75,7 @@ double TrackOffset() {
 void DrawSphere(const PfdView& view) {
     constexpr int kTop = -128, kHeight = 256;
     Graphics& graphics = view.graphics;
-    if (!IsPfdLit() || !IsAttitudeKnown()) return DrawFlag(graphics, -8, -50, 16, 12, "ATT");
+    if (!IsPfdLit() || !IsIrsOn()) return DrawFlag(graphics, -8, -50, 16, 12, "ATT");
     const double horizon = HorizonOffset();
     const int left = view.narrow ? -121 : -191, right = view.narrow ? 161 : 191;
     const TransformBlock block(graphics);

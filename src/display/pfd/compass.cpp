@@ -1,28 +1,37 @@
 #include "display/pfd/compass.h"
 
-#include <cmath>
-
-#include "base/angles.h"
-#include "base/text.h"
-#include "state/lnav.h"
+#include "display/nd/compass_rose.h"
+#include "display/nd/route_line.h"
+#include "display/routing/nd_controls.h"
 #include "state/sim.h"
 
 namespace {
 
 constexpr double kRoseInner = 62, kRose = 70;
 
-void DrawTicks(Graphics& graphics, double heading) {
-    constexpr int kStep = 10;
-    constexpr double kSeen = 105;
-    constexpr float kSize = 9;
-    const Pen pen = PenOf(kWhite);
-    for (int value = 0; value < 360; value += kStep) {
-        if (BearingDifference(value, heading) > kSeen) continue;
-        const TransformBlock block(graphics);
-        GdipRotateWorldTransform(graphics, value - heading);
-        GdipDrawLine(graphics, pen, 0, -kRoseInner, 0, -kRose);
-        if (value % 30 == 0) TextAbout(graphics, 0, -kRoseInner + 7, kSize, kWhite, Format("%d", value / 10));
-    }
+const GraphicsPath& InsideOfRose() {
+    static const GraphicsPath circle = [] {
+        GraphicsPath path = GdipCreatePath();
+        GdipAddPathArcI(path, -62, -62, 124, 124, 0, 360);
+        GdipClosePathFigure(path);
+        return path;
+    }();
+    return circle;
+}
+
+void DrawSmallMap(const PfdView& view) {
+    MapView map;
+    map.lat = sim.plane_lat;
+    map.lon = sim.plane_lon;
+    map.up = Bounded(sim.true_hdg, 0, 360);
+    map.range = SelectedRange(view.side);
+    map.scale = kRoseInner / (map.range / 2);
+    map.seen = {-kRoseInner, -kRoseInner, kRoseInner, kRoseInner};
+    OrientMap(map);
+    constexpr bool kWithoutCorridor = false;
+    GdipSetClipPath(view.graphics, InsideOfRose());
+    DrawRouteLines(view.graphics, map, kWithoutCorridor);
+    GdipResetClip(view.graphics);
 }
 
 void DrawSelected(Graphics& graphics, double heading) {
@@ -45,16 +54,24 @@ void DrawFixedMarks(Graphics& graphics) {
 }  // namespace
 
 double ReferenceHeading() {
-    return Bounded(lnav.true_reference == 1 ? sim.true_hdg : sim.mag_hdg, 0, 360);
+    return Bounded(HeadingReferenceInUse().is_true ? sim.true_hdg : sim.mag_hdg, 0, 360);
 }
 
 void DrawPfdCompass(const PfdView& view) {
-    if (!IsPfdLit() || !IsAttitudeKnown()) return;
+    if (!IsPfdLit() || !IsIrsOn()) return;
     Graphics& graphics = view.graphics;
     const TransformBlock block(graphics);
     GdipTranslateWorldTransform(graphics, 0, kCompassY);
+    DrawSmallMap(view);
     const double heading = ReferenceHeading();
-    DrawTicks(graphics, heading);
+    constexpr RoseTicks kTicks{.outer = kRose,
+                               .tens = kRoseInner,
+                               .fives = kRose,
+                               .within = 105,
+                               .label_y = -61,
+                               .label_size = 9,
+                               .width = 1};
+    DrawRoseTicks(graphics, kTicks, heading);
     DrawSelected(graphics, heading);
     DrawFixedMarks(graphics);
 }

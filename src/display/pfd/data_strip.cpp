@@ -6,13 +6,15 @@
 #include "base/angles.h"
 #include "base/numbers.h"
 #include "base/text.h"
+#include "display/nd/nd_frame.h"
+#include "display/nd/passage.h"
 #include "display/pfd/compass.h"
 #include "state/cockpit.h"
-#include "state/irs.h"
 #include "state/lnav.h"
 #include "state/nd.h"
 #include "state/plan.h"
 #include "state/sim.h"
+#include "state/time_base.h"
 #include "state/traffic.h"
 
 namespace {
@@ -28,7 +30,7 @@ struct Strip {
 };
 
 bool IsSwitchedOn() {
-    return cockpit.irs_left_knob == 1 || cockpit.irs_right_knob == 1 || IsAttitudeKnown();
+    return cockpit.irs_left_knob == 1 || cockpit.irs_right_knob == 1 || IsIrsOn();
 }
 
 void StripValue(const Strip& strip, int x, int y, std::string_view text) {
@@ -49,12 +51,6 @@ void DrawSpeeds(const Strip& strip) {
     StripValue(strip, strip.left + 48, kY - 1, Format("%.0f", Bounded(sim.tas_kt, 0, 9999)));
 }
 
-// Ticks of alignment left, of the unit that is ready first; 0 when none aligns.
-int AlignmentLeft() {
-    const int l = irs.irs_timer_l, r = irs.irs_timer_r;
-    return l > 0 && r > 0 ? std::min(l, r) : std::max(l, r);
-}
-
 void DrawWindArrow(const Strip& strip, double direction) {
     const TransformBlock block(strip.graphics);
     GdipTranslateWorldTransform(strip.graphics, strip.left + 15, -80);
@@ -68,8 +64,7 @@ void DrawWind(const Strip& strip) {
     constexpr int kY = -99;
     if (!(sim.radio_alt_ft > kOffGround)) return;
     if (!(sim.wind_kt >= kCalm)) return StripValue(strip, strip.left, kY, Format("---%c/---", kDegreeSign));
-    const double variation = lnav.true_reference == 1 ? 0 : sim.mgvar;
-    const double direction = FoldBearing(Bounded(sim.wind_dir, -360, 720) - Bounded(variation, -180, 180));
+    const double direction = FoldBearing(Bounded(HeadingReferenceInUse().Of(sim.wind_dir), -360, 720));
     StripValue(strip, strip.left, kY,
                Format("%03.0f%c/%.0f", direction, kDegreeSign, Bounded(sim.wind_kt, 0, 999)));
     DrawWindArrow(strip, direction);
@@ -77,8 +72,7 @@ void DrawWind(const Strip& strip) {
 
 void DrawAlignmentOrWind(const Strip& strip) {
     constexpr double kStanding = 5;
-    constexpr int kTicksPerSecond = 18;
-    const int left = AlignmentLeft();
+    const int left = TicksToAlign();
     if (left <= 0 || !(sim.ground_speed_kt < kStanding)) return DrawWind(strip);
     StripValue(strip, strip.left, -99, "TIME TO");
     StripValue(strip, strip.left, -89, "ALIGN");
@@ -118,16 +112,6 @@ void DrawTrafficLabels(const Strip& strip) {
     StripLabel(strip, strip.left, -8, knob == kAdvisoriesOnly ? "TA ONLY" : "TFC");
 }
 
-// Hours, minutes and tenths at which a place `nm` away is passed, cut and never rounded.
-std::string TimeOfPassage(double nm) {
-    constexpr double kSlow = 50, kMinutesPerDay = 1440;
-    if (!(sim.ground_speed_kt > kSlow)) return "------";
-    const double now = sim.utc_hours * 60 + sim.utc_minutes + sim.utc_seconds / 60.0;
-    const double then = std::fmod(now + Bounded(nm, 0, 99999) / sim.ground_speed_kt * 60, kMinutesPerDay);
-    const int tenths = static_cast<int>(then * 10);
-    return Format("%02d%02d.%d", tenths / 600, tenths / 10 % 60, tenths % 10);
-}
-
 void DrawNextWaypoint(const Strip& strip) {
     constexpr int kY = -110;
     const bool route = plan.active.stpos != kNoPlan;
@@ -147,7 +131,7 @@ void DrawSelectedHeading(const Strip& strip) {
     StripLabel(strip, strip.left + 18, kY, cockpit.hdg_trk_mode == 1 ? "TRK" : "HDG");
     Text(strip.graphics, strip.left, kY + 10, kValueSize + 2, kPfdMagenta,
          Format("%03.0f", Bounded(sim.ap_hdgbug, 0, 360)));
-    StripLabel(strip, strip.left + 24, kY + 12, lnav.true_reference == 1 ? "TRU" : "MAG");
+    StripLabel(strip, strip.left + 24, kY + 12, HeadingReferenceInUse().is_true ? "TRU" : "MAG");
     StripLabel(strip, strip.right + 20, kY + 12, "GPS", kWhite);
 }
 

@@ -112,7 +112,7 @@ void DrawRoute(Graphics& graphics) {
 }  // namespace
 
 void DrawDeviations(const PfdView& view) {
-    if (!IsAttitudeKnown()) return;
+    if (!IsIrsOn()) return;
     switch (SourceOfDeviation()) {
         case DeviationSource::kLandingSystem:
             DrawGlideSlope(view.graphics);

@@ -103,7 +103,7 @@ void DrawAutoflightStatus(const PfdView& view) {
     constexpr double kMiddle = 4, kY = -82.5;
     constexpr float kSize = 11;
     const int switch_on = IsOnCaptains(view) ? cockpit.capt_fd_switch : cockpit.fo_fd_switch;
-    const AutoflightStatus status = StatusOfAutoflight(switch_on == 1 && IsAttitudeKnown());
+    const AutoflightStatus status = StatusOfAutoflight(switch_on == 1 && IsIrsOn());
     TextAbout(view.graphics, kMiddle, kY, kSize, status.caution ? kAmber : kGreen, status.text);
     if (status.boxed) BoxOutline(view.graphics, -26, -90, 60, 15, kGreen);
 }

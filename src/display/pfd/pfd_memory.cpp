@@ -33,7 +33,7 @@ void StepBoxes() {
     InstrumentState& i = instruments;
     StepBox(sim.mach >= kLowestMachShown, i.mach_shown, i.mach_box_timer);
     const bool director = cockpit.capt_fd_switch == 1 || cockpit.fo_fd_switch == 1;
-    StepBox(!IsAutopilotEngaged() && director && IsAttitudeKnown(), i.fd_status_shown, i.fd_status_timer);
+    StepBox(!IsAutopilotEngaged() && director && IsIrsOn(), i.fd_status_shown, i.fd_status_timer);
 }
 
 // 2 degrees a second.

@@ -3,7 +3,6 @@
 #include "paint/fonts.h"
 #include "state/cfg.h"
 #include "state/displays.h"
-#include "state/irs.h"
 #include "state/power_words.h"
 #include "state/sim.h"
 #include "state/time_base.h"
@@ -36,10 +35,6 @@ GraphicsPath& ScratchPath(Graphics& graphics) {
 
 bool IsPfdLit() {
     return IsPoweredBeyondBattery() && displays.du_pfd_ah_startup_cnt == 10;
-}
-
-bool IsAttitudeKnown() {
-    return irs.irs_left == 1 || irs.irs_right == 1;
 }
 
 bool IsOnCaptains(const PfdView& view) {

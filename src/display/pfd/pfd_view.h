@@ -4,6 +4,7 @@
 #include <span>
 #include <string_view>
 
+#include "display/nd/nd_frame.h"
 #include "paint/painter.h"
 #include "state/side.h"
 
@@ -21,8 +22,6 @@ struct PfdView {
 
 /// Whether there is anything to show: attitude, speeds and altitudes come up ten seconds after power.
 bool IsPfdLit();
-/// Whether an inertial unit is aligned.
-bool IsAttitudeKnown();
 bool IsOnCaptains(const PfdView& view);
 
 constexpr double kUnitsPerDegree = 3;  // of pitch
