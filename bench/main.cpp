@@ -42,6 +42,8 @@ const std::vector<Figure> kFigures = {
     {"  in PLAN from leg to leg at 1280 nm, mean", "ComposeNdPlan/legs:60/nm:1280", "Yardstick/GreatCircle",
      "", "", 100e3},
     {"  p99", "ComposeNdPlan/legs:60/nm:1280", "", "p99_us", "us", 300},
+    {"composing a PFD with everything on, mean", "ComposePfd/legs:60/nm:40", "Yardstick/GreatCircle", "", "",
+     60e3},
     {"rasterising a dense picture at 1128 by 848", "Rasterise", "Yardstick/FillPixels", "", "", 8e6},
     {"nine screens painted and made ready to send, once", "StreamNineScreens", "Yardstick/GreatCircle", "",
      "", 0},

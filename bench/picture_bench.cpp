@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "display/formats/pfd.h"
 #include "display/nd/nd_picture.h"
 #include "display/pictures/frame.h"
 #include "display/pictures/gauge.h"
@@ -19,16 +20,22 @@
 #include "paint/colours.h"
 #include "paint/painter.h"
 #include "paint/rasterise.h"
+#include "state/airports.h"
+#include "state/autoflight.h"
+#include "state/cockpit.h"
 #include "state/displays.h"
 #include "state/electrical.h"
 #include "state/fix_info.h"
+#include "state/instruments.h"
 #include "state/irs.h"
 #include "state/leg_words.h"
 #include "state/nd.h"
 #include "state/plan.h"
 #include "state/side.h"
 #include "state/sim.h"
+#include "state/takeoff_approach.h"
 #include "state/vnav.h"
+#include "state/weights.h"
 #include "support/fake_host.h"
 #include "support/world_navdata.h"
 
@@ -83,6 +90,9 @@ struct NdScene {
     DrawList list;
     NdSide& side = NdOf(kCaptain);
     bool wide = false;
+    void (*paint)(Graphics& graphics, const NdScene& scene) = [](Graphics& graphics, const NdScene& scene) {
+        DrawNdPicture(graphics, kCaptain, 1, scene.wide);
+    };
 
     bool Load(int legs, double range) {
         const bool world = UseWorldNavdata(host);
@@ -124,7 +134,7 @@ struct NdScene {
     void Draw() {
         sim.mag_hdg = std::fmod(sim.mag_hdg + 0.1, 360);
         Graphics graphics = GdipCreateGraphics(list, 564, 424);
-        DrawNdPicture(graphics, kCaptain, 1, wide);
+        paint(graphics, *this);
     }
 };
 
@@ -165,6 +175,45 @@ BENCHMARK(ComposeNdMap)
     ->Unit(benchmark::kMicrosecond);
 
 BENCHMARK(ComposeNdWide)
+    ->ArgNames({"legs", "nm"})
+    ->Args({60, 40})
+    ->UseManualTime()
+    ->Unit(benchmark::kMicrosecond);
+
+// The captain's PFD in the same place, late in the descent with everything on.
+void ComposePfd(benchmark::State& state) {
+    ComposeNd(
+        state,
+        [](NdScene& scene) {
+            electrical.power_level = 1000;
+            displays.du_pfd_ah_startup_cnt = 10;
+            sim.ias_kt = 215;
+            sim.v_mo_kt = 230;
+            sim.v_a_kt = 170;
+            sim.v_s_kt = 150;
+            sim.ind_alt_ft = 1000;
+            sim.radio_alt_ft = 900;
+            sim.vs_fpm = -800;
+            sim.mach = 0.41;
+            sim.flap_pos = 3640;
+            sim.fd_active = cockpit.capt_fd_switch = 1;
+            weights.flap_speeds[1] = {400000, 240, 220, 200, 180, 170, 160, 150};
+            weights.flap_speed_row = 1;
+            takeoff_approach.vref = 145;
+            instruments.pfd[0] = {1, 1, 0};
+            autoflight.ap_master_l = autoflight.at_mode = 2;
+            autoflight.ap_lat_mode = autoflight.ap_vert_mode = 6;
+            plan.active.ends.dest = airports.dest_airport.ident = "KJFK";
+            airports.dest_airport.lat = 40.6;
+            airports.dest_airport.lon = -73.8;
+            scene.paint = [](Graphics& graphics, const NdScene&) {
+                DrawPfd(graphics,
+                        {.mode = 1, .unit = 1, .half = 2, .side = 1, .narrow = false, .system_page = 0});
+            };
+        },
+        [](NdScene&) { sim.bank_deg = std::fmod(sim.bank_deg + 0.1, 25); });
+}
+BENCHMARK(ComposePfd)
     ->ArgNames({"legs", "nm"})
     ->Args({60, 40})
     ->UseManualTime()

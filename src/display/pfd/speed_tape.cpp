@@ -34,14 +34,16 @@ void DrawSpeedScale(const PfdView& view, double speed) {
 // Red and black dashes from a limit outwards, up negative.
 void DrawDashes(const PfdView& view, double limit, double direction, double count) {
     constexpr double kStep = 8, kDash = 4, kWidth = 5;
-    const Brush red = BrushOf(kPfdRed), black = BrushOf(kBlack);
-    for (int i = 0; i < count; ++i) {
-        const double near = limit + direction * i * kStep;
-        if (near * direction > kTapeReach) break;
-        if ((near + direction * kStep) * direction < -kTapeReach) continue;
-        const double top = direction > 0 ? near : near - kDash;
-        FilledRectangle(view.graphics, red, view.left + 40, top, kWidth, kDash);
-        FilledRectangle(view.graphics, black, view.left + 40, top + direction * kDash, kWidth, kDash);
+    const double x = view.left + 40;
+    const double near = Bounded(limit, -kTapeReach, kTapeReach);
+    const double far = Bounded(limit + direction * count * kStep, -kTapeReach, kTapeReach);
+    FilledRectangle(view.graphics, BrushOf(kBlack), x, std::min(near, far), kWidth, std::fabs(far - near));
+    const Brush red = BrushOf(kPfdRed);
+    const int first = static_cast<int>(Bounded(std::floor(direction * (near - limit) / kStep), 0, count));
+    for (int i = first; i < count; ++i) {
+        const double begin = limit + direction * i * kStep;
+        if (begin * direction > kTapeReach) break;
+        FilledRectangle(view.graphics, red, x, direction > 0 ? begin : begin - kDash, kWidth, kDash);
     }
 }
 
@@ -63,7 +65,7 @@ void DrawSpeedLimits(const PfdView& view, double speed) {
     GdipDrawLine(view.graphics, pen, view.left + 40, manoeuvre, view.left + 43, manoeuvre);
 }
 
-void DrawSpeedBug(const PfdView& view) {
+void DrawSelectedBug(const PfdView& view) {
     const double b = SpeedOffset(sim.ap_spdbug);
     const int left = view.left;
     DrawOutline(view.graphics, PenOf(kPfdMagenta, 1.5f),
@@ -111,8 +113,13 @@ void DrawSpeedTape(const PfdView& view) {
     const ClipBlock clip(graphics, view.left + kTapeLeft, -100, kTapeWidth, 200);
     DrawSpeedScale(view, speed);
     DrawSpeedLimits(view, speed);
-    DrawSpeedBug(view);
-    DrawSpeedTrend(view, speed);
+}
+
+void DrawSpeedBugs(const PfdView& view) {
+    if (!IsPfdLit()) return;
+    const ClipBlock clip(view.graphics, view.left + kTapeLeft, -100, kTapeWidth, 200);
+    DrawSelectedBug(view);
+    DrawSpeedTrend(view, ShownSpeed());
 }
 
 void DrawSpeedPointer(const PfdView& view) {

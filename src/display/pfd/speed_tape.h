@@ -2,7 +2,7 @@
 
 #include "display/pfd/pfd_view.h"
 
-// The speed side: the tape with its limits, bug, trend and pointer, and the readouts above and below it.
+// The speed side: the tape with its limits, bugs and pointer, and the readouts above and below it.
 
 constexpr double kUnitsPerKnot = 1.5;
 constexpr int kTapeLeft = 4, kTapeWidth = 81;  // what the tape may draw on, from the speeds' left
@@ -12,6 +12,8 @@ double ShownSpeed();
 double SpeedOffset(double speed);
 
 void DrawSpeedTape(const PfdView& view);
+/// The selected speed, and where the present trend leads.
+void DrawSpeedBugs(const PfdView& view);
 void DrawSpeedPointer(const PfdView& view);
 /// The selected speed: the window's, or in VNAV the Mach number that the flight management computer flies.
 void DrawSelectedSpeed(const PfdView& view);
