@@ -109,10 +109,10 @@ struct NdScene {
             FlightPlanLeg& leg = plan.active.legs[i];
             leg.ident = "LEG" + std::to_string(i % 1000);
             leg.type = "INT";
-            // Twenty legs about the aircraft, the others over the ocean.
-            const bool near = i < 20;
+            // Ten legs about the aircraft, with sharp turns; the others over the ocean.
+            const bool near = i < 10;
             leg.lat = near ? 40.4 + i % 5 * 0.2 : 10 + i % 50;
-            leg.lon = near ? -74.4 + i / 5 * 0.25 : -70 + i / 50 * 2;
+            leg.lon = near ? -74.2 + i / 5 * 0.3 : -70 + i / 50 * 2;
             leg.alt = 9000;
             leg.alt_restr = 9000;
             leg.restr_code = kAltitudeRestr;

@@ -29,6 +29,9 @@ int main(int argc, char** argv) {
         ->excludes(headless);
     fly->add_option("--record", fly_options.record,
                     "write what pilots and host do to this new file, a scenario for tz900 run");
+    fly->add_option("--plot", fly_options.plot,
+                    "draw the route, the path on the navigation display and the track into this SVG file")
+        ->needs(headless);
     fly->add_option("--rate", fly_options.rate, "times real time")->check(CLI::Range(0.25, 64.0));
     fly->add_option("--port", fly_options.port, "of the flight deck, 8900; 0 is any free one")
         ->check(CLI::Range(0, 65535));

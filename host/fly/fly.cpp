@@ -8,6 +8,7 @@
 #include "host/flight.h"
 #include "host/fly/deck_loop.h"
 #include "host/fly/flight_log.h"
+#include "host/fly/path_plot.h"
 #include "host/fly/pilot.h"
 #include "host/fly/profile_check.h"
 #include "host/fly/start.h"
@@ -122,10 +123,13 @@ void StepRoute(Session& session, RouteFlight& route) {
     route.nearest = to_go;
 }
 
-void FlyHeadless(Session& session, RouteFlight& route) {
+// With a plot where one is wanted.
+void FlyHeadless(Session& session, RouteFlight& route, PathPlot* plot) {
     while (EndSignal() == 0 && !route.arrived && world.seconds < kMaxHours * 3600) {
         TickSession(session, world.paused);
-        if (world.ticks % 18 == 0) StepRoute(session, route);
+        if (world.ticks % 18 != 0) continue;
+        StepRoute(session, route);
+        if (plot != nullptr && route.in_the_air) StepPlot(session, *plot);
     }
 }
 
@@ -175,6 +179,7 @@ int Fly(const FlyOptions& given) {
         return Refuse(session, error);
     }
 
+    PathPlot plot;
     RouteFlight route;
     route.arrived = options.cold;  // there is none
     if (!options.cold) route = BeginFlight(session);
@@ -185,13 +190,18 @@ int Fly(const FlyOptions& given) {
     };
     if (options.headless) {
         begin();
-        FlyHeadless(session, route);
+        FlyHeadless(session, route, options.plot.empty() ? nullptr : &plot);
     } else if (!RunFlightDeck(session, options, begin, each_second, error)) {
         return Refuse(session, error);
     }
     const double wall = std::chrono::duration<double>(std::chrono::steady_clock::now() - began).count();
     if (!options.cold) PrintEnd(route, wall);
+    if (!options.plot.empty() && !FinishPlot(plot, options.plot)) error = options.plot + " can't be written";
     StopSession(session);
+    if (!error.empty()) {
+        std::fprintf(stderr, "tz900 fly: %s\n", error.c_str());
+        return 1;
+    }
     if (!recorder.error.empty()) {
         std::fprintf(stderr, "tz900 fly: %s\n", recorder.error.c_str());
         return 1;

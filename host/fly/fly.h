@@ -17,6 +17,7 @@ struct FlyOptions {
     bool cold = false;         // on the ground, everything off, no route and nobody at the controls
     std::vector<double> wind;  // direction it blows from (degrees true) and knots; empty = calm
     std::string record;        // file of the recording; empty = none
+    std::string plot;          // SVG file of the paths drawn and flown, when headless; empty = none
     // the flight deck
     std::string page_folder;
     std::string address = "127.0.0.1";

@@ -6,6 +6,8 @@
 #include "base/numbers.h"
 
 double FoldBearing(double bearing) {
+    if (bearing >= 0 && bearing < 360) return bearing;  // most are, and the remainder is slow
+    if (bearing < 0 && bearing >= -360) return bearing == -360 ? 0 : bearing + 360;
     const double folded = std::fmod(bearing, 360);
     return folded < 0 ? folded + 360 : folded;
 }

@@ -142,7 +142,7 @@ bool IsFixReached(bool whatever_heading) {
 }
 
 double LookaheadDistance() {
-    double dist = sim.tas_kt * 0.01;
+    double dist = LnavLookahead(sim.tas_kt);
     if (sim.sim_rate == 4) dist += 1;
     if (sim.sim_rate == 8) dist += 2;
     if (sim.sim_rate == 16) dist += 3;
@@ -180,12 +180,7 @@ void SteerAlongLeg() {
     const double flown = lnav.wpt_dist > lnav.leg_len ? 0 : lnav.leg_len - lnav.wpt_dist;
     AimAt(ProjectPoint(leg.from_lat, leg.from_lon, FoldBearing(lnav.leg_crs + sim.mgvar),
                        flown + lnav.lookahead));
-    // Far from the leg the aim point may lie beside the aircraft: then it closes on the leg at a fixed angle.
-    constexpr double kWidestAngle = 15, kClosingAngle = 10;
-    if (BearingDifference(lnav.fms_hdg, lnav.wpt_brg) > kWidestAngle)
-        lnav.fms_hdg =
-            FoldBearing(TurnSide(lnav.wpt_brg, lnav.fms_hdg) == kTurnLeft ? lnav.wpt_brg - kClosingAngle
-                                                                          : lnav.wpt_brg + kClosingAngle);
+    lnav.fms_hdg = LnavBearing(lnav.fms_hdg, lnav.wpt_brg);
 }
 
 // A procedure may demand the longer way round at the fix just passed.

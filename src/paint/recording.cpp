@@ -40,7 +40,9 @@ PaintPath RecordPath(Graphics& graphics, const GraphicsPath& path) {
     DrawList& list = *graphics.list;
     const std::size_t verbs = list.verbs.size(), points = list.points.size();
     list.verbs.insert(list.verbs.end(), path.verbs.begin(), path.verbs.end());
-    for (const PaintPoint& point : path.points) list.points.push_back(Map(graphics.world, point.x, point.y));
+    list.points.resize(points + path.points.size());
+    std::ranges::transform(path.points, list.points.begin() + static_cast<std::ptrdiff_t>(points),
+                           [&](PaintPoint p) { return Map(graphics.world, p.x, p.y); });
     return {RangeOf(verbs, list.verbs.size()), RangeOf(points, list.points.size()), path.winding};
 }
 

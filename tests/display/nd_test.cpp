@@ -79,33 +79,46 @@ TEST(MapView, FarPlacesAndLegsAreOutOfReach) {
     EXPECT_TRUE(IsLegInReach(view, 45, -60, 45, 60)) << "swells over the view";
 }
 
-double DistanceToLine(MapPoint p, MapPoint a, MapPoint b) {
-    const double length = std::hypot(b.x - a.x, b.y - a.y);
-    return std::fabs((b.x - a.x) * (p.y - a.y) - (b.y - a.y) * (p.x - a.x)) / length;
+double Farthest(const TurnShape& shape, double (*of)(PaintPoint)) {
+    double most = -1e9;
+    for (const PaintPoint& p : shape.All()) most = std::max(most, of(p));
+    return most;
 }
 
-TEST(TurnShape, JoinsTheTwoLegs) {
-    const MapPoint before{0, 100}, fix{0, 0}, after{100, 0};
-    const FixTurn turn{.angle = 90, .radius = 3, .begins = 2};
-    const TurnShape inside = ShapeTurn(before, fix, after, turn, false, 10, 1000);
+// From a leg that comes up the screen onto one to the right, ten units to a mile.
+TEST(TurnShape, LeadsFromOneLegOntoTheOther) {
+    const MapPoint before{0, 400}, fix{0, 0}, after{400, 0};
+    // At 250 kt and 28 degrees of bank the radius is 250^2 / (11.26 tan 28) = 10439 ft = 1.72 nm: begun two
+    // miles before the fix the turn stays inside of it, and cuts the corner by (sqrt 2 - 1) of two miles at
+    // the least.
+    const TurnShape inside =
+        ShapeTurn(before, fix, after, {.angle = 90, .radius = 2, .begins = 2}, 250, 10, 1000);
     ASSERT_GT(inside.count, 5U);
-    EXPECT_EQ(inside.leaves, 20);
+    EXPECT_NEAR(inside.leaves, 20, 1e-9);
     EXPECT_NEAR(inside.points[0].y, 20, 1e-4);
-    EXPECT_NEAR(inside.All().back().x, 20, 1e-4);
-    EXPECT_NEAR(inside.All().back().y, 0, 1e-4);
-    for (const PaintPoint& p : inside.All()) EXPECT_NEAR(std::hypot(p.x - 20, p.y - 20), 20, 1e-4);
-    const TurnShape outside =
-        ShapeTurn(before, fix, after, {.angle = 90, .radius = 3, .begins = 0.5}, true, 10, 1000);
-    double farthest = 0;
-    for (const PaintPoint& p : outside.All()) farthest = std::max<double>(farthest, -p.y);
-    EXPECT_NEAR(farthest, 25, 0.5) << "three miles of radius, begun half a mile before";
-    EXPECT_NEAR(DistanceToLine({outside.All().back().x, outside.All().back().y}, fix, after), 0, 1e-3);
+    EXPECT_NEAR(inside.All().back().y, 0, 1e-4) << "on the next leg";
+    EXPECT_NEAR(inside.All().back().x, inside.joins, 1e-4);
+    EXPECT_LT(Farthest(inside, [](PaintPoint p) { return -static_cast<double>(p.y); }), 0.6)
+        << "nothing beyond it";
+    EXPECT_NEAR(Farthest(inside, [](PaintPoint p) { return -std::hypot(static_cast<double>(p.x), p.y); }),
+                -8.9, 0.9)
+        << "the corner cut";
+    // Begun half a mile before, of which the roll takes a part, the radius carries the aircraft over by 1.36.
+    const TurnShape over =
+        ShapeTurn(before, fix, after, {.angle = 90, .radius = 2, .begins = 0.5}, 250, 10, 1000);
+    EXPECT_NEAR(Farthest(over, [](PaintPoint p) { return -static_cast<double>(p.y); }), 13.6, 2);
+    // To the left it is the same, mirrored.
+    const TurnShape left =
+        ShapeTurn(before, fix, {-400, 0}, {.angle = 90, .radius = 2, .begins = 2}, 250, 10, 1000);
+    ASSERT_EQ(left.count, inside.count);
+    for (std::size_t i = 0; i < left.count; ++i) EXPECT_NEAR(left.points[i].x, -inside.points[i].x, 1e-3);
     // Corners: a small change, turns too small to be seen, legs of no length; and a turn longer than its leg.
-    EXPECT_EQ(ShapeTurn(before, fix, {20, -100}, turn, false, 10, 1000).count, 0U);
-    EXPECT_EQ(ShapeTurn(before, fix, after, turn, false, 0.1, 1000).count, 0U);
-    EXPECT_EQ(ShapeTurn(fix, fix, after, turn, false, 10, 1000).count, 0U);
-    EXPECT_EQ(ShapeTurn(before, fix, {0, 100}, turn, false, 10, 1000).leaves, 20) << "straight back";
-    EXPECT_EQ(ShapeTurn(before, fix, after, turn, false, 10, 7).leaves, 7);
+    const FixTurn turn{.angle = 90, .radius = 2, .begins = 2};
+    EXPECT_EQ(ShapeTurn(before, fix, {80, -400}, turn, 250, 10, 1000).count, 0U);
+    EXPECT_EQ(ShapeTurn(before, fix, after, turn, 250, 0.1, 1000).count, 0U);
+    EXPECT_EQ(ShapeTurn(fix, fix, after, turn, 250, 10, 1000).count, 0U);
+    EXPECT_GT(ShapeTurn(before, fix, {0, 400}, turn, 250, 10, 1000).count, 5U) << "straight back";
+    EXPECT_EQ(ShapeTurn(before, fix, after, turn, 250, 10, 7).leaves, 7);
 }
 
 // --- pictures

@@ -236,25 +236,28 @@ class RouteDrawing {
         constexpr double kLargestTurn = 12;  // nm
         const double reach = view_.scale * kLargestTurn;
         if (reach < 2 || !view_.seen.Has(PointOf(fix), reach)) return {};
-        return ShapeTurn(PointOf(before), PointOf(fix), PointOf(after), TurnFlownAt(before, fix, after),
-                         IsFlyOver(fix), view_.scale, room);
+        const double speed = SpeedAt(fix);
+        return ShapeTurn(PointOf(before), PointOf(fix), PointOf(after),
+                         TurnFlownAt(before, fix, after, speed), speed, view_.scale, room);
     }
 
     bool IsFlyOver(const Place& fix) const { return fix.leg >= 0 && route_.legs[fix.leg].flyover == 1; }
+    bool IsJustPassed(const Place& fix) const { return active_ && fix.leg >= 0 && fix.leg < route_.stpos; }
 
-    FixTurn TurnFlownAt(Place& before, Place& fix, const Place& after) const {
+    double SpeedAt(const Place& fix) const {
         constexpr double kTurnMattersNm = 15;
         const bool flown_to = active_ && fix.leg == route_.stpos && lnav.wpt_dist < kTurnMattersNm;
-        const bool just_passed = active_ && fix.leg >= 0 && fix.leg < route_.stpos;
-        const double speed = flown_to || just_passed || fix.leg == kNoLeg
-                                 ? sim.ground_speed_kt
-                                 : PlannedGroundSpeed(route_, fix.leg);
+        return flown_to || IsJustPassed(fix) || fix.leg == kNoLeg ? sim.ground_speed_kt
+                                                                  : PlannedGroundSpeed(route_, fix.leg);
+    }
+
+    FixTurn TurnFlownAt(Place& before, Place& fix, const Place& after, double speed) const {
         FixTurn turn = TurnAtFix(FoldCourse(CourseOf(before, fix) - sim.mgvar), CourseOf(fix, after), speed);
         if (IsFlyOver(fix)) turn.begins = FlyOverDistance(speed);
         // A sharp turn waits until its fix is this near.
         constexpr double kSharp = 120, kNearest = 5;
         if (turn.angle > kSharp) turn.begins = std::min(turn.begins, kNearest);
-        if (just_passed && lnav.passed_chg_dist > 0) turn.begins = lnav.passed_chg_dist;
+        if (IsJustPassed(fix) && lnav.passed_chg_dist > 0) turn.begins = lnav.passed_chg_dist;
         return turn;
     }
 

@@ -1,12 +1,13 @@
 #include "display/nd/route_marks.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cmath>
 #include <string_view>
 #include <utility>
 
 #include "base/angles.h"
-#include "display/nd/header_text.h"
+#include "base/numbers.h"
 #include "display/nd/map_symbols.h"
 #include "display/nd/route_line.h"
 #include "display/nd/runway_course.h"
@@ -58,16 +59,27 @@ double ConstraintAltitude(const FlightPlanLeg& leg) {
     return HasAltitudeRestr(leg) && leg.alt_restr > 0 ? leg.alt_restr : 0;
 }
 
+// Every leg in view has these, so that they are written without the printf family.
 void DrawLegData(Graphics& graphics, MapPoint at, const FlightPlanLeg& leg, double dist) {
     constexpr double kLeastSpeed = 100, kMinutesOfDay = 24 * 60, kFarthest = 1e5;
     const double altitude = ConstraintAltitude(leg);
-    if (altitude > 0) PrintText(graphics, at.x + 7, at.y + 11, kDataSize, kWhite, "%.0f", altitude);
+    const auto text = [&](double y, std::string_view data) {
+        Text(graphics, at.x + 7, at.y + y, kDataSize, kWhite, data);
+    };
+    if (altitude > 0) {
+        char digits[12];
+        const char* end =
+            std::to_chars(digits, digits + sizeof digits, WholeNumber(std::round(altitude))).ptr;
+        text(11, {digits, static_cast<std::size_t>(end - digits)});
+    }
     if (!(sim.ground_speed_kt > kLeastSpeed)) return;
     const double now = std::max(sim.utc_hours * 60 + sim.utc_minutes + sim.utc_seconds / 60.0, 0.0);
     const double to_go = std::min(dist / sim.ground_speed_kt * 60, kFarthest);
     const int minutes = static_cast<int>(std::fmod(now + to_go, kMinutesOfDay));
-    PrintText(graphics, at.x + 7, at.y + (altitude > 0 ? 19 : 12), kDataSize, kWhite, "%02d%02dZ",
-              minutes / 60, minutes % 60);
+    const auto digit = [](int value) { return static_cast<char>('0' + value % 10); };
+    const char time[] = {digit(minutes / 600), digit(minutes / 60), digit(minutes % 60 / 10),
+                         digit(minutes % 60), 'Z'};
+    text(altitude > 0 ? 19 : 12, {time, sizeof time});
 }
 
 void DrawLabelsOf(Graphics& graphics, const MapView& view, const RouteVersion& route, int first, int flown_to,

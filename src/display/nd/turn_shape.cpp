@@ -8,8 +8,7 @@
 namespace {
 
 constexpr double kPlainCorner = 15;  // degrees: a lesser change of course is drawn as it stands
-constexpr double kSharpest = 175;
-constexpr double kSmallest = 1;  // units: a turn smaller than that can't be told from a corner
+constexpr double kSmallest = 1;      // units: a turn smaller than that can't be told from a corner
 
 MapPoint Unit(MapPoint from, MapPoint to, double& length) {
     const double dx = to.x - from.x, dy = to.y - from.y;
@@ -17,74 +16,83 @@ MapPoint Unit(MapPoint from, MapPoint to, double& length) {
     return length > 0 ? MapPoint{dx / length, dy / length} : MapPoint{0, 0};
 }
 
-void Add(TurnShape& shape, MapPoint p) {
-    if (shape.count < shape.points.size())
-        shape.points[shape.count++] = {static_cast<float>(p.x), static_cast<float>(p.y)};
+// An aircraft that turns right from one leg onto the next, in the frame of the next: nm along it from the fix
+// and to the right of it, track in degrees from its course.
+struct Turning {
+    double along, right, track;
+    double rate = 0;  // degrees a second
+};
+
+// One step of LNAV and autopilot. A bank is taken up and left within seconds, and a track is turned to within
+// seconds, as AutoflightLogic does it.
+void Step(Turning& aircraft, double seconds, double leg_length, double speed, double most_rate) {
+    constexpr double kRollSeconds = 4, kTurnSeconds = 4;
+    const double to_end = leg_length - aircraft.along;
+    const double to_fix = std::sqrt(to_end * to_end + aircraft.right * aircraft.right);
+    const double flown = to_fix > leg_length ? 0 : leg_length - to_fix;
+    const double aim = flown + LnavLookahead(speed) - aircraft.along;
+    const double wanted = LnavBearing(FoldBearing(std::atan2(-aircraft.right, aim) * kDegPerRad),
+                                      FoldBearing(std::atan2(-aircraft.right, to_end) * kDegPerRad));
+    const double off = FoldBearing(wanted - aircraft.track), error = off > 180 ? off - 360 : off;
+    const double rate = std::clamp(error / std::max(kTurnSeconds, seconds), -most_rate, most_rate);
+    const double change = most_rate / kRollSeconds * seconds;
+    aircraft.rate += std::clamp(rate - aircraft.rate, -change, change);
+    const double middle = (aircraft.track + aircraft.rate * seconds / 2) * kRadPerDeg;
+    const double dist = speed / 3600 * seconds;
+    aircraft.along += dist * std::cos(middle);
+    aircraft.right += dist * std::sin(middle);
+    aircraft.track += aircraft.rate * seconds;
 }
 
-// An arc from a point in a direction; `side` 1 turns right on the screen. Gives the point and direction of
-// its end.
-void AddArc(TurnShape& shape, MapPoint& at, MapPoint& heading, double angle, double radius, int side) {
-    const MapPoint middle{at.x - heading.y * radius * side, at.y + heading.x * radius * side};
-    const MapPoint spoke{at.x - middle.x, at.y - middle.y};
-    // Chords that stay within a tenth of a unit.
-    const double step = radius > 0.4 ? std::sqrt(0.8 / radius) : 1;
-    const int chords = std::clamp(static_cast<int>(std::ceil(angle / step)), 2, 24);
-    for (int i = 1; i <= chords; ++i) {
-        const double turned = angle * i / chords * side;
-        const double c = std::cos(turned), s = std::sin(turned);
-        at = {middle.x + spoke.x * c - spoke.y * s, middle.y + spoke.x * s + spoke.y * c};
-        Add(shape, at);
-    }
-    const double c = std::cos(angle), s = std::sin(angle) * side;
-    heading = {heading.x * c - heading.y * s, heading.x * s + heading.y * c};
-}
-
-// Behind a fix that is overflown the aircraft comes back to the next leg at an angle.
-void AddJoin(TurnShape& shape, MapPoint fix, MapPoint along, MapPoint at, MapPoint heading, int side,
-             double room) {
-    const MapPoint off{at.x - fix.x, at.y - fix.y};
-    const double beside = -(along.x * off.y - along.y * off.x) * side;
-    const double closing = (along.x * heading.y - along.y * heading.x) * side;  // sine of the angle
-    if (beside <= 0 || closing <= 0.05) return;
-    const double run = beside / closing;
-    const double ahead =
-        off.x * along.x + off.y * along.y + (heading.x * along.x + heading.y * along.y) * run;
-    shape.joins = std::clamp(ahead, 0.0, room);
-    Add(shape, {fix.x + along.x * shape.joins, fix.y + along.y * shape.joins});
+// Degrees a second at the bank of LNAV.
+double MostTurnRate(double speed) {
+    constexpr double kTanBank = 0.5317, kKnotsPerMps = 1.943844, kGravity = 9.80665;
+    return kGravity * kTanBank / (speed / kKnotsPerMps) * kDegPerRad;
 }
 
 }  // namespace
 
-TurnShape ShapeTurn(MapPoint before, MapPoint fix, MapPoint after, const FixTurn& turn, bool fly_over,
+TurnShape ShapeTurn(MapPoint before, MapPoint fix, MapPoint after, const FixTurn& turn, double speed,
                     double scale, double room) {
     TurnShape shape;
     double length_in = 0, length_out = 0;
-    MapPoint heading = Unit(before, fix, length_in);
-    const MapPoint along = Unit(fix, after, length_out);
-    if (length_in == 0 || length_out == 0) return shape;
-    const double cross = heading.x * along.y - heading.y * along.x;
-    const double angle = std::atan2(std::fabs(cross), heading.x * along.x + heading.y * along.y);
-    if (!(angle * kDegPerRad >= kPlainCorner)) return shape;
-    const int side = cross >= 0 ? 1 : -1;
+    const MapPoint inbound = Unit(before, fix, length_in), outbound = Unit(fix, after, length_out);
+    if (length_in == 0 || length_out == 0 || !(scale > 0)) return shape;
+    const double cross = inbound.x * outbound.y - inbound.y * outbound.x;
+    const double angle =
+        std::atan2(std::fabs(cross), inbound.x * outbound.x + inbound.y * outbound.y) * kDegPerRad;
+    if (!(angle >= kPlainCorner)) return shape;
+    const double leaves = std::clamp(turn.begins * scale, 0.0, std::max(std::min(room, length_in), 0.0));
+    constexpr double kSlowest = 60;
+    speed = std::max(speed, kSlowest);
+    const double most_rate = MostTurnRate(speed);
+    if (!(std::max(turn.begins, speed / 3600 / (most_rate * kRadPerDeg)) * scale >= kSmallest)) return shape;
 
-    shape.leaves = std::clamp(turn.begins * scale, 0.0, std::max(std::min(room, length_in), 0.0));
-    MapPoint at{fix.x - heading.x * shape.leaves, fix.y - heading.y * shape.leaves};
-    if (fly_over) {
-        constexpr double kClosing = 20 * kRadPerDeg;
-        const double radius = turn.radius * scale;
-        if (!(radius >= kSmallest)) return {};
-        Add(shape, at);
-        AddArc(shape, at, heading, std::min(angle + kClosing, kPi), radius, side);
-        AddJoin(shape, fix, along, at, heading, side, length_out);
-        return shape;
+    // Mirrored for a turn to the left.
+    const double side = cross >= 0 ? 1 : -1;
+    const double begins = leaves / scale, leg_length = length_out / scale;
+    Turning aircraft{-begins * std::cos(angle * kRadPerDeg), begins * std::sin(angle * kRadPerDeg), -angle};
+    const auto add = [&] {
+        const double along = aircraft.along * scale, right = aircraft.right * scale * side;
+        shape.points[shape.count++] = {static_cast<float>(fix.x + outbound.x * along - outbound.y * right),
+                                       static_cast<float>(fix.y + outbound.y * along + outbound.x * right)};
+    };
+    shape.leaves = leaves;
+    add();
+    // Short steps through the turn, long ones while the leg is joined.
+    constexpr double kStepAngle = 9, kLongest = 6, kJoining = 10, kOnLeg = 0.05,
+                     kOnCourse = 1.5;  // s, nm, degrees
+    const double in_turn = std::min(kStepAngle / most_rate, kLongest);
+    while (shape.count < shape.points.size() - 1) {
+        const bool turning = std::fabs(aircraft.rate) > most_rate / 4 || aircraft.rate == 0;
+        Step(aircraft, turning ? in_turn : kJoining, leg_length, speed, most_rate);
+        if (aircraft.along >= leg_length) break;
+        add();
+        if (std::fabs(aircraft.right) < kOnLeg && std::fabs(aircraft.track) < kOnCourse) break;
     }
-    shape.leaves = std::min(shape.leaves, length_out);
-    if (!(shape.leaves >= kSmallest)) return {};
-    at = {fix.x - heading.x * shape.leaves, fix.y - heading.y * shape.leaves};
-    shape.joins = shape.leaves;
-    Add(shape, at);
-    const double drawn = std::min(angle, kSharpest * kRadPerDeg);
-    AddArc(shape, at, heading, angle, shape.leaves / std::tan(drawn / 2), side);
+    shape.joins = std::clamp(aircraft.along, 0.0, leg_length) * scale;
+    aircraft.along = shape.joins / scale;
+    aircraft.right = 0;
+    add();
     return shape;
 }

@@ -94,6 +94,17 @@ double FlyOverDistance(double speed) {
     return speed / 3600 * kSecondsBefore;
 }
 
+double LnavLookahead(double tas) {
+    return tas * 0.01;
+}
+
+double LnavBearing(double to_aim, double to_fix) {
+    constexpr double kWidestAngle = 15, kClosingAngle = 10;
+    if (BearingDifference(to_aim, to_fix) <= kWidestAngle) return to_aim;
+    return FoldBearing(TurnSide(to_fix, to_aim) == kTurnLeft ? to_fix - kClosingAngle
+                                                             : to_fix + kClosingAngle);
+}
+
 LegPosition LocateOnLeg(double lat, double lon, double from_lat, double from_lon, double to_lat,
                         double to_lon) {
     LegPosition position;

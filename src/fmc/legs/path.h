@@ -16,7 +16,7 @@ constexpr double kTurnOfFlyOverFix = -2;  // the fix is overflown before the tur
 /// `angle` may be one of the two codes above. The factors are a fit to how this aircraft turns.
 double WaypointChangeDistance(double angle, double radius);
 
-/// The turn at a fix as LNAV flies it, and so as it is drawn.
+/// The turn at a fix as LNAV begins it.
 struct FixTurn {
     int angle = 0;      // whole degrees
     double radius = 0;  // nm
@@ -26,6 +26,12 @@ struct FixTurn {
 FixTurn TurnAtFix(double course_in, double course_out, double speed);
 /// How far (nm) before a fix that is overflown the next leg begins.
 double FlyOverDistance(double speed);
+
+/// How far (nm) along its leg LNAV aims at a true airspeed.
+double LnavLookahead(double tas);
+/// The bearing that LNAV steers, between that of its aiming point and that of the fix: far from the leg the
+/// aiming point may lie beside the aircraft, and then it closes on the leg at a fixed angle.
+double LnavBearing(double to_aim, double to_fix);
 
 /// Where an aircraft stands against the great circle between two points.
 struct LegPosition {
