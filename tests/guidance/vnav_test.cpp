@@ -168,6 +168,26 @@ TEST_F(Vnav, EveryRuleSetsItsSpeed) {
     VnavSpeedStep();
     EXPECT_EQ(vnav.vnav_lset_code, 19);
     EXPECT_EQ(vnav.vnav_ias, 230);
+    // In the climb: to a level-off with a speed behind the TO fix, and below a restriction.
+    plan.active.legs[1].restr_code = kFree;
+    plan.active.legs[2].restr_code = kSpeedRestr;
+    plan.active.legs[2].ias_restr = 260;
+    plan.active.bod_pos = 2;
+    vnav.toc = 0, vnav.toc_stpos = 2;
+    cfg.ClbAltRest = 13000, cfg.ClbSpdRest = 240;
+    const struct {
+        double alt;
+        int bottom, code;
+        double target;
+    } kClimb[] = {{12900, 2, 13, 240}, {12980, 2, 14, 260}, {12900, 4, 15, 240}};
+    for (const auto& row : kClimb) {
+        sim.ind_alt_ft = row.alt;
+        plan.active.bod_pos = row.bottom;
+        vnav.vnav_spd_pending = 0;
+        VnavSpeedStep();
+        EXPECT_EQ(vnav.vnav_lset_code, row.code);
+        EXPECT_EQ(vnav.vnav_ias, row.target) << row.code;
+    }
 }
 
 TEST_F(Vnav, LimitsOnTheWayAndDragAreAskedForOnce) {
@@ -210,6 +230,20 @@ TEST_F(Vnav, LimitsOnTheWayAndDragAreAskedForOnce) {
     LimitSpeedOnTheWay();
     EXPECT_EQ(vnav.vnav_lset_code, 5);
     EXPECT_EQ(vnav.vnav_ias, 290);
+    plan.active.legs[1].restr_code = kSpeedRestr;
+    plan.active.legs[1].ias_restr = 270;
+    vnav.toc_lon = 3;
+    vnav.clb_limit_active = 1;
+    LimitSpeedOnTheWay();
+    EXPECT_EQ(vnav.vnav_lset_code, 4);
+    EXPECT_EQ(vnav.vnav_ias, 270);
+    // The restriction of the descent stands beside its transition.
+    vnav.toc = vnav.tod = 1;
+    cfg.DesAltRest = 15000, cfg.DesSpdRest = 230;
+    sim.ind_alt_ft = 15400;
+    LimitSpeedOnTheWay();
+    EXPECT_EQ(vnav.vnav_lset_code, 3);
+    EXPECT_EQ(vnav.vnav_ias, 230);
 }
 
 TEST_F(Vnav, TheAltitudeKnobTakesTheNextConstraintAwayOrRaisesTheCruise) {
