@@ -137,6 +137,9 @@ TEST_F(Predictions, DistancesPassOverWhatIsNotFlown) {
     EXPECT_NEAR(predictions.dist_to_toc, 15, 1e-6);
     EXPECT_NEAR(predictions.dist_to_tod, 120, 1e-6);
     EXPECT_NEAR(predictions.dest_brg, 357, 1e-6);
+    vnav.toc_lat = 39.4;  // the climb takes longer than planned
+    ComputeDistances();
+    EXPECT_EQ(predictions.dist_to_toc, 0);
 }
 
 // A route along a meridian, sixty miles to the degree: 300 kt and 280 kt make 367.5 and 343 kt at half of

@@ -72,13 +72,15 @@ void ComputeDistances() {
     for (int i = plan.active.stpos; i <= plan.active.leg_cnt; ++i) {
         const FlightPlanLeg& leg = legs[i];
         if (!IsPlace(leg) || IsOfMissedApproach(leg)) continue;
+        const double length = GreatCircle(lat, lon, leg.lat, leg.lon).dist;
+        // A top that the aircraft has come past on its leg is no longer ahead.
         const auto measure = [&](int passed, int before, double at_lat, double at_lon, double& dist) {
             if (passed == 0 && before >= from && before < i && (at_lat != 0 || at_lon != 0))
-                dist = sum + GreatCircle(lat, lon, at_lat, at_lon).dist;
+                dist = sum + std::max(length - GreatCircle(at_lat, at_lon, leg.lat, leg.lon).dist, 0.0);
         };
         measure(vnav.toc, vnav.toc_stpos, vnav.toc_lat, vnav.toc_lon, predictions.dist_to_toc);
         measure(vnav.tod, vnav.tod_stpos, vnav.tod_lat, vnav.tod_lon, predictions.dist_to_tod);
-        sum += GreatCircle(lat, lon, leg.lat, leg.lon).dist;
+        sum += length;
         lat = leg.lat;
         lon = leg.lon;
         from = i;
