@@ -142,9 +142,6 @@ void ReadAutoflightModes() {
     autoflight.at_armed_right = ReadInt(NamedVar("at_armed_right"));
     autoflight.fd_roll_cmd = ReadNamedVar(NamedVar("TZ_FD_Bank"));
     autoflight.fd_pitch_cmd = ReadNamedVar(NamedVar("TZ_FD_Pitch"));
-    autoflight.fac_approach = ReadInt(NamedVar("tz_fmc_ian_appr"));
-    autoflight.fac_lat_needle = ReadNamedVar(NamedVar("tz_ian_fac_needle"));
-    autoflight.gp_needle = ReadNamedVar(NamedVar("tz_ian_gp_needle"));
     TakeEnvelopeProtection();
     autoflight.spd_intv_active = ReadInt(NamedVar("tz_spd_intv_active"));
     autoflight.thrust_limit = ReadInt(NamedVar("tz_thrust_limit"));

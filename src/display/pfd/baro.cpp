@@ -11,7 +11,7 @@
 namespace {
 
 constexpr double kHpaPerInch = 33.8637526, kStandardInches = 29.92;
-constexpr float kSize = 10, kSmall = 8;
+constexpr float kSize = 9, kSmall = 8;
 
 void DrawStandard(const PfdView& view, bool hpa, Rgb colour, bool boxed) {
     constexpr double kLeastDifference = 0.005;
