@@ -1,12 +1,13 @@
 #include "display/pfd/altitude_tape.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "base/numbers.h"
 #include "base/text.h"
 #include "base/units.h"
 #include "display/pfd/drum.h"
-#include "navdata/geodesy.h"
+#include "navdata/from_aircraft.h"
 #include "state/airports.h"
 #include "state/instruments.h"
 #include "state/plan.h"
@@ -55,41 +56,47 @@ void DrawAltitudeScale(Graphics& graphics) {
     }
 }
 
-// The airport whose field is landed on: the destination, or the origin as long as that is nearer.
+// What an airport puts on the tape.
+struct LandingMarks {
+    double field, above;  // offsets of the field, and of 500 ft above it
+    double minimums;
+    bool Seen() const { return std::min({field, above, minimums}) <= kTapeReach; }
+};
+
+LandingMarks MarksOf(const AirportData& airport) {
+    constexpr double kApproachFeet = 500;
+    const double elevation = airport.elevation_ft, minimums = instruments.minimums_value;
+    return {OffsetOf(elevation), OffsetOf(elevation + kApproachFeet),
+            OffsetOf(instruments.minimums_baro == 1 ? minimums : elevation + minimums)};
+}
+
+// The airport whose field is landed on: the destination, or the origin as long as that is nearer. Null also
+// when neither could be seen on the tape.
 const AirportData* LandingAirport() {
     constexpr double kFar = 400;  // nm
     const AirportData &origin = airports.origin_airport, &dest = airports.dest_airport;
     if (plan.active.ends.dest == kNotSelected || dest.ident.empty()) return nullptr;
-    const auto distance = [](const AirportData& airport) {
-        return GreatCircle(sim.plane_lat, sim.plane_lon, airport.lat, airport.lon).dist;
-    };
-    const double to_dest = distance(dest);
-    if (!origin.ident.empty() && distance(origin) < to_dest) return &origin;
+    if (!MarksOf(dest).Seen() && !MarksOf(origin).Seen()) return nullptr;
+    const double to_dest = FromAircraft(dest.lat, dest.lon).dist;
+    if (!origin.ident.empty() && FromAircraft(origin.lat, origin.lon).dist < to_dest) return &origin;
     return to_dest < kFar ? &dest : nullptr;
 }
 
 void DrawLandingAltitude(Graphics& graphics) {
     const AirportData* airport = LandingAirport();
     if (airport == nullptr) return;
-    constexpr double kApproachFeet = 500, kFarBelow = 1000;  // ft; units
     constexpr int kBandWidth = 50;
-    const double elevation = airport->elevation_ft, field = OffsetOf(elevation);
-    if (field > kFarBelow) return;
-    const double top = Bounded(field, -kTapeReach, kTapeReach);
-    const Pen amber = PenOf(kAmber, 1.5f);
-    GdipDrawLine(graphics, amber, kTapeX, OffsetOf(elevation + kApproachFeet), kTapeX, field);
-    if (top < kTapeReach) {
-        constexpr Rgb kTape{139, 156, 175};
-        const Brush hatch = GdipCreateHatchBrush(HatchStyle::kForwardDiagonal, Scaled(kAmber),
-                                                 51U << 24 | (Scaled(kTape) & 0xffffff));
-        FilledRectangle(graphics, hatch, kTapeX, top, kBandWidth, kTapeReach - top);
-    }
-    GdipDrawLine(graphics, amber, kTapeX, field, 130, field);
+    const LandingMarks marks = MarksOf(*airport);
+    const double top = Bounded(marks.field, -kTapeReach, kTapeReach);
+    const Pen amber = PenOf(kAmber, 1.5f), green = PenOf(kGreen);
+    GdipDrawLine(graphics, amber, kTapeX, marks.above, kTapeX, marks.field);
+    const Brush hatch = GdipCreateHatchBrush(HatchStyle::kForwardDiagonal, Scaled(kAmber), TapeFill().colour);
+    if (top < kTapeReach) FilledRectangle(graphics, hatch, kTapeX, top, kBandWidth, kTapeReach - top);
+    GdipDrawLine(graphics, amber, kTapeX, marks.field, 130, marks.field);
     if (instruments.minimums_mode > kMinimumsAlert) return;
-    const double minimums = instruments.minimums_value;
-    const double y = OffsetOf(instruments.minimums_baro == 1 ? minimums : elevation + minimums);
-    GdipDrawLine(graphics, PenOf(kGreen), kTapeX, y, 130, y);
-    DrawOutline(graphics, PenOf(kGreen), {At(90, y), At(85, y - 5), At(85, y + 5)});
+    const double y = marks.minimums;
+    GdipDrawLine(graphics, green, kTapeX, y, 130, y);
+    DrawOutline(graphics, green, {At(90, y), At(85, y - 5), At(85, y + 5)});
 }
 
 void DrawAltitudeBug(Graphics& graphics) {
