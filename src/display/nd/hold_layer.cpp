@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr std::size_t kArcPoints = 12;
+constexpr std::size_t kArcPoints = 24;
 
 // The points of a racetrack in the frame of its inbound leg, which ends at the origin, going up: half a
 // circle behind the fix, the outbound leg, half a circle, and the inbound leg.

@@ -168,7 +168,7 @@ void DrawPlanKeys(Graphics& graphics, const NdFrame& frame) {
         const bool armed =
             key.use != kNoUse && display.nd_pick_pending == 1 && display.nd_pick_use == key.use;
         const bool cancels = armed && key.use == kPickWaypoint;
-        DrawSoftKey(graphics, key.box, cancels ? "CAN\nCEL" : key.text, {.active = armed});
+        DrawSoftKey(graphics, key.box, cancels ? "CANCEL" : key.text, {.active = armed});
     }
 }
 

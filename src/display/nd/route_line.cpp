@@ -214,6 +214,7 @@ class RouteDrawing {
             first_turn = last_turn_;
         else if (before.there)
             first_turn = Turn(before, from, to, kAllOfIt);
+        if (IsBehind(from, first_turn)) first_turn = {};
         if (follows_runway_) AddStraight(PointOf(before), start, 0, first_turn.leaves);
         follows_runway_ = false;
         for (const PaintPoint& p : first_turn.All()) line_.Add(p);
@@ -243,6 +244,15 @@ class RouteDrawing {
 
     bool IsFlyOver(const Place& fix) const { return fix.leg >= 0 && route_.legs[fix.leg].flyover == 1; }
     bool IsJustPassed(const Place& fix) const { return active_ && fix.leg >= 0 && fix.leg < route_.stpos; }
+
+    // The turn onto the leg being flown has been flown: the leg stands as it is.
+    bool IsBehind(const Place& fix, const TurnShape& turn) const {
+        if (!IsJustPassed(fix)) return false;
+        constexpr double kOnLeg = 0.2, kOnCourse = 5;  // nm, degrees
+        const bool established =
+            lnav.xtk < kOnLeg && BearingDifference(sim.true_track_deg, lnav.course_here) < kOnCourse;
+        return established || (lnav.leg_len - lnav.wpt_dist) * view_.scale > turn.joins;
+    }
 
     double SpeedAt(const Place& fix) const {
         constexpr double kTurnMattersNm = 15;

@@ -11,6 +11,7 @@
 #include "display/nd/map_symbols.h"
 #include "display/nd/route_line.h"
 #include "display/nd/runway_course.h"
+#include "guidance/lnav.h"
 #include "navdata/geodesy.h"
 #include "paint/painter.h"
 #include "state/airports.h"
@@ -154,7 +155,8 @@ void DrawVnavPoint(Graphics& graphics, const MapView& view, double lat, double l
 LatLon SteeredPoint() {
     constexpr double kAhead = 2, kSameCourse = 1;
     const double variation = lnav.true_reference == 1 ? 0 : sim.mgvar;
-    const double commanded = FoldBearing(lnav.fms_hdg + variation);
+    const double heading = IsHoldPatternFlown() ? lnav.hold_hdg : lnav.fms_hdg;
+    const double commanded = FoldBearing(heading + variation);
     const double to_aim = GreatCircle(sim.plane_lat, sim.plane_lon, lnav.aim_lat, lnav.aim_lon).bearing;
     if (BearingDifference(commanded, to_aim) <= kSameCourse) return {lnav.aim_lat, lnav.aim_lon};
     return ProjectPoint(sim.plane_lat, sim.plane_lon, commanded, kAhead);

@@ -90,9 +90,10 @@ TurnShape ShapeTurn(MapPoint before, MapPoint fix, MapPoint after, const FixTurn
         add();
         if (std::fabs(aircraft.right) < kOnLeg && std::fabs(aircraft.track) < kOnCourse) break;
     }
-    shape.joins = std::clamp(aircraft.along, 0.0, leg_length) * scale;
-    aircraft.along = shape.joins / scale;
+    // What is left beside the leg goes over the next stretch of it.
+    aircraft.along = std::clamp(aircraft.along + LnavLookahead(speed), 0.0, leg_length);
     aircraft.right = 0;
+    shape.joins = aircraft.along * scale;
     add();
     return shape;
 }
