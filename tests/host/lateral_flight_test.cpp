@@ -4,9 +4,13 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 #include <string>
+#include <variant>
 #include <vector>
 
+#include "display/nd/map_view.h"
+#include "display/nd/route_line.h"
 #include "fmc/legs/path.h"
 #include "guidance/autoflight.h"
 #include "guidance/lnav.h"
@@ -164,6 +168,73 @@ TEST(LateralFlightTest, RoutesAreFlownFixByFixOnTheirLegs) {
         EXPECT_LT(
             GreatCircle(sim.plane_lat, sim.plane_lon, route.fixes.back().lat, route.fixes.back().lon).dist,
             2.5);
+    }
+}
+
+// The route's line on a map around a fix, ten units to a mile; the largest of its figures is it.
+std::vector<PaintPoint> DrawnPath(const MapView& view) {
+    DrawList list;
+    Graphics graphics = GdipCreateGraphics(list, 1000, 1000);
+    DrawRouteLines(graphics, view, false);
+    std::vector<PaintPoint> path;
+    for (const Primitive& primitive : list.primitives)
+        if (const auto* stroke = std::get_if<StrokePath>(&primitive);
+            stroke != nullptr && stroke->path.points.count > path.size()) {
+            const auto first = list.points.begin() + stroke->path.points.first;
+            path.assign(first, first + stroke->path.points.count);
+        }
+    return path;
+}
+
+double DistanceToPath(MapPoint p, const std::vector<PaintPoint>& path) {
+    double least = 1e9;
+    for (std::size_t i = 1; i < path.size(); ++i) {
+        const double ax = path[i - 1].x, ay = path[i - 1].y, dx = path[i].x - ax, dy = path[i].y - ay;
+        const double length = dx * dx + dy * dy;
+        const double t = length > 0 ? std::clamp(((p.x - ax) * dx + (p.y - ay) * dy) / length, 0.0, 1.0) : 0;
+        least = std::min(least, std::hypot(p.x - ax - t * dx, p.y - ay - t * dy));
+    }
+    return least;
+}
+
+// What the map shows just before a fix is what is then flown.
+TEST(LateralFlightTest, TurnsAreDrawnAsTheyAreFlown) {
+    const struct {
+        const char* what;
+        Air air;
+        Fix next;  // behind a leg to the east along 47 degrees north, to 121 degrees west
+        int flyover;
+    } kCases[] = {
+        {"slow, square", {3000, 180, 0, 0}, {47.6, -121}, 0},
+        {"climb, slight", {9000, 250, 0, 0}, {47.3, -120.3}, 0},
+        {"climb, sharp", {9000, 250, 0, 0}, {46.6, -121.4}, 0},
+        {"climb, overflown", {9000, 250, 0, 0}, {47.6, -121}, 1},
+        {"fast, square", {20000, 290, 0, 0}, {46.3, -121}, 0},
+        {"cruise", {36000, 280, 0, 0}, {46.5, -119.8}, 0},
+        {"cruise, square", {36000, 280, 0, 0}, {48.2, -121}, 0},
+        {"wind across", {9000, 250, 0, 30}, {47.6, -121}, 0},
+    };
+    for (const auto& row : kCases) {
+        SCOPED_TRACE(row.what);
+        const FakeHost fake;
+        LateralFlight flight({{47, -121.8}, {47, -121}, row.next, {row.next.lat, row.next.lon + 0.01}},
+                             row.air);
+        plan.active.legs[1].flyover = row.flyover;
+        MapView view{.lat = 47, .lon = -121, .scale = 10, .range = 40, .seen = {-500, -500, 500, 500}};
+        OrientMap(view);
+        std::vector<PaintPoint> drawn;
+        while (plan.active.stpos == 1 && flight.seconds < 3600) {
+            if (lnav.wpt_dist < 12) drawn = DrawnPath(view);
+            flight.Tick();
+        }
+        ASSERT_GT(drawn.size(), 4U);
+        double worst = 0;
+        for (int seconds = 0; seconds < 120 && plan.active.stpos == 2; ++seconds) {
+            for (int tick = 0; tick < 18; ++tick) flight.Tick();
+            worst =
+                std::max(worst, DistanceToPath(PointOnMap(view, sim.plane_lat, sim.plane_lon), drawn) / 10);
+        }
+        EXPECT_LT(worst, 0.3);
     }
 }
 

@@ -26,7 +26,7 @@ struct Turning {
 // One step of LNAV and autopilot. A bank is taken up and left within seconds, and a track is turned to within
 // seconds, as AutoflightLogic does it.
 void Step(Turning& aircraft, double seconds, double leg_length, double speed, double most_rate) {
-    constexpr double kRollSeconds = 4, kTurnSeconds = 4;
+    constexpr double kRollSeconds = 4.5, kTurnSeconds = 4;
     const double to_end = leg_length - aircraft.along;
     const double to_fix = std::sqrt(to_end * to_end + aircraft.right * aircraft.right);
     const double flown = to_fix > leg_length ? 0 : leg_length - to_fix;
@@ -35,13 +35,16 @@ void Step(Turning& aircraft, double seconds, double leg_length, double speed, do
                                       FoldBearing(std::atan2(-aircraft.right, to_end) * kDegPerRad));
     const double off = FoldBearing(wanted - aircraft.track), error = off > 180 ? off - 360 : off;
     const double rate = std::clamp(error / std::max(kTurnSeconds, seconds), -most_rate, most_rate);
-    const double change = most_rate / kRollSeconds * seconds;
-    aircraft.rate += std::clamp(rate - aircraft.rate, -change, change);
-    const double middle = (aircraft.track + aircraft.rate * seconds / 2) * kRadPerDeg;
+    const double change = most_rate / kRollSeconds * seconds, before = aircraft.rate;
+    aircraft.rate += std::clamp(rate - before, -change, change);
+    // The rate changes at the beginning of the step and then stands.
+    const double changing = change > 0 ? std::fabs(aircraft.rate - before) / change : 0;
+    const double turned = (aircraft.rate - (aircraft.rate - before) * changing / 2) * seconds;
+    const double middle = (aircraft.track + turned / 2) * kRadPerDeg;
     const double dist = speed / 3600 * seconds;
     aircraft.along += dist * std::cos(middle);
     aircraft.right += dist * std::sin(middle);
-    aircraft.track += aircraft.rate * seconds;
+    aircraft.track += turned;
 }
 
 // Degrees a second at the bank of LNAV.
