@@ -38,7 +38,33 @@ test('mode keys, line keys, entries and messages', async (t) => {
     await page.keyboard.press('Backspace');
     await untilValue(page, 'capt.ScratchPad', 'Q'.repeat(left));
   }
-  await press(page, 'L1');  // the origin of the demonstration flight, copied down
+  for (const key of 'ABCDEFGHIJKL') await page.keyboard.press(key);
+  await untilValue(page, 'capt.ScratchPad', 'ABCDEFGHIJKL');
+  await page.keyboard.down('Backspace');
+  await page.keyboard.down('Backspace');  // held, it repeats
+  await untilValue(page, 'capt.ScratchPad', '');
+  await page.keyboard.up('Backspace');
+  await page.keyboard.press('PageUp');
+  await page.keyboard.press('Insert');
+  await untilValue(page, 'capt_fms_page', 6);
+  await page.evaluate(() => {
+    const clipboardData = new DataTransfer();
+    clipboardData.setData('text', 'n47w122.5\n');
+    document.activeElement.dispatchEvent(new ClipboardEvent('paste', {clipboardData, bubbles: true, cancelable: true}));
+  });
+  await untilValue(page, 'capt.ScratchPad', 'N47W122.5');
+  await page.keyboard.press('?');
+  assert.ok(await page.locator('dialog.help').isVisible());
+  await page.keyboard.press('Escape');
+  assert.ok(!await page.locator('dialog.help').isVisible());
+  const hasKeyboard = () => page.evaluate(() => document.activeElement.dataset.screen === 'lower');
+  assert.ok(await hasKeyboard());
+  await page.keyboard.press('Escape');
+  assert.ok(!await hasKeyboard(), 'Escape gives the keyboard back');
+  await press(page, 'RTE');
+  for (let i = 0; i < 9; ++i) await page.keyboard.press('Backspace');
+  await untilValue(page, 'capt.ScratchPad', '');
+  await page.keyboard.press('F1');  // the origin of the demonstration flight, copied down
   await untilValue(page, 'capt.ScratchPad', 'KSEA');
 });
 

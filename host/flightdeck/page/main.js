@@ -3,7 +3,7 @@
 import {element, Panels} from './controls.js';
 import {makeGlareshield} from './glareshield.js';
 import {Inspector} from './inspector.js';
-import {makeKeypad, typeKey} from './keypad.js';
+import {makeKeyboardHelp, makeKeypad, takeKeyboard} from './keypad.js';
 import {Link} from './link.js';
 import {efbKeys, efbLabels, overhead, pedestal} from './panels.js';
 import {Screens} from './screens.js';
@@ -30,7 +30,7 @@ const link = new Link({
 });
 const panels = new Panels(link);
 let built = Boolean(alone);  // the deck stands once it is known which controls there are
-const screens = new Screens(link, (side, event) => typeKey(panels, side, event));
+const screens = new Screens(link, (canvas, sideOf) => takeKeyboard(canvas, panels, sideOf));
 const inspector = new Inspector(link);
 
 // The same files as the host's own rasteriser uses.
@@ -159,6 +159,8 @@ function screenAlone() {
   stayAwake();
 }
 
+for (const name of ['capt.ScratchPad', 'fo.ScratchPad']) link.watch(name, () => {});  // what a held CLR clears
+document.body.append(makeKeyboardHelp());
 document.body.classList.add('lost');
 if (alone) screenAlone();
 // For tests and the curious.

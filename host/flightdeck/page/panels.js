@@ -244,9 +244,24 @@ export const keypad = {
   },
   labels: {PRVPG: 'PREV PAGE', NXTPG: 'NEXT PAGE', SLASH: '/', DEC: '.', NEGPOS: '+/-'},
   lamp: {L: 'TZ_FMC_EXEC_L_Annun', R: 'TZ_FMC_EXEC_R_Annun'},
-  typed: {'.': 'DEC', '/': 'SLASH', '-': 'NEGPOS', '+': 'NEGPOS', ' ': 'SP', 'Backspace': 'CLR', 'Delete': 'DEL',
-          'Enter': 'EXEC', 'PageUp': 'PRVPG', 'PageDown': 'NXTPG'},
 };
+
+// What a computer's keyboard is on a CDU that has it, beside letters and digits: the key, what it presses, what that is
+// called. A word is a key of the keypad, a number an item of the CDU.
+const lineKeys = (first, side, item) => [1, 2, 3, 4, 5, 6].map((line) =>
+    [`F${first + line - 1}`, item + line - 1, `line key ${line} ${side}`]);
+export const keyboard = [
+  ['.', 'DEC', 'point'], ['/', 'SLASH', 'slash'], ['-', 'NEGPOS', '+/-'], ['+', 'NEGPOS', '+/-'], [' ', 'SP', 'blank'],
+  ['Backspace', 'CLR', 'CLR; held, it clears the scratchpad'], ['Delete', 'DEL', 'DEL'], ['Enter', 'EXEC', 'EXEC'],
+  ['PageUp', 'PRVPG', 'PREV PAGE'], ['PageDown', 'NXTPG', 'NEXT PAGE'],
+  ['Home', 17, 'INIT REF'], ['Insert', 24, 'LEGS'], ['End', 27, 'PROG'],
+  ...lineKeys(1, 'left', 1), ...lineKeys(7, 'right', 9),
+];
+export const otherKeys = [
+  ['Escape', 'gives the keyboard back, makes a large screen small'],
+  ['Ctrl+V', 'types what was copied'], ['Arrows, Page Up, Page Down', 'turn the knob that was clicked last'],
+  ['Alt+Enter', 'full screen, on the page of one screen'], ['?', 'this list'],
+];
 
 // A tablet's keys around its screen, by their names behind TZ_EFB_L_ and TZ_EFB_R_.
 export const efbKeys = {

@@ -13,10 +13,10 @@ export const SCREENS = [
 ];
 
 export class Screens {
-  /** typed(side, key): a key typed while a screen with a CDU has the focus. */
-  constructor(link, typed) {
+  /** keyboard(canvas, sideOf): gives a screen with a CDU the keyboard while it has the focus. */
+  constructor(link, keyboard) {
     this.link = link;
-    this.typed = typed;
+    this.keyboard = keyboard;
     this.screens = new Map();
     this.families = [];
     this.observer = new IntersectionObserver((entries) => {
@@ -87,7 +87,7 @@ export class Screens {
     };
     canvas.addEventListener('click', (event) => press(event, 'left'));
     canvas.addEventListener('contextmenu', (event) => press(event, 'right'));
-    if (hasKeypad) canvas.addEventListener('keydown', (event) => this.typed(side, event));
+    if (hasKeypad) this.keyboard(canvas, () => side);
     return canvas;
   }
 
