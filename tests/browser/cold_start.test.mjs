@@ -100,29 +100,6 @@ test('every control of the system has its place on a panel', async (t) => {
   assert.deepEqual(missing, ['TZ_CAPT_CDU_KEYPRESS', 'TZ_FO_CDU_KEYPRESS']);
 });
 
-test('no key stands over another, on a screen or a tablet', async (t) => {
-  const host = await startHost(t, '--cold');
-  const sizes = {false: [[1920, 1080], [1280, 720]], true: [[1180, 820], [1024, 768], [768, 1024]]};
-  for (const hasTouch of [false, true]) {
-    const page = await openDeck(t, host.address, '', {hasTouch});
-    for (const [width, height] of sizes[hasTouch])
-      for (const view of ['Centre', 'Overhead', 'Pedestal']) {
-        await page.setViewportSize({width, height});
-        await page.click(`[data-view="${view}"].tab`);
-        const crowded = await page.evaluate(() => {
-          const keys = [...document.querySelectorAll('button')].filter((key) => key.offsetParent && !key.closest('.guarded'));
-          const boxes = keys.map((key) => key.getBoundingClientRect());
-          const over = (a, b) => Math.min(a.right, b.right) - Math.max(a.left, b.left) > 1.5 &&
-                                 Math.min(a.bottom, b.bottom) - Math.max(a.top, b.top) > 1.5;
-          return keys.filter((key, i) => boxes.some((box, j) => j > i && over(boxes[i], box)))
-              .map((key) => `${key.parentElement.title} ${key.title} ${key.textContent}`);
-        });
-        assert.deepEqual(crowded, [], `${width} by ${height}, ${view}`);
-      }
-    await page.close();
-  }
-});
-
 test('the keyboard types on the keypad that has the focus, and the mode control panel turns', async (t) => {
   const page = await openCold(t);
   await page.click('[data-view="Centre"].tab');

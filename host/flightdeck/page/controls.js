@@ -46,6 +46,19 @@ export function bindPress(target, press, {halves = false} = {}) {
   });
 }
 
+// The position of what turns, for those who don't see it.
+function tellPosition(face, at, text, min, max) {
+  face.setAttribute('aria-valuenow', at);
+  face.setAttribute('aria-valuemin', min);
+  face.setAttribute('aria-valuemax', Math.max(max, min));
+  face.setAttribute('aria-valuetext', text || String(at));
+}
+
+function nameFace(face, label) {
+  face.dataset.label = label;
+  face.setAttribute('aria-label', label);
+}
+
 export class Panels {
   constructor(link) {
     this.link = link;
@@ -76,10 +89,16 @@ export class Panels {
     this.write(entry.name, now === 0 ? 1 : 0);
   }
 
-  lamp([name, text, colour], parent) {
-    const lit = element('i', `lamp ${colour}`, text);
+  /** A lamp on a part of a control; one that burns is told with the name of the face. */
+  lamp([name, text, colour], parent, face) {
+    const lit = element('i', `lamp ${colour}`);
     lit.dataset.lamp = name;
-    this.link.watch(`lvar:${name}`, (value) => lit.classList.toggle('lit', Number(value) !== 0));
+    if (text) lit.dataset.text = text;
+    this.link.watch(`lvar:${name}`, (value) => {
+      lit.classList.toggle('lit', Number(value) !== 0);
+      const burning = [...parent.querySelectorAll('.lamp.lit')].map((lamp) => lamp.dataset.text ?? 'lit');
+      face.setAttribute('aria-label', [face.dataset.label, ...burning].join(', '));
+    });
     parent.append(lit);
   }
 
@@ -104,6 +123,7 @@ export class Panels {
   frame(className, entry, face) {
     const made = element('div', `control ${className}`);
     made.append(element('span', 'label', entry.label), face);
+    nameFace(face, entry.label);
     if (this.isGuarded(entry)) this.cover(entry, face);
     return made;
   }
@@ -127,9 +147,10 @@ export class Panels {
 
   button(entry) {
     const face = element('button', 'face');
-    const stays = element('i', 'stays', entry.stays);
+    const stays = element('i', 'stays');
+    stays.dataset.text = entry.stays;
     face.append(stays);
-    for (const lamp of entry.lamps) this.lamp(lamp, face);
+    for (const lamp of entry.lamps) this.lamp(lamp, face, face);
     this.link.watch(`lvar:${entry.name}`, (value) => {
       face.classList.toggle('in', Number(value) !== 0);
       face.setAttribute('aria-pressed', Number(value) !== 0);
@@ -146,14 +167,15 @@ export class Panels {
     face.append(pointer);
     const made = this.frame('selector', entry, face);
     made.append(text);
-    for (const lamp of entry.lamps) this.lamp(lamp, made);
+    for (const lamp of entry.lamps) this.lamp(lamp, made, face);
+    face.setAttribute('role', 'slider');
     this.link.watch(`lvar:${entry.name}`, (value) => {
       const {kind, min, max} = this.controls.get(entry.name), at = Number(value);
       const count = Math.max(1, Math.max(max, at) - min);
       const turn = kind === 'rotary' ? (at - min) / (count + 1) * 360 : ((at - min) / count - 0.5) * Math.min(270, 60 * count);
       pointer.style.transform = `rotate(${turn}deg)`;
       text.textContent = entry.positions[at - min] ?? (kind === 'rotary' ? '' : value);
-      face.setAttribute('aria-valuetext', text.textContent);
+      tellPosition(face, at, text.textContent, min, max);
     });
     if (!this.isGuarded(entry)) {
       bindPress(face, (up) => this.operate(entry, up), {halves: true});
@@ -167,7 +189,8 @@ export class Panels {
 
   key(entry) {
     const face = element('button', 'face', entry.lamps.length ? '' : entry.label);
-    for (const lamp of entry.lamps) this.lamp(lamp, face);
+    nameFace(face, entry.label);
+    for (const lamp of entry.lamps) this.lamp(lamp, face, face);
     bindPress(face, (up) => this.operate(entry, up));
     if (!entry.lamps.some(([, text]) => text)) {
       if (entry.lamps.length) face.prepend(entry.label);
@@ -182,8 +205,11 @@ export class Panels {
   handle(entry) {
     const face = element('button', 'pull', entry.text);
     const made = this.frame('handle', entry, face);
-    for (const lamp of entry.lamps) this.lamp(lamp, made);
-    this.link.watch(`lvar:${entry.name}`, (value) => face.classList.toggle('out', Number(value) !== 0));
+    for (const lamp of entry.lamps) this.lamp(lamp, made, face);
+    this.link.watch(`lvar:${entry.name}`, (value) => {
+      face.classList.toggle('out', Number(value) !== 0);
+      face.setAttribute('aria-pressed', Number(value) !== 0);
+    });
     bindPress(face, (up) => this.operate(entry, up));
     return made;
   }
@@ -194,7 +220,12 @@ export class Panels {
     face.append(bar);
     const made = element('div', 'control key area', '', face);
     made.dataset.area = entry.area;
-    const seen = () => bar.classList.toggle('lit', entry.lit.some(([name, on]) => on.includes(this.link.number(name))));
+    nameFace(face, `${entry.label}${/^[A-Z/ ]+$/.test(entry.label) && entry.label.length > 4 ? '' : ` ${entry.area}`}`);
+    const seen = () => {
+      const lit = entry.lit.some(([name, on]) => on.includes(this.link.number(name)));
+      bar.classList.toggle('lit', lit);
+      face.setAttribute('aria-pressed', lit);
+    };
     for (const [name] of entry.lit) this.link.watch(name, () => queueMicrotask(seen));
     bindPress(face, (up) =>
       this.link.send({type: 'area', gauge: entry.gauge, area: entry.area, button: up ? 'right' : 'left'}));
@@ -209,6 +240,7 @@ export class Panels {
     this.link.watch(entry.value, (value) => {
       const on = Number(value) !== 0 ? 1 : 0;
       face.classList.toggle('up', on === 1);
+      face.setAttribute('aria-pressed', on === 1);
       text.textContent = entry.texts[on];
     });
     bindPress(face, () =>
@@ -228,7 +260,9 @@ export class Panels {
       return entry.stops.reduce((best, [, value], i) =>
         Math.abs(value - at) < Math.abs(entry.stops[best][1] - at) ? i : best, 0);
     };
+    face.setAttribute('role', 'slider');
     this.link.watch(entry.value, () => queueMicrotask(() => {
+      tellPosition(face, stop(), entry.stops[stop()][0], 0, last);
       pointer.style.transform = `rotate(${(stop() / last - 0.5) * Math.min(270, 60 * last)}deg)`;
       text.textContent = entry.stops[stop()][0];
     }));
@@ -246,7 +280,7 @@ export class Panels {
   groups(list, className) {
     const panel = element('div', `panel ${className}`);
     for (const {title, controls} of list) {
-      const group = element('section', 'group', '', element('h3', '', title));
+      const group = element('section', 'group', '', element('h2', '', title));
       group.append(element('div', 'controls', '', ...this.makeAll(controls)));
       panel.append(group);
     }

@@ -17,6 +17,7 @@ function makeWindow(panels, entry) {
   const {link} = panels;
   const shown = element('output', 'window'), made = element('div', 'mcp-window');
   shown.dataset.value = entry.value;
+  shown.setAttribute('aria-label', entry.label);
   const show = () => {
     const blank = entry.blank && entry.blank[1].includes(link.number(entry.blank[0])) &&
                   !(entry.open && link.number(entry.open) === 1);
@@ -31,11 +32,13 @@ function makeWindow(panels, entry) {
   const step = (label, detents) => {
     const made = element('button', 'step', label);
     made.title = `${entry.label} ${detents > 0 ? '+' : ''}${detents}`;
+    made.setAttribute('aria-label', made.title);
     made.dataset.area = `${entry.knob} ${detents > 0 ? '+' : ''}${detents}`;
     made.addEventListener('click', () => turn(detents));
     return made;
   };
   const knob = element('button', 'dial mcp-knob');
+  knob.setAttribute('aria-label', `${entry.label} knob`);
   knob.title = 'Turn by the wheel, a drag or the arrow keys, with Shift in big steps';
   bindPress(knob, (up, event) => turn((up ? 1 : -1) * (event.shiftKey ? 10 : 1)), {halves: true});
   bindDrag(knob, turn);
@@ -90,6 +93,7 @@ function outerPanel(panels, side) {
 
 export function makeGlareshield(panels) {
   const made = element('section', 'glareshield');
+  made.setAttribute('aria-label', 'Glareshield');
   const mcp = element('div', 'mcp panel');
   mcp.append(column('stack', panels, modeControl.left),
              ...modeControl.windows.map((entry) => makeWindow(panels, entry)),

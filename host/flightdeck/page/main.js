@@ -100,6 +100,7 @@ function lower() {
     Inspector: element('div', 'view inspection', '', inspector.element, screens.unit('debug')),
   };
   const tabs = element('nav', 'tabs'), made = element('section', 'lower-deck', '', tabs, ...Object.values(views));
+  made.setAttribute('aria-label', 'Below the displays');
   const choose = (name) => {
     for (const [other, view] of Object.entries(views)) view.hidden = other !== name;
     for (const tab of tabs.children) tab.classList.toggle('lit', tab.dataset.view === name);
@@ -119,28 +120,32 @@ function lower() {
 }
 
 function deck() {
-  const displays = element('section', 'displays');
+  const displays = element('main', 'displays');
   displays.append(screens.unit('capt_outb'), screens.unit('capt_inb'),
                   element('div', 'middle', '', screens.unit('hud'), screens.unit('stby')),
                   screens.unit('fo_inb'), screens.unit('fo_outb'));
   document.body.append(bar(), makeGlareshield(panels), displays, lower());
 }
 
+// A page that is about one thing only.
+function pageOf(title, ...children) {
+  document.title = `TZ900 ${title}`;
+  document.body.append(element('main', 'page', '', element('h1', 'unseen', document.title), ...children));
+}
+
 // One unit with its keys, as large as the phone or tablet is.
 function handheld() {
   const side = which.toUpperCase();
   document.body.classList.add('handheld');
-  document.title = `TZ900 ${kind} ${side}`;
-  if (kind === 'tablet') return document.body.append(tablet(side));
-  document.body.append(element('div', `half ${side}`, '', screens.canvas('lower')), makeKeypad(panels, side));
+  if (kind === 'tablet') return pageOf(`tablet ${side}`, tablet(side));
+  pageOf(`CDU ${side}`, element('div', `half ${side}`, '', screens.canvas('lower')), makeKeypad(panels, side));
 }
 
 // One screen for a monitor of its own. With ?bare there is nothing but the picture.
 function screenAlone() {
   document.body.classList.add('alone');
-  document.title = `TZ900 ${alone}`;
   const canvas = screens.canvas(alone);
-  document.body.append(canvas);
+  pageOf(alone, canvas);
   if (!new URLSearchParams(location.search).has('bare'))
     document.body.append(element('footer', 'hints', '', element('span', '', alone),
                                  element('span', '', 'Alt+Enter: full screen'), element('span', '', '?bare: the picture alone')));

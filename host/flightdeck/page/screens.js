@@ -97,6 +97,8 @@ export class Screens {
     const unit = element('figure', `unit ${name}`);
     const large = element('button', 'tool', '\u2922'), alone = element('a', 'tool', '\u2197');
     unit.style.setProperty('--aspect', aspect);
+    large.setAttribute('aria-label', `${title}, large and back`);
+    alone.setAttribute('aria-label', `${title}, alone in a window`);
     large.title = 'Large, and back by this key, Escape or a press beside it';
     alone.title = 'Alone in a window';
     alone.href = `/screen/${name}`;
