@@ -215,8 +215,10 @@ void SendHeadingToHost() {
 }
 
 void RunPass(bool overflown) {
-    if (MaySequenceByItself() && (IsAirborne() || IsMissedApproachPoint()) && IsTargetFixPassed())
+    if (MaySequenceByItself() && (IsAirborne() || IsMissedApproachPoint()) && IsTargetFixPassed()) {
         lnav.wpt_dist = kSequenceNow;
+        ApproachFix();
+    }
     if (IsFixReached(overflown)) SequenceLeg();
     lnav.true_reference = ReadNamedVar(NamedVar("TZ_OH_HDG_REF_Button")) == 1;
     LocateOnActiveLeg();
