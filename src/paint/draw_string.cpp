@@ -64,12 +64,14 @@ void GdipDrawString(Graphics& graphics, std::string_view text, const Font& font,
     const float room = rect.width > 0 ? std::max((rect.width - 2 * padding) / font.size, 0.01f) : 0;
     const LineLayout lines_of{font.family, room, (layout.flags & kFormatNoWrap) == 0};
 
-    int lines = 0;
-    for (std::string_view rest = text; !rest.empty(); ++lines) TakeLine(rest, lines_of);
-    const float height = static_cast<float>(lines) * metrics.line_spacing * font.size;
     float top = rect.y;
-    if (layout.line_align == LineAlign::kCenter) top += (rect.height - height) / 2;
-    if (layout.line_align == LineAlign::kFar) top += rect.height - height;
+    if (layout.line_align != LineAlign::kNear) {
+        int lines = 0;
+        for (std::string_view rest = text; !rest.empty(); ++lines) TakeLine(rest, lines_of);
+        const float height = static_cast<float>(lines) * metrics.line_spacing * font.size;
+        const float free = rect.height - height;
+        top += layout.line_align == LineAlign::kCenter ? free / 2 : free;
+    }
 
     const Growth growth = GrowthOf(graphics.world);
     const auto size = static_cast<float>(font.size * growth.height);

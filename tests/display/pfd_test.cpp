@@ -612,7 +612,8 @@ TEST_F(PrimaryFlightDisplay, SurvivesAnyNumber) {
         StepPfdMemory();
         for (const int beam : {0, 1}) {
             sim.nav1_is_loc = beam;
-            autoflight.fac_lat_needle = autoflight.gp_needle = lnav.xtk = vnav.desc_grad_alt = value;
+            autoflight.fac_lat_needle = autoflight.gp_needle = lnav.xtk = vnav.desc_grad_alt = lnav.wpt_dist =
+                value;
             const std::string picture = Picture();
             EXPECT_FALSE(Has(picture, "nan")) << value;
             EXPECT_FALSE(Has(picture, "inf")) << value;

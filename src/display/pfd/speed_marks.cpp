@@ -17,7 +17,7 @@
 namespace {
 
 constexpr double kRotationDone = 30;  // ft radio altitude, up to which the take-off roll counts
-constexpr int kBeside = 43;           // x of labels from the tape's left
+constexpr int kBeside = 47;           // x of labels from the tape's left
 constexpr float kMarkSize = 9;
 constexpr int kShortTick = 36, kLongTick = 31;
 
