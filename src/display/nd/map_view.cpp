@@ -85,9 +85,8 @@ MapPoint PointOnMap(const MapView& view, double lat, double lon) {
             -(north * view.cos_up + east * view.sin_up) * units};
 }
 
-bool IsInReach(const MapView& view, double lat, double lon) {
+bool IsNearbyInReach(const MapView& view, double lat, double lon) {
     const double north = lat - view.lat;
-    if (!(std::fabs(north) <= view.lat_reach)) return false;
     const double east = FoldDifference(lon - view.lon);
     if (!(std::fabs(east) <= view.lon_reach)) return false;
     if (!view.is_flat) return true;

@@ -43,8 +43,13 @@ void EnterMapFrame(Graphics& graphics, const MapView& view);
 MapPoint PointOnMap(const MapView& view, double lat, double lon);
 
 /// False for a place farther than 1.5 ranges and 10 nm, and for one that with its label can't be seen: a
-/// quick test, which lets some more pass.
-bool IsInReach(const MapView& view, double lat, double lon);
+/// quick test, which lets some more pass. Most places of a list fail by their latitude; the second function
+/// asks the others.
+bool IsNearbyInReach(const MapView& view, double lat, double lon);
+inline bool IsInReach(const MapView& view, double lat, double lon) {
+    return lat - view.lat <= view.lat_reach && view.lat - lat <= view.lat_reach &&
+           IsNearbyInReach(view, lat, lon);
+}
 /// The same for any part of a leg between two places.
 bool IsLegInReach(const MapView& view, double lat1, double lon1, double lat2, double lon2);
 

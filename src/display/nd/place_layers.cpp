@@ -154,7 +154,7 @@ void DrawStations(Graphics& graphics, const NdFrame& frame) {
 }
 
 void DrawAirports(Graphics& graphics, const MapView& view) {
-    constexpr int kMostAirports = 100;
+    constexpr int kMostAirports = 80;
     int drawn = 0;
     ForEachSeen(nearest.airports.near, view, [&](const AirportRow& row, MapPoint at) {
         DrawAirport(graphics, view, at, row.ident);

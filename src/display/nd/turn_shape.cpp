@@ -83,7 +83,7 @@ TurnShape ShapeTurn(MapPoint before, MapPoint fix, MapPoint after, const FixTurn
     shape.leaves = leaves;
     add();
     // Short steps through the turn, long ones while the leg is joined.
-    constexpr double kStepAngle = 9, kLongest = 6, kJoining = 10, kOnLeg = 0.05,
+    constexpr double kStepAngle = 12, kLongest = 6, kJoining = 12, kOnLeg = 0.05,
                      kOnCourse = 1.5;  // s, nm, degrees
     const double in_turn = std::min(kStepAngle / most_rate, kLongest);
     while (shape.count < shape.points.size() - 1) {
