@@ -171,7 +171,7 @@ void UpdateWeights() {
 
 void UpdateFlapSpeedRow() {
     constexpr double kLeastLoss = 1000;
-    const double weight = sim.total_fuel + sim.payload_weight + weights.zfw;
+    const double weight = sim.total_fuel + sim.payload_weight + ZeroFuelWeight();
     if (weights.flap_speed_ref_weight - weight < kLeastLoss) return;
     const auto* nearest =
         std::ranges::min_element(weights.flap_speeds.begin() + 1, weights.flap_speeds.end(), {},

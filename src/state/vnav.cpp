@@ -28,7 +28,6 @@ constexpr Variable kVnavRows[] = {
     {"vnav_spd_mode", &vnav.vnav_spd_mode},
     {"vnav_spd_pending", &vnav.vnav_spd_pending},
     {"tod_shortcut", &vnav.tod_shortcut},
-    {"tod_test_dist", &vnav.tod_test_dist},
     {"clb_next_restr_alt", &vnav.clb_next_restr_alt},
     {"des_next_restr_alt", &vnav.des_next_restr_alt},
     {"step_due", &vnav.step_due},

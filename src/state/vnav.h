@@ -37,7 +37,6 @@ struct VnavState {
     int descent_cnt = 0;       // tops of descent passed
     double tod_from_dest = 0;  // from the destination to the planned top of descent
     int tod_shortcut = 0;      // a wide-turn sequencing in cruise asks for the shortcut of the TOD test
-    double tod_test_dist = 0;  // nm, test distance of the TOD check; -4 = shortcut
     double clb_next_restr_alt = 0, des_next_restr_alt = 0;
     int step_due = 0;                   // a step climb has come due
     double step_lat = 0, step_lon = 0;  // where the next one comes due; 0, 0 = nowhere
