@@ -9,6 +9,7 @@
 #include "host/flightdeck/messages.h"
 #include "host/inspection.h"
 #include "host/scenario/words.h"
+#include "host/version.h"
 #include "host/world/world.h"
 
 namespace host {
@@ -25,6 +26,7 @@ std::string ShortNumber(double value) {
 
 std::optional<std::string> HostValue(std::string_view name) {
     if (name == "rate") return ShortNumber(world.sim_rate);
+    if (name == "pilot") return world.pilot_does;
     if (name == "paused") return world.paused ? "1" : "0";
     if (name == "clock") {
         char text[16];
@@ -67,7 +69,7 @@ std::map<std::string, std::string> ReadValues(const Session& session, const std:
 
 std::string DeckGreeting(const Session& session) {
     const InspectionTable& inspection = *session.linkage->inspection;
-    json greeting{{"type", "hello"}};
+    json greeting{{"type", "hello"}, {"version", kVersion}};
     for (const auto& [family, file] : Ask(inspection.list_fonts).results) greeting["fonts"].push_back(family);
     greeting["controls"] = json::object();
     for (const auto& [name, told] : Ask(inspection.list_controls).results) greeting["controls"][name] = told;

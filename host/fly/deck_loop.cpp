@@ -24,6 +24,7 @@ using Clock = std::chrono::steady_clock;
 constexpr auto kPeriod = std::chrono::nanoseconds(1'000'000'000 / 18);
 constexpr auto kLate = std::chrono::milliseconds(500);  // then the loop doesn't catch up
 constexpr int kPublishEvery = 3;                        // periods: six times a second
+constexpr int kFramesForKeys = 3;  // calls between two ticks, as of a simulator at 72 frames a second
 
 std::string MadeUpToken() {
     constexpr std::string_view kLetters = "abcdefghijkmnpqrstuvwxyz23456789";
@@ -68,6 +69,12 @@ PictureSource PicturesOf(const InspectionTable& inspection, const std::atomic<bo
     };
 }
 
+bool ApplyDuePresses(Session& session, PressQueue& presses) {
+    const std::vector<DeckCommand> due = TakeDuePresses(presses);
+    for (const DeckCommand& press : due) ApplyDeckCommand(session, press);
+    return !due.empty();
+}
+
 void TakeCommands(Session& session, FlightDeck& deck, PressQueue& presses) {
     for (const DeckCommand& command : deck.TakeCommands()) {
         if (command.kind == DeckCommand::kPress)
@@ -75,7 +82,7 @@ void TakeCommands(Session& session, FlightDeck& deck, PressQueue& presses) {
         else
             ApplyDeckCommand(session, command);
     }
-    for (const DeckCommand& press : TakeDuePresses(presses)) ApplyDeckCommand(session, press);
+    ApplyDuePresses(session, presses);
 }
 
 void MakeCall(Session& session, bool paused_frame) {
@@ -109,6 +116,9 @@ bool RunFlightDeck(Session& session, const FlyOptions& options, const std::funct
             MakeCall(session, false);
             if (world.ticks % 18 == 0) each_second();
         }
+        // Of keys typed at once each takes a call, but not a tick.
+        for (int frame = 0; frame < kFramesForKeys && ApplyDuePresses(session, presses); ++frame)
+            MakeCall(session, true);
         in_2d = IsMainPanelShown();
         if (!world.paints_in_line) RequestPictures(session);
         if (period % kPublishEvery == 0) deck.PublishValues(ReadValues(session, deck.WatchedNames()));

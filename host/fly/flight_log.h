@@ -28,11 +28,11 @@ struct RouteFix {
 /// A fix that is being passed, or has been.
 struct PassedFix {
     RouteFix fix;
-    FixRow actual, plan;     // actual where the aircraft is, or was, nearest
-    double nearest = 1e9;    // nm
+    FixRow actual, plan;       // actual where the aircraft is, or was, nearest
+    double nearest = 1e9;      // nm
     double cross_track = 0;    // nm, where its turn begins
     double turn_altitude = 0;  // ft, there
-    bool sequenced = false;  // the plan has moved on
+    bool sequenced = false;    // the plan has moved on
 };
 
 struct FlightLog {

@@ -110,6 +110,7 @@ void StepRoute(Session& session, RouteFlight& route) {
     const double to_go = to_fix + route.behind_to;
     const Pilot::Phase before = route.pilot.phase;
     StepPilot(route.pilot, session, to_go);
+    world.pilot_does = TellWhatPilotDoes(route.pilot);
     if (route.pilot.phase != before) TellPhase(route.pilot.phase);
     if (!flight.aircraft.on_ground) route.log.touchdown_fuel = AircraftNumber("fuel");
     KeepLog(session, route);

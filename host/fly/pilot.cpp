@@ -430,4 +430,28 @@ void StepPilot(Pilot& pilot, Session& session, double to_go_nm) {
     }
 }
 
+std::string TellWhatPilotDoes(const Pilot& pilot) {
+    switch (pilot.phase) {
+        case Pilot::kSettingUp:
+            return "setting up";
+        case Pilot::kTakeoff:
+            return "taking off";
+        case Pilot::kClimb:
+            return "climbing to " + std::to_string(std::lround(pilot.cruise_ft)) + " ft";
+        case Pilot::kCruise:
+            return "cruising";
+        case Pilot::kDescent:
+            return "descending";
+        case Pilot::kApproach:
+            return "approaching " + pilot.arrival.name;
+        case Pilot::kGoAround:
+            return "going around";
+        case Pilot::kRollout:
+            return "rolling out";
+        case Pilot::kStopped:
+            return "arrived";
+    }
+    return {};
+}
+
 }  // namespace host

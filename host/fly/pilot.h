@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "host/fly/hand_landing.h"
 #include "host/fly/runway.h"
 #include "host/session.h"
@@ -27,6 +29,9 @@ struct Pilot {
 
 /// Acts once a second; `to_go_nm` is the distance along the route to its end.
 void StepPilot(Pilot& pilot, Session& session, double to_go_nm);
+
+/// What he does, in a few words for the page: "climbing to 35000 ft".
+std::string TellWhatPilotDoes(const Pilot& pilot);
 
 constexpr double kTakeoffFlaps = 5;  // degrees
 

@@ -112,6 +112,7 @@ struct World {
     int clock_offset_hours = 0;  // the clock set by hand against its start
     double sim_rate = 1;
     bool paused = false;
+    std::string pilot_does;  // what the demonstration's pilot is about, for the page; empty = there is none
 
     // other aircraft, as a traffic module would publish them
     std::vector<std::array<double, 8>> traffic;

@@ -51,6 +51,24 @@ test('two browsers see each other\'s hand', async (t) => {
   await other.fill('.row[data-variable="TransAlt"] .value', '5500');
   await other.press('.row[data-variable="TransAlt"] .value', 'Enter');
   await untilValue(one, 'TransAlt', 5500);
+  await other.fill('.row[data-variable="TransAlt"] .value', 'high');
+  await other.press('.row[data-variable="TransAlt"] .value', 'Enter');
+  await other.waitForSelector('.row[data-variable="TransAlt"].refused');
+  await other.fill('.search', 'token:116');
+  await until('a token by its number', async () =>
+    Number(await other.inputValue('.row[data-variable="token:116"] .value')) > 0);
+});
+
+test('the bar tells units, and what the pilot does', async (t) => {
+  const host = await startHost(t);
+  const page = await openDeck(t, host.address);
+  await until('the pilot', async () => /^pilot: [a-z]/.test(await page.textContent('.doing')));
+  assert.match(await page.textContent('.top'), /HDG\s*\d{3}\u00b0 mag.*FUEL\s*\d+ lb/s);
+
+  const cold = await openDeck(t, (await startHost(t, '--cold')).address);
+  assert.ok(await cold.locator('.starting').isVisible());
+  await passStart(cold);
+  await until('the end of the start', async () => !await cold.locator('.starting').isVisible());
 });
 
 test('one screen opens alone and follows its unit', async (t) => {

@@ -39,8 +39,9 @@ export class Inspector {
     this.clear();
     const wanted = this.search.value.trim(), lower = wanted.toLowerCase();
     const found = this.names.filter(([name]) => name.toLowerCase().includes(lower));
-    // A path into a record or a list isn't in the directory itself.
-    if (wanted && !this.names.some(([name]) => name === wanted) && /[.[]/.test(wanted)) found.unshift([wanted, 'path']);
+    // A path into a record or a list isn't in the directory itself, nor are the host's own values.
+    if (wanted && !this.names.some(([name]) => name === wanted) && /[.[]|^(token|aircraft|host):./.test(wanted))
+      found.unshift([wanted, wanted.includes(':') ? 'host' : 'path']);
     this.told.textContent = found.length > MOST_ROWS ? `${MOST_ROWS} of ${found.length}` : String(found.length);
     for (const [name, type] of found.slice(0, MOST_ROWS)) this.rows.append(this.row(name, type));
   }
@@ -54,19 +55,31 @@ export class Inspector {
       value.placeholder = `${name}${type.startsWith('list') ? '[1]' : ''}.`;
       return made;
     }
+    let asked = null;
     const show = (text) => {
       if (document.activeElement !== value) value.value = text;
     };
     this.ends.push(this.link.watch(name, show));
     value.addEventListener('keydown', (event) => {
       if (event.key === 'Enter') {
-        this.set(name, value.value);
+        asked = value.value;
+        this.set(name, asked);
         value.blur();
       }
       if (event.key === 'Escape') value.blur();
     });
-    value.addEventListener('blur', () => setTimeout(() => show(this.link.values.get(name) ?? ''), 400));
+    // What was written comes back with the values; what doesn't was refused.
+    value.addEventListener('blur', () => setTimeout(() => {
+      const now = this.link.values.get(name) ?? '';
+      made.classList.toggle('refused', asked !== null && !this.isSame(now, asked));
+      asked = null;
+      show(now);
+    }, 600));
     return made;
+  }
+
+  isSame(now, asked) {
+    return now.trim() === asked.trim() || asked.trim() !== '' && Math.abs(Number(now) - Number(asked)) <= 1e-6 * Math.abs(Number(now));
   }
 
   set(name, text) {

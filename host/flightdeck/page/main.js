@@ -18,6 +18,7 @@ const link = new Link({
     screens.setFamilies(message.fonts ?? []);
     loadFonts(message.fonts ?? []);
     panels.setControls(message.controls ?? {});
+    version.textContent = message.version ?? '';
     if (!built) (kind ? handheld : deck)();
     built = true;
     inspector.setNames(message.variables ?? {}, message.named ?? []);
@@ -74,20 +75,27 @@ function timeControls() {
   return made;
 }
 
+const version = element('small', 'version');
+
 function bar() {
   const made = element('header', 'top');
-  const number = (label, name, digits = 0) => {
+  const number = (label, name, unit, tell = (value) => String(Math.round(value))) => {
     const shown = element('b', '', '-');
-    link.watch(name, (value) => { shown.textContent = Number(value).toFixed(digits); });
-    return element('span', 'fact', label, shown);
+    shown.dataset.fact = name;
+    link.watch(name, (value) => { shown.textContent = tell(Number(value)); });
+    return element('span', 'fact', label, shown, unit);
   };
+  const heading = (value) => String(Math.round(value) % 360 || 360).padStart(3, '0');
+  const doing = element('span', 'doing'), starting = element('span', 'starting', 'starting');
+  link.watch('host:pilot', (value) => { doing.textContent = value ? `pilot: ${value}` : ''; });
+  link.watch('outputs_running', (value) => { starting.hidden = value !== '0'; });
   const clock = element('b', '', '-');
   link.watch('host:clock', (value) => { clock.textContent = value; });
   const state = element('span', 'link-state');
   made.append(element('h1', '', 'TZ900'), state, element('span', 'fact', 'UTC ', clock),
-              number('ALT ', 'aircraft:alt'), number('IAS ', 'aircraft:ias'), number('GS ', 'aircraft:gs'),
-              number('HDG ', 'aircraft:hdg'), number('FUEL ', 'aircraft:fuel'), number('PWR ', 'power_level'),
-              timeControls());
+              number('ALT ', 'aircraft:alt', ' ft'), number('IAS ', 'aircraft:ias', ' kt'), number('GS ', 'aircraft:gs', ' kt'),
+              number('HDG ', 'mag_hdg', '\u00b0 mag', heading), number('FUEL ', 'aircraft:fuel', ' lb'),
+              number('PWR ', 'power_level', ' of 1000'), starting, doing, timeControls(), version);
   return made;
 }
 
