@@ -47,9 +47,9 @@ Airframe AirframeOf(std::string_view sim, std::string_view engines) {
         EngineMake rr;
     };
     static constexpr Row kRows[] = {
-        {{"900-10", 298700, {"GENX-1B76", 342000, 1.03, false}}, {"TRENT 1000", 338000, 1.045, true}},
-        {{"900-9", 284000, {"GENX-1B70", 322000, 1.03, false}}, {"TRENT 1000", 325000, 1.045, true}},
-        {{"900-8", 264500, {"GENX-1B67", 305000, 1.03, false}}, {"TRENT 1000", 310000, 1.045, true}},
+        {{"900-10", 298700, {"GENX-1B76", 342000, 1.022, false}}, {"TRENT 1000", 338000, 1.033, true}},
+        {{"900-9", 284000, {"GENX-1B70", 322000, 1.022, false}}, {"TRENT 1000", 325000, 1.033, true}},
+        {{"900-8", 264500, {"GENX-1B67", 305000, 1.022, false}}, {"TRENT 1000", 310000, 1.033, true}},
     };
     const Row* row = std::find_if(std::begin(kRows), std::end(kRows) - 1, [&](const Row& candidate) {
         return sim.find(candidate.with_ge.name) != std::string_view::npos;

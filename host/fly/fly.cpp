@@ -30,7 +30,7 @@ struct RouteFlight {
     int last = 0;
     int to = 0;  // the TO leg when it was last looked at
     double to_lat = 0, to_lon = 0;
-    double behind_to = 0;  // nm from the TO fix to the end
+    WayAhead behind_to;  // as seen from the TO fix
     double nearest = 1e9;
     bool in_the_air = false;
     bool leads_to_runway = false;  // so that what is predicted is what is flown
@@ -70,10 +70,14 @@ void FollowPlan(const Session& session, RouteFlight& route) {
     if (to == route.to) return;
     route.to = to;
     route.last = static_cast<int>(ModuleNumber(session, "fp_cnt"));
-    route.behind_to = 0;
+    WayAhead& way = route.behind_to = {};
     const std::vector<RouteFix> fixes = FixesAhead(session);
-    for (std::size_t i = 1; i < fixes.size(); ++i)
-        route.behind_to += DistanceNm(fixes[i - 1].lat, fixes[i - 1].lon, fixes[i].lat, fixes[i].lon);
+    for (std::size_t i = 0; i < fixes.size(); ++i) {
+        if (i > 0) way.to_go += DistanceNm(fixes[i - 1].lat, fixes[i - 1].lon, fixes[i].lat, fixes[i].lon);
+        if (way.fastest > 0 || fixes[i].fastest <= 0) continue;
+        way.fastest = fixes[i].fastest;
+        way.to_limit = way.to_go;
+    }
     if (fixes.empty()) return;
     route.to_lat = fixes[0].lat;
     route.to_lon = fixes[0].lon;
@@ -107,9 +111,11 @@ void StepRoute(Session& session, RouteFlight& route) {
     FollowPlan(session, route);
     const double to_fix =
         DistanceNm(AircraftNumber("lat"), AircraftNumber("lon"), route.to_lat, route.to_lon);
-    const double to_go = to_fix + route.behind_to;
+    WayAhead way = route.behind_to;
+    way.to_go += to_fix;
+    way.to_limit += to_fix;
     const Pilot::Phase before = route.pilot.phase;
-    StepPilot(route.pilot, session, to_go);
+    StepPilot(route.pilot, session, way);
     world.pilot_does = TellWhatPilotDoes(route.pilot);
     if (route.pilot.phase != before) TellPhase(route.pilot.phase);
     if (!flight.aircraft.on_ground) route.log.touchdown_fuel = AircraftNumber("fuel");
@@ -120,17 +126,14 @@ void StepRoute(Session& session, RouteFlight& route) {
         return;
     }
     if (route.to < route.last) return;
-    route.arrived = to_go > route.nearest || to_go < 0.5;  // overhead, or past it
-    route.nearest = to_go;
+    route.arrived = way.to_go > route.nearest || way.to_go < 0.5;  // overhead, or past it
+    route.nearest = way.to_go;
 }
 
-// With a plot where one is wanted.
-void FlyHeadless(Session& session, RouteFlight& route, PathPlot* plot) {
+void FlyHeadless(Session& session, const RouteFlight& route, const std::function<void()>& each_second) {
     while (EndSignal() == 0 && !route.arrived && world.seconds < kMaxHours * 3600) {
         TickSession(session, world.paused);
-        if (world.ticks % 18 != 0) continue;
-        StepRoute(session, route);
-        if (plot != nullptr && route.in_the_air) StepPlot(session, *plot);
+        if (world.ticks % 18 == 0) each_second();
     }
 }
 
@@ -171,6 +174,7 @@ int Fly(const FlyOptions& given) {
     if (options.route.empty()) options.route = kDemonstrationRoute;
     HoldEndSignals();
     world = World{};
+    flight = Flight{};
     Session session;
     Recorder recorder;
     std::string error;
@@ -184,14 +188,18 @@ int Fly(const FlyOptions& given) {
     RouteFlight route;
     route.arrived = options.cold;  // there is none
     if (!options.cold) route = BeginFlight(session);
-    const auto each_second = [&] { StepRoute(session, route); };
+    const auto each_second = [&] {
+        StepRoute(session, route);
+        if (!options.plot.empty() && options.headless && route.in_the_air) StepPlot(session, plot);
+        if (options.watch) options.watch(session);
+    };
     const auto began = std::chrono::steady_clock::now();
     const auto begin = [&] {
         if (!options.cold) PrintFlightHeading(session, options.route);
     };
     if (options.headless) {
         begin();
-        FlyHeadless(session, route, options.plot.empty() ? nullptr : &plot);
+        FlyHeadless(session, route, each_second);
     } else if (!RunFlightDeck(session, options, begin, each_second, error)) {
         return Refuse(session, error);
     }

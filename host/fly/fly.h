@@ -1,9 +1,12 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
 namespace host {
+
+struct Session;
 
 /// What `tz900 fly` is asked for; everything has a default that works.
 struct FlyOptions {
@@ -18,6 +21,7 @@ struct FlyOptions {
     std::vector<double> wind;  // direction it blows from (degrees true) and knots; empty = calm
     std::string record;        // file of the recording; empty = none
     std::string plot;          // SVG file of the paths drawn and flown, when headless; empty = none
+    std::function<void(const Session&)> watch;  // called once a second of flight; empty = nobody looks on
     // the flight deck
     std::string page_folder;
     std::string address = "127.0.0.1";

@@ -201,7 +201,7 @@ void Climb(Pilot& pilot, Session& session, double to_go_nm) {
 
 // The window goes down before the top of descent, which the aircraft then passes by itself.
 void Cruise(Pilot& pilot, Session& session, double to_go_nm) {
-    constexpr double kBeforeDescent = 12, kSteepFeetPerNm = 300;
+    constexpr double kBeforeDescent = 12, kSteepFeetPerNm = 400;
     if (pilot.by_level_change) SelectSpeed(pilot, session, 280);
     const bool planned = !pilot.by_level_change && Number(session, "dist_to_tod") > 0;
     const bool passed = Number(session, "tod") == 1;
@@ -211,7 +211,8 @@ void Cruise(Pilot& pilot, Session& session, double to_go_nm) {
         pilot.window_reset = true;
         Set(session, kSetAltitude, PlatformAltitude(pilot));
     }
-    const bool late = to_go_nm < (Flown().altitude - PlatformAltitude(pilot)) / kSteepFeetPerNm;
+    const bool late =
+        (!planned || passed) && to_go_nm < (Flown().altitude - PlatformAltitude(pilot)) / kSteepFeetPerNm;
     const bool descends = Flown().vertical_speed < -300;
     if (passed && descends) pilot.phase = Pilot::kDescent;
     if (descends || !pilot.window_reset || !(pilot.by_level_change ? plainly_due : late)) return;
@@ -309,23 +310,42 @@ void Descend(Pilot& pilot, Session& session, double to_go_nm) {
     pilot.phase = Pilot::kApproach;
 }
 
-// Slows down and lets out flaps and gear by the distance to the threshold.
-void Configure(Pilot& pilot, Session& session, double miles) {
+// The speed to slow down to for a fix ahead, in time; a great one while none is near.
+double LimitAhead(const WayAhead& way) {
+    constexpr double kNone = 999, kKnotsPerNm = 10, kEarly = 1;  // nm
+    const double slowing = (Flown().ias - way.fastest) / kKnotsPerNm + kEarly;
+    return way.fastest > 0 && way.to_limit < slowing ? way.fastest : kNone;
+}
+
+// The first flaps that let the aircraft fly so slowly, and those for landing.
+double FlapsForSpeed(double speed) {
+    for (const double flaps : {0.0, 1.0, 5.0, 15.0, 20.0})
+        if (ManoeuvreSpeed(flaps) <= speed) return flaps;
+    return kFullFlaps;
+}
+
+// Slows down and lets out flaps and gear by the distance to the threshold and for a fix that limits the
+// speed.
+void Configure(Pilot& pilot, Session& session, double miles, const WayAhead& way) {
     struct Step {
         double miles, flaps;
     };
     constexpr Step kSteps[] = {{25, 0}, {19, 1}, {14, 5}, {9, 15}, {7.5, 20}, {6, 30}};
-    double flaps = -1;
+    const double limit = LimitAhead(way);
+    const double for_limit = std::min(FlapsForSpeed(limit), 20.0);
+    double flaps = for_limit > 0 ? for_limit : -1;
     for (const Step& step : kSteps)
-        if (miles < step.miles) flaps = step.flaps;
+        if (miles < step.miles) flaps = std::max(flaps, step.flaps);
     constexpr double kFarOut = 240;
     if (flaps < 0)
-        return SelectSpeed(pilot, session, pilot.flaps > 0 ? ManoeuvreSpeed(pilot.flaps) + 5 : kFarOut);
+        return SelectSpeed(pilot, session,
+                           std::min(pilot.flaps > 0 ? ManoeuvreSpeed(pilot.flaps) + 5 : kFarOut, limit));
     // No flaps faster than they bear.
     flaps = std::max(flaps, pilot.flaps);
     if (flaps > pilot.flaps && Flown().ias < ManoeuvreSpeed(pilot.flaps) + 20)
         SelectFlaps(pilot, session, flaps);
-    SelectSpeed(pilot, session, pilot.flaps == kFullFlaps ? LandingSpeed() : ManoeuvreSpeed(pilot.flaps) + 5);
+    const double speed = pilot.flaps == kFullFlaps ? LandingSpeed() : ManoeuvreSpeed(pilot.flaps) + 5;
+    SelectSpeed(pilot, session, std::min(speed, std::max(limit, ManoeuvreSpeed(pilot.flaps))));
     if (flaps >= 15 && pilot.gear_up) {
         pilot.gear_up = false;
         MoveLever(session, "gear", 1);
@@ -358,17 +378,17 @@ void ClimbAway(Pilot& pilot, Session& session) {
     pilot.phase = Pilot::kApproach;
 }
 
-void Approach(Pilot& pilot, Session& session, double to_go_nm) {
+void Approach(Pilot& pilot, Session& session, const WayAhead& way) {
     constexpr double kArmNm = 22, kMostCut = 75, kLastTurnNm = 2, kNoTurnsBelow = 600;
     const RunwayPosition here = PositionBefore(pilot.arrival, Latitude(Flown()), Longitude(Flown()));
     const bool on_final = IsOnFinal();
     const double straight = std::hypot(here.before, here.right);
     const double miles = on_final || pilot.approach_armed ? straight
-                         : pilot.route_lines_up           ? to_go_nm
+                         : pilot.route_lines_up           ? way.to_go
                                                           : GateOf(pilot, here).miles;
     TuneLandingSystem(pilot, session);
     if (HeightOverField() > kNoTurnsBelow) {
-        Configure(pilot, session, miles);
+        Configure(pilot, session, miles, way);
         WorkSpeedbrake(pilot, session, miles);
     }
     // A route that turns in too late would lead past the beam: the rest is flown by headings.
@@ -378,7 +398,7 @@ void Approach(Pilot& pilot, Session& session, double to_go_nm) {
     if (!pilot.route_lines_up) SteerToFinal(pilot, session, here);
     const double cut = std::fabs(std::remainder(Flown().track - pilot.arrival.course, 360));
     // Near the beam's line, with no more than the last turn ahead.
-    const bool on_last_leg = to_go_nm < straight + kLastTurnNm;
+    const bool on_last_leg = way.to_go < straight + kLastTurnNm;
     const bool is_led = TokenOf(49) > 0 || pilot.arrival.ils_frequency.empty();
     const bool can_arm = is_led && on_last_leg && here.before > 0 && straight < kArmNm && cut < kMostCut;
     if (pilot.route_lines_up && !pilot.approach_armed && can_arm) {
@@ -407,20 +427,20 @@ void RollOut(Pilot& pilot, Session& session) {
 
 }  // namespace
 
-void StepPilot(Pilot& pilot, Session& session, double to_go_nm) {
+void StepPilot(Pilot& pilot, Session& session, const WayAhead& way) {
     switch (pilot.phase) {
         case Pilot::kSettingUp:
             return SetUp(pilot, session);
         case Pilot::kTakeoff:
             return TakeOff(pilot, session);
         case Pilot::kClimb:
-            return Climb(pilot, session, to_go_nm);
+            return Climb(pilot, session, way.to_go);
         case Pilot::kCruise:
-            return Cruise(pilot, session, to_go_nm);
+            return Cruise(pilot, session, way.to_go);
         case Pilot::kDescent:
-            return Descend(pilot, session, to_go_nm);
+            return Descend(pilot, session, way.to_go);
         case Pilot::kApproach:
-            return Approach(pilot, session, to_go_nm);
+            return Approach(pilot, session, way);
         case Pilot::kGoAround:
             return ClimbAway(pilot, session);
         case Pilot::kRollout:

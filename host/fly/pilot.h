@@ -27,8 +27,15 @@ struct Pilot {
     bool speedbrake = false, gear_up = false, approach_armed = false, window_reset = false;
 };
 
-/// Acts once a second; `to_go_nm` is the distance along the route to its end.
-void StepPilot(Pilot& pilot, Session& session, double to_go_nm);
+/// What the route asks for from here on.
+struct WayAhead {
+    double to_go = 0;     // nm along the route to its end
+    double to_limit = 0;  // nm to the next fix that limits the speed
+    double fastest = 0;   // kt there; 0 = none does
+};
+
+/// Acts once a second.
+void StepPilot(Pilot& pilot, Session& session, const WayAhead& way);
 
 /// What he does, in a few words for the page: "climbing to 35000 ft".
 std::string TellWhatPilotDoes(const Pilot& pilot);

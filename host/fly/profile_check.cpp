@@ -4,6 +4,8 @@
 #include <cmath>
 #include <cstdio>
 
+#include "host/world/world.h"
+
 namespace host {
 namespace {
 
@@ -27,8 +29,10 @@ bool IsPlanned(const RouteFix& fix) {
 }  // namespace
 
 void StepDescentCheck(const Session& session, DescentCheck& check) {
+    constexpr double kNear = 250, kAtLevel = 50;  // ft
     if (ModuleNumber(session, "tod") != 1 || ModuleNumber(session, "vnav_engaged") != 1) return;
-    constexpr double kNear = 250;  // ft
+    const double window = CalcOf("(A:AUTOPILOT ALTITUDE LOCK VAR, feet)");
+    if (std::fabs(AircraftNumber("alt") - window) < kAtLevel) return;  // which holds the aircraft up
     ++check.seconds;
     if (std::fabs(ModuleNumber(session, "vnav_vert_dev")) <= kNear) ++check.near_path;
 }
