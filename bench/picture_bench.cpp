@@ -135,6 +135,7 @@ struct NdScene {
         sim.mag_hdg = std::fmod(sim.mag_hdg + 0.1, 360);
         Graphics graphics = GdipCreateGraphics(list, 564, 424);
         paint(graphics, *this);
+        GdipDeleteGraphics(graphics);
     }
 };
 

@@ -106,6 +106,9 @@ struct DrawList {
     std::vector<PaintPoint> points;
     std::vector<float> dashes;
     std::string text;
+    // Storage for figures in the making, empty: it goes from picture to picture.
+    std::vector<PathVerb> spare_verbs;
+    std::vector<PaintPoint> spare_points;
 
     bool operator==(const DrawList&) const = default;
 };

@@ -18,16 +18,6 @@ void Prepend(Graphics& graphics, const Matrix& m) {
                       w.b * m.c + w.d * m.d, w.a * m.e + w.c * m.f + w.e, w.b * m.e + w.d * m.f + w.f};
 }
 
-// The integer forms share the paths of the others.
-GraphicsPath& ScratchPath(Graphics& graphics) {
-    GraphicsPath& path = graphics.scratch;
-    path.verbs.clear();
-    path.points.clear();
-    path.open = false;
-    path.winding = false;
-    return path;
-}
-
 GraphicsPath& ScratchPolyline(Graphics& graphics, std::span<const IntPoint> points, bool closed) {
     GraphicsPath& path = ScratchPath(graphics);
     for (const IntPoint& point : points) LineTo(path, point.x, point.y);
@@ -64,9 +54,27 @@ void DrawImage(Graphics& graphics, const Image& image, double x, double y, doubl
 
 }  // namespace
 
+GraphicsPath& ScratchPath(Graphics& graphics) {
+    GraphicsPath& path = graphics.scratch;
+    path.verbs.clear();
+    path.points.clear();
+    path.open = false;
+    path.winding = false;
+    return path;
+}
+
 Graphics GdipCreateGraphics(DrawList& list, float width, float height) {
     ClearList(list, width, height);
-    return {.list = &list};
+    return {.list = &list,
+            .scratch = {.verbs = std::move(list.spare_verbs), .points = std::move(list.spare_points)}};
+}
+
+void GdipDeleteGraphics(Graphics& graphics) {
+    if (graphics.list == nullptr) return;
+    GraphicsPath& path = ScratchPath(graphics);
+    graphics.list->spare_verbs = std::move(path.verbs);
+    graphics.list->spare_points = std::move(path.points);
+    graphics.list = nullptr;
 }
 
 void GdipGraphicsClear(Graphics& graphics, Argb colour) {

@@ -13,6 +13,9 @@
 
 // surface
 Graphics GdipCreateGraphics(DrawList& list, float width, float height);
+/// The picture is done: what figures were made in stays with the list, so that the next picture allocates
+/// nothing.
+void GdipDeleteGraphics(Graphics& graphics);
 void GdipGraphicsClear(Graphics& graphics, Argb colour);
 
 // world transform; each is prepended, so that the newest acts first on coordinates

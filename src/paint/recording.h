@@ -15,6 +15,9 @@ PaintPoint Map(const Matrix& m, double x, double y);
 /// False for a coordinate that is no number, too.
 bool IsNear(PaintPoint p);
 
+/// An empty path for one figure or clip, good until the next is made; its storage stays.
+GraphicsPath& ScratchPath(Graphics& graphics);
+
 /// How much a height grows under a transform, and the axes that stand for the rest of it.
 struct Growth {
     double height;

@@ -2,6 +2,7 @@
 
 #include "base/angles.h"
 #include "display/routing/nd_controls.h"
+#include "paint/recording.h"
 #include "state/cockpit.h"
 #include "state/irs.h"
 #include "state/leg_words.h"
@@ -30,14 +31,20 @@ void PlaceMapCentre(const NdSide& settings, MapView& view) {
 
 // The part of the map that an arc bounds, from a bearing left of the top to the same right of it; down to
 // `foot` behind the aircraft.
-GraphicsPath ArcClip(int radius, int half_width, double start, double sweep, int shoulder) {
+void ClipToArc(Graphics& graphics, int radius, int half_width, double start, double sweep, int shoulder) {
     constexpr int kFoot = 50;
-    GraphicsPath path = GdipCreatePath();
+    GraphicsPath& path = ScratchPath(graphics);
     GdipAddPathArcI(path, -radius, -radius - 1, 2 * radius, 2 * radius, start, sweep);
     GdipAddPathLineI(path, half_width, shoulder, half_width, kFoot);
     GdipAddPathLineI(path, -half_width, kFoot, -half_width, shoulder);
     GdipClosePathFigure(path);
-    return path;
+    GdipSetClipPath(graphics, path);
+}
+
+void ClipToBox(Graphics& graphics, int left, int top, int right, int bottom) {
+    GraphicsPath& path = ScratchPath(graphics);
+    GdipAddPathRectangleI(path, left, top, right - left, bottom - top);
+    GdipSetClipPath(graphics, path);
 }
 
 }  // namespace
@@ -96,23 +103,25 @@ NdFrame MakeNdFrame(int side, int half, bool wide) {
     return frame;
 }
 
-GraphicsPath MapClip(const NdFrame& frame) {
-    if (frame.Arc() && frame.wide)
-        return frame.vsd ? ArcClip(180, 180, 180, 180, -1) : ArcClip(300, 282, 200, 140, -103);
-    if (frame.Arc()) return frame.vsd ? ArcClip(180, 141, 218, 103, -113) : ArcClip(300, 141, 242, 56, -265);
-    GraphicsPath path = GdipCreatePath();
+void ClipToMap(Graphics& graphics, const NdFrame& frame) {
     const MapBox& seen = frame.view.seen;
-    GdipAddPathRectangleI(path, static_cast<int>(seen.left), static_cast<int>(seen.top),
-                          static_cast<int>(seen.right - seen.left), static_cast<int>(seen.bottom - seen.top));
-    return path;
+    if (!frame.Arc())
+        ClipToBox(graphics, static_cast<int>(seen.left), static_cast<int>(seen.top),
+                  static_cast<int>(seen.right), static_cast<int>(seen.bottom));
+    else if (frame.vsd && frame.wide)
+        ClipToArc(graphics, 180, 180, 180, 180, -1);
+    else if (frame.vsd)
+        ClipToArc(graphics, 180, 141, 218, 103, -113);
+    else if (frame.wide)
+        ClipToArc(graphics, 300, 282, 200, 140, -103);
+    else
+        ClipToArc(graphics, 300, 141, 242, 56, -265);
 }
 
-GraphicsPath CompassClip(const NdFrame& frame) {
+void ClipToCompass(Graphics& graphics, const NdFrame& frame) {
     constexpr int kTop = -310, kFoot = 50;
     const int half_width = frame.wide ? 2 * kHalfWidth : kHalfWidth;
-    GraphicsPath path = GdipCreatePath();
-    GdipAddPathRectangleI(path, -half_width, kTop, 2 * half_width, kFoot - kTop);
-    return path;
+    ClipToBox(graphics, -half_width, kTop, half_width, kFoot);
 }
 
 bool IsIrsOn() {

@@ -35,10 +35,10 @@ struct NdFrame {
 /// have set, as from a damaged file, count as MAP, off, and the range at the knob's position.
 NdFrame MakeNdFrame(int side, int half, bool wide);
 
-/// What the map may be drawn on, about its centre.
-GraphicsPath MapClip(const NdFrame& frame);
+/// Lets drawings through where the map may be, about its centre.
+void ClipToMap(Graphics& graphics, const NdFrame& frame);
 
-/// Where the marks of a compass in MAP may be drawn: beyond the map's edge too.
-GraphicsPath CompassClip(const NdFrame& frame);
+/// The same for the marks of a compass in MAP: beyond the map's edge too.
+void ClipToCompass(Graphics& graphics, const NdFrame& frame);
 
 bool IsIrsOn();

@@ -70,11 +70,11 @@ void DrawMap(Graphics& graphics, const NdFrame& frame) {
 void DrawNdPicture(Graphics& graphics, int side, int half, bool wide) {
     const NdFrame frame = MakeNdFrame(side, half, wide);
     EnterMapFrame(graphics, frame.view);
-    GdipSetClipPath(graphics, MapClip(frame));
+    ClipToMap(graphics, frame);
     if (frame.irs_on) DrawMap(graphics, frame);
     if (!frame.in_plan || frame.irs_on) DrawAircraft(graphics, frame);
     if (frame.irs_on && !frame.in_plan) {
-        GdipSetClipPath(graphics, CompassClip(frame));
+        ClipToCompass(graphics, frame);
         DrawHeadingMarks(graphics, frame);
         GdipResetClip(graphics);
         DrawTopBox(graphics, frame);

@@ -5,6 +5,7 @@
 
 #include "display/nd/header_text.h"
 #include "paint/painter.h"
+#include "paint/recording.h"
 #include "state/plan.h"
 #include "state/sim.h"
 #include "state/vnav.h"
@@ -64,7 +65,7 @@ void DrawVnavScale(Graphics& graphics, const NdFrame& frame) {
         const double x = dev > 0 || frame.vsd ? left - 2 : left - 7;
         PrintText(graphics, x, y, kNdTextSize, kWhite, "%4d0", static_cast<int>(std::fabs(dev) / 10));
     }
-    GraphicsPath clip = GdipCreatePath();
+    GraphicsPath& clip = ScratchPath(graphics);
     GdipAddPathRectangleI(clip, static_cast<int>(left), top, kBoxWidth + 8, kBoxHeight);
     GdipSetClipPath(graphics, clip);
     DrawPointer(graphics, left + 23, pointer);

@@ -1,6 +1,7 @@
 #include "display/pfd/pfd_view.h"
 
 #include "paint/fonts.h"
+#include "paint/recording.h"
 #include "state/cfg.h"
 #include "state/displays.h"
 #include "state/power_words.h"
@@ -20,15 +21,6 @@ float WidthOf(std::string_view text, float size) {
 double MiddleOfFigures(float size) {
     constexpr float kHalfFigure = 0.36f;  // of the em
     return (MetricsOf(FamilyOf(cfg.DuFont)).ascent - kHalfFigure) * size;
-}
-
-// The storage that a picture keeps for its figures.
-GraphicsPath& ScratchPath(Graphics& graphics) {
-    GraphicsPath& path = graphics.scratch;
-    path.verbs.clear();
-    path.points.clear();
-    path.open = path.winding = false;
-    return path;
 }
 
 }  // namespace

@@ -88,5 +88,7 @@ bool ComposeFrame(const PaintedGauge& gauge, DrawList& list) {
     if (screen == std::end(kScreens)) return false;
     const bool powered = screen->powered == nullptr || screen->powered(gauge.unit);
     if (screen->cleared || !powered) GdipGraphicsClear(graphics, screen->background);
-    return !powered || screen->draw(graphics, gauge);
+    const bool painted = !powered || screen->draw(graphics, gauge);
+    GdipDeleteGraphics(graphics);
+    return painted;
 }
