@@ -19,7 +19,6 @@
 
 namespace {
 
-constexpr int kModeVnavSpd = 5, kModeVnavPth = 6;
 constexpr int kModeBoxTicks = 180;
 constexpr double kNoValue = 999;
 // of ap_master_disconnect
@@ -64,12 +63,12 @@ void ReadFinalByRoute() {
 
 // LNAV keeps off behind the end of the plan although the mode still stands.
 void FollowEngagedModes() {
-    const bool lnav_mode = autoflight.ap_lat_mode == kModeLnav || autoflight.ap_lat_mode_armed == kModeLnav;
+    const bool lnav_mode = autoflight.ap_lat_mode == kLatLnav || autoflight.ap_lat_mode_armed == kLatLnav;
     if (lnav_mode && lnav.plan_finished == 0)
         lnav.lnav_engaged = 1;
     else if (!lnav_mode && cfg.LnavDefAp == 0)
         lnav.lnav_engaged = 0;
-    vnav.vnav_engaged = autoflight.ap_vert_mode == kModeVnavSpd || autoflight.ap_vert_mode == kModeVnavPth;
+    vnav.vnav_engaged = autoflight.ap_vert_mode == kVertVnavSpd || autoflight.ap_vert_mode == kVertVnavPth;
 }
 
 void SetDisconnectWarning(int warning) {

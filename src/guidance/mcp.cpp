@@ -43,17 +43,17 @@ constexpr NamedVarRef kThrust = NamedVar("at_mode_clicked");
 constexpr NamedVarRef kAutopilot = NamedVar("TZ_MCP_L_AP_Button");
 
 constexpr Button kButtons[] = {
-    {"lnav", kLateral, kModeLnav, 10},
-    {"hdgsel", kLateral, 3, 15, kKeyHeadingHold, &ConfigState::LnavDefAp},
-    {"hdghold", kLateral, 2, 15, kKeyHeadingHold, &ConfigState::LnavDefAp},
-    {"loc", kLateral, 7, 15},
-    {"vnav", kVertical, 5, 15},
-    {"flch", kVertical, 4, 15},
-    {"vs", kVertical, 2, 15},
-    {"althold", kVertical, 1, 15, kKeyAltitudeHold, &ConfigState::LnavDefAp},
-    {"app", kVertical, 10, 15, kKeyApproachHold, &ConfigState::LnavDefAp},
+    {"lnav", kLateral, kLatLnav, 10},
+    {"hdgsel", kLateral, kLatHdgSel, 15, kKeyHeadingHold, &ConfigState::LnavDefAp},
+    {"hdghold", kLateral, kLatHdgHold, 15, kKeyHeadingHold, &ConfigState::LnavDefAp},
+    {"loc", kLateral, kLatLoc, 15},
+    {"vnav", kVertical, kVertVnavSpd, 15},
+    {"flch", kVertical, kVertFlch, 15},
+    {"vs", kVertical, kVertVs, 15},
+    {"althold", kVertical, kVertAlt, 15, kKeyAltitudeHold, &ConfigState::LnavDefAp},
+    {"app", kVertical, kVertGs, 15, kKeyApproachHold, &ConfigState::LnavDefAp},
     {"at", kThrust, 1, 10, kKeyAutothrottleMode, &ConfigState::RealismMode},
-    {"clbcon", kThrust, 5, 10},
+    {"clbcon", kThrust, kThrottleThrRef, 10},
     {"apl", kAutopilot, 1, 15, kKeyAutopilotMaster, &ConfigState::RealismMode},
     {"apr", kAutopilot, 1, 15, kKeyAutopilotMaster, &ConfigState::RealismMode},
 };
@@ -74,7 +74,7 @@ constexpr Knob kKnobs[] = {
 // The host carries events out on a later tick; the window moves at once, so that quick turns add up.
 void TurnHeading(int detents) {
     const bool engaged = autoflight.ap_master_l != 0 || autoflight.ap_master_r != 0;
-    if (engaged && autoflight.ap_lat_mode == kModeLnav) return;
+    if (engaged && autoflight.ap_lat_mode == kLatLnav) return;
     sim.ap_hdgbug = FoldBearing(sim.ap_hdgbug + detents);
     SendKeyEvent(kKeyHeadingSet, WholeNumber(std::round(sim.ap_hdgbug)) % 360);
 }
@@ -98,7 +98,7 @@ bool PressMcpButton(std::string_view name) {
     if (button == std::end(kButtons)) return false;
     int value = button->value;
     if (name == "lnav") {
-        if (ReadNamedVar(kLateral) == kModeLnav) value = 0;
+        if (WholeNumber(ReadNamedVar(kLateral)) == kLatLnav) value = 0;
         if (cfg.LnavDefAp == 1) lnav.lnav_engaged = lnav.lnav_engaged == 1 ? 0 : 1;
     }
     WriteNamedVar(button->request, value);

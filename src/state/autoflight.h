@@ -5,7 +5,40 @@
 
 #include "state/variable.h"
 
-constexpr int kModeLnav = 6;  // of ap_lat_mode
+// Values of the modes, active and armed; 0 is none.
+enum LateralMode {
+    kLatAtt = 1,
+    kLatHdgHold,
+    kLatHdgSel,
+    kLatTrkHold,
+    kLatTrkSel,
+    kLatLnav,
+    kLatLoc,
+    kLatRollout,
+    kLatToGa,
+    kLatFac,
+};
+enum VerticalMode {
+    kVertAlt = 1,
+    kVertVs,
+    kVertFpa,
+    kVertFlch,
+    kVertVnavSpd,
+    kVertVnavPth,
+    kVertGs = 10,
+    kVertFlare,
+    kVertToGa,
+    kVertGp,
+};
+enum ThrottleMode {
+    kThrottleSpd = 2,
+    kThrottleMach,
+    kThrottleIdle,
+    kThrottleThrRef,
+    kThrottleHold = 8,
+    kThrottleThr,
+    kThrottleThrToo,
+};
 
 /// Copies of what AutoflightLogic reports, read each tick by the output step.
 struct AutoflightState {

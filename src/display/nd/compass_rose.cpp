@@ -76,9 +76,8 @@ void DrawBug(Graphics& graphics, int r) {
 }
 
 bool IsBugLineDrawn() {
-    constexpr int kLnav = 6, kLoc = 7;
     const int mode = autoflight.ap_lat_mode;
-    return cockpit.hdg_trk_mode != 0 || (mode != kLnav && mode != kLoc) || nd_memory.hdg_sel_timer > 0;
+    return cockpit.hdg_trk_mode != 0 || (mode != kLatLnav && mode != kLatLoc) || nd_memory.hdg_sel_timer > 0;
 }
 
 }  // namespace

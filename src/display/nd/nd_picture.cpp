@@ -19,7 +19,9 @@ namespace {
 
 // LNAV, LOC, the final approach course and what follows them keep to a track.
 bool IsTrackFollowed() {
-    const auto follows = [](int mode) { return mode == 6 || mode == 7 || mode == 10 || mode == 11; };
+    const auto follows = [](int mode) {
+        return mode == kLatLnav || mode == kLatLoc || mode == kLatFac || mode == 11;
+    };
     return follows(autoflight.ap_lat_mode) || follows(autoflight.ap_lat_mode_armed);
 }
 

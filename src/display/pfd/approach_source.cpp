@@ -12,8 +12,6 @@
 
 namespace {
 
-constexpr int kFinalApproachMode = 10;
-
 bool IsLandingSystemReceived() {
     return sim.nav1_is_loc > 0 && sim.nav1_signal != 0;
 }
@@ -21,8 +19,7 @@ bool IsLandingSystemReceived() {
 // On its way down to an approach without a landing system, or flying one.
 bool IsFinalApproach() {
     const bool selected = autoflight.fac_approach == 1 && vnav.tod == 1;
-    return selected || autoflight.ap_lat_mode == kFinalApproachMode ||
-           autoflight.ap_lat_mode_armed == kFinalApproachMode;
+    return selected || autoflight.ap_lat_mode == kLatFac || autoflight.ap_lat_mode_armed == kLatFac;
 }
 
 // The frequency of the landing system that the selected approach uses, 0 without one.

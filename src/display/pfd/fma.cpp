@@ -13,16 +13,18 @@ struct ModeText {
     int mode;
     std::string_view text;
 };
-constexpr ModeText kThrottleModes[] = {{2, "SPD"},  {3, "MACH"}, {4, "IDLE"}, {5, "THR REF"},
-                                       {8, "HOLD"}, {9, "THR"},  {10, "THR"}};
-constexpr ModeText kRollModes[] = {{1, "ATT"},     {2, "HDG HOLD"}, {3, "HDG SEL"}, {4, "TRK HOLD"},
-                                   {5, "TRK SEL"}, {6, "LNAV"},     {7, "LOC"},     {8, "ROLLOUT"},
-                                   {9, "TO/GA"},   {10, "FAC"}};
-constexpr ModeText kPitchModes[] = {{1, "ALT"},      {2, "V/S"},      {3, "FPA"},  {4, "FLCH"},
-                                    {5, "VNAV SPD"}, {6, "VNAV PTH"}, {10, "G/S"}, {11, "FLARE"},
-                                    {12, "TO/GA"},   {13, "G/P"}};
-constexpr int kThrottleMach = 3, kLnav = 6, kLocalizer = 7, kFinalApproach = 10, kVnavSpeed = 5,
-              kVnavPath = 6, kGlideSlope = 10, kGlidePath = 13;
+constexpr ModeText kThrottleModes[] = {
+    {kThrottleSpd, "SPD"},   {kThrottleMach, "MACH"}, {kThrottleIdle, "IDLE"}, {kThrottleThrRef, "THR REF"},
+    {kThrottleHold, "HOLD"}, {kThrottleThr, "THR"},   {kThrottleThrToo, "THR"}};
+constexpr ModeText kRollModes[] = {
+    {kLatAtt, "ATT"},        {kLatHdgHold, "HDG HOLD"}, {kLatHdgSel, "HDG SEL"}, {kLatTrkHold, "TRK HOLD"},
+    {kLatTrkSel, "TRK SEL"}, {kLatLnav, "LNAV"},        {kLatLoc, "LOC"},        {kLatRollout, "ROLLOUT"},
+    {kLatToGa, "TO/GA"},     {kLatFac, "FAC"}};
+constexpr ModeText kPitchModes[] = {{kVertAlt, "ALT"},          {kVertVs, "V/S"},
+                                    {kVertFpa, "FPA"},          {kVertFlch, "FLCH"},
+                                    {kVertVnavSpd, "VNAV SPD"}, {kVertVnavPth, "VNAV PTH"},
+                                    {kVertGs, "G/S"},           {kVertFlare, "FLARE"},
+                                    {kVertToGa, "TO/GA"},       {kVertGp, "G/P"}};
 
 template <std::size_t N>
 std::string_view TextOfMode(const ModeText (&modes)[N], int mode) {
@@ -32,7 +34,8 @@ std::string_view TextOfMode(const ModeText (&modes)[N], int mode) {
 }
 
 std::string_view ThrottleText(int mode) {
-    const bool by_profile = autoflight.ap_vert_mode == kVnavSpeed || autoflight.ap_vert_mode == kVnavPath;
+    const bool by_profile =
+        autoflight.ap_vert_mode == kVertVnavSpd || autoflight.ap_vert_mode == kVertVnavPth;
     if (mode == kThrottleMach && by_profile) return "SPD";
     return TextOfMode(kThrottleModes, mode);
 }
@@ -58,23 +61,23 @@ ModeTexts AutothrottleTexts() {
 
 ModeTexts RollTexts() {
     const bool by_default = cfg.LnavDefAp == 1 && lnav.lnav_engaged == 1;
-    return {std::string(TextOfMode(kRollModes, by_default ? kLnav : autoflight.ap_lat_mode)),
+    return {std::string(TextOfMode(kRollModes, by_default ? kLatLnav : autoflight.ap_lat_mode)),
             std::string(TextOfMode(kRollModes, autoflight.ap_lat_mode_armed))};
 }
 
 ModeTexts PitchTexts() {
     const int armed = autoflight.ap_vert_mode_armed;
     return {std::string(TextOfMode(kPitchModes, autoflight.ap_vert_mode)),
-            armed == kVnavSpeed ? "VNAV" : std::string(TextOfMode(kPitchModes, armed))};
+            armed == kVertVnavSpd ? "VNAV" : std::string(TextOfMode(kPitchModes, armed))};
 }
 
 AutoflightStatus StatusOfAutoflight(bool director) {
     constexpr double kLandingHeight = 1500, kNoAutolandBelow = 100;  // ft
     const int roll = autoflight.ap_lat_mode, pitch = autoflight.ap_vert_mode;
     const bool engaged = IsAutopilotEngaged();
-    if (engaged && sim.radio_alt_ft < kLandingHeight && roll == kLocalizer && pitch == kGlideSlope)
+    if (engaged && sim.radio_alt_ft < kLandingHeight && roll == kLatLoc && pitch == kVertGs)
         return {"LAND 3", false, false};
-    if (sim.radio_alt_ft < kNoAutolandBelow && roll == kFinalApproach && pitch == kGlidePath)
+    if (sim.radio_alt_ft < kNoAutolandBelow && roll == kLatFac && pitch == kVertGp)
         return {"NO AUTOLAND", true, false};
     if (engaged) return {"A/P", false, autoflight.ap_status_timer > 0};
     if (director) return {"FLT DIR", false, instruments.fd_status_timer > 0};

@@ -140,7 +140,7 @@ void DrawSpeedPointer(const PfdView& view) {
 }
 
 void DrawSelectedSpeed(const PfdView& view) {
-    constexpr int kTop = -119, kMachSpeedMode = 3;
+    constexpr int kTop = -119;
     constexpr float kSize = 14;
     Graphics& graphics = view.graphics;
     const int left = view.left + 2;
@@ -148,7 +148,7 @@ void DrawSelectedSpeed(const PfdView& view) {
         FilledBox(graphics, x, kTop, width, height, kBlack);
         TextUpTo(graphics, x + width - 1, kTop + height / 2.0, kSize, kPfdMagenta, text);
     };
-    const bool mach_mode = vnav.vnav_engaged == 1 && autoflight.at_mode == kMachSpeedMode;
+    const bool mach_mode = vnav.vnav_engaged == 1 && autoflight.at_mode == kThrottleMach;
     if (IsFmcMach())
         readout(left, 40, 14, MachText(sim.vnav_spd_readback));
     else if (mach_mode || cockpit.mach_selected == 1)

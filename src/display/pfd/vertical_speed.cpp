@@ -53,7 +53,6 @@ double VerticalSpeedUnits(double fpm) {
 }
 
 void DrawVerticalSpeed(const PfdView& view) {
-    constexpr int kVerticalSpeedMode = 2;
     constexpr double kLeastDigits = 400;
     constexpr float kSize = 10, kFlagSize = 8;
     if (!IsPfdLit()) return;
@@ -61,7 +60,7 @@ void DrawVerticalSpeed(const PfdView& view) {
     DrawVerticalScale(graphics);
     DrawAdvisoryBands(graphics);
     const double x = view.narrow ? 158 : 160;
-    if (autoflight.ap_vert_mode == kVerticalSpeedMode) {
+    if (autoflight.ap_vert_mode == kVertVs) {
         const double y = -VerticalSpeedUnits(sim.ap_vsbug);
         GdipDrawLine(graphics, PenOf(kPfdMagenta, 3), x - 18, y, x - 12, y);
     }
