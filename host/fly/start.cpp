@@ -38,9 +38,8 @@ void RecordSettings(Session& session, const FlyOptions& options) {
 Placement LinedUp(const Session& session) {
     const RunwayEnd runway =
         ReadRunway(session, "origin_airport", static_cast<int>(ModuleNumber(session, "fms_dep_rwy_pos")));
-    Placement placement{ModuleNumber(session, "FlightPlan[0].lat"),
-                        ModuleNumber(session, "FlightPlan[0].lon"), 0,
-                        ModuleNumber(session, "leg_crs") + ModuleNumber(session, "mgvar")};
+    Placement placement{ModuleNumber(session, "FlightPlanMod[0].lat"),
+                        ModuleNumber(session, "FlightPlanMod[0].lon"), 0, 0};
     if (!runway.name.empty()) {
         constexpr double kBehindThreshold = 0.03;  // nm
         placement.heading = runway.course;
@@ -177,17 +176,17 @@ bool StartFlight(Session& session, const FlyOptions& options, std::string& error
     }
     Record(session.recorder, {"route", options.route});
     if (!EnterRoute(session, options.route, error)) return false;
+    // The predictions that EXEC makes begin where the aircraft stands.
+    const Placement at = LinedUp(session);
+    Record(session.recorder, {"at", NumberText(at.lat), NumberText(at.lon), NumberText(at.alt_ft),
+                              NumberText(at.heading), NumberText(at.ias)});
+    PlaceAircraft(at);
     const RouteLength length = MeasureRoute(session, options);
     LoadFuelFor(session, length.air_miles);
     EnterPerformance(session, length.miles);
     EnterWinds(session, options);
     Record(session.recorder, {"exec"});
-    if (!ExecuteRoute(session, error)) return false;
-    const Placement at = LinedUp(session);
-    Record(session.recorder, {"at", NumberText(at.lat), NumberText(at.lon), NumberText(at.alt_ft),
-                              NumberText(at.heading), NumberText(at.ias)});
-    PlaceAircraft(at);
-    return true;
+    return ExecuteRoute(session, error);
 }
 
 }  // namespace host

@@ -155,7 +155,7 @@ std::vector<Command> HostSideCommands() {
         {"simevent", "sound|pause 0|1, flightsaved|flightloaded \"NAME\", client ID", "simevent sound 0",
          Command::kAnytime, 2, 2, SimEvent},
         {"window", "IDENT 0|1", "window 5 1", Command::kAnytime, 2, 2, Window},
-        {"route", "\"ORIG[/RWY] FIX AIRWAY FIX ... DEST[/RWY]\"", "route \"KSEA BTG J1 OED KSFO\"",
+        {"route", "\"ORIG[/RWY] FIX AIRWAY FIX ... DEST[/RWY or /ILS24R]\"", "route \"KSEA BTG J1 OED KSFO\"",
          Command::kAfter, 1, 1, Route},
         {"exec", "", "exec", Command::kAfter, 0, 0, Exec},
         {"age", "FILE HOURS", "age Velarion/tz900.cfg 24", Command::kAfter, 2, 2, Age},

@@ -145,6 +145,11 @@ int RunScenario(Scenario& scenario, std::istream& in, const std::string& file_na
         if (EndSignal() != 0) break;
     }
     if (EndSignal() != 0) return 128 + EndSignal();
+    if (!world.never_a_number.empty()) {
+        scenario.out.flush();
+        errors << file_name << ": " << world.never_a_number << " was no number\n";
+        return 1;
+    }
     return scenario.failed_expectations > 0 ? 1 : 0;
 }
 
