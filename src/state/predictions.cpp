@@ -2,6 +2,17 @@
 
 #include "state/cfg.h"
 
+template <>
+struct Describe<MeasuredLeg> {
+    using M = MeasuredLeg;
+    static constexpr Field fields[] = {
+        FieldRow<&M::from_lat>("from_lat"), FieldRow<&M::from_lon>("from_lon"),
+        FieldRow<&M::to_lat>("to_lat"),     FieldRow<&M::to_lon>("to_lon"),
+        FieldRow<&M::dist>("dist"),
+    };
+    static constexpr ValueType type{.kind = ValueKind::kRecord, .fields = fields};
+};
+
 PredictionState predictions;
 
 namespace {
@@ -27,6 +38,7 @@ constexpr Variable kPredictionRows[] = {
     {"final_point_lat", &predictions.final_point_lat},
     {"final_point_lon", &predictions.final_point_lon},
     {"final_point_set", &predictions.final_point_set},
+    {"measured_legs", &predictions.measured_legs},
     {"perf_factor", &predictions.perf_factor},
     {"dist_to_toc", &predictions.dist_to_toc},
     {"dist_to_tod", &predictions.dist_to_tod},

@@ -2,7 +2,14 @@
 
 #include <span>
 
+#include "state/growing_list.h"
 #include "state/variable.h"
+
+/// The way between two fixes as it has been measured; it holds until one of them is another.
+struct MeasuredLeg {
+    double from_lat = 0, from_lon = 0, to_lat = 0, to_lon = 0;
+    double dist = 0;  // nm
+};
 
 /// What the active route, the speeds, the weight and the winds imply. Written by fmc/performance, and begun
 /// anew with the route. Pounds, knots, nm.
@@ -21,6 +28,7 @@ struct PredictionState {
     double dest_brg = 0;                              // degrees magnetic
     double final_point_lat = 0, final_point_lon = 0;  // 5 nm before the destination runway
     int final_point_set = 0;
+    GrowingList<MeasuredLeg> measured_legs;  // by the leg at the end
 };
 
 extern PredictionState predictions;

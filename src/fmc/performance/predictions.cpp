@@ -43,6 +43,16 @@ void SetFinalPoint() {
     predictions.final_point_set = 1;
 }
 
+// Measured once, for the distances to go are looked at several times a second.
+double LegLength(int leg, double from_lat, double from_lon) {
+    const FlightPlanLeg& to = FlightPlanLegAt(leg);
+    MeasuredLeg& measured = predictions.measured_legs[leg];
+    if (measured.from_lat != from_lat || measured.from_lon != from_lon || measured.to_lat != to.lat ||
+        measured.to_lon != to.lon)
+        measured = {from_lat, from_lon, to.lat, to.lon, GreatCircle(from_lat, from_lon, to.lat, to.lon).dist};
+    return measured.dist;
+}
+
 }  // namespace
 
 const RunwayData* DestinationRunway() {
@@ -72,7 +82,9 @@ void ComputeDistances() {
     for (int i = plan.active.stpos; i <= plan.active.leg_cnt; ++i) {
         const FlightPlanLeg& leg = legs[i];
         if (!IsPlace(leg) || IsOfMissedApproach(leg)) continue;
-        const double length = GreatCircle(lat, lon, leg.lat, leg.lon).dist;
+        const bool from_fix = from >= plan.active.stpos;
+        const double length =
+            from_fix ? LegLength(i, lat, lon) : GreatCircle(lat, lon, leg.lat, leg.lon).dist;
         // A top that the aircraft has come past on its leg is no longer ahead.
         const auto measure = [&](int passed, int before, double at_lat, double at_lon, double& dist) {
             if (passed == 0 && before >= from && before < i && (at_lat != 0 || at_lon != 0))
