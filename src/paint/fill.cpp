@@ -92,7 +92,6 @@ void FillHatch(Graphics& graphics, const Brush& brush, const GraphicsPath& path)
 }  // namespace
 
 void Fill(Graphics& graphics, const Brush& brush, const GraphicsPath& path) {
-    if (!IsDrawable(graphics, path)) return;
     RecordFill(graphics, path, brush.hatched ? brush.back : brush.colour);
-    if (brush.hatched) FillHatch(graphics, brush, path);
+    if (brush.hatched && IsDrawable(graphics, path)) FillHatch(graphics, brush, path);
 }

@@ -96,17 +96,20 @@ void GdipRotateWorldTransform(Graphics& graphics, double degrees) {
 }
 
 void GdipSetClipPath(Graphics& graphics, const GraphicsPath& path) {
-    if (!IsDrawable(graphics, path)) return;
+    const auto recorded = RecordPath(graphics, path);
+    if (!recorded) return;
     GdipResetClip(graphics);
-    graphics.list->primitives.emplace_back(ClipIn{RecordPath(graphics, path)});
+    graphics.list->primitives.emplace_back(ClipIn{*recorded});
     graphics.clipped = true;
 }
 
 void GdipSetClipRectI(Graphics& graphics, int x, int y, int width, int height) {
-    if (graphics.list == nullptr || width <= 0 || height <= 0) return;
+    if (width <= 0 || height <= 0) return;
     GraphicsPath& path = ScratchPath(graphics);
     AddRectangle(path, x, y, width, height);
-    graphics.list->primitives.emplace_back(ClipOut{RecordPath(graphics, path)});
+    const auto recorded = RecordPath(graphics, path);
+    if (!recorded) return;
+    graphics.list->primitives.emplace_back(ClipOut{*recorded});
     graphics.clipped = true;
 }
 

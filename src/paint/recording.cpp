@@ -5,14 +5,6 @@
 
 #include "base/angles.h"
 
-PaintPoint Map(const Matrix& m, double x, double y) {
-    return {static_cast<float>(m.a * x + m.c * y + m.e), static_cast<float>(m.b * x + m.d * y + m.f)};
-}
-
-bool IsNear(PaintPoint p) {
-    return std::fabs(p.x) <= kFarthest && std::fabs(p.y) <= kFarthest;
-}
-
 Growth GrowthOf(const Matrix& m) {
     constexpr double kNothing = 1e-12;
     if (m.b == 0 && m.c == 0 && m.a > 0 && m.d > kNothing)
@@ -36,17 +28,28 @@ bool IsDrawable(const Graphics& graphics, const GraphicsPath& path) {
                                [&](PaintPoint p) { return IsNear(Map(graphics.world, p.x, p.y)); });
 }
 
-PaintPath RecordPath(Graphics& graphics, const GraphicsPath& path) {
+std::optional<PaintPath> RecordPath(Graphics& graphics, const GraphicsPath& path) {
+    if (graphics.list == nullptr || path.points.size() < 2) return {};
     DrawList& list = *graphics.list;
     const std::size_t verbs = list.verbs.size(), points = list.points.size();
-    list.verbs.insert(list.verbs.end(), path.verbs.begin(), path.verbs.end());
     list.points.resize(points + path.points.size());
-    std::ranges::transform(path.points, list.points.begin() + static_cast<std::ptrdiff_t>(points),
-                           [&](PaintPoint p) { return Map(graphics.world, p.x, p.y); });
-    return {RangeOf(verbs, list.verbs.size()), RangeOf(points, list.points.size()), path.winding};
+    const Matrix world = graphics.world;
+    PaintPoint* mapped = list.points.data() + points;
+    bool is_near = true;
+    for (const PaintPoint& point : path.points) {
+        *mapped = Map(world, point.x, point.y);
+        is_near &= IsNear(*mapped++);
+    }
+    if (!is_near) {
+        list.points.resize(points);
+        return {};
+    }
+    list.verbs.insert(list.verbs.end(), path.verbs.begin(), path.verbs.end());
+    return PaintPath{RangeOf(verbs, list.verbs.size()), RangeOf(points, list.points.size()), path.winding};
 }
 
 void RecordFill(Graphics& graphics, const GraphicsPath& path, Argb colour) {
     if (colour >> 24 == 0) return;
-    graphics.list->primitives.emplace_back(FillPath{RecordPath(graphics, path), colour});
+    if (const auto recorded = RecordPath(graphics, path))
+        graphics.list->primitives.emplace_back(FillPath{*recorded, colour});
 }

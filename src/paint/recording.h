@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 
 #include "paint/graphics_types.h"
 
@@ -10,10 +11,14 @@
 /// Coordinates and widths beyond this are errors of whoever computed them, and too large for those who paint.
 constexpr float kFarthest = 1e6f;
 
-PaintPoint Map(const Matrix& m, double x, double y);
+inline PaintPoint Map(const Matrix& m, double x, double y) {
+    return {static_cast<float>(m.a * x + m.c * y + m.e), static_cast<float>(m.b * x + m.d * y + m.f)};
+}
 
 /// False for a coordinate that is no number, too.
-bool IsNear(PaintPoint p);
+inline bool IsNear(PaintPoint p) {
+    return p.x >= -kFarthest && p.x <= kFarthest && p.y >= -kFarthest && p.y <= kFarthest;
+}
 
 /// An empty path for one figure or clip, good until the next is made; its storage stays.
 GraphicsPath& ScratchPath(Graphics& graphics);
@@ -31,8 +36,8 @@ PaintRange RangeOf(std::size_t first, std::size_t end);
 /// There is a list, and the path has points for a figure, all near.
 bool IsDrawable(const Graphics& graphics, const GraphicsPath& path);
 
-/// Puts the path, which is drawable, into the list's arrays.
-PaintPath RecordPath(Graphics& graphics, const GraphicsPath& path);
+/// Puts a path into the list's arrays; nothing, and nothing recorded, for one that isn't drawable.
+std::optional<PaintPath> RecordPath(Graphics& graphics, const GraphicsPath& path);
 
-/// Fills the path, which is drawable, with one colour; nothing with one that can't be seen.
+/// Fills a path with one colour; nothing with one that can't be seen, or when the path isn't drawable.
 void RecordFill(Graphics& graphics, const GraphicsPath& path, Argb colour);

@@ -8,23 +8,26 @@
 
 namespace {
 
-// Turned, mirrored or scaled alike both ways: a pen stays round.
-bool KeepsCircles(const Matrix& m) {
+// Turned, mirrored or scaled alike both ways, a pen stays round.
+Growth GrowthOfPen(const Matrix& m) {
     const double run = m.a * m.a + m.b * m.b, rise = m.c * m.c + m.d * m.d;
-    return std::fabs(run - rise) <= 1e-4 * run && std::fabs(m.a * m.c + m.b * m.d) <= 1e-4 * run;
+    const bool stays_round =
+        std::fabs(run - rise) <= 1e-4 * run && std::fabs(m.a * m.c + m.b * m.d) <= 1e-4 * run;
+    if (!stays_round) return GrowthOf(m);
+    return {run == 1 ? 1 : std::sqrt(run), {}};
 }
 
 void StrokeOnce(Graphics& graphics, const Pen& pen, const GraphicsPath& path, double width) {
+    const auto recorded = RecordPath(graphics, path);
+    if (!recorded) return;
     DrawList& list = *graphics.list;
-    const Matrix& world = graphics.world;
-    const Growth growth =
-        KeepsCircles(world) ? Growth{std::sqrt(world.a * world.a + world.b * world.b), {}} : GrowthOf(world);
+    const Growth growth = GrowthOfPen(graphics.world);
     constexpr float kThinnest = 1;  // below it a pen is a line of one pixel, and its dashes count in these
     const auto scale = static_cast<float>(growth.height);
     const std::size_t dashes = list.dashes.size();
     const float dash_unit = std::max(pen.width * scale, kThinnest);
     for (const float dash : pen.dashes.All()) list.dashes.push_back(dash * dash_unit);
-    StrokePath stroke{RecordPath(graphics, path), pen.colour, static_cast<float>(width) * scale};
+    StrokePath stroke{*recorded, pen.colour, static_cast<float>(width) * scale};
     stroke.dashes = RangeOf(dashes, list.dashes.size());
     if (stroke.width * std::max(growth.axes.stretch, 1.0f) > kThinnest) stroke.axes = growth.axes;
     list.primitives.emplace_back(stroke);
@@ -55,13 +58,16 @@ void DrawWithArrow(Graphics& graphics, const Pen& pen, const GraphicsPath& path)
         line.points[count - 1] = base;
         StrokeOnce(graphics, pen, line, pen.width);
     }
-    if (IsDrawable(graphics, head)) RecordFill(graphics, head, pen.colour);
+    RecordFill(graphics, head, pen.colour);
 }
 
 }  // namespace
 
 void Stroke(Graphics& graphics, const Pen& pen, const GraphicsPath& path) {
-    if (!IsDrawable(graphics, path) || !(pen.width >= 0 && pen.width <= kFarthest)) return;
+    if (!(pen.width >= 0 && pen.width <= kFarthest)) return;
+    if (pen.compound.count < 2 && !(pen.end_cap.height > 0))
+        return StrokeOnce(graphics, pen, path, pen.width);
+    if (!IsDrawable(graphics, path)) return;
     if (pen.compound.count >= 2) {
         for (std::size_t i = 0; i + 1 < pen.compound.count; i += 2) {
             const double from = pen.compound.values[i], to = pen.compound.values[i + 1];
@@ -69,9 +75,7 @@ void Stroke(Graphics& graphics, const Pen& pen, const GraphicsPath& path) {
             StrokeOnce(graphics, pen, OffsetPath(path, ((from + to) / 2 - 0.5) * pen.width),
                        (to - from) * pen.width);
         }
-    } else if (pen.end_cap.height > 0) {
-        DrawWithArrow(graphics, pen, path);
     } else {
-        StrokeOnce(graphics, pen, path, pen.width);
+        DrawWithArrow(graphics, pen, path);
     }
 }
