@@ -6,6 +6,7 @@
 namespace host {
 
 constexpr double kMetresPerFoot = 0.3048;
+constexpr double kFeetPerNm = 6076.115;
 constexpr double kKnotsPerMps = 3600.0 / 1852;
 constexpr double kGravity = 9.80665;  // m/s^2
 constexpr double kStandardHpa = 1013.25;

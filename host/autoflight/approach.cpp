@@ -1,4 +1,5 @@
 #include "host/autoflight/approach.h"
+#include "host/aircraft/air.h"
 
 #include <algorithm>
 #include <cmath>
@@ -11,7 +12,7 @@
 namespace host {
 namespace {
 
-constexpr double kFeetPerNm = 6076.115, kFpsPerKnot = kFeetPerNm / 3600;
+constexpr double kFpsPerKnot = kFeetPerNm / 3600;
 constexpr double kNeedleFull = 127;          // two dots
 constexpr double kSlopeTangent = 0.0524078;  // of 3 degrees
 

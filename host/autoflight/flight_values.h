@@ -1,8 +1,10 @@
 #pragma once
 
+#include "host/aircraft/air.h"
+
 namespace host {
 
-constexpr double kFeetPerMinutePerKnot = 6076.115 / 60;
+constexpr double kFeetPerMinutePerKnot = kFeetPerNm / 60;
 
 /// What the autopilot measures, from tokens and expressions. Degrees, knots, feet; right, up and climb
 /// positive.

@@ -1,4 +1,5 @@
 #include "host/fly/fly.h"
+#include "host/aircraft/air.h"
 
 #include <chrono>
 #include <cmath>
@@ -146,7 +147,6 @@ void PrintEnd(const RouteFlight& route, double wall_seconds) {
         std::printf("\nAt the last fix");
     else {
         const RunwayPosition at = PositionBefore(runway, AircraftNumber("lat"), AircraftNumber("lon"));
-        constexpr double kFeetPerNm = 6076.115;
         std::printf("\nStopped on runway %s, %.0f ft past the threshold, %.0f ft from the centre line,",
                     runway.name.c_str(), -at.before * kFeetPerNm, std::fabs(at.right) * kFeetPerNm);
     }

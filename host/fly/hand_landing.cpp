@@ -1,4 +1,5 @@
 #include "host/fly/hand_landing.h"
+#include "host/aircraft/air.h"
 
 #include <algorithm>
 #include <cmath>
@@ -11,8 +12,8 @@
 namespace host {
 namespace {
 
-constexpr int kAxisElevator = 0x100e2, kAxisAilerons = 0x100e3, kAxisRudder = 0x100e4, kSetLevers = 0x100a1;
-constexpr double kFullAxis = 16383, kFeetPerNm = 6076.115;
+constexpr int kAxisElevator = 0x100e2, kAxisAilerons = 0x100e3, kAxisRudder = 0x100e4;
+constexpr double kFullAxis = 16383;
 
 void MoveAxis(Session& session, int event, double share) {
     ApplyDeckCommand(session, {.kind = DeckCommand::kKeyEvent,

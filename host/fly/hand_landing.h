@@ -8,6 +8,8 @@
 
 namespace host {
 
+constexpr int kSetLevers = 0x100a1;  // key event
+
 struct HandLanding {
     bool flies = false;     // the autopilot has been let go
     bool retarded = false;  // the autothrottle too, the levers are back

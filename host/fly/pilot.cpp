@@ -13,7 +13,7 @@ namespace host {
 namespace {
 
 // The autopilot's own events, as a hardware panel sends them, and those of the levers.
-constexpr int kSetAltitude = 0x1024c, kSetSpeed = 0x101f5, kSetHeading = 0x101fa, kSetLevers = 0x100a1;
+constexpr int kSetAltitude = 0x1024c, kSetSpeed = 0x101f5, kSetHeading = 0x101fa;
 constexpr int kArmSpoilers = 0x10214, kSetSpoilers = 0x10205, kToGa = 0x10145;
 constexpr int kTuneNav1 = 0x100ac;
 constexpr double kReverse = -4096;
@@ -23,7 +23,7 @@ constexpr int kModeVnavSpeed = 5, kModeVnavPath = 6, kModeLocalizer = 7, kModeFi
               kModeGlideSlope = 10, kModeFlare = 11, kModeGlidePath = 13;
 
 constexpr double kSetUpSeconds = 3, kTakeoffSeconds = 20;  // of the pilot's work
-constexpr double kFeetPerNm = 225;                         // of the descent, where nobody plans it
+constexpr double kDescentFeetPerNm = 225;                  // of the descent, where nobody plans it
 
 void Set(Session& session, int event, double value) {
     ApplyDeckCommand(session,
@@ -189,7 +189,7 @@ double PlatformAltitude(const Pilot& pilot) {
 }
 
 double DistanceToLevel(double altitude) {
-    return (Flown().altitude - altitude) / kFeetPerNm;
+    return (Flown().altitude - altitude) / kDescentFeetPerNm;
 }
 
 void Climb(Pilot& pilot, Session& session, double to_go_nm) {
@@ -275,7 +275,7 @@ struct Gate {
 Gate GateOf(const Pilot& pilot, const RunwayPosition& here) {
     constexpr double kGate = 16, kAside = 4;
     const double too_high = std::max(Flown().altitude - PlatformAltitude(pilot) - 300, 0.0);
-    const double out = kGate + too_high / kFeetPerNm;
+    const double out = kGate + too_high / kDescentFeetPerNm;
     const double side = here.right < 0 ? -kAside : kAside;
     Gate gate{here.before - out, side - here.right, 0, too_high == 0};
     gate.miles = std::hypot(gate.ahead, gate.across) + std::hypot(out, kAside);

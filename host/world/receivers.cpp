@@ -1,4 +1,5 @@
 #include "host/world/receivers.h"
+#include "host/aircraft/air.h"
 
 #include <algorithm>
 #include <array>
@@ -16,7 +17,7 @@
 namespace host {
 namespace {
 
-constexpr double kFeetPerNm = 6076.115, kNmPerRadian = 3437.7467707849396;
+constexpr double kNmPerRadian = 3437.7467707849396;
 constexpr double kNeedleFull = 127;
 
 struct Station {

@@ -17,7 +17,7 @@ namespace {
 
 constexpr int kIasMode = 1, kMachMode = 2;
 constexpr double kNoLevelAhead = 999;
-constexpr double kNearFix = 25, kNearLevel = 15;  // nm
+constexpr double kNearFix = 25, kNearLevelNm = 15;  // nm
 constexpr int kTransitionDone = 1, kRestrictionDone = 2;
 
 bool IsDescending() {
@@ -90,7 +90,7 @@ void AskForDrag() {
         return;
     }
     if (cfg.FmcDispDragReqMsg != 1 || !LevelsOffAhead() || !patient) return;
-    if (vnav.level_off_dist >= kNearLevel || sim.ias_kt <= vnav.vnav_ias + kTooFast || !stays_fast) return;
+    if (vnav.level_off_dist >= kNearLevelNm || sim.ias_kt <= vnav.vnav_ias + kTooFast || !stays_fast) return;
     PostCduMessage(kDragRequired, kAdvisory, kHelpDragRequired, kBothSides);
     vnav.drag_msg_changed_at = sim.abs_time;
 }
@@ -111,7 +111,7 @@ void AimInDescent() {
     vnav.level_off_dist = level == vnav.cross_at_elev ? vnav.cross_at_nm : DistanceToLevel(level);
     const bool above_transition = sim.ind_alt_ft > cfg.DescTransAltRest;
     const FlightPlanLeg& to = ToLeg();
-    if (level == vnav.cross_at_elev && vnav.level_off_dist < kNearLevel && HasSpeedRestr(to) &&
+    if (level == vnav.cross_at_elev && vnav.level_off_dist < kNearLevelNm && HasSpeedRestr(to) &&
         to.ias_restr > 0) {
         if (above_transition) return AimAtSpeed(SpeedRule::kLevelOffAboveTransition, TransitionSpeed());
         LowerSpeeds(to.ias_restr);
@@ -119,14 +119,15 @@ void AimInDescent() {
     }
     const double limit = perf.spd_limit > 0 ? perf.spd_limit : cfg.DescTransSpdRest;
     const bool near_transition =
-        !above_transition || (level == cfg.DescTransAltRest && vnav.level_off_dist < kNearLevel);
+        !above_transition || (level == cfg.DescTransAltRest && vnav.level_off_dist < kNearLevelNm);
     if (near_transition && limit > 0 && limit < perf.speeds.descent_ias)
         return AimAtSpeed(SpeedRule::kDescentBelowTransition, limit);
     if (vnav.vnav_spd_mode == kMachMode) return AimAtMach(SpeedRule::kDescentMach, perf.speeds.descent_mach);
     for (int i = plan.active.stpos; i <= plan.active.leg_cnt; ++i) {
         const FlightPlanLeg& leg = FlightPlanLegAt(i);
         if (!HasSpeedRestr(leg) || IsOfMissedApproach(leg)) continue;
-        if (leg.ias_restr > 0 && FromAircraft(leg.lat, leg.lon).dist < kNearLevel) LowerSpeeds(leg.ias_restr);
+        if (leg.ias_restr > 0 && FromAircraft(leg.lat, leg.lon).dist < kNearLevelNm)
+            LowerSpeeds(leg.ias_restr);
         break;
     }
     AimAtSpeed(SpeedRule::kDescentIas, perf.speeds.descent_ias);
@@ -216,7 +217,7 @@ void LimitInDescent(double altitude, double speed, int done, SpeedRule rule) {
     constexpr double kAbove = 100, kClose = 500;  // ft
     const double above = sim.ind_alt_ft - altitude;
     if (altitude <= 0 || speed <= 0 || above <= kAbove || (vnav.spd_limit_done & done) != 0) return;
-    if (above >= kClose && DistanceToLevel(altitude) >= kNearLevel) return;
+    if (above >= kClose && DistanceToLevel(altitude) >= kNearLevelNm) return;
     if (sim.ap_spdbug <= speed) return;
     vnav.spd_limit_done |= done;
     AimAtSpeed(rule, speed);

@@ -155,10 +155,24 @@ TEST(Tidy, NoObjectOfANamespaceChangesOutsideState) {
     }
 }
 
-TEST(Tidy, AFolderHasEachNameOnce) {
-    // What an unnamed namespace names, at the left edge: the name, and a function's parameters with it.
-    const std::regex naming(
+// What a line at the left edge of an unnamed namespace names; a function with its parameters.
+std::vector<std::string> NamesGivenBy(const std::string& code) {
+    static const std::regex kConstant(R"(\b(k[A-Z]\w*)(?:\[[^\]]*\])?(?: = |\{))");
+    static const std::regex kOther(
         R"(^(?:(?:struct|enum class|class|enum) |[A-Za-z_][\w:<>,*& ]*[ *&])(\w+(?:\([^)]*\)?)?)[ ;={\[:])");
+    static const std::regex kNoName(R"(^(?:namespace|using|extern|template)\b)");
+    if (code.empty() || code[0] == ' ' || std::regex_search(code, kNoName)) return {};
+    std::vector<std::string> names;
+    if (code.starts_with("constexpr"))
+        for (auto at = std::sregex_iterator(code.begin(), code.end(), kConstant);
+             at != std::sregex_iterator(); ++at)
+            names.push_back(at->str(1));
+    std::smatch found;
+    if (names.empty() && std::regex_search(code, found, kOther)) names.push_back(found[1]);
+    return names;
+}
+
+TEST(Tidy, AFolderHasEachNameOnce) {
     std::map<std::string, std::string> places;
     for (const char* top : {"src", "host", "tests"})
         for (const fs::path& file : SourceFiles(top)) {
@@ -168,17 +182,15 @@ TEST(Tidy, AFolderHasEachNameOnce) {
             for (const Line& line : LinesOf(file)) {
                 if (line.text == "namespace {") unnamed = true;
                 if (line.text == "}  // namespace") unnamed = false;
-                std::smatch found;
-                const std::string code = CodeOf(line.text);
-                if (!unnamed || code.starts_with("namespace") || code.starts_with("using") ||
-                    code.starts_with("extern") || code.starts_with("template") ||
-                    !std::regex_search(code, found, naming))
-                    continue;
-                const auto [place, is_new] = places.emplace(folder + " " + found.str(1), line.where);
-                const std::string file_name = line.where.substr(0, line.where.find(':'));
-                EXPECT_TRUE(is_new || place->second.starts_with(file_name + ":"))
-                    << line.where << ": " << found[1] << " stands at " << place->second
-                    << " too: share it, or tell the two apart (sanitizer builds join the files of a folder)";
+                if (!unnamed) continue;
+                for (const std::string& name : NamesGivenBy(CodeOf(line.text))) {
+                    const auto [place, is_new] = places.emplace(folder + " " + name, line.where);
+                    const std::string file_name = line.where.substr(0, line.where.find(':'));
+                    EXPECT_TRUE(is_new || place->second.starts_with(file_name + ":"))
+                        << line.where << ": " << name << " stands at " << place->second
+                        << " too: share it, or tell the two apart (sanitizer builds join the files of a "
+                           "folder)";
+                }
             }
         }
 }

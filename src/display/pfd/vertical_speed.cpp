@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr double kFastest = 6000;  // fpm, at the end of the scale
+constexpr double kScaleEnd = 6000;  // fpm, at the end of the scale
 
 struct ScaleMark {
     double units;
@@ -38,16 +38,16 @@ void DrawAdvisoryBands(Graphics& graphics) {
     constexpr double kX = 148, kEnd = 70;
     if (traffic.tcas_ra_level <= 0) return;
     const Pen pen = PenOf(kPfdRed, 4);
-    if (traffic.tcas_ra_vs_max <= kFastest)
+    if (traffic.tcas_ra_vs_max <= kScaleEnd)
         GdipDrawLine(graphics, pen, kX, -kEnd, kX, -VerticalSpeedUnits(traffic.tcas_ra_vs_max));
-    if (traffic.tcas_ra_vs_min >= -kFastest)
+    if (traffic.tcas_ra_vs_min >= -kScaleEnd)
         GdipDrawLine(graphics, pen, kX, kEnd, kX, -VerticalSpeedUnits(traffic.tcas_ra_vs_min));
 }
 
 }  // namespace
 
 double VerticalSpeedUnits(double fpm) {
-    const double v = Bounded(std::fabs(fpm), 0, kFastest);
+    const double v = Bounded(std::fabs(fpm), 0, kScaleEnd);
     const double units = v < 1000 ? 0.028 * v : v < 2000 ? 28 + 0.02 * (v - 1000) : 48 + 0.004 * (v - 2000);
     return fpm < 0 ? -units : units;
 }
