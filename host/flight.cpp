@@ -50,12 +50,23 @@ void FollowTerrain() {
     aircraft.ground_elevation = GroundFeet(Latitude(aircraft), Longitude(aircraft));
 }
 
-// A stick that is let go holds the path, wings level.
-void FollowStick(const Stick& stick, FlightControls& controls) {
-    constexpr double kPathRate = 2, kMostBank = 30, kSteeringRate = 4;  // degrees a second, degrees
-    controls.path += stick.pitch * kPathRate * kTick;
+// A stick that is let go holds the path, wings level. On the wheels it only lifts the nose; in the air it
+// never asks for more than the aircraft can follow soon, so that nothing winds up.
+void FollowStick(const Stick& stick, Aircraft& aircraft) {
+    constexpr double kPathRate = 2, kMostBank = 30, kSteeringRate = 4;           // degrees a second, degrees
+    constexpr double kMostAhead = 5, kLiftOffPath = 8, kPerKnot = 1.2;           // degrees; degrees a second
+    constexpr double kTrimPath = 0.1, kTrimUnits = 0.1, kLeast = 0, kMost = 15;  // degrees, units
+    FlightControls& controls = aircraft.controls;
+    const double most = std::min(kSteeringRate, aircraft.ground_speed * kPerKnot);
     controls.bank = stick.roll * kMostBank;
-    controls.steering = stick.pedals * kSteeringRate;
+    controls.steering = stick.pedals * most;
+    if (aircraft.on_ground) {
+        controls.path = stick.pitch * kLiftOffPath;
+        aircraft.trim = std::clamp(aircraft.trim + stick.trim_clicks * kTrimUnits, kLeast, kMost);
+        return;
+    }
+    controls.path += stick.pitch * kPathRate * kTick + stick.trim_clicks * kTrimPath;
+    controls.path = std::clamp(controls.path, aircraft.path - kMostAhead, aircraft.path + kMostAhead);
 }
 
 }  // namespace
@@ -133,9 +144,12 @@ void StepFlight(bool moves) {
     }
     TakeControlsFromTokens(aircraft);
     FollowTerrain();
-    const AutoflightCommands commands = StepAutoflight(flight.autoflight, kTick);
+    AutoflightCommands commands = StepAutoflight(flight.autoflight, kTick);
+    if (world.stick.in_hand) commands.flies = flight.autoflight.engaged;
     FollowCommands(commands, aircraft.controls);
-    if (!commands.flies) FollowStick(world.stick, aircraft.controls);
+    if (!commands.flies) FollowStick(world.stick, aircraft);
+    world.stick.trim_clicks = 0;
+    aircraft.controls.wheel_brakes = std::max(aircraft.controls.wheel_brakes, world.stick.brakes);
     StepAircraft(aircraft, kTick);
     FillTokens(aircraft);
     StepReceivers(

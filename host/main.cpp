@@ -27,6 +27,9 @@ int main(int argc, char** argv) {
                                           "no flight deck; as fast as the machine allows, to the end");
     fly->add_flag("--cold", fly_options.cold, "on the ground, everything off; the flight is yours")
         ->excludes(headless);
+    fly->add_flag("--no-pilot", fly_options.no_pilot,
+                  "on the runway with the route entered, and nobody flies but you")
+        ->excludes(headless);
     fly->add_option("--record", fly_options.record,
                     "write what pilots and host do to this new file, a scenario for tz900 run");
     fly->add_option("--plot", fly_options.plot,

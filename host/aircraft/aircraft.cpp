@@ -262,7 +262,8 @@ void StepAircraft(Aircraft& aircraft, double dt) {
     constexpr double kFlapTime = 40, kGearTime = 10, kBrakeTime = 1.5;  // s, from end to end
     aircraft.wind_kt = WindHere(aircraft);
     aircraft.flaps = Towards(aircraft.flaps, aircraft.controls.flaps, kFullFlaps * dt / kFlapTime);
-    aircraft.gear = Towards(aircraft.gear, aircraft.controls.gear, dt / kGearTime);
+    // On the wheels a lock keeps the gear down, whatever its lever says.
+    aircraft.gear = Towards(aircraft.gear, aircraft.on_ground ? 1 : aircraft.controls.gear, dt / kGearTime);
     const bool by_itself = aircraft.on_ground && aircraft.brakes.landed && aircraft.controls.armed_spoilers;
     aircraft.speedbrake =
         Towards(aircraft.speedbrake, by_itself ? 1 : aircraft.controls.speedbrake, dt / kBrakeTime);

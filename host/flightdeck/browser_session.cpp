@@ -24,6 +24,8 @@ BrowserSession::BrowserSession(Exchange& exchange)
 }
 
 BrowserSession::~BrowserSession() {
+    for (const std::string& lever : held_)
+        QueueCommand(exchange_, {.kind = DeckCommand::kLever, .name = lever, .value = 0});
     std::erase(exchange_.browsers, this);
 }
 
@@ -63,8 +65,21 @@ std::string BrowserSession::Take(const std::string& text, bool is_text) {
     }
     DeckCommand command{};
     if (const std::string reason = ReadCommand(message, type, command); !reason.empty()) return reason;
+    NoteHeld(command);
     QueueCommand(exchange_, std::move(command));
     return {};
+}
+
+// A browser that goes has no hand on anything any more.
+void BrowserSession::NoteHeld(const DeckCommand& command) {
+    if (command.kind != DeckCommand::kLever) return;
+    for (const char* lever : {"elevator", "aileron", "rudder", "brakes"}) {
+        if (command.name != lever) continue;
+        if (command.value != 0)
+            held_.insert(command.name);
+        else
+            held_.erase(command.name);
+    }
 }
 
 // A browser forgets a screen that it doesn't want, and begins anew when it wants it again.

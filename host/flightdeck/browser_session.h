@@ -40,6 +40,7 @@ class BrowserSession {
 
   private:
     bool TakeFromAllowance();
+    void NoteHeld(const DeckCommand& command);
     std::string TakeScreens(const std::set<std::string>& names);
     std::string NextPictures();
 
@@ -47,6 +48,7 @@ class BrowserSession {
     bool greeting_due_ = false;
     std::map<std::string, std::string> changed_;
     std::set<std::string> watched_;
+    std::set<std::string> held_;  // levers that spring back, which this browser holds
     std::array<bool, kScreens.size()> screens_wanted_{};
     std::array<PictureStream, kScreens.size()> streams_;
     std::chrono::steady_clock::time_point last_write_{}, last_message_;

@@ -4,9 +4,12 @@
 #include <cmath>
 #include <cstdio>
 
+#include "host/flight.h"
+#include "host/flightdeck/control_sharing.h"
 #include "host/inspection.h"
 #include "host/scenario/words.h"
 #include "host/screens.h"
+#include "host/world/key_event_effects.h"
 #include "host/world/world.h"
 
 namespace host {
@@ -47,19 +50,46 @@ void SetVariable(Session& session, const std::string& name, double value) {
     SetNamedValue(name, value);
 }
 
+// A lever is a handle's token or an axis's key event.
+struct Lever {
+    std::string_view name;
+    int token, event;
+    double low, high;  // of its value
+    double full;       // raw, at 1
+};
+constexpr Lever kLevers[] = {
+    {"flaps", 328, 0, 0, 1, 16384},
+    {"gear", 331, 0, 0, 1, 1},  // 1 down
+    {"thrust", 0, 0x100a1, kFullReverse, 1, 16384},
+    {"elevator", 0, 0x100e2, -1, 1, 16383},  // nose up
+    {"aileron", 0, 0x100e3, -1, 1, 16383},   // right wing down
+    {"rudder", 0, 0x100e4, -1, 1, 16383},    // nose right; steers on the ground
+    {"brakes", 0, kKeyBrakes, 0, 1, 16383},
+    {"trim", 0, kKeyTrim, -1, 1, 1},  // a click, nose up
+    {"speedbrake", 0, 0x10205, 0, 1, 16384},
+    {"speedbrake_arm", 0, 0x10214, 0, 1, 1},
+};
+
 void MoveLever(Session& session, const std::string& name, double value) {
-    struct Lever {
-        std::string_view name;
-        int token;
-        double full;
-    };
-    constexpr Lever kLevers[] = {{"flaps", 328, 16384}, {"gear", 331, 1}};
+    if (!std::isfinite(value)) return;
     for (const Lever& lever : kLevers) {
         if (lever.name != name) continue;
-        const double raw = std::round(std::clamp(value, 0.0, 1.0) * lever.full);
+        const double raw = std::round(std::clamp(value, lever.low, lever.high) * lever.full);
+        if (lever.event != 0) return SendKey(session, lever.event, static_cast<int>(raw));
         Record(session.recorder, {"token", std::to_string(lever.token), NumberText(raw)});
         SetToken(lever.token, raw);
     }
+}
+
+// Who puts his hands to it overpowers what moves it by itself: the levers' autothrottle at once, the
+// autopilot by a push that is no slip.
+void Overpower(Session& session, const std::string& lever, double value) {
+    constexpr double kPush = 0.5;
+    const bool at_work = flight.autoflight.throttle != kThrottleNone;
+    if (lever == "thrust" && at_work)
+        for (const char* arm : {"at_armed_left", "at_armed_right"}) SetVariable(session, arm, 0);
+    const bool pushes = (lever == "elevator" || lever == "aileron") && std::fabs(value) > kPush;
+    if (pushes && flight.autoflight.engaged) SetVariable(session, "TZ_AP_DISENGAGE_Switch_Right", 1);
 }
 
 // "TZ_FMC_L" of "TZ_FMC_L_A_Button".
@@ -95,7 +125,14 @@ void ApplyDeckCommand(Session& session, const DeckCommand& command) {
             SendKey(session, static_cast<int>(command.value), static_cast<int>(command.x));
             break;
         case DeckCommand::kLever:
+            Overpower(session, command.name, command.value);
             MoveLever(session, command.name, command.value);
+            break;
+        case DeckCommand::kControl:
+            if (world.pilot_does.empty()) break;
+            if (command.value == 0) world.given_back |= world.user_has;
+            world.user_has = command.value != 0 ? kAllThings : 0;
+            SendKey(session, command.value != 0 ? kKeyTakeStick : kKeyLetStickGo, 0);
             break;
         case DeckCommand::kPause:
             SetPause(session, command.value != 0);

@@ -23,9 +23,10 @@ struct DeckCommand {
         kMouse,          // name (a screen), x, y in its logical frame, right
         kMouseArea,      // name (a gauge), text (the area's name), right
         kKeyEvent,       // value (the event), x (its value)
-        kLever,          // name "flaps" or "gear", value 0 up to 1 down: the pilot's own hardware
+        kLever,          // name and value: the pilot's own hardware, see the table in commands.cpp
         kPause,          // value 0 or 1
         kRate,           // value: times real time, 0 to 64
+        kControl,        // value 1: the user has control, 0: the demonstration's pilot has it again
     };
     Kind kind;
     std::string name = {};

@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "host/flight.h"
+#include "host/flightdeck/control_sharing.h"
 #include "host/flightdeck/messages.h"
 #include "host/inspection.h"
 #include "host/scenario/words.h"
@@ -27,6 +28,7 @@ std::string ShortNumber(double value) {
 std::optional<std::string> HostValue(std::string_view name) {
     if (name == "rate") return ShortNumber(world.sim_rate);
     if (name == "pilot") return world.pilot_does;
+    if (name == "user_has") return TellWhatUserHas();
     if (name == "paused") return world.paused ? "1" : "0";
     if (name == "clock") {
         char text[16];

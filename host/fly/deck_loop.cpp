@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "host/flightdeck/commands.h"
+#include "host/flightdeck/control_sharing.h"
 #include "host/flightdeck/deck.h"
 #include "host/flightdeck/values.h"
 #include "host/inspection.h"
@@ -71,7 +72,7 @@ PictureSource PicturesOf(const InspectionTable& inspection, const std::atomic<bo
 
 bool ApplyDuePresses(Session& session, PressQueue& presses) {
     const std::vector<DeckCommand> due = TakeDuePresses(presses);
-    for (const DeckCommand& press : due) ApplyDeckCommand(session, press);
+    for (const DeckCommand& press : due) ApplyUserCommand(session, press);
     return !due.empty();
 }
 
@@ -80,7 +81,7 @@ void TakeCommands(Session& session, FlightDeck& deck, PressQueue& presses) {
         if (command.kind == DeckCommand::kPress)
             QueuePress(presses, command.name, command.value);
         else
-            ApplyDeckCommand(session, command);
+            ApplyUserCommand(session, command);
     }
     ApplyDuePresses(session, presses);
 }

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "host/flight.h"
+#include "host/flightdeck/commands.h"
 #include "host/fly/deck_loop.h"
 #include "host/fly/flight_log.h"
 #include "host/fly/path_plot.h"
@@ -15,6 +16,7 @@
 #include "host/fly/start.h"
 #include "host/process.h"
 #include "host/scenario/words.h"
+#include "host/world/key_event_effects.h"
 #include "host/world/world.h"
 
 namespace host {
@@ -116,8 +118,10 @@ void StepRoute(Session& session, RouteFlight& route) {
     way.to_go += to_fix;
     way.to_limit += to_fix;
     const Pilot::Phase before = route.pilot.phase;
-    StepPilot(route.pilot, session, way);
-    world.pilot_does = TellWhatPilotDoes(route.pilot);
+    if (!world.pilot_does.empty()) {
+        StepPilot(route.pilot, session, way);
+        world.pilot_does = TellWhatPilotDoes(route.pilot);
+    }
     if (route.pilot.phase != before) TellPhase(route.pilot.phase);
     if (!flight.aircraft.on_ground) route.log.touchdown_fuel = AircraftNumber("fuel");
     KeepLog(session, route);
@@ -188,6 +192,10 @@ int Fly(const FlyOptions& given) {
     RouteFlight route;
     route.arrived = options.cold;  // there is none
     if (!options.cold) route = BeginFlight(session);
+    if (options.cold || options.no_pilot)
+        ApplyDeckCommand(session, {.kind = DeckCommand::kKeyEvent, .value = kKeyTakeStick});
+    else
+        world.pilot_does = TellWhatPilotDoes(route.pilot);
     const auto each_second = [&] {
         StepRoute(session, route);
         if (!options.plot.empty() && options.headless && route.in_the_air) StepPlot(session, plot);

@@ -18,6 +18,7 @@ struct FlyOptions {
     bool headless = false;     // as fast as the machine allows, to the end, without a flight deck
     double rate = 1;           // times real time, when not headless
     bool cold = false;         // on the ground, everything off, no route and nobody at the controls
+    bool no_pilot = false;     // with a route, but nobody at the controls
     std::vector<double> wind;  // direction it blows from (degrees true) and knots; empty = calm
     std::string record;        // file of the recording; empty = none
     std::string plot;          // SVG file of the paths drawn and flown, when headless; empty = none

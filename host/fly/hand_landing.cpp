@@ -5,7 +5,7 @@
 #include <cmath>
 
 #include "host/aircraft/angles.h"
-#include "host/flightdeck/commands.h"
+#include "host/flightdeck/control_sharing.h"
 #include "host/fly/runway.h"
 #include "host/world/world.h"
 
@@ -16,9 +16,9 @@ constexpr int kAxisElevator = 0x100e2, kAxisAilerons = 0x100e3, kAxisRudder = 0x
 constexpr double kFullAxis = 16383;
 
 void MoveAxis(Session& session, int event, double share) {
-    ApplyDeckCommand(session, {.kind = DeckCommand::kKeyEvent,
-                               .value = static_cast<double>(event),
-                               .x = std::round(std::clamp(share, -1.0, 1.0) * kFullAxis)});
+    ApplyPilotCommand(session, {.kind = DeckCommand::kKeyEvent,
+                                .value = static_cast<double>(event),
+                                .x = std::round(std::clamp(share, -1.0, 1.0) * kFullAxis)});
 }
 
 double Height() {
@@ -63,14 +63,14 @@ void StepHandLanding(HandLanding& landing, Session& session, const RunwayEnd& ru
     if (!landing.flies && Height() > kLetGo) return;
     if (!landing.flies) {
         landing.flies = true;
-        ApplyDeckCommand(
+        ApplyPilotCommand(
             session,
             {.kind = DeckCommand::kNamedVariable, .name = "TZ_AP_DISENGAGE_Switch_Right", .value = 1});
     }
     if (!landing.retarded && Height() < kRetard) {
         landing.retarded = true;
-        ApplyDeckCommand(session, {.kind = DeckCommand::kMouseArea, .name = "MCP", .text = "atarm"});
-        ApplyDeckCommand(session, {.kind = DeckCommand::kKeyEvent, .value = kSetLevers, .x = 0});
+        ApplyPilotCommand(session, {.kind = DeckCommand::kMouseArea, .name = "MCP", .text = "atarm"});
+        ApplyPilotCommand(session, {.kind = DeckCommand::kKeyEvent, .value = kSetLevers, .x = 0});
     }
     const RunwayPosition here = PositionBefore(runway, Latitude(flight.aircraft), Longitude(flight.aircraft));
     if (flight.aircraft.on_ground)

@@ -3,9 +3,10 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <utility>
 
 #include "host/aircraft/angles.h"
-#include "host/flightdeck/commands.h"
+#include "host/flightdeck/control_sharing.h"
 #include "host/inspection.h"
 #include "host/world/world.h"
 
@@ -19,27 +20,27 @@ constexpr int kTuneNav1 = 0x100ac;
 constexpr double kReverse = -4096;
 
 // Modes as the autopilot reports them.
-constexpr int kModeVnavSpeed = 5, kModeVnavPath = 6, kModeLocalizer = 7, kModeFinalCourse = 10,
+constexpr int kModeLnav = 6, kModeVnavSpeed = 5, kModeVnavPath = 6, kModeLocalizer = 7, kModeFinalCourse = 10,
               kModeGlideSlope = 10, kModeFlare = 11, kModeGlidePath = 13;
 
 constexpr double kSetUpSeconds = 3, kTakeoffSeconds = 20;  // of the pilot's work
 constexpr double kDescentFeetPerNm = 225;                  // of the descent, where nobody plans it
 
 void Set(Session& session, int event, double value) {
-    ApplyDeckCommand(session,
-                     {.kind = DeckCommand::kKeyEvent, .value = static_cast<double>(event), .x = value});
+    ApplyPilotCommand(session,
+                      {.kind = DeckCommand::kKeyEvent, .value = static_cast<double>(event), .x = value});
 }
 
 void Press(Session& session, const char* control) {
-    ApplyDeckCommand(session, {.kind = DeckCommand::kMouseArea, .name = "MCP", .text = control});
+    ApplyPilotCommand(session, {.kind = DeckCommand::kMouseArea, .name = "MCP", .text = control});
 }
 
 void MoveLever(Session& session, const char* lever, double value) {
-    ApplyDeckCommand(session, {.kind = DeckCommand::kLever, .name = lever, .value = value});
+    ApplyPilotCommand(session, {.kind = DeckCommand::kLever, .name = lever, .value = value});
 }
 
 void SetVariable(Session& session, const char* name, double value) {
-    ApplyDeckCommand(session, {.kind = DeckCommand::kNamedVariable, .name = name, .value = value});
+    ApplyPilotCommand(session, {.kind = DeckCommand::kNamedVariable, .name = name, .value = value});
 }
 
 double Number(const Session& session, const char* name) {
@@ -89,7 +90,7 @@ constexpr Setting kSettings[] = {
 void SetSwitches(Session& session, int second) {
     for (const Setting& setting : kSettings)
         if (setting.second == second)
-            ApplyDeckCommand(
+            ApplyPilotCommand(
                 session,
                 {.kind = DeckCommand::kNamedVariable, .name = setting.variable, .value = setting.value});
 }
@@ -249,7 +250,7 @@ void TuneLandingSystem(const Pilot& pilot, Session& session) {
         bcd |= digits % 10 << shift;
     if (hundredths == 0 || static_cast<int>(TokenOf(24)) == bcd) return;
     constexpr const char* kByHand = "2";  // a radio that the system leaves alone
-    ApplyDeckCommand(session, {.kind = DeckCommand::kStateVariable, .name = "VorLeftMode", .text = kByHand});
+    ApplyPilotCommand(session, {.kind = DeckCommand::kStateVariable, .name = "VorLeftMode", .text = kByHand});
     Set(session, kTuneNav1, bcd);
 }
 
@@ -425,9 +426,37 @@ void RollOut(Pilot& pilot, Session& session) {
     if (Flown().ground_speed < kStopped) pilot.phase = Pilot::kStopped;
 }
 
+// What users work, he sees as it stands.
+void SeeWhatUsersDid(Pilot& pilot, unsigned things) {
+    if ((things & kFlapLever) != 0) pilot.flaps = FlapAngleOfHandle(Flown().airframe, TokenOf(328));
+    if ((things & kGearLever) != 0) pilot.gear_up = TokenOf(331) == 0;
+    if ((things & kSpeedbrakeLever) != 0) pilot.speedbrake = TokenOf(325) > 0;
+    if ((things & kSpeedWindow) != 0) pilot.speed = 0;
+    if ((things & kHeadingWindow) != 0) pilot.heading = -1;
+    if ((things & kApproach) != 0) pilot.approach_armed = IsOnFinal() || NamedValue("ap_lat_mode_armed") != 0;
+}
+
+// Has the aircraft flown on by itself as the phase of flight wants it. What is left before the climb and near
+// the ground he does as it comes up.
+void TakeBack(Pilot& pilot, Session& session, unsigned things) {
+    constexpr double kAutopilot = 500;
+    if (Flown().on_ground || pilot.phase < Pilot::kClimb || HeightOverField() < kAutopilot) return;
+    if ((things & kThrustLevers) != 0 && NamedValue("at_armed_left") == 0) Press(session, "atarm");
+    if ((things & kStick) != 0 && NamedValue("ap_master_l") == 0) Press(session, "apl");
+    if (pilot.approach_armed || IsOnFinal()) return;
+    if ((things & (kStick | kHeadingWindow)) != 0 && NamedValue("ap_lat_mode") != kModeLnav)
+        Press(session, "lnav");
+    if ((things & (kStick | kAltitudeWindow)) == 0) return;
+    Set(session, kSetAltitude, pilot.window_reset ? PlatformAltitude(pilot) : pilot.cruise_ft);
+    if (!IsVnavEngaged()) Press(session, pilot.by_level_change ? "flch" : "vnav");
+}
+
 }  // namespace
 
 void StepPilot(Pilot& pilot, Session& session, const WayAhead& way) {
+    const unsigned given_back = std::exchange(world.given_back, 0);
+    SeeWhatUsersDid(pilot, given_back | world.user_has);
+    if (given_back != 0) TakeBack(pilot, session, given_back);
     switch (pilot.phase) {
         case Pilot::kSettingUp:
             return SetUp(pilot, session);

@@ -79,6 +79,11 @@ double ShareOfAxis(int value) {
     return std::clamp(value / kFull, -1.0, 1.0);
 }
 
+void MoveStick(double& axis, int value) {
+    axis = ShareOfAxis(value);
+    world.stick.in_hand = true;
+}
+
 // Steps the simulation rate by doubling or halving, 1/4 to 64.
 void ScaleRate(double factor) {
     world.sim_rate = std::clamp(world.sim_rate * factor, 0.25, 64.0);
@@ -95,13 +100,25 @@ void ApplyKeyEvent(int event, int value) {
             SendSimMessage(SimMessage::kEvent, 12, world.paused ? 1 : 0, nullptr);
             break;
         case 0x100e2:
-            world.stick.pitch = ShareOfAxis(value);
+            MoveStick(world.stick.pitch, value);
             break;
         case 0x100e3:
-            world.stick.roll = ShareOfAxis(value);
+            MoveStick(world.stick.roll, value);
             break;
         case 0x100e4:
-            world.stick.pedals = ShareOfAxis(value);
+            MoveStick(world.stick.pedals, value);
+            break;
+        case kKeyTakeStick:
+            world.stick.in_hand = true;
+            break;
+        case kKeyLetStickGo:
+            world.stick = {};
+            break;
+        case kKeyBrakes:
+            world.stick.brakes = std::max(ShareOfAxis(value), 0.0);
+            break;
+        case kKeyTrim:
+            world.stick.trim_clicks += std::clamp(value, -1, 1);
             break;
         case 0x100fd:
             ScaleRate(2);

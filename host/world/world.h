@@ -63,6 +63,9 @@ constexpr int kTokenCount = 1024;
 /// Where the pilot's own stick and pedals stand, -1 to 1: nose up, right wing down, nose right.
 struct Stick {
     double pitch = 0, roll = 0, pedals = 0;
+    double brakes = 0;     // 0 to 1, both pedals
+    int trim_clicks = 0;   // of the trim switches since the last tick, nose up positive
+    bool in_hand = false;  // somebody has it: no crew follows the flight director in his place
 };
 
 struct World {
@@ -112,7 +115,9 @@ struct World {
     int clock_offset_hours = 0;  // the clock set by hand against its start
     double sim_rate = 1;
     bool paused = false;
-    std::string pilot_does;  // what the demonstration's pilot is about, for the page; empty = there is none
+    std::string pilot_does;   // what the demonstration's pilot is about, for the page; empty = there is none
+    unsigned user_has = 0;    // bits of flightdeck/control_sharing.h: what that pilot has let go
+    unsigned given_back = 0;  // of these, what he hasn't taken up again yet
 
     // other aircraft, as a traffic module would publish them
     std::vector<std::array<double, 8>> traffic;

@@ -99,6 +99,10 @@ void FlyALittle(Session& session) {
     apply({.kind = Command::kNamedVariable, .name = "TZ_FMC_L_B_Button", .value = 1});
     calls(20);
     apply({.kind = Command::kLever, .name = "flaps", .value = 0.5});
+    apply({.kind = Command::kLever, .name = "aileron", .value = 0.7});
+    apply({.kind = Command::kLever, .name = "thrust", .value = 0.6});
+    apply({.kind = Command::kLever, .name = "brakes", .value = 0.5});
+    apply({.kind = Command::kLever, .name = "trim", .value = -1});
     apply({.kind = Command::kRate, .value = 4});
     apply({.kind = Command::kMouse, .name = "capt_inb", .x = 100.5, .y = 400, .right = true});
     apply({.kind = Command::kMouse, .name = "hud", .x = 1, .y = 1});

@@ -1,7 +1,7 @@
 // The multi-function keypads, and a computer's keyboard in their place.
 
 import {element} from './controls.js';
-import {keyboard, keypad, otherKeys} from './panels.js';
+import {handKeys, keyboard, keypad, otherKeys} from './panels.js';
 
 const MOST_PASTED = 60;
 const PRESSES = new Map(keyboard.map(([key, pressed]) => [key, pressed]));
@@ -68,10 +68,12 @@ function clearHeld(panels, side) {
 /** The list of keys, which `?` opens and any key or press closes. */
 export function makeKeyboardHelp() {
   const rows = [['A to Z, 0 to 9', 'themselves'], ...keyboard.map(([key, , text]) => [key === ' ' ? 'Space' : key, text]), ...otherKeys];
-  const list = element('dl', '');
-  for (const [key, text] of rows) list.append(element('div', '', '', element('dt', '', key), element('dd', '', text)));
-  const made = element('dialog', 'help', '', element('h2', '', 'Keys of a CDU that has the keyboard'), list,
-                       element('p', '', 'A click on a screen with a CDU, or on a keypad, gives it the keyboard.'));
+  const listOf = (rows) => element('dl', '', '', ...rows.map(([key, text]) =>
+      element('div', '', '', element('dt', '', key), element('dd', '', text))));
+  const made = element('dialog', 'help', '', element('h2', '', 'Keys of a CDU that has the keyboard'), listOf(rows),
+                       element('p', '', 'A click on a screen with a CDU, or on a keypad, gives it the keyboard.'),
+                       element('h2', '', 'Keys of HANDS, after a click on it'),
+                       listOf(handKeys.map(([key, , text]) => [key, text])));
   made.addEventListener('click', () => made.close());
   addEventListener('keydown', (event) => {
     if (event.key !== '?' || /^(INPUT|TEXTAREA)$/.test(event.target.tagName)) return;

@@ -2,6 +2,7 @@
 
 import {element, Panels} from './controls.js';
 import {makeGlareshield} from './glareshield.js';
+import {Hands} from './hands.js';
 import {Inspector} from './inspector.js';
 import {makeKeyboardHelp, makeKeypad, takeKeyboard} from './keypad.js';
 import {Link} from './link.js';
@@ -87,7 +88,16 @@ function bar() {
   };
   const heading = (value) => String(Math.round(value) % 360 || 360).padStart(3, '0');
   const doing = element('span', 'doing'), starting = element('span', 'starting', 'starting');
-  link.watch('host:pilot', (value) => { doing.textContent = value ? `pilot: ${value}` : ''; });
+  const control = element('button', 'control-key');
+  const tellPilot = () => {
+    const pilot = link.values.get('host:pilot'), mine = link.values.get('host:user_has');
+    doing.textContent = (pilot ? `pilot: ${pilot}` : '') + (mine ? `; you have ${mine}` : '');
+    control.hidden = !pilot;
+    control.textContent = mine ? 'GIVE BACK' : 'I HAVE CONTROL';
+  };
+  for (const name of ['host:pilot', 'host:user_has']) link.watch(name, () => queueMicrotask(tellPilot));
+  control.hidden = true;
+  control.addEventListener('click', () => link.send({type: 'control', value: link.values.get('host:user_has') ? 0 : 1}));
   link.watch('outputs_running', (value) => { starting.hidden = value !== '0'; });
   const clock = element('b', '', '-');
   link.watch('host:clock', (value) => { clock.textContent = value; });
@@ -95,7 +105,7 @@ function bar() {
   made.append(element('h1', '', 'TZ900'), state, element('span', 'fact', 'UTC ', clock),
               number('ALT ', 'aircraft:alt', ' ft'), number('IAS ', 'aircraft:ias', ' kt'), number('GS ', 'aircraft:gs', ' kt'),
               number('HDG ', 'mag_hdg', '\u00b0 mag', heading), number('FUEL ', 'aircraft:fuel', ' lb'),
-              number('PWR ', 'power_level', ' of 1000'), starting, doing, timeControls(), version);
+              number('PWR ', 'power_level', ' of 1000'), starting, doing, control, timeControls(), version);
   return made;
 }
 
@@ -105,6 +115,7 @@ function lower() {
                     makeKeypad(panels, 'R'), tablet('R')),
     Overhead: element('div', 'view', '', panels.groups(overhead, 'overhead')),
     Pedestal: element('div', 'view', '', panels.groups(pedestal, 'pedestal')),
+    Hands: element('div', 'view', '', new Hands(panels).element),
     Inspector: element('div', 'view inspection', '', inspector.element, screens.unit('debug')),
   };
   const tabs = element('nav', 'tabs'), made = element('section', 'lower-deck', '', tabs, ...Object.values(views));

@@ -263,6 +263,24 @@ export const otherKeys = [
   ['Alt+Enter', 'full screen, on the page of one screen'], ['?', 'this list'],
 ];
 
+// What a computer's keyboard does while HANDS has it: the key, what moves and whither, what that is called.
+export const handKeys = [
+  ['ArrowLeft', 'aileron -0.6', 'left wing down'], ['ArrowRight', 'aileron 0.6', 'right wing down'],
+  ['ArrowDown', 'elevator 0.6', 'nose up'], ['ArrowUp', 'elevator -0.6', 'nose down'],
+  ['PageUp', 'thrust 0.05', 'more thrust'], ['PageDown', 'thrust -0.05', 'less thrust, below idle reverse'],
+  [',', 'rudder -0.6', 'steer left'], ['.', 'rudder 0.6', 'steer right'], ['B', 'brakes 1', 'brakes, while it is held'],
+  ['+', 'trim 1', 'trim nose up'], ['-', 'trim -1', 'trim nose down'],
+  ['F', 'flaps 1', 'flaps one stop down'], ['V', 'flaps -1', 'flaps one stop up'], ['G', 'gear', 'gear up or down'],
+  ['S', 'speedbrake', 'speedbrake out or in'], ['D', 'disconnect', 'autopilot disconnect'],
+];
+
+// A gamepad: its first axes, the axis of a stick's throttle, and its buttons by the standard layout.
+export const handGamepad = {
+  axes: ['aileron', 'elevator', 'rudder'], throttle: 3,
+  buttons: [[0, 'brakes 1'], [1, 'gear'], [2, 'disconnect'], [3, 'speedbrake'], [4, 'flaps -1'], [5, 'flaps 1'],
+            [6, 'thrust -0.01'], [7, 'thrust 0.01'], [12, 'trim -1'], [13, 'trim 1']],
+};
+
 // A tablet's keys around its screen, by their names behind TZ_EFB_L_ and TZ_EFB_R_.
 export const efbKeys = {
   top: words('MENU DSPL XFR REDIRECT PWR'), left: words('L1 L2 L3 L4 L5 L6 L7 L8'),
@@ -270,6 +288,15 @@ export const efbKeys = {
 };
 export const efbLabels = {ZOOMIN: 'Z+', ZOOMOUT: 'Z-', LFT: '<', RGT: '>', UP: '^', DN: 'v', PGUP: 'PG UP',
                           PGDN: 'PG DN', REDIRECT: 'RDR'};
+
+// The pilot's own levers.
+export const flightLevers = {
+  flaps: {look: 'lever', label: 'Flaps', lever: 'flaps', value: 'token:328', full: 16384,
+          stops: [0, 1, 5, 10, 15, 17, 18, 20, 25, 30].map((degrees, detent) => [degrees === 0 ? 'UP' : String(degrees), detent / 9])},
+  gear: {look: 'lever', label: 'Gear', lever: 'gear', value: 'token:331', full: 1, stops: [['UP', 0], ['DOWN', 1]]},
+  arm: {look: 'lever', label: 'Spoilers', lever: 'speedbrake_arm', value: 'token:324', full: 1,
+        stops: [['OFF', 0], ['ARMED', 1]]},
+};
 
 export const pedestal = [
   {title: 'Main panel', controls: [
@@ -292,9 +319,7 @@ export const pedestal = [
   {title: 'Throttle quadrant', controls: [
     {look: 'event', label: 'Fuel Ctrl L', value: 'token:560', texts: ['CUTOFF', 'RUN'], events: [0x101c3, 0x101bf]},
     {look: 'event', label: 'Fuel Ctrl R', value: 'token:570', texts: ['CUTOFF', 'RUN'], events: [0x101c8, 0x101c4]},
-    {look: 'lever', label: 'Flaps', lever: 'flaps', value: 'token:328', full: 16384,
-     stops: [0, 1, 5, 10, 15, 17, 18, 20, 25, 30].map((degrees) => [degrees === 0 ? 'UP' : String(degrees), degrees / 30])},
-    {look: 'lever', label: 'Gear', lever: 'gear', value: 'token:331', full: 1, stops: [['UP', 0], ['DOWN', 1]]},
+    flightLevers.flaps, flightLevers.gear,
     {look: 'event', label: 'Park Brake', value: 'token:323', texts: ['OFF', 'SET'], events: [0x100d8, 0x100d8]},
     selector('TZ_THQ_Altn_flpas_Switch', 'Altn Flaps', ['RET', 'OFF', 'EXT']),
     selector('TZ_THQ_Stab_Norm_L2', 'Stab L2', ['NORM', 'CUTOUT']),

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "host/flightdeck/control_sharing.h"
 #include "host/world/world.h"
 
 namespace {
@@ -79,8 +80,52 @@ TEST_F(Presses, LeversStayBetweenTheirStops) {
     EXPECT_EQ(flaps(0.5), 8192);
     EXPECT_EQ(flaps(7), 16384);
     EXPECT_EQ(flaps(-7), 0);
-    ApplyDeckCommand(session, {.kind = host::DeckCommand::kLever, .name = "gear", .value = 1});
+    const auto moved = [&](const char* name, double value) {
+        ApplyDeckCommand(session, {.kind = host::DeckCommand::kLever, .name = name, .value = value});
+        host::DispatchQueuedCalls();
+    };
+    moved("gear", 1);
     EXPECT_EQ(host::TokenOf(331), 1);
+    moved("thrust", -1e12);
+    EXPECT_EQ(host::TokenOf(128), -4096) << "a quarter, reverse";
+    moved("thrust", 1e12);
+    moved("thrust", std::nan(""));
+    EXPECT_EQ(host::TokenOf(128), 16384);
+    moved("speedbrake", -3);
+    EXPECT_EQ(host::TokenOf(325), 0);
+    moved("brakes", 9);
+    EXPECT_EQ(host::world.stick.brakes, 1);
+    moved("brakes", -9);
+    EXPECT_EQ(host::world.stick.brakes, 0);
+    EXPECT_FALSE(host::world.stick.in_hand);
+    moved("aileron", -7);
+    EXPECT_EQ(host::world.stick.roll, -1);
+    EXPECT_TRUE(host::world.stick.in_hand);
+    moved("trim", 1e12);
+    EXPECT_EQ(host::world.stick.trim_clicks, 1);
+}
+
+TEST_F(Presses, OfAUserTakeTheThingFromThePilotUntilItIsGivenBack) {
+    using host::DeckCommand;
+    host::Session session;
+    const DeckCommand flaps{.kind = DeckCommand::kLever, .name = "flaps", .value = 1};
+    const DeckCommand gear{.kind = DeckCommand::kLever, .name = "gear", .value = 1};
+    const DeckCommand up{.kind = DeckCommand::kLever, .name = "flaps", .value = 0};
+    ApplyUserCommand(session, flaps);
+    EXPECT_EQ(host::TellWhatUserHas(), "") << "there is no pilot to take it from";
+    host::world.pilot_does = "climbing";
+    ApplyUserCommand(session, flaps);
+    ApplyPilotCommand(session, up);
+    EXPECT_EQ(host::TokenOf(328), 16384);
+    ApplyPilotCommand(session, gear);
+    EXPECT_EQ(host::TokenOf(331), 1);
+    ApplyUserCommand(session, {.kind = DeckCommand::kMouseArea, .name = "MCP", .text = "hdg +10"});
+    EXPECT_EQ(host::TellWhatUserHas(), "flaps, heading");
+    ApplyUserCommand(session, {.kind = DeckCommand::kControl, .value = 1});
+    EXPECT_EQ(host::TellWhatUserHas(), "control");
+    ApplyUserCommand(session, {.kind = DeckCommand::kControl, .value = 0});
+    ApplyPilotCommand(session, up);
+    EXPECT_EQ(host::TokenOf(328), 0);
 }
 
 }  // namespace
