@@ -34,6 +34,7 @@ constexpr Variable kAutoflightRows[] = {
     {"spd_mean", &autoflight.spd_mean},
     {"spd_lookahead", &autoflight.spd_lookahead},
     {"spd_trend", &autoflight.spd_trend},
+    {"speed_trend_kt", &autoflight.spd_trend},
     {"ap_disc_lamp", &autoflight.ap_disc_lamp},
     {"spd_ring", &autoflight.spd_ring},
 };

@@ -29,6 +29,9 @@ struct InstrumentState {
     // What a primary flight display remembers from picture to picture. Stepped by display/pfd.
     double fd_pitch_smooth = 0;   // degrees, of the director's pitch command below the nose
     double baro_preset = 29.92;   // inHg, the last setting that wasn't standard
+    int flap_detent = 0;          // the flap setting, 0 to 30
+    int flap_bug_phase = 4;       // 4 climb: the speeds to come with flaps in, 6 approach: with flaps out
+    int fmc_speed_active = 0;     // VNAV gives the speed, and not the pilot
     int vspeed_bugs_removed = 0;  // the V2 bug is gone for this flight
     int mach_box_timer = 0;       // ticks left of the box around a Mach number that has just appeared
     int fd_status_timer = 0;      // the same around "FLT DIR"

@@ -20,6 +20,7 @@ constexpr Variable kLnavRows[] = {
     {"fix_near", &lnav.fix_near},
     {"plan_finished", &lnav.plan_finished},
     {"lnav_engaged", &lnav.lnav_engaged},
+    {"lnav_defaulted", &lnav.lnav_engaged},
     {"fms_hdg", &lnav.fms_hdg},
     {"true_reference", &lnav.true_reference},
     {"aim_lat", &lnav.aim_lat},

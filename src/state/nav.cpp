@@ -33,6 +33,7 @@ constexpr Variable kNavRows[] = {
     {"airac_range_text", &nav.airac_range_text},
     {"airac_range_short", &nav.airac_range_short},
     {"nearest_refresh_due", &nav.nearest_refresh_due},
+    {"ilsfreq", &nav.ilsfreq},
     {"autotuned", &nav.autotuned},
     {"autotune_freq", &nav.autotune_freq},
     {"autotune_tries", &nav.autotune_tries},

@@ -31,6 +31,7 @@ struct NavState {
     std::string airac_range_text;   // "JAN04FEB01/18"
     std::string airac_range_short;  // "04JAN - 01FEB"
     int nearest_refresh_due = 0;    // the proximity lists are refreshed at once
+    int ilsfreq = 0;                // hundredths of a MHz, that a pilot has tuned by hand; 0 = parked
     // the selected approach on NAV 1, by guidance/approach_tuning
     int autotuned = 0;               // it has been sent; the radio is then not tuned to VORs
     int autotune_freq = 0;           // binary coded decimal, hundredths of a MHz

@@ -8,6 +8,7 @@ constexpr Variable kPosInitRows[] = {
     {"InertialEntryLat", &pos_init.InertialEntryLat},
     {"InertialEntryLon", &pos_init.InertialEntryLon},
     {"RnpEntry", &pos_init.RnpEntry},
+    {"rnp", &pos_init.RnpEntry},
 };
 }  // namespace
 

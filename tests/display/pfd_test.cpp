@@ -200,6 +200,7 @@ TEST_F(PrimaryFlightDisplay, RadioAltitudeGrowsItsSteps) {
 TEST_F(PrimaryFlightDisplay, SpeedTapeStandsStillBelowThirty) {
     SetVariables("ias_kt 0, ap_spdbug 250");
     std::string picture = Picture();
+    EXPECT_TRUE(Has(picture, "clip M 71 28 L 146 28 L 146 228 L 71 228 Z"));
     EXPECT_TRUE(Has(picture, "stroke 222,230,233,255 1 M 94 128 L 101 128"));  // 30 in the middle
     EXPECT_TRUE(Has(picture, "stroke 222,230,233,255 1 M 94 113 L 101 113"));  // 40 above it
     EXPECT_FALSE(Has(picture, "M 94 143 L 101 143"));                          // nothing below
@@ -275,6 +276,7 @@ TEST_F(PrimaryFlightDisplay, FlapSpeedsShowWhatComesNext) {
     for (const auto& row : kRows) {
         sim.flap_pos = row.raw;
         vnav.tod = row.tod;
+        StepPfdMemory();
         const std::string picture = Picture();
         std::string shown;
         for (const char* label : {"UP", "1", "5", "15", "20", "25", "30"})
@@ -352,6 +354,7 @@ TEST_F(PrimaryFlightDisplay, SelectedSpeedIsTheWindowsOrTheProfilesMach) {
                  {"vnav_spd_readback 2, at_mode 2", "280"}};
     for (const auto& row : kRows) {
         SetVariables(row.state);
+        StepPfdMemory();
         EXPECT_TRUE(Has(Picture(), std::string("201,8,233 \"") + row.shown)) << row.state;
     }
 }
@@ -486,7 +489,7 @@ TEST_F(PrimaryFlightDisplay, ApproachSourceNamesItself) {
     plan.mod.procedures.fms_dest_rwy_pos = 1;
     plan.mod.procedures.arr_appr_rwy = "24R";
     plan.mod.procedures.appr_type = "ILS";
-    SetVariables("nav1_dme 9.96, stpos 3");
+    SetVariables("nav1_dme 9.96, stpos 3, ilsfreq 10850");
     picture = Picture();
     EXPECT_TRUE(Shows(picture, "IOSS/249\u00b0"));
     EXPECT_TRUE(Shows(picture, "DME 10.0"));

@@ -22,28 +22,22 @@ bool IsFinalApproach() {
     return selected || autoflight.ap_lat_mode == kLatFac || autoflight.ap_lat_mode_armed == kLatFac;
 }
 
-// The frequency of the landing system that the selected approach uses, 0 without one.
-double ApproachFrequency() {
-    const ProcedureSelections& chosen = plan.mod.procedures;
-    const RunwayData* runway = DestinationRunway();
-    const bool by_beam = chosen.appr_type == "ILS" || chosen.appr_type == "LOC";
-    return runway != nullptr && by_beam ? LeadingDouble(runway->ils_freq) : 0;
-}
-
 std::string CourseLine(const std::string& name, double course) {
     return name + Format("/%03.0f%c", Bounded(course, 0, 360), kDegreeSign);
 }
 
 std::array<std::string, 3> LandingSystemLines() {
-    constexpr double kSomeFrequency = 1;
     const RunwayData* runway = DestinationRunway();
-    const bool of_approach = ApproachFrequency() >= kSomeFrequency;
+    const bool by_hand = nav.ilsfreq >= 1;
     std::string ident = sim.nav1_ident;
-    if (of_approach) ident = nav.appr_navaid_ident.empty() ? runway->ils_ident : nav.appr_navaid_ident;
+    if (by_hand && !nav.appr_navaid_ident.empty())
+        ident = nav.appr_navaid_ident;
+    else if (by_hand && runway != nullptr && !runway->ils_ident.empty())
+        ident = runway->ils_ident;
     const bool runway_course = runway != nullptr && plan.active.stpos != kNoPlan;
     return {CourseLine(ident, runway_course ? runway->course : sim.nav1_course),
             sim.nav1_dme > 0 ? Format("DME %3.1f", Bounded(sim.nav1_dme, 0, 9999)) : "DME ---",
-            of_approach ? "ILS" : "FMC"};
+            by_hand ? "ILS" : "FMC"};
 }
 
 std::array<std::string, 3> FinalApproachLines(const RunwayData& runway) {

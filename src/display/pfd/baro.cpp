@@ -15,7 +15,7 @@ constexpr float kSize = 9, kSmall = 8;
 
 void DrawStandard(const PfdView& view, bool hpa, Rgb colour, bool boxed) {
     constexpr double kLeastDifference = 0.005;
-    TextFrom(view.graphics, boxed ? 97 : 92, 111, kSize, colour, "STD");
+    Text(view.graphics, boxed ? 95 : 90, 105, kSize, colour, "STD");
     if (boxed) BoxOutline(view.graphics, 94, 105, 25, 13, kAmber);
     const double preset = instruments.baro_preset;
     if (!(std::fabs(preset - kStandardInches) >= kLeastDifference)) return;

@@ -86,7 +86,7 @@ AutoflightStatus StatusOfAutoflight(bool director) {
 
 void DrawFma(const PfdView& view) {
     constexpr int kX = -83, kY = -125, kWidth = 162, kHeight = 18, kBoxHeight = 9;
-    constexpr double kActiveY = -120, kArmedY = -111;  // middles of the rows
+    constexpr double kActiveY = -124, kArmedY = -114;  // tops of the rows
     constexpr float kSize = 8;
     Graphics& graphics = view.graphics;
     GdipFillRectangleI(graphics, TapeFill(), kX, kY, kWidth, kHeight);
@@ -94,8 +94,8 @@ void DrawFma(const PfdView& view) {
     for (const int x : {-33, 29}) Line(graphics, x, kY, x, kY + kHeight, kWhite);
     for (const Column& column : kColumns) {
         const ModeTexts texts = column.texts();
-        TextAbout(graphics, column.middle, kActiveY, kSize, kGreen, texts.active);
-        TextAbout(graphics, column.middle, kArmedY, kSize, kWhite, texts.armed);
+        CentredText(graphics, column.middle, kActiveY, kSize, kGreen, texts.active);
+        CentredText(graphics, column.middle, kArmedY, kSize, kWhite, texts.armed);
         if (autoflight.*column.timer > 0)
             BoxOutline(graphics, column.box_x, kY, column.box_width, kBoxHeight, kGreen);
     }
@@ -103,10 +103,10 @@ void DrawFma(const PfdView& view) {
 }
 
 void DrawAutoflightStatus(const PfdView& view) {
-    constexpr double kMiddle = 4, kY = -82.5;
+    constexpr double kMiddle = 4, kY = -88;
     constexpr float kSize = 11;
     const int switch_on = IsOnCaptains(view) ? cockpit.capt_fd_switch : cockpit.fo_fd_switch;
     const AutoflightStatus status = StatusOfAutoflight(switch_on == 1 && IsIrsOn());
-    TextAbout(view.graphics, kMiddle, kY, kSize, status.caution ? kAmber : kGreen, status.text);
+    CentredText(view.graphics, kMiddle, kY, kSize, status.caution ? kAmber : kGreen, status.text);
     if (status.boxed) BoxOutline(view.graphics, -26, -90, 60, 15, kGreen);
 }

@@ -5,6 +5,7 @@
 
 #include "display/pfd/flight_director.h"
 #include "display/pfd/pfd_view.h"
+#include "display/pfd/speed_marks.h"
 #include "frame/named_variables.h"
 #include "state/autoflight.h"
 #include "state/cockpit.h"
@@ -13,6 +14,7 @@
 #include "state/sim.h"
 #include "state/takeoff_approach.h"
 #include "state/time_base.h"
+#include "state/vnav.h"
 
 namespace {
 
@@ -48,6 +50,13 @@ void StepDirectorPitch() {
 
 void KeepBaroPreset() {
     if (!IsBaroStandard() && sim.baro_in > 0) instruments.baro_preset = sim.baro_in;
+}
+
+void StepSpeedSources() {
+    InstrumentState& i = instruments;
+    i.flap_detent = FlapDetent();
+    i.flap_bug_phase = vnav.tod == 1 ? kApproachBugs : kClimbBugs;
+    i.fmc_speed_active = vnav.vnav_engaged == 1 && autoflight.spd_intv_active == 0 ? 1 : 0;
 }
 
 // A rotation speed alone serves as decision speed too. V2 has done its work once the flaps are in.
@@ -87,6 +96,7 @@ void StepPfdMemory() {
     StepBoxes();
     StepDirectorPitch();
     KeepBaroPreset();
+    StepSpeedSources();
     StepTakeoffSpeeds(touched_down);
     StepMinimumsAlert(touched_down);
     if (time_base.tick_phase == 0) CheckLandingAltitude();

@@ -83,8 +83,7 @@ ClipBlock::ClipBlock(Graphics& graphics, int x, int y, int width, int height) : 
 }
 
 void TextAbout(Graphics& graphics, double x, double y, float size, Rgb colour, std::string_view text) {
-    Text(graphics, x - WidthOf(text, size) / 2 - kPadding * size, y - MiddleOfFigures(size), size, colour,
-         text);
+    CentredText(graphics, x, y - MiddleOfFigures(size), size, colour, text);
 }
 
 void TextUpTo(Graphics& graphics, double x, double y, float size, Rgb colour, std::string_view text) {

@@ -11,7 +11,6 @@
 #include "state/instruments.h"
 #include "state/sim.h"
 #include "state/takeoff_approach.h"
-#include "state/vnav.h"
 #include "state/weights.h"
 
 namespace {
@@ -83,8 +82,8 @@ void DrawFlapSpeeds(const PfdView& view) {
     const auto row_index = static_cast<std::size_t>(weights.flap_speed_row);
     if (row_index < 1 || row_index >= weights.flap_speeds.size()) return;
     const FlapSpeedRow& row = weights.flap_speeds[row_index];
-    const int flaps = FlapDetent();
-    const bool approach = vnav.tod == 1;
+    const int flaps = instruments.flap_detent;
+    const bool approach = instruments.flap_bug_phase != kClimbBugs;
     for (const FlapMark& mark : kFlapMarks)
         if (approach ? flaps < mark.approach_below : flaps > mark.climb_above)
             Mark(view, row.*mark.speed, mark.label);

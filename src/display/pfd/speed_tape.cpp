@@ -91,7 +91,7 @@ std::string MachText(double mach) {
 
 bool IsFmcMach() {
     const double target = sim.vnav_spd_readback;
-    return vnav.vnav_engaged == 1 && autoflight.spd_intv_active == 0 && target > 0 && target < 2;
+    return vnav.vnav_engaged == 1 && instruments.fmc_speed_active == 1 && target > 0 && target < 2;
 }
 
 }  // namespace

@@ -5,7 +5,7 @@
 // The speed side: the tape with its limits, bugs and pointer, and the readouts above and below it.
 
 constexpr double kUnitsPerKnot = 1.5;
-constexpr int kTapeLeft = 4, kTapeWidth = 81;  // what the tape may draw on, from the speeds' left
+constexpr int kTapeLeft = 10, kTapeWidth = 75;  // what the tape may draw on, from the speeds' left
 /// The speed in the middle of the tape, which stands still below 30 kt.
 double ShownSpeed();
 /// Offset of a speed on the tape, down positive, kept within the tape.
