@@ -141,7 +141,7 @@ void DrawPfdDataStrip(const PfdView& view) {
     if (!IsSwitchedOn()) return;
     const TransformBlock block(view.graphics);
     GdipTranslateWorldTransform(view.graphics, 0, kCompassY);
-    const Strip strip{view.graphics, view.narrow ? -120 : -160, view.narrow ? 94 : 110, view.side};
+    const Strip strip{view.graphics, view.narrow ? -117 : -160, view.narrow ? 94 : 110, view.side};
     DrawSpeeds(strip);
     DrawAlignmentOrWind(strip);
     DrawRadio(strip, strip.left, "ADF L", sim.adf1_freq, sim.adf1_ident);

@@ -19,7 +19,7 @@ constexpr double kSeenKnots = 70;                     // above and below the mid
 
 void DrawSpeedScale(const PfdView& view, double speed) {
     constexpr int kTick = 10, kNumbered = 20;
-    constexpr float kSize = 13;
+    constexpr float kSize = 12;  // three digits fit
     const Pen pen = PenOf(kWhite);
     int value = static_cast<int>(std::ceil((speed - kSeenKnots) / kTick)) * kTick;
     for (value = std::max(value, static_cast<int>(kTapeSlowest)); value <= speed + kSeenKnots;
