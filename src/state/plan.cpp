@@ -119,6 +119,7 @@ constexpr Variable kPlanRows[] = {
     {"ActiveLegMod", &plan.mod.active_leg},
     {"HoldList", &plan.HoldList},
     {"hold_cnt", &plan.hold_cnt},
+    {"hold_count", &plan.hold_cnt},
     {"lost_hold_cnt", &plan.lost_hold_cnt},
     {"fms_fpln_active", &plan.fms_fpln_active},
     {"PositionReports", &plan.PositionReports},

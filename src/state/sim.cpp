@@ -24,6 +24,7 @@ constexpr Variable kSimRows[] = {
     {"true_track_deg", &sim.true_track_deg},
     {"drift_deg", &sim.drift_deg},
     {"mgvar", &sim.mgvar},
+    {"mag_var", &sim.mgvar},
     {"on_ground", &sim.on_ground},
     {"wind_kt", &sim.wind_kt},
     {"wind_dir", &sim.wind_dir},

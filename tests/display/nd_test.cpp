@@ -278,6 +278,8 @@ TEST_F(NdPicture, WithoutAnyIrsThereIsNoMap) {
     const std::string picture = Draw();
     EXPECT_EQ(picture.find("stroke 255,19,213"), std::string::npos) << "no route, no bug";
     EXPECT_EQ(picture.find("\"GS\""), std::string::npos);
+    sim.tas_kt = 400;
+    EXPECT_TRUE(Shows("TAS") && Shows("400")) << "the air data needs none";
     EXPECT_NE(TextLine("TRK").find("233,183,62"), std::string::npos);
     sim.ground_speed_kt = 4;
     sim.on_ground = 1;
@@ -368,6 +370,9 @@ TEST_F(NdPicture, LabelsAndDataAlongTheRoute) {
     EXPECT_TRUE(Shows("7000") && Shows("1005Z")) << "30 nm at 360 kt";
     plan.active.legs[3].via = kMissedVia;
     EXPECT_FALSE(Shows("RW16"));
+    plan.active.legs[3] = plan.active.legs[2];
+    plan.active.legs[3].ident = "TWIN";
+    EXPECT_TRUE(Shows("LEG2") && Shows("TWIN")) << "each has its name, though they stand on one spot";
     sim.ground_speed_kt = 100;
     EXPECT_FALSE(Shows("1018Z"));
     vnav.toc_lat = vnav.tod_lat = vnav.step_lat = 47.8;

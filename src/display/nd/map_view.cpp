@@ -8,6 +8,8 @@
 
 namespace {
 
+constexpr double kRoom = 80;  // units, for a label, and what the flat earth is wrong by
+
 // Into -180 to 180, for the difference of two longitudes.
 double FoldDifference(double lon) {
     return lon > 180 ? lon - 360 : lon < -180 ? lon + 360 : lon;
@@ -57,7 +59,14 @@ void OrientMap(MapView& view) {
     view.east_scale = view.north_scale * view.cos_lat;
 
     constexpr double kRanges = 1.5, kMargin = 10, kNmPerDegree = 60;
-    view.lat_reach = (kRanges * view.range + kMargin) / kNmPerDegree;
+    double reach = kRanges * view.range + kMargin;
+    // On a large map the farthest corner of the view lies nearer, with the label of a place beyond it.
+    if (view.range > kFlatRange) {
+        const double across = std::max(-view.seen.left, view.seen.right);
+        const double down = std::max(-view.seen.top, view.seen.bottom);
+        reach = std::min(reach, (std::hypot(across, down) + kRoom) / view.scale);
+    }
+    view.lat_reach = reach / kNmPerDegree;
     const bool holds_pole = std::fabs(view.lat) + view.lat_reach >= 89.9;
     view.lon_reach =
         holds_pole
@@ -90,7 +99,6 @@ bool IsNearbyInReach(const MapView& view, double lat, double lon) {
     const double east = FoldDifference(lon - view.lon);
     if (!(std::fabs(east) <= view.lon_reach)) return false;
     if (!view.is_flat) return true;
-    constexpr double kRoom = 80;  // for a label, and what the flat earth is wrong by
     const double e = east * view.east_scale, n = north * view.north_scale;
     return view.seen.Has({e * view.cos_up - n * view.sin_up, -n * view.cos_up - e * view.sin_up}, kRoom);
 }

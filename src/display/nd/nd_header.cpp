@@ -76,11 +76,14 @@ void DrawTurnLogCount(Graphics& graphics, const NdFrame& frame) {
         PrintText(graphics, -65, FootOf(frame), kNdTextSize, kWhite, "[%d]", time_base.wpt_log_ticks);
 }
 
+// The ground speed comes from the IRS, the true airspeed from the air data.
 void DrawSpeeds(Graphics& graphics, const NdFrame& frame) {
     constexpr double kStanding = 0.4, kLeastTas = 100;
-    const double gs = sim.ground_speed_kt < kStanding ? 0 : sim.ground_speed_kt;
-    Text(graphics, AtSide(frame, -140), -202, kNdTextSize - 1, kWhite, "GS");
-    PrintText(graphics, AtSide(frame, -130), -205, kNdValueSize, kWhite, "%.0f", gs);
+    if (frame.irs_on) {
+        const double gs = sim.ground_speed_kt < kStanding ? 0 : sim.ground_speed_kt;
+        Text(graphics, AtSide(frame, -140), -202, kNdTextSize - 1, kWhite, "GS");
+        PrintText(graphics, AtSide(frame, -130), -205, kNdValueSize, kWhite, "%.0f", gs);
+    }
     if (!(sim.tas_kt >= kLeastTas)) return;
     Text(graphics, AtSide(frame, -107), -202, kNdTextSize - 1, kWhite, "TAS");
     PrintText(graphics, AtSide(frame, -93), -205, kNdValueSize, kWhite, "%.0f", sim.tas_kt);
@@ -231,7 +234,7 @@ void DrawNdHeader(Graphics& graphics, const NdFrame& frame) {
         DrawTurnLogCount(graphics, frame);
         DrawNavigationPerformance(graphics, frame);
     }
-    if (frame.irs_on) DrawSpeeds(graphics, frame);
+    DrawSpeeds(graphics, frame);
     DrawNextWaypoint(graphics, frame);
     DrawRangeBox(graphics, frame.view.range);
     if (frame.in_plan)

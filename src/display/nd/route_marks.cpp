@@ -85,9 +85,8 @@ void DrawLegData(Graphics& graphics, MapPoint at, const FlightPlanLeg& leg, doub
 
 void DrawLabelsOf(Graphics& graphics, const MapView& view, const RouteVersion& route, int first, int flown_to,
                   bool with_data) {
-    constexpr double kRoomAbove = 25, kRoomLeft = 60, kSameSpot = 3, kDataWidth = 30, kDataHeight = 12;
+    constexpr double kRoomAbove = 25, kRoomLeft = 60;
     DistanceAlong along(route);
-    MapPoint last_label{-1e9, -1e9};
     const auto label = [&](int i) {
         const FlightPlanLeg& leg = route.legs[i];
         if (!IsInReach(view, leg.lat, leg.lon) || !IsNamed(leg)) return;
@@ -95,18 +94,10 @@ void DrawLabelsOf(Graphics& graphics, const MapView& view, const RouteVersion& r
         if (at.x < view.seen.left - kRoomLeft || at.x > view.seen.right + 8 ||
             at.y < view.seen.top - kRoomAbove || at.y > view.seen.bottom + 8)
             return;
-        // On a large map the names of a crowded route would only cover each other.
-        const bool is_main = i == flown_to || i == 0 || i == route.leg_cnt;
-        if (!is_main && std::fabs(at.x - last_label.x) < kSameSpot &&
-            std::fabs(at.y - last_label.y) < kSameSpot)
-            return;
-        const bool has_room =
-            std::fabs(at.x - last_label.x) > kDataWidth || std::fabs(at.y - last_label.y) > kDataHeight;
-        last_label = at;
         const Rgb colour = i == flown_to ? kMagenta : kWhite;
         DrawMapSymbol(graphics, {at.x, at.y - 8}, MapSymbol::kRouteWaypoint, colour);
         MapLabel(graphics, at.x + 7, at.y, colour, leg.ident);
-        if (with_data && has_room && i > flown_to) DrawLegData(graphics, at, leg, along.To(i));
+        if (with_data && i > flown_to) DrawLegData(graphics, at, leg, along.To(i));
     };
     if (first > 0) label(0);
     for (int i = first; i <= route.leg_cnt; ++i) label(i);
