@@ -69,12 +69,15 @@ export class Inspector {
       if (event.key === 'Escape') value.blur();
     });
     // What was written comes back with the values; what doesn't was refused.
-    value.addEventListener('blur', () => setTimeout(() => {
-      const now = this.link.values.get(name) ?? '';
-      made.classList.toggle('refused', asked !== null && !this.isSame(now, asked));
+    value.addEventListener('blur', () => {
+      const written = asked;
       asked = null;
-      show(now);
-    }, 600));
+      setTimeout(() => {
+        const now = this.link.values.get(name) ?? '';
+        if (written !== null) made.classList.toggle('refused', !this.isSame(now, written));
+        show(now);
+      }, 600);
+    });
     return made;
   }
 
