@@ -1,16 +1,22 @@
 #include "state/state_groups.h"
 
+#include "state/air.h"
 #include "state/airports.h"
+#include "state/alerts.h"
 #include "state/autoflight.h"
 #include "state/cdu.h"
 #include "state/cfg.h"
+#include "state/checklist.h"
 #include "state/cockpit.h"
 #include "state/displays.h"
 #include "state/efb.h"
 #include "state/electrical.h"
+#include "state/engines.h"
 #include "state/fix_info.h"
 #include "state/flight_log.h"
+#include "state/fuel.h"
 #include "state/host_link.h"
+#include "state/hydraulics.h"
 #include "state/identity.h"
 #include "state/instruments.h"
 #include "state/irs.h"
@@ -33,6 +39,8 @@
 #include "state/route_files.h"
 #include "state/sim.h"
 #include "state/sound.h"
+#include "state/surfaces.h"
+#include "state/synoptics.h"
 #include "state/takeoff_approach.h"
 #include "state/time_base.h"
 #include "state/traffic.h"
@@ -104,6 +112,14 @@ constexpr StateGroup kGroups[] = {
     {"requests", Reset<&requests>, &kRequestVariables,
      "fmc/legs/holds fmc/route/modification fmc/files/ guidance/ cdu/words/views module/controls/"},
     {"electrical", Reset<&electrical>, &kElectricalVariables, "frame/named_variable_catalogue systems/"},
+    {"engines", Reset<&engines>, &kEngineVariables, ""},
+    {"fuel", Reset<&fuel>, &kFuelVariables, ""},
+    {"hydraulics", Reset<&hydraulics>, &kHydraulicVariables, ""},
+    {"surfaces", Reset<&surfaces>, &kSurfaceVariables, ""},
+    {"air", Reset<&air>, &kAirVariables, ""},
+    {"alerts", Reset<&alerts>, &kAlertVariables, ""},
+    {"checklist", Reset<&checklist>, &kChecklistVariables, ""},
+    {"synoptics", Reset<&synoptics>, &kSynopticVariables, ""},
 };
 
 }  // namespace
