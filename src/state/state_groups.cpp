@@ -14,7 +14,7 @@
 #include "state/engines.h"
 #include "state/fix_info.h"
 #include "state/flight_log.h"
-#include "state/fuel.h"
+#include "state/fuel_pumps.h"
 #include "state/host_link.h"
 #include "state/hydraulics.h"
 #include "state/identity.h"
@@ -113,7 +113,7 @@ constexpr StateGroup kGroups[] = {
      "fmc/legs/holds fmc/route/modification fmc/files/ guidance/ cdu/words/views module/controls/"},
     {"electrical", Reset<&electrical>, &kElectricalVariables, "frame/named_variable_catalogue systems/"},
     {"engines", Reset<&engines>, &kEngineVariables, ""},
-    {"fuel", Reset<&fuel>, &kFuelVariables, ""},
+    {"fuel_pumps", Reset<&fuel_pumps>, &kFuelPumpVariables, ""},
     {"hydraulics", Reset<&hydraulics>, &kHydraulicVariables, ""},
     {"surfaces", Reset<&surfaces>, &kSurfaceVariables, ""},
     {"air", Reset<&air>, &kAirVariables, ""},
