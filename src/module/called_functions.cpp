@@ -1,6 +1,7 @@
 #include "module/called_functions.h"
 
 #include "base/angles.h"
+#include "checklist/checklist.h"
 #include "fmc/legs/edit_legs.h"
 #include "fmc/legs/holds.h"
 #include "fmc/legs/insert_fix.h"
@@ -159,6 +160,8 @@ constexpr BoundFunction kOperations[] = {
     Bind<RequestRouteWinds>("RequestRouteWinds", ""),
     Bind<ApplyRouteWinds>("ApplyRouteWinds", "SIDE"),
     Bind<RequestDescentWinds>("RequestDescentWinds", ""),
+    Bind<OnChecklistClick>("OnChecklistClick", "X Y DU"),
+    Bind<SelectNormalList>("SelectNormalList", ""),
 };
 static_assert(UsagesFit(kOperations));
 

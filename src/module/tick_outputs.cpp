@@ -1,6 +1,7 @@
 #include "module/tick_outputs.h"
 
 #include "cdu/unit/exec_lamps.h"
+#include "checklist/checklist.h"
 #include "display/nd/nd_memory.h"
 #include "display/pfd/pfd_memory.h"
 #include "display/pictures/remote_bridge.h"
@@ -99,5 +100,7 @@ void TickOutputs(bool ticked) {
     if (ticked) StepPfdMemory();
     if (ticked) StepPhases(time_base.tick_phase);
     TakeDisplaySelector();
+    StepChecklist();
+    ShowRequestedChecklist();
     if (time_base.frame_phase % 2 == 0) ReadModelValues();
 }

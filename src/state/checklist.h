@@ -16,6 +16,9 @@ struct ChecklistState {
         Items{};                                      // 0 not done, 1 done, 2 overridden
     std::array<int, kNormalLists + 1> CurrentItem{};  // first item that is 0; 0 = none
     std::array<int, kNormalLists + 1> ListDone{};     // complete or overridden
+    // the last press, whose key bears a frame for a moment
+    int press_unit = 0, press_x = 0, press_y = 0;  // Display Unit; units from the half's corner
+    int press_timer = 0;                           // ticks left of the frame
 };
 
 extern ChecklistState checklist;

@@ -32,7 +32,6 @@ constexpr Variable kDisplayRows[] = {
     {"compose_busy", &displays.compose_busy},
     {"cockpit_2d_active", &displays.cockpit_2d_active},
     {"comm_click", &displays.comm_click},
-    {"chkl_click", &displays.chkl_click},
     {"info_click", &displays.info_click},
     {"du_lwr_startup_cnt", &displays.du_lwr_startup_cnt},
     {"du_cib_startup_cnt", &displays.du_cib_startup_cnt},

@@ -32,7 +32,7 @@ struct DisplayState {
     int info_status = 0;
     std::array<int, 28> compose_busy = {};  // by gauge id: 1 = its picture is being composed
     int cockpit_2d_active = 0;              // the two-dimensional cockpit is shown, taken once a tick
-    FormatClick comm_click, chkl_click, info_click;
+    FormatClick comm_click, info_click;
     // start-up counters, seconds
     int du_lwr_startup_cnt = 0;     // to 60
     int du_cib_startup_cnt = 0;     // to 90

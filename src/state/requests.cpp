@@ -12,6 +12,7 @@ constexpr Variable kRequestRows[] = {
     {"leave_legs_view", &requests.leave_legs_view},
     {"forget_pick", &requests.forget_pick},
     {"leave_hold_page", &requests.leave_hold_page},
+    {"show_checklist", &requests.show_checklist},
     {"show_rte", &requests.show_rte},
     {"vnav_phase", &requests.vnav_phase},
 };

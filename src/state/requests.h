@@ -12,6 +12,8 @@ struct RequestState {
     int uplink_accept = 0;  // ACPT, RJCT, CANC: the answer to a datalink message
     int uplink_reject = 0;
     int uplink_cancel = 0;
+    // from another program
+    int show_checklist = 0;  // the captain's inboard unit makes room for the checklist
     // from the route to the CDUs, whose pages show what has gone
     int leave_legs_view = 0;  // LEGS goes back to its normal view
     int forget_pick = 0;      // the row that SELECT DESIRED WPT picks for has gone

@@ -110,7 +110,8 @@ constexpr StateGroup kGroups[] = {
     {"efb", Reset<&efb>, &kEfbVariables, "efb/tablet_input"},
     {"remote", Reset<&remote>, &kRemoteVariables, "display/pictures/remote_bridge module/remote_input"},
     {"requests", Reset<&requests>, &kRequestVariables,
-     "fmc/legs/holds fmc/route/modification fmc/files/ guidance/ cdu/words/views module/controls/"},
+     "fmc/legs/holds fmc/route/modification fmc/files/ guidance/ cdu/words/views checklist/ "
+     "display/routing/routing module/controls/"},
     {"electrical", Reset<&electrical>, &kElectricalVariables, "frame/named_variable_catalogue systems/"},
     {"engines", Reset<&engines>, &kEngineVariables, ""},
     {"fuel_pumps", Reset<&fuel_pumps>, &kFuelPumpVariables, ""},
@@ -118,7 +119,7 @@ constexpr StateGroup kGroups[] = {
     {"surfaces", Reset<&surfaces>, &kSurfaceVariables, ""},
     {"air", Reset<&air>, &kAirVariables, ""},
     {"alerts", Reset<&alerts>, &kAlertVariables, ""},
-    {"checklist", Reset<&checklist>, &kChecklistVariables, ""},
+    {"checklist", Reset<&checklist>, &kChecklistVariables, "checklist/"},
     {"synoptics", Reset<&synoptics>, &kSynopticVariables, ""},
 };
 

@@ -2,6 +2,6 @@
 
 #include "display/formats/format.h"
 
-/// The electronic checklist. A press on its tabs or soft keys waits for the checklist.
+/// The electronic checklist, one for all displays.
 void DrawChecklist(Graphics& graphics, const ContentPlace& place);
 void TouchChecklist(const FormatTouch& at);

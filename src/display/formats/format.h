@@ -7,6 +7,8 @@
 // Each has a file pair in this folder, with its touch areas beside the drawing that shows them, and one row
 // in the table.
 
+constexpr int kHalf = 282;  // width of a half
+
 /// Where a format stands, and whose data it shows. Every format is drawn with the frame of the whole unit,
 /// 564 by 424, and no clip.
 struct ContentPlace {

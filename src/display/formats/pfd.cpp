@@ -53,7 +53,7 @@ constexpr void (*kPieces[])(const PfdView& view) = {
 }  // namespace
 
 void DrawPfd(Graphics& graphics, const ContentPlace& place) {
-    constexpr int kNarrowCentre = 121, kCentre = 191, kCentreOnRight = 373, kHalf = 282, kCentreY = 128;
+    constexpr int kNarrowCentre = 121, kCentre = 191, kCentreOnRight = 373, kCentreY = 128;
     constexpr int kNarrowLeft = -121, kLeft = -130;
     const bool right = place.half == 2;
     const TransformBlock block(graphics);

@@ -5,7 +5,7 @@
 // The white stands unscaled.
 void DrawSelectPrompt(Graphics& graphics, const ContentPlace& place) {
     constexpr Argb kFill = 0xffdee6e9;
-    constexpr int kHalf = 282, kTop = 190, kBoxWidth = 120, kBoxHeight = 24;
+    constexpr int kTop = 190, kBoxWidth = 120, kBoxHeight = 24;
     const int middle = (place.half == 1 ? 0 : kHalf) + kHalf / 2;
     GdipFillRectangleI(graphics, GdipCreateSolidFill(kFill), middle - kBoxWidth / 2, kTop - 4, kBoxWidth,
                        kBoxHeight);

@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr double kFrameWidth = 564, kHeight = 424, kHalf = 282;
+constexpr double kFrameWidth = 564, kHeight = 424;
 
 // The middle of a half; the PFD beside the auxiliary strip has what that leaves.
 double MiddleOf(const ContentPlace& place) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <span>
+#include <utility>
 
 #include "base/numbers.h"
 #include "frame/controls.h"
@@ -9,6 +10,7 @@
 #include "state/cockpit.h"
 #include "state/displays.h"
 #include "state/power_words.h"
+#include "state/requests.h"
 #include "state/side.h"
 #include "state/time_base.h"
 
@@ -218,6 +220,17 @@ void MoveDisplaySelector(int position) {
         default:
             break;
     }
+}
+
+void ShowRequestedChecklist() {
+    struct Change {
+        int from, to;
+    };
+    static constexpr Change kChanges[] = {{5, 13},  {6, 14},  {7, 15},  {8, 16},  {9, 17},
+                                          {10, 18}, {34, 11}, {42, 11}, {50, 11}, {58, 11}};
+    if (std::exchange(requests.show_checklist, 0) == 0) return;
+    const auto row = std::ranges::find(kChanges, displays.du_capt_inb_mode, &Change::from);
+    if (row != std::end(kChanges)) displays.du_capt_inb_mode = row->to;
 }
 
 void RepairInboardModes() {

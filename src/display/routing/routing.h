@@ -26,5 +26,8 @@ void MoveDisplaySelector(int position);
 /// Acts on the captain's selector where the model shows that it has moved.
 void TakeDisplaySelector();
 
+/// Brings the checklist onto the free half of the captain's inboard unit when somebody has asked for it.
+void ShowRequestedChecklist();
+
 /// With power, inboard units that show what the power-up left on them return to their own formats.
 void RepairInboardModes();
