@@ -1,8 +1,5 @@
 #include "display/pfd/pfd_view.h"
 
-#include "paint/fonts.h"
-#include "paint/recording.h"
-#include "state/cfg.h"
 #include "state/displays.h"
 #include "state/power_words.h"
 #include "state/sim.h"
@@ -10,18 +7,7 @@
 
 namespace {
 
-constexpr float kPadding = 1.0f / 6;  // of the em, which stands before a text
 constexpr int kStackStep = 8;
-
-float WidthOf(std::string_view text, float size) {
-    return TextWidth(FamilyOf(cfg.DuFont), text) * size;
-}
-
-// From the top of a line's cell to the middle of its figures.
-double MiddleOfFigures(float size) {
-    constexpr float kHalfFigure = 0.36f;  // of the em
-    return (MetricsOf(FamilyOf(cfg.DuFont)).ascent - kHalfFigure) * size;
-}
 
 }  // namespace
 
@@ -55,43 +41,6 @@ Pen TapeFrame() {
     constexpr int kAlpha = 77;
     const Argb alpha = Scaled({kAlpha, 0, 0}) >> 16 & 255;
     return GdipCreatePen1(alpha << 24, 1);
-}
-
-void DrawOutline(Graphics& graphics, const Pen& pen, std::initializer_list<PaintPoint> points) {
-    GraphicsPath& path = ScratchPath(graphics);
-    for (const PaintPoint& point : points) {
-        path.verbs.push_back(path.points.empty() ? PathVerb::kMove : PathVerb::kLine);
-        path.points.push_back(point);
-    }
-    path.verbs.push_back(PathVerb::kClose);
-    GdipDrawPath(graphics, pen, path);
-}
-
-void FillOutline(Graphics& graphics, const Brush& brush, std::initializer_list<PaintPoint> points) {
-    GdipFillPolygon(graphics, brush, {points.begin(), points.size()});
-}
-
-void FilledRectangle(Graphics& graphics, const Brush& brush, double x, double y, double width,
-                     double height) {
-    FillOutline(graphics, brush, {At(x, y), At(x + width, y), At(x + width, y + height), At(x, y + height)});
-}
-
-ClipBlock::ClipBlock(Graphics& graphics, int x, int y, int width, int height) : graphics_(graphics) {
-    GraphicsPath& path = ScratchPath(graphics);
-    GdipAddPathRectangleI(path, x, y, width, height);
-    GdipSetClipPath(graphics, path);
-}
-
-void TextAbout(Graphics& graphics, double x, double y, float size, Rgb colour, std::string_view text) {
-    CentredText(graphics, x, y - MiddleOfFigures(size), size, colour, text);
-}
-
-void TextUpTo(Graphics& graphics, double x, double y, float size, Rgb colour, std::string_view text) {
-    Text(graphics, x - WidthOf(text, size) - kPadding * size, y - MiddleOfFigures(size), size, colour, text);
-}
-
-void TextFrom(Graphics& graphics, double x, double y, float size, Rgb colour, std::string_view text) {
-    Text(graphics, x - kPadding * size, y - MiddleOfFigures(size), size, colour, text);
 }
 
 void StackedText(Graphics& graphics, double x, double y, float size, Rgb colour,

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <initializer_list>
-#include <span>
 #include <string_view>
 
 #include "display/nd/nd_frame.h"
@@ -48,39 +47,6 @@ constexpr double kTapeReach = 100;  // units of a tape above and below its middl
 /// The translucent grey of the tapes, and the pen around them.
 Brush TapeFill();
 Pen TapeFrame();
-inline Pen PenOf(Rgb colour, float width = 1) {
-    return GdipCreatePen1(Scaled(colour), width);
-}
-inline Brush BrushOf(Rgb colour) {
-    return GdipCreateSolidFill(Scaled(colour));
-}
-
-/// Lines through points and back to the first one; the same filled.
-void DrawOutline(Graphics& graphics, const Pen& pen, std::initializer_list<PaintPoint> points);
-void FillOutline(Graphics& graphics, const Brush& brush, std::initializer_list<PaintPoint> points);
-/// A point of a figure, from whatever it was worked out in.
-inline PaintPoint At(double x, double y) {
-    return {static_cast<float>(x), static_cast<float>(y)};
-}
-void FilledRectangle(Graphics& graphics, const Brush& brush, double x, double y, double width, double height);
-
-/// Lets only a rectangle be drawn on until the end of the block.
-class ClipBlock {
-  public:
-    ClipBlock(Graphics& graphics, int x, int y, int width, int height);
-    ~ClipBlock() { GdipResetClip(graphics_); }
-    ClipBlock(const ClipBlock&) = delete;
-    ClipBlock& operator=(const ClipBlock&) = delete;
-
-  private:
-    Graphics& graphics_;
-};
-
-/// Text whose middle stands at x, y; text that ends or begins at x, with its middle at y.
-void TextAbout(Graphics& graphics, double x, double y, float size, Rgb colour, std::string_view text);
-void TextUpTo(Graphics& graphics, double x, double y, float size, Rgb colour, std::string_view text);
-void TextFrom(Graphics& graphics, double x, double y, float size, Rgb colour, std::string_view text);
-
 /// Words one under the other about x, 8 apart, the first one's middle at y: "SPD" letter by letter.
 void StackedText(Graphics& graphics, double x, double y, float size, Rgb colour,
                  std::initializer_list<std::string_view> words);
