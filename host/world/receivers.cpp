@@ -256,7 +256,7 @@ void ShowStation(const ReceiverTokens& tokens, const Station& station, const Rec
     const double radial = FoldDegrees(BearingTo(place, station.place) + 180 - at.variation);
     const double up = (at.altitude - station.elevation) / kFeetPerNm;
     const Vector3& dme = station.is_localizer ? station.glide_slope : station.place;
-    SetToken(tokens.radial, (radial - 180) * 16384 / 360);
+    SetToken(tokens.radial, radial * 16384 / 360);
     SetToken(tokens.dme, std::hypot(DistanceNm(place, dme), up));
     SetToken(tokens.signal, std::max(1.0, std::round(kStrongest - DistanceNm(place, station.place))));
     SetToken(tokens.codes, station.is_localizer ? kCodeLocalizer + kCodeGlideSlope : 0);

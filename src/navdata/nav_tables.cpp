@@ -169,9 +169,8 @@ CycleDate ParseCycleDate(std::string_view text) {
 
 void LoadNavTables() {
     nav_tables = {};
-    nearest.airports = {};  // their rows are views into what was just freed
-    nearest.fixes = {};
-    nearest.navaids = {};
+    nearest.around = {};  // their rows are views into what was just freed
+    nearest.around_plan = {};
     nearest.vors = {};
     LoadIntersections(nav_tables);
     LoadAirways(nav_tables);

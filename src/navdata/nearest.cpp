@@ -16,6 +16,7 @@
 #include "state/airports.h"
 #include "state/nav.h"
 #include "state/nav_tables.h"
+#include "state/nd.h"
 #include "state/sim.h"
 
 namespace {
@@ -97,9 +98,18 @@ void BringVors() {
             [](const NavaidRow& row) { return row.type == "V"; });
 }
 
-template <class Row>
-void Forget(NearListPair<Row>& pair) {
-    pair.far.built = pair.near.built = 0;
+void Forget(NearPlaces& places) {
+    const auto forget = [](auto& pair) { pair.far.built = pair.near.built = 0; };
+    forget(places.airports);
+    forget(places.fixes);
+    forget(places.navaids);
+}
+
+// True when the airports have been found anew.
+bool BringPlaces(NearPlaces& places, double lat, double lon) {
+    NearFixes(places, lat, lon);
+    NearNavaids(places, lat, lon);
+    return NearAirports(places, lat, lon);
 }
 
 // A row of the alternates with its distance from the aircraft.
@@ -129,24 +139,24 @@ void OfferAlternate(Alternates& rows, const AirportRow& airport) {
 
 }  // namespace
 
-bool NearAirports(double lat, double lon) {
-    return BringTo(nearest.airports, nav_tables.AirportTable, nav_tables.apt_cnt, lat, lon, 1700, 1280);
+bool NearAirports(NearPlaces& places, double lat, double lon) {
+    return BringTo(places.airports, nav_tables.AirportTable, nav_tables.apt_cnt, lat, lon, 1700, 1280);
 }
 
-bool NearFixes(double lat, double lon) {
-    return BringTo(nearest.fixes, nav_tables.AirwayFixTable, nav_tables.awy_fix_cnt, lat, lon, 600, 200);
+bool NearFixes(NearPlaces& places, double lat, double lon) {
+    return BringTo(places.fixes, nav_tables.AirwayFixTable, nav_tables.awy_fix_cnt, lat, lon, 600, 200);
 }
 
-bool NearNavaids(double lat, double lon) {
-    return BringTo(nearest.navaids, nav_tables.NavaidTable, nav_tables.nav_cnt, lat, lon, 600, 320);
+bool NearNavaids(NearPlaces& places, double lat, double lon) {
+    return BringTo(places.navaids, nav_tables.NavaidTable, nav_tables.nav_cnt, lat, lon, 600, 320);
 }
 
 void BuildAltnList() {
     Alternates rows;
     for (std::size_t i = 1; i < rows.size(); ++i)
         if (nearest.AltnRows[i].fixed != 0) rows[i].record = nearest.AltnRows[i];
-    for (int i = 1; i <= nearest.airports.far.cnt; ++i) {
-        const AirportRow& airport = std::as_const(nearest.airports.far.rows)[i];
+    for (int i = 1; i <= nearest.around.airports.far.cnt; ++i) {
+        const AirportRow& airport = std::as_const(nearest.around.airports.far.rows)[i];
         if (MayBeAlternate(airport)) OfferAlternate(rows, airport);
     }
     for (std::size_t i = 1; i < rows.size(); ++i) nearest.AltnRows[i] = std::move(rows[i].record);
@@ -155,17 +165,14 @@ void BuildAltnList() {
 void RefreshNearest() {
     if (nav.nearest_refresh_due != 0) {
         nav.nearest_refresh_due = 0;
-        Forget(nearest.airports);
-        Forget(nearest.fixes);
-        Forget(nearest.navaids);
+        Forget(nearest.around);
+        for (NearPlaces& places : nearest.around_plan) Forget(places);
         nearest.vors.built = 0;
     }
-    const bool elsewhere = nearest.map_centre_set != 0;
-    const double lat = elsewhere ? nearest.map_centre_lat : sim.plane_lat;
-    const double lon = elsewhere ? nearest.map_centre_lon : sim.plane_lon;
-    if (NearAirports(lat, lon)) BuildAltnList();
-    NearFixes(lat, lon);
-    NearNavaids(lat, lon);
+    if (BringPlaces(nearest.around, sim.plane_lat, sim.plane_lon)) BuildAltnList();
+    for (std::size_t side = 0; side < nd.size(); ++side)
+        if (nd[side].nd_mode == kNdPlan)
+            BringPlaces(nearest.around_plan[side], nd[side].map_lat, nd[side].map_lon);
     BringVors();
     AutoTuneRadios();
 }

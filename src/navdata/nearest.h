@@ -3,14 +3,15 @@
 #include "state/nearest.h"
 
 /// Brings the proximity lists, the alternates and the automatic tuning of the VOR radios up to date; called
-/// about once a second. A list is rebuilt only when its reference point has moved (200 nm for the far lists,
-/// 50 nm for the near ones), or at once when `nav.nearest_refresh_due` is set.
+/// about once a second. There is a set of lists around the aircraft, and one for each side whose map is drawn
+/// around another place, in PLAN. A list is rebuilt only when its reference point has moved (200 nm for the
+/// far lists, 50 nm for the near ones), or at once when `nav.nearest_refresh_due` is set.
 void RefreshNearest();
 
 /// Bring one pair of lists to a reference point (degrees); true when one of the two was rebuilt.
-bool NearAirports(double lat, double lon);
-bool NearFixes(double lat, double lon);
-bool NearNavaids(double lat, double lon);
+bool NearAirports(NearPlaces& places, double lat, double lon);
+bool NearFixes(NearPlaces& places, double lat, double lon);
+bool NearNavaids(NearPlaces& places, double lat, double lon);
 
 /// Fills `nearest.AltnRows` with the airports nearest to the aircraft, nearest first: runway of at least 4800
 /// ft, neither origin nor destination. Rows that the crew has fixed keep their place.

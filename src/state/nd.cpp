@@ -57,6 +57,14 @@ constexpr Variable kNdRows[] = {
     {"fo.nd_cursor_x", &nd[1].nd_cursor_x},
     {"capt.nd_cursor_y", &nd[0].nd_cursor_y},
     {"fo.nd_cursor_y", &nd[1].nd_cursor_y},
+    {"capt.map_lat", &nd[0].map_lat},
+    {"fo.map_lat", &nd[1].map_lat},
+    {"capt.map_lon", &nd[0].map_lon},
+    {"fo.map_lon", &nd[1].map_lon},
+    {"capt.map_north", &nd[0].map_north},
+    {"fo.map_north", &nd[1].map_north},
+    {"capt.px_per_nm", &nd[0].px_per_nm},
+    {"fo.px_per_nm", &nd[1].px_per_nm},
 };
 constexpr Variable kNdMemoryRows[] = {
     {"hdg_sel_timer", &nd_memory.hdg_sel_timer},

@@ -7,7 +7,7 @@
 
 /// What a pilot has chosen on a navigation display.
 struct NdSide {
-    int nd_mode = 3;     // 3 MAP, 4 PLAN
+    int nd_mode = 3;     // one of those below
     int nd_menu = 0;     // the menu column is open
     int rng_knob = 6;    // 0 to 11, place in the range table
     double rng_nm = 40;  // range
@@ -24,7 +24,13 @@ struct NdSide {
     int nd_pick_use = 0;                   // what the point is for: one of those below
     int nd_pick_taken = 0;                 // the map has been pressed, at the cursor
     int nd_cursor_x = 0, nd_cursor_y = 0;  // from the half's upper left corner
+    // how the map stood at the last tick
+    double map_lat = 0, map_lon = 0;  // its centre, degrees
+    double map_north = 0;             // true bearing of its top
+    double px_per_nm = 0;
 };
+
+constexpr int kNdMap = 3, kNdPlan = 4;  // of nd_mode
 
 /// Of nd_pick_use: the key that has been pressed in PLAN.
 constexpr int kPickWaypoint = 0, kPickCursor = 1, kPickCentre = 2;

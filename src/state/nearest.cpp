@@ -20,22 +20,51 @@ struct Describe<TunedVor> {
     static constexpr ValueType type{.kind = ValueKind::kRecord, .fields = fields};
 };
 
+template <class Row>
+struct Describe<NearList<Row>> {
+    using L = NearList<Row>;
+    static constexpr Field fields[] = {
+        FieldRow<&L::rows>("rows"), FieldRow<&L::cnt>("cnt"),     FieldRow<&L::lat>("lat"),
+        FieldRow<&L::lon>("lon"),   FieldRow<&L::built>("built"),
+    };
+    static constexpr ValueType type{.kind = ValueKind::kRecord, .fields = fields};
+};
+
+template <class Row>
+struct Describe<NearListPair<Row>> {
+    using P = NearListPair<Row>;
+    static constexpr Field fields[] = {FieldRow<&P::far>("far"), FieldRow<&P::near>("near")};
+    static constexpr ValueType type{.kind = ValueKind::kRecord, .fields = fields};
+};
+
+template <>
+struct Describe<NearPlaces> {
+    using N = NearPlaces;
+    static constexpr Field fields[] = {
+        FieldRow<&N::airports>("airports"),
+        FieldRow<&N::fixes>("fixes"),
+        FieldRow<&N::navaids>("navaids"),
+    };
+    static constexpr ValueType type{.kind = ValueKind::kRecord, .fields = fields};
+};
+
 NearestState nearest;
 
 namespace {
 constexpr Variable kNearestRows[] = {
-    {"far_airport_list", &nearest.airports.far.rows},
-    {"far_airport_cnt", &nearest.airports.far.cnt},
-    {"near_airport_list", &nearest.airports.near.rows},
-    {"near_airport_cnt", &nearest.airports.near.cnt},
-    {"far_fix_list", &nearest.fixes.far.rows},
-    {"far_fix_cnt", &nearest.fixes.far.cnt},
-    {"near_fix_list", &nearest.fixes.near.rows},
-    {"near_fix_cnt", &nearest.fixes.near.cnt},
-    {"far_navaid_list", &nearest.navaids.far.rows},
-    {"far_navaid_cnt", &nearest.navaids.far.cnt},
-    {"near_navaid_list", &nearest.navaids.near.rows},
-    {"near_navaid_cnt", &nearest.navaids.near.cnt},
+    {"far_airport_list", &nearest.around.airports.far.rows},
+    {"far_airport_cnt", &nearest.around.airports.far.cnt},
+    {"near_airport_list", &nearest.around.airports.near.rows},
+    {"near_airport_cnt", &nearest.around.airports.near.cnt},
+    {"far_fix_list", &nearest.around.fixes.far.rows},
+    {"far_fix_cnt", &nearest.around.fixes.far.cnt},
+    {"near_fix_list", &nearest.around.fixes.near.rows},
+    {"near_fix_cnt", &nearest.around.fixes.near.cnt},
+    {"far_navaid_list", &nearest.around.navaids.far.rows},
+    {"far_navaid_cnt", &nearest.around.navaids.far.cnt},
+    {"near_navaid_list", &nearest.around.navaids.near.rows},
+    {"near_navaid_cnt", &nearest.around.navaids.near.cnt},
+    {"places_around_plan", &nearest.around_plan},
     {"near_vor_list", &nearest.vors.rows},
     {"near_vor_cnt", &nearest.vors.cnt},
     {"AltnRows", &nearest.AltnRows},
@@ -45,9 +74,6 @@ constexpr Variable kNearestRows[] = {
     {"vor_right", &nearest.vor_right},
     {"VorLeftMode", &nearest.VorLeftMode},
     {"VorRightMode", &nearest.VorRightMode},
-    {"map_centre_set", &nearest.map_centre_set},
-    {"map_centre_lat", &nearest.map_centre_lat},
-    {"map_centre_lon", &nearest.map_centre_lon},
 };
 }  // namespace
 

@@ -39,17 +39,19 @@ struct TunedVor {
     double bearing = 0;  // degrees true from the aircraft
 };
 
-/// What lies around the aircraft, or around the point that the map is centred on. Filled by navdata/nearest
-/// and navdata/vor_autotune; a picture is composed under the state lock, so it never sees a list half made.
-struct NearestState {
+/// What a map can show around its centre.
+struct NearPlaces {
     NearListPair<AirportRow> airports;  // 1700 and 1280 nm
     NearListPair<AirwayFixRow> fixes;   // 600 and 200 nm, fixes of airways
     NearListPair<NavaidRow> navaids;    // 600 and 320 nm
-    NearList<NavaidRow> vors;           // 320 nm of the aircraft
+};
 
-    // The map's centre while it isn't the aircraft (PLAN); written by display/.
-    int map_centre_set = 0;
-    double map_centre_lat = 0, map_centre_lon = 0;
+/// Filled by navdata/nearest and navdata/vor_autotune; a picture is composed under the state lock, so it
+/// never sees a list half made.
+struct NearestState {
+    NearPlaces around;                      // the aircraft
+    std::array<NearPlaces, 2> around_plan;  // the centre of the captain's PLAN, and of the first officer's
+    NearList<NavaidRow> vors;               // 320 nm of the aircraft
 
     std::array<AltnRecord, 5> AltnRows;  // from 1, nearest first
 

@@ -71,7 +71,7 @@ struct SimSnapshot {
     double ap_vsbug = 0;   // fpm
     double nav1_freq = 0;  // BCD digits + 10000
     double nav2_freq = 0;
-    double nav1_radial = 0;  // degrees, of the station
+    double nav1_radial = 0;  // degrees magnetic, to the station: its radial turned round
     double nav2_radial = 0;
     double nav1_deviation = 0;  // raw
     double nav2_deviation = 0;

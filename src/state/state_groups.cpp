@@ -73,7 +73,7 @@ constexpr StateGroup kGroups[] = {
     {"nav", Reset<&nav>, &kNavVariables, "navdata/ guidance/approach_tuning"},
     {"traffic", Reset<&traffic>, &kTrafficVariables, "surveillance/traffic"},
     {"nearest", Reset<&nearest>, &kNearestVariables,
-     "frame/aircraft navdata/ fmc/performance/winds fmc/route/route_text display/nd/nd_memory"},
+     "frame/aircraft navdata/ fmc/performance/winds fmc/route/route_text"},
     {"airports", Reset<&airports>, &kAirportVariables,
      "navdata/ fmc/procedures/select_procedures fmc/route/ fmc/files/loaded_route"},
     {"plan", Reset<&plan>, &kPlanVariables,
@@ -101,7 +101,8 @@ constexpr StateGroup kGroups[] = {
     {"displays", Reset<&displays>, &kDisplayVariables,
      "systems/ display/routing/ display/formats/ display/pictures/compose"},
     {"nd", Reset<&nd>, &kNdVariables,
-     "frame/named_variable_catalogue cdu/pages/legs_page display/routing/nd_controls display/nd/nd_keys"},
+     "frame/named_variable_catalogue cdu/pages/legs_page display/routing/nd_controls display/nd/nd_keys "
+     "display/nd/nd_memory"},
     {"nd_memory", Reset<&nd_memory>, &kNdMemoryVariables, "display/nd/nd_memory"},
     {"fix_info", Reset<&fix_info>, &kFixInfoVariables, ""},
     {"instruments", Reset<&instruments>, &kInstrumentVariables,

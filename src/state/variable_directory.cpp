@@ -2,6 +2,7 @@
 
 #include <charconv>
 #include <cmath>
+#include <string>
 #include <unordered_map>
 
 #include "state/state_groups.h"
@@ -62,7 +63,9 @@ std::optional<VariableRef> FindVariable(std::string_view path) {
     TakeName(rest);
     const std::string_view name = path.substr(0, path.size() - rest.size());
     if (name.size() == prefix) return {};
-    const auto found = kIndex.find(name);
+    auto found = kIndex.find(name);
+    // What stands once for each side is the captain's without one.
+    if (found == kIndex.end() && prefix == 0) found = kIndex.find("capt." + std::string(name));
     if (found == kIndex.end()) return {};
     std::optional<VariableRef> at = VariableRef{found->second->type, found->second->address};
     while (at && !rest.empty()) at = Step(*at, rest);

@@ -13,7 +13,8 @@ struct VariableRef {
     void* address;
 };
 
-/// Finds a variable by its path; nothing for an unknown name, a field that isn't there or an index outside.
+/// Finds a variable by its path; one that stands once for each side is the captain's without `capt.` or
+/// `fo.`. Nothing for an unknown name, a field that isn't there or an index outside.
 std::optional<VariableRef> FindVariable(std::string_view path);
 
 /// The name under which a variable without a path stands in the directory; empty for an address without one.

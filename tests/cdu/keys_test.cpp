@@ -179,8 +179,8 @@ TEST_F(CduKeys, ExecOfANewRouteCommitsTheTakeoff) {
 }
 
 TEST_F(CduKeys, AltnComputesTheAlternatesAnew) {
-    nearest.airports.far.rows[1] = {"KAAA", "", 1, 1, 9000, ""};
-    nearest.airports.far.cnt = 1;
+    nearest.around.airports.far.rows[1] = {"KAAA", "", 1, 1, 9000, ""};
+    nearest.around.airports.far.cnt = 1;
     EnterSoftKey(kCaptain, kItemAltn);
     EXPECT_EQ(nearest.AltnRows[1].ident, "") << "by the keyboard only the page";
     OnCduKeyPress(kCaptain, kItemAltn);

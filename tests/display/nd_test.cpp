@@ -452,9 +452,9 @@ TEST_F(NdPicture, RingsHoldsAndPointers) {
     EXPECT_NE(Draw().find("stroke 255,19,213,255 2 dash"), std::string::npos) << "not entered";
     lnav.holding = 1;
     EXPECT_EQ(Draw().find("stroke 255,19,213,255 2 dash"), std::string::npos);
-    // The left needle's head is a filled triangle; a radial of 180 leads to a station in the north.
+    // The left needle's head is a filled triangle; the receiver tells the way to the station.
     side.nd_vor_l = 1;
-    sim.nav1_radial = 180;
+    sim.nav1_radial = 360;
     EXPECT_NE(Draw().find("fill 0,250,0,255 M 141 56 L 146 64 L 136 64"), std::string::npos);
     sim.nav1_radial = 0;
     EXPECT_EQ(Draw().find("fill 0,250,0,255 M"), std::string::npos) << "none";
@@ -465,9 +465,9 @@ TEST_F(NdPicture, LayersByRange) {
         near.rows[1] = row;
         near.cnt = 1;
     };
-    put(nearest.airports.near, AirportRow{"KABCDEF", "", 47.05, -122, 0, ""});
-    put(nearest.fixes.near, AirwayFixRow{"FIXES", 47.03, -122});
-    put(nearest.navaids.near, NavaidRow{"NAV", "", 47.04, -122, "V", ""});
+    put(nearest.around.airports.near, AirportRow{"KABCDEF", "", 47.05, -122, 0, ""});
+    put(nearest.around.fixes.near, AirwayFixRow{"FIXES", 47.03, -122});
+    put(nearest.around.navaids.near, NavaidRow{"NAV", "", 47.04, -122, "V", ""});
     side.nd_apt = side.nd_wpt = side.nd_sta = 1;
     const struct {
         double range;
@@ -599,8 +599,8 @@ TEST(NdKeys, PlanIsCentredAndPicked) {
     OnDisplayUnitClick(250, 400, 2);  // PICK WPT
     OnDisplayUnitClick(141, 213, 2);
     EXPECT_EQ(CduOf(1).ScratchPad, "N4710.0W12200.0");
-    nearest.airports.near.rows[1] = AirportRow{"KAPT", "", 47 + 10.5 / 60, -122, 0, ""};
-    nearest.airports.near.cnt = 1;
+    nearest.around_plan[0].airports.near.rows[1] = AirportRow{"KAPT", "", 47 + 10.5 / 60, -122, 0, ""};
+    nearest.around_plan[0].airports.near.cnt = 1;
     side.nd_apt = 1;
     OnDisplayUnitClick(250, 400, 2);
     OnDisplayUnitClick(141, 213, 2);

@@ -9,7 +9,9 @@
 #include "navdata/vor_autotune.h"
 #include "state/airports.h"
 #include "state/nav.h"
+#include "state/nd.h"
 #include "state/plan.h"
+#include "state/side.h"
 #include "state/sim.h"
 #include "support/fake_host.h"
 
@@ -42,23 +44,26 @@ TEST_F(NearestTest, TwoStagesFollowTheReference) {
     Put("awys.txt", fixes);
     LoadNavTables();
     At(20.5, 0);
-    EXPECT_EQ(nearest.fixes.far.cnt, 20) << "9.5 degrees each way";
-    EXPECT_EQ(nearest.fixes.near.cnt, 6) << "200 nm: 2.5 degrees each way";
+    EXPECT_EQ(nearest.around.fixes.far.cnt, 20) << "9.5 degrees each way";
+    EXPECT_EQ(nearest.around.fixes.near.cnt, 6) << "200 nm: 2.5 degrees each way";
     At(21.3, 0);  // 48 nm on: nothing is rebuilt
-    EXPECT_EQ(nearest.fixes.near.rows[1].lat, 18);
+    EXPECT_EQ(nearest.around.fixes.near.rows[1].lat, 18);
     At(21.5, 0);  // 60 nm: the near list only
-    EXPECT_EQ(nearest.fixes.near.rows[1].lat, 19);
-    EXPECT_EQ(nearest.fixes.far.rows[1].lat, 11);
+    EXPECT_EQ(nearest.around.fixes.near.rows[1].lat, 19);
+    EXPECT_EQ(nearest.around.fixes.far.rows[1].lat, 11);
     At(24.5, 0);  // 240 nm: the far list too
-    EXPECT_EQ(nearest.fixes.far.rows[1].lat, 15);
+    EXPECT_EQ(nearest.around.fixes.far.rows[1].lat, 15);
     nav.nearest_refresh_due = 1;
     At(24.6, 0);
-    EXPECT_EQ(nearest.fixes.near.lat, 24.6) << "at once when asked";
+    EXPECT_EQ(nearest.around.fixes.near.lat, 24.6) << "at once when asked";
     EXPECT_EQ(nav.nearest_refresh_due, 0);
-    nearest.map_centre_set = 1;  // the map is drawn elsewhere
-    nearest.map_centre_lat = 5;
+    // One map is drawn elsewhere: it has its own, and the aircraft and the other side keep theirs.
+    NdOf(kFirstOfficer).nd_mode = kNdPlan;
+    NdOf(kFirstOfficer).map_lat = 5;
     At(24.6, 0);
-    EXPECT_EQ(nearest.fixes.near.rows[1].lat, 2);
+    EXPECT_EQ(nearest.around_plan[1].fixes.near.rows[1].lat, 2);
+    EXPECT_EQ(nearest.around_plan[0].fixes.near.cnt, 0);
+    EXPECT_EQ(nearest.around.fixes.near.lat, 24.6);
 }
 
 TEST_F(NearestTest, AlternatesByDistanceAroundFixedRows) {

@@ -87,7 +87,7 @@ void DrawTrafficRing(Graphics& graphics, double scale) {
 }
 
 void DrawCrossTrack(Graphics& graphics, const NdFrame& frame) {
-    if (plan.active.stpos == kNoPlan) return;
+    if (plan.active.stpos == kNoPlan || !frame.irs_on) return;
     const double least = frame.vsd ? 0.25 : 0.85;
     if (!(lnav.xtk_shown > least)) return;
     Text(graphics, -18, 20, kMarkSize, kWhite, lnav.xtk_side_shown == kTurnLeft ? "L" : "R");

@@ -4,7 +4,6 @@
 #include <charconv>
 #include <cmath>
 
-#include "base/angles.h"
 #include "paint/painter.h"
 #include "state/autoflight.h"
 #include "state/cfg.h"
@@ -26,11 +25,6 @@ void DrawTickLabel(Graphics& graphics, const RoseTicks& ticks, int degrees) {
     const int x = tens < 10 ? -6 : -9;
     Text(graphics, x, ticks.label_y, ticks.label_size, ticks.colour,
          {text, static_cast<std::size_t>(end - text)});
-}
-
-// The needle points to the station; the receiver tells the radial from it.
-double BearingToStation(double radial) {
-    return FoldBearing(radial + 180);
 }
 
 // Draws in the frame turned to a direction of the compass.
@@ -123,10 +117,10 @@ void DrawRose(Graphics& graphics, const NdFrame& frame) {
 void DrawBearingPointers(Graphics& graphics, const NdFrame& frame) {
     const NdSide& settings = NdOf(frame.side);
     if (settings.nd_vor_l == 1 && sim.nav1_radial > 0)
-        At(graphics, frame, frame.reference.Magnetic(BearingToStation(sim.nav1_radial)),
+        At(graphics, frame, frame.reference.Magnetic(sim.nav1_radial),
            [&] { DrawLeftPointer(graphics, frame.Pick(-300, -100, -180, -90)); });
     if (settings.nd_vor_r == 1 && sim.nav2_radial > 0)
-        At(graphics, frame, frame.reference.Magnetic(BearingToStation(sim.nav2_radial)),
+        At(graphics, frame, frame.reference.Magnetic(sim.nav2_radial),
            [&] { DrawRightPointer(graphics, frame.Pick(-270, -70, -150, -60)); });
 }
 

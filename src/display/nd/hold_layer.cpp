@@ -42,7 +42,7 @@ void DrawHold(Graphics& graphics, const MapView& view, const HoldRecord& hold, c
     if (!IsPlace(leg) || !IsInReach(view, leg.lat, leg.lon)) return;
     const double length = hold.use_time == 1 ? lnav.hold_speed / 60.0 * hold.leg_time : hold.leg_dist;
     const double radius = TurnRadiusForSpeedAndAlt(HoldSpeed(), 0);
-    const Rgb colour = is_flown_to ? kMagenta : IsMissedApproach(leg) ? kCyan : kWhite;
+    const Rgb colour = is_flown_to ? kMagenta : IsOfMissedApproach(leg) ? kCyan : kWhite;
     constexpr float kWidth = 2;
     Pen pen = GdipCreatePen1(Scaled(colour), kWidth);
     if (!entered) GdipSetPenDashStyle(pen, 1);

@@ -90,9 +90,9 @@ void DrawSpeeds(Graphics& graphics, const NdFrame& frame) {
 }
 
 void DrawNextWaypoint(Graphics& graphics, const NdFrame& frame) {
-    const bool has_route = HasRoute();
-    if (has_route)
+    if (HasRoute())
         Text(graphics, AtSide(frame, 90), -210, kNdValueSize, kMagenta, ToLeg().ident.substr(0, 7));
+    const bool has_route = HasRoute() && frame.irs_on;  // what follows asks where the aircraft is
     const std::string passage = TimeOfPassage(has_route ? lnav.wpt_dist : 0);
     const bool is_known = has_route && passage.front() != '-';
     Text(graphics, AtSide(frame, is_known ? 91 : 92), -199, kNdValueSize - 1, kWhite,

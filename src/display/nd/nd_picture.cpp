@@ -4,6 +4,7 @@
 #include "display/nd/compass_rose.h"
 #include "display/nd/fix_rings.h"
 #include "display/nd/hold_layer.h"
+#include "display/nd/later_layers.h"
 #include "display/nd/nd_frame.h"
 #include "display/nd/nd_header.h"
 #include "display/nd/nd_keys.h"
@@ -14,6 +15,7 @@
 #include "paint/painter.h"
 #include "state/autoflight.h"
 #include "state/cfg.h"
+#include "state/cockpit.h"
 
 namespace {
 
@@ -33,13 +35,30 @@ void DrawStripAhead(Graphics& graphics, const NdFrame& frame) {
     for (const int x : {-8, 8}) GdipDrawLineI(graphics, pen, x, 0, x, y);
 }
 
+// What lies under all else.
+void DrawGround(Graphics& graphics, const NdFrame& frame) {
+    constexpr double kLeastRadarRange = 10, kLargestAirportRange = 5;
+    const NdSide& settings = NdOf(frame.side);
+    if (!frame.in_plan && frame.view.range >= kLeastRadarRange) {
+        if (settings.nd_wxr == 1 || settings.nd_wxr == 2) DrawWeather(graphics, frame);
+        if (settings.nd_terr == 1 || settings.nd_terr == 2) DrawTerrainDots(graphics, frame);
+    }
+    if (frame.view.range <= kLargestAirportRange) DrawAirportMap(graphics, frame);
+}
+
+bool IsTrafficShown(const NdFrame& frame) {
+    constexpr int kTaOnly = 3;
+    const int choice = NdOf(frame.side).nd_tfc;
+    return !frame.in_plan && (choice == 1 || choice == 2) && cockpit.TZ_AFT_Transponder_Knob >= kTaOnly;
+}
+
 void DrawPlaces(Graphics& graphics, const NdFrame& frame) {
     const NdSide& settings = NdOf(frame.side);
     const double range = frame.view.range;
     if (range >= 10 && range <= 640) DrawStations(graphics, frame);
-    if (settings.nd_apt == 1) DrawAirports(graphics, frame.view);
+    if (settings.nd_apt == 1) DrawAirports(graphics, frame);
     if (settings.nd_apt == 1 || frame.in_plan) DrawRouteAirports(graphics, frame.view);
-    if (settings.nd_wpt == 1 && range <= 40) DrawFixes(graphics, frame.view);
+    if (settings.nd_wpt == 1 && range <= 40) DrawFixes(graphics, frame);
 }
 
 void DrawRoute(Graphics& graphics, const NdFrame& frame) {
@@ -54,11 +73,13 @@ void DrawRoute(Graphics& graphics, const NdFrame& frame) {
 
 // The layers, from the ground up.
 void DrawMap(Graphics& graphics, const NdFrame& frame) {
+    DrawGround(graphics, frame);
     if (frame.vsd && !IsTrackFollowed()) DrawStripAhead(graphics, frame);
     DrawRose(graphics, frame);
     DrawPlaces(graphics, frame);
     DrawRoute(graphics, frame);
     DrawFixRings(graphics, frame.view);
+    if (IsTrafficShown(frame)) DrawTraffic(graphics, frame);
     if (!frame.in_plan) DrawTrendVector(graphics, frame.view.scale, frame.view.range);
     DrawHolds(graphics, frame.view);
     if (frame.in_plan) return;
@@ -83,6 +104,7 @@ void DrawNdPicture(Graphics& graphics, int side, int half, bool wide) {
     }
     if (frame.irs_on && frame.in_plan) DrawPlanCursor(graphics, frame);
     GdipResetClip(graphics);
+    if (frame.vsd) DrawVsd(graphics, frame);
     DrawNdHeader(graphics, frame);
     DrawNdKeys(graphics, frame);
 }

@@ -10,13 +10,20 @@
 #include "display/nd/map_symbols.h"
 #include "paint/painter.h"
 #include "state/airports.h"
+#include "state/nearest.h"
 #include "state/plan.h"
+#include "state/side.h"
 #include "state/sim.h"
 
 namespace {
 
 constexpr double kSymbolRoom = 8, kLabelRoom = 60;
 constexpr std::size_t kLabelLength = 5;
+
+const NearPlaces& PlacesOf(int side) {
+    const bool in_plan = NdOf(side).nd_mode == kNdPlan;
+    return in_plan ? nearest.around_plan[side == kFirstOfficer ? 1 : 0] : nearest.around;
+}
 
 // Whether a symbol, or the label to the right of it, can be seen.
 bool IsLabelledPointSeen(const MapView& view, MapPoint p) {
@@ -63,7 +70,7 @@ void DrawAirport(Graphics& graphics, const MapView& view, MapPoint at, std::stri
 // A VOR that a receiver hears.
 struct HeardStation {
     const std::string& ident;
-    double radial;  // degrees
+    double bearing;  // magnetic, to the station
     double signal;
     bool is_localizer;
 };
@@ -76,7 +83,7 @@ std::array<HeardStation, 2> HeardStations() {
 const NavaidRow* FindStation(std::string_view ident) {
     const NavaidRow* found = nullptr;
     double least = 1e9;
-    const auto& list = nearest.navaids.near;
+    const auto& list = nearest.around.navaids.near;
     for (int i = 1; i <= list.cnt; ++i) {
         const NavaidRow& row = std::as_const(list.rows)[i];
         if (row.ident != ident || row.type != "V") continue;
@@ -113,7 +120,7 @@ void DrawHeardStation(Graphics& graphics, const MapView& view, const HeardStatio
     Pen pen = GdipCreatePen1(Scaled(kGreen), 1);
     GdipSetPenDashStyle(pen, 1);
     DrawMapLine(graphics, pen, view, aircraft, at);
-    DrawRadialText(graphics, aircraft, at, heard.radial);
+    DrawRadialText(graphics, aircraft, at, FoldBearing(heard.bearing + 180));
 }
 
 template <class Row>
@@ -142,7 +149,7 @@ void DrawRouteAirport(Graphics& graphics, const MapView& view, const AirportData
 void DrawStations(Graphics& graphics, const NdFrame& frame) {
     const NdSide& settings = NdOf(frame.side);
     if (settings.nd_sta == 1)
-        ForEachSeen(nearest.navaids.near, frame.view, [&](const NavaidRow& row, MapPoint at) {
+        ForEachSeen(PlacesOf(frame.side).navaids.near, frame.view, [&](const NavaidRow& row, MapPoint at) {
             DrawStation(graphics, at, row.type == "V", row.ident);
             return true;
         });
@@ -153,11 +160,11 @@ void DrawStations(Graphics& graphics, const NdFrame& frame) {
             DrawHeardStation(graphics, frame.view, heard[i], settings.nd_pos == 1);
 }
 
-void DrawAirports(Graphics& graphics, const MapView& view) {
+void DrawAirports(Graphics& graphics, const NdFrame& frame) {
     constexpr int kMostAirports = 80;
     int drawn = 0;
-    ForEachSeen(nearest.airports.near, view, [&](const AirportRow& row, MapPoint at) {
-        DrawAirport(graphics, view, at, row.ident);
+    ForEachSeen(PlacesOf(frame.side).airports.near, frame.view, [&](const AirportRow& row, MapPoint at) {
+        DrawAirport(graphics, frame.view, at, row.ident);
         return ++drawn < kMostAirports;
     });
 }
@@ -169,8 +176,8 @@ void DrawRouteAirports(Graphics& graphics, const MapView& view) {
         DrawRouteAirport(graphics, view, airports.dest_airport);
 }
 
-void DrawFixes(Graphics& graphics, const MapView& view) {
-    ForEachSeen(nearest.fixes.near, view, [&](const AirwayFixRow& row, MapPoint at) {
+void DrawFixes(Graphics& graphics, const NdFrame& frame) {
+    ForEachSeen(PlacesOf(frame.side).fixes.near, frame.view, [&](const AirwayFixRow& row, MapPoint at) {
         DrawMapSymbol(graphics, at, MapSymbol::kTriangle, kMapGreen);
         LabelBeside(graphics, at, kMapGreen, row.ident);
         return true;
@@ -180,8 +187,8 @@ void DrawFixes(Graphics& graphics, const MapView& view) {
 NearItem ItemNear(int side, double lat, double lon) {
     const NdSide& settings = NdOf(side);
     NearItem item;
-    if (settings.nd_apt == 1) item = NearestOf(nearest.airports.near, lat, lon);
-    if (item.ident.empty() && settings.nd_sta == 1) item = NearestOf(nearest.navaids.near, lat, lon);
-    if (item.ident.empty() && settings.nd_wpt == 1) item = NearestOf(nearest.fixes.near, lat, lon);
+    if (settings.nd_apt == 1) item = NearestOf(PlacesOf(side).airports.near, lat, lon);
+    if (item.ident.empty() && settings.nd_sta == 1) item = NearestOf(PlacesOf(side).navaids.near, lat, lon);
+    if (item.ident.empty() && settings.nd_wpt == 1) item = NearestOf(PlacesOf(side).fixes.near, lat, lon);
     return item;
 }

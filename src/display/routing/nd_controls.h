@@ -2,8 +2,6 @@
 
 // What the navigation display's controls of a side (kCaptain, kFirstOfficer) do.
 
-constexpr int kNdMap = 3, kNdPlan = 4;  // of nd_mode
-
 /// The range that a side's map is drawn with: rng_nm, or that of the knob's position where it is no range.
 double SelectedRange(int side);
 
@@ -13,7 +11,8 @@ void FollowRangeKnob(int side);
 /// Moves the range knob by steps, as another gauge does for the pilot; it stops at its ends.
 void TurnRangeKnob(int side, int steps);
 
-/// 3 MAP, 4 PLAN. PLAN begins at the first leg, and around the aircraft unless a centre has been set.
+/// kNdMap or kNdPlan (state/nd.h). PLAN begins at the first leg, and around the aircraft unless a centre has
+/// been set.
 void SelectNdMode(int side, int mode);
 
 /// MAP or PLAN by the mode knob's position.
