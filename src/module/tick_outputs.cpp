@@ -2,6 +2,7 @@
 
 #include "cdu/unit/exec_lamps.h"
 #include "checklist/checklist.h"
+#include "display/eicas/engine_readings.h"
 #include "display/nd/nd_memory.h"
 #include "display/pfd/pfd_memory.h"
 #include "display/pictures/remote_bridge.h"
@@ -98,6 +99,7 @@ void TickOutputs(bool ticked) {
     if (ticked) StepNdMemory();
     ReadTrafficAdvisory();
     if (ticked) StepPfdMemory();
+    if (ticked) StepEicasReadings();
     if (ticked) StepPhases(time_base.tick_phase);
     TakeDisplaySelector();
     StepChecklist();

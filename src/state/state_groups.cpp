@@ -10,6 +10,7 @@
 #include "state/cockpit.h"
 #include "state/displays.h"
 #include "state/efb.h"
+#include "state/eicas.h"
 #include "state/electrical.h"
 #include "state/engines.h"
 #include "state/fix_info.h"
@@ -120,6 +121,7 @@ constexpr StateGroup kGroups[] = {
     {"surfaces", Reset<&surfaces>, &kSurfaceVariables, ""},
     {"air", Reset<&air>, &kAirVariables, ""},
     {"alerts", Reset<&alerts>, &kAlertVariables, ""},
+    {"eicas", Reset<&eicas>, &kEicasVariables, "display/eicas/engine_readings"},
     {"checklist", Reset<&checklist>, &kChecklistVariables, "checklist/"},
     {"synoptics", Reset<&synoptics>, &kSynopticVariables, ""},
 };

@@ -10,7 +10,6 @@
 #include "display/pfd/pfd_memory.h"
 #include "display/pfd/speed_marks.h"
 #include "display/pfd/vertical_speed.h"
-#include "paint/draw_list.h"
 #include "state/airports.h"
 #include "state/autoflight.h"
 #include "state/cfg.h"
@@ -28,7 +27,9 @@
 #include "state/vnav.h"
 #include "state/weights.h"
 #include "support/fake_host.h"
+#include "support/picture.h"
 #include "support/set_variables.h"
+#include "systems/flap_detents.h"
 
 // The primary flight display as it is drawn. Unless a test tells otherwise it is the captain's wide one on
 // the left: its middle at (191, 128).
@@ -37,18 +38,8 @@ namespace {
 
 constexpr ContentPlace kWide{.mode = 2, .unit = 1, .half = 1, .side = 1, .narrow = false, .system_page = 0};
 
-// All of a picture as `draws` prints it.
 std::string Picture(const ContentPlace& place = kWide) {
-    DrawList list;
-    Graphics graphics = GdipCreateGraphics(list, 564, 424);
-    DrawPfd(graphics, place);
-    std::string text;
-    for (const Primitive& primitive : list.primitives) text += DescribePrimitive(list, primitive) + "\n";
-    return text;
-}
-
-bool Has(const std::string& picture, const std::string& words) {
-    return picture.find(words) != std::string::npos;
+    return PrintedPicture(DrawPfd, place);
 }
 
 // Whether a text stands in the picture, word for word.

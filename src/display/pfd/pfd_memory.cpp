@@ -15,6 +15,7 @@
 #include "state/takeoff_approach.h"
 #include "state/time_base.h"
 #include "state/vnav.h"
+#include "systems/flap_detents.h"
 
 namespace {
 

@@ -2,12 +2,10 @@
 
 #include <cmath>
 #include <cstdlib>
-#include <span>
 
 #include "base/text.h"
 #include "display/pfd/speed_tape.h"
 #include "state/flight_log.h"
-#include "state/identity.h"
 #include "state/instruments.h"
 #include "state/sim.h"
 #include "state/takeoff_approach.h"
@@ -19,15 +17,6 @@ constexpr double kRotationDone = 30;  // ft radio altitude, up to which the take
 constexpr int kBeside = 47;           // x of labels from the tape's left
 constexpr float kMarkSize = 9;
 constexpr int kShortTick = 36, kLongTick = 31;
-
-struct Detent {
-    int raw;  // least position of the lever
-    int flaps;
-};
-constexpr Detent kSevenDetents[] = {{0, 0},     {2340, 1},   {4681, 5},  {7021, 15},
-                                    {9362, 20}, {11702, 25}, {14043, 30}};
-constexpr Detent kTenDetents[] = {{0, 0},     {1820, 1},   {3640, 5},   {5461, 10},  {7281, 15},
-                                  {9102, 17}, {10922, 18}, {12743, 20}, {14563, 25}, {16384, 30}};
 
 void MarkLabel(const PfdView& view, double speed, std::string_view text) {
     TextFrom(view.graphics, view.left + kBeside, (ShownSpeed() - speed) * kUnitsPerKnot, kMarkSize, kGreen,
@@ -99,15 +88,6 @@ void DrawApproachSpeed(const PfdView& view) {
 }
 
 }  // namespace
-
-int FlapDetent() {
-    const bool ten = identity.aircraft_model == "900-9" || identity.aircraft_model == "900-10";
-    const std::span<const Detent> detents = ten ? std::span<const Detent>(kTenDetents) : kSevenDetents;
-    int flaps = 0;
-    for (const Detent& detent : detents)
-        if (sim.flap_pos >= detent.raw) flaps = detent.flaps;
-    return flaps;
-}
 
 void DrawSpeedMarks(const PfdView& view) {
     if (!IsPfdLit()) return;

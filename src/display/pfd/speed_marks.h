@@ -6,6 +6,3 @@
 void DrawSpeedMarks(const PfdView& view);
 
 constexpr int kClimbBugs = 4, kApproachBugs = 6;  // of flap_bug_phase
-
-/// The flap setting, by the position of the lever and the variant.
-int FlapDetent();
