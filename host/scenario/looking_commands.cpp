@@ -41,6 +41,7 @@ constexpr const char* kLegs = "legs";
 constexpr const char* kRows = "rows";
 constexpr const char* kCandidates = "candidates";
 constexpr const char* kMessages = "messages";
+constexpr const char* kAlerts = "alerts";
 
 constexpr const char* kText = "text";
 constexpr const char* kDraws = "draws";
@@ -114,7 +115,7 @@ std::vector<Command> LookingCommands() {
         {"rows", "", "rows", Command::kAfter, 0, 0, PrintList<kRows>},
         {"candidates", "\"ENTRY\"", "candidates \"N45W120\"", Command::kAfter, 1, 1, PrintList<kCandidates>},
         {"messages", "L|R", "messages L", Command::kAfter, 1, 1, PrintList<kMessages>},
-        {"alerts", "", "", Command::kAfter, 0, 0, nullptr},
+        {"alerts", "", "alerts", Command::kAfter, 0, 0, PrintList<kAlerts>},
         {"text", "SCREEN", "text capt_outb", Command::kAfter, 1, 1, PrintPicture<kText>},
         {"draws", "SCREEN", "draws stby", Command::kAfter, 1, 1, PrintPicture<kDraws>},
         {"shot", "SCREEN FILE.png [SCALE]", "shot lower lower.png 2", Command::kAfter, 2, 3, Shot},

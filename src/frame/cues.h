@@ -24,6 +24,21 @@ inline void RequestCue(int cue) {
     sound.event_cue = cue;
 }
 
+// The aurals of crew alerting, and the channel that they share.
+constexpr int kAuralBeeper = 1, kAuralSiren = 5, kAuralAutopilotDisc = 6, kAuralFireBell = 13;
+constexpr int kWarningChannel = 1;
+
+/// Asks for an aural. One stands at a time, as with the cues.
+inline void RequestAural(int aural) {
+    sound.alert_aural = aural;
+}
+
+/// Asks for silence on the warning channel.
+inline void StopWarningSound() {
+    sound.siren_running = sound.beeper_running = 0;
+    sound.sounds_to_stop |= 1 << kWarningChannel;
+}
+
 /// Asks for one of the loops of the surroundings.
 inline void RequestLoop(int loop) {
     sound.env_sound_request = loop;

@@ -23,6 +23,9 @@
 #include "navdata/airways.h"
 #include "navdata/geodesy.h"
 #include "navdata/magnetic_model.h"
+#include "systems/alerting/alerts_update.h"
+#include "systems/alerting/master_caution.h"
+#include "systems/alerting/message_lists.h"
 
 namespace {
 
@@ -162,6 +165,9 @@ constexpr BoundFunction kOperations[] = {
     Bind<RequestDescentWinds>("RequestDescentWinds", ""),
     Bind<OnChecklistClick>("OnChecklistClick", "X Y DU"),
     Bind<SelectNormalList>("SelectNormalList", ""),
+    Bind<AlertsUpdate>("AlertsUpdate", ""),
+    Bind<CancelRecall>("CancelRecall", ""),
+    Bind<MasterWarningReset>("MasterWarningReset", ""),
 };
 static_assert(UsagesFit(kOperations));
 

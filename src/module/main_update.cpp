@@ -12,10 +12,11 @@
 #include "navdata/nearest.h"
 #include "state/nav.h"
 #include "state/time_base.h"
+#include "systems/alerting/alerts_update.h"
 #include "systems/wheels.h"
 
 void MainUpdate() {
-    constexpr int kNearestPhase = 6, kGearLeverPhase = 35;
+    constexpr int kNearestPhase = 6, kGearLeverPhase = 35, kMiddlePhase = 9;
     ReadMotion();
     if (!HasTicked()) return;
     StepTimeBase();
@@ -26,6 +27,7 @@ void MainUpdate() {
     if (time_base.tick_phase == 0) ReadSlowValues();
     if (time_base.tick_phase == kNearestPhase || nav.nearest_refresh_due == 1) RefreshNearest();
     LnavUpdate();
+    if (time_base.tick_phase == kMiddlePhase) AlertsUpdate();
     ReadTailValues();
     FollowAutothrottleArm();
     StepAutoflightTimers();
@@ -35,4 +37,5 @@ void MainUpdate() {
     FlightLogStep(false);
     SetDecisionHeight();
     if (time_base.tick2s_phase == kGearLeverPhase) CheckGearLever();
+    if (time_base.tick_phase == 0) AlertsUpdate();
 }

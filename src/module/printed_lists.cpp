@@ -9,6 +9,7 @@
 #include "state/nav.h"
 #include "state/plan.h"
 #include "state/side.h"
+#include "systems/alerting/message_lists.h"
 
 namespace {
 
@@ -90,13 +91,28 @@ int PrintMessages(std::string_view side, const Results& results) {
     return 1;
 }
 
+int PrintAlerts(std::string_view, const Results& results) {
+    constexpr const char* kLevels[] = {"warning", "caution", "advisory", "memo"};
+    for (int level = 0; level < 4; ++level) {
+        const AlertList& list = ListOf(static_cast<AlertLevel>(level));
+        const int last = list.Count();
+        for (int i = 1; i <= last; ++i) {
+            Line line{std::string(kLevels[level])};
+            line << Quoted(list.At(i).text);
+            line.Print(results);
+        }
+    }
+    return 1;
+}
+
 struct PrintedList {
     std::string_view name;
     int (*print)(std::string_view argument, const Results& results);
 };
 constexpr PrintedList kPrintedLists[] = {
-    {"legs", PrintLegs},         {"rows", PrintRows},         {"candidates", PrintCandidates},
-    {"messages", PrintMessages}, {"text", PrintPictureTexts}, {"draws", PrintPictureDraws},
+    {"legs", PrintLegs},          {"rows", PrintRows},     {"candidates", PrintCandidates},
+    {"messages", PrintMessages},  {"alerts", PrintAlerts}, {"text", PrintPictureTexts},
+    {"draws", PrintPictureDraws},
 };
 
 }  // namespace

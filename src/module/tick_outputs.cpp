@@ -19,10 +19,15 @@
 #include "module/remote_input.h"
 #include "navdata/runways_in_use.h"
 #include "sound/environment.h"
+#include "sound/warnings.h"
 #include "state/time_base.h"
 #include "surveillance/terrain.h"
 #include "surveillance/traffic.h"
 #include "systems/air_lamps.h"
+#include "systems/alerting/alert_inputs.h"
+#include "systems/alerting/alerts_update.h"
+#include "systems/alerting/master_caution.h"
+#include "systems/alerting/message_lists.h"
 #include "systems/apu.h"
 #include "systems/battery.h"
 #include "systems/electrical.h"
@@ -49,6 +54,7 @@ void EveryThreeSeconds() {
 // Once a second in three groups, so that no tick carries all of it.
 void FirstGroup() {
     StepEnvironmentTimers();
+    CountRecall();
     StepWindUplink();
     StepElectricalPower();
     PublishApu();
@@ -59,10 +65,12 @@ void FirstGroup() {
 
 void SecondGroup() {
     StartApuInFlight();
+    ShowMasterCaution();
     AgreeFlightDirector();
 }
 
 void ThirdGroup() {
+    ArmGearWarning();
     UpdateFlapSpeedRow();
 }
 
@@ -79,7 +87,10 @@ void QuarterSecond() {
 
 void StepPhases(int phase) {
     if (time_base.tick3s_phase == 22) EveryThreeSeconds();
-    if (time_base.tick2s_phase == 0) ReadFreeAddressSpace();
+    if (time_base.tick2s_phase == 0) {
+        ReadFreeAddressSpace();
+        ClearDisconnectCaution();
+    }
     if (phase == 0) FirstGroup();
     if (phase == 5) SecondGroup();
     if (phase == 11) ThirdGroup();
@@ -94,6 +105,7 @@ void TickOutputs(bool ticked) {
     MarkRemoteImages(ticked ? time_base.tick_phase : time_base.frame_phase);
     if (ticked) StepTimers();
     StepIrs();
+    EndWarningSounds();
     PublishGuidance();
     ReadAutoflightModes();
     if (ticked) StepNdMemory();
@@ -105,4 +117,5 @@ void TickOutputs(bool ticked) {
     StepChecklist();
     ShowRequestedChecklist();
     if (time_base.frame_phase % 2 == 0) ReadModelValues();
+    TakeAlertAural();
 }

@@ -22,6 +22,7 @@ constexpr Variable kAlertRows[] = {
     {"comm_unread", &alerts.comm_unread},
     {"gear_config_armed", &alerts.gear_config_armed},
     {"terrain_state", &alerts.terrain_state},
+    {"at_disc_caution_due", &alerts.at_disc_caution_due},
 };
 }  // namespace
 

@@ -30,11 +30,11 @@ struct AlertState {
     int unseen_cautions = 0, unseen_advisories = 0;  // records that aren't cancelled
     int recall_timer = 0;                            // s for which the display tells of a recall
     int caution_light_on = 0, caution_light_cancelled = 0;
-    int hdg_off_track = 0;  // the heading leads away from the active leg
-    int comm_unread = 0;    // a received datalink record hasn't been read
-    int gear_config_armed =
-        0;                  // 0 on the ground, 1 climbing out, 2 above 1500 ft with flaps less than landing's
-    int terrain_state = 0;  // 3: the look-ahead finds terrain
+    int hdg_off_track = 0;      // the heading leads away from the active leg
+    int comm_unread = 0;        // a received datalink record hasn't been read
+    int gear_config_armed = 0;  // 0 on the ground, 1 climbing out, 2 above 1500 ft with flaps not for landing
+    int terrain_state = 0;      // 3: the look-ahead finds terrain
+    int at_disc_caution_due = 0;  // the autothrottle's disconnect has gone, its caution lamp is to follow
 };
 
 extern AlertState alerts;

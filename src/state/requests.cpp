@@ -4,8 +4,6 @@ RequestState requests;
 
 namespace {
 constexpr Variable kRequestRows[] = {
-    {"cancel_recall_request", &requests.cancel_recall},
-    {"warning_reset_request", &requests.warning_reset},
     {"uplink_accept_request", &requests.uplink_accept},
     {"uplink_reject_request", &requests.uplink_reject},
     {"uplink_cancel_request", &requests.uplink_cancel},

@@ -7,8 +7,6 @@
 /// What somebody wants of an owner that stands behind: it takes that at its next step and sets it back to 0.
 struct RequestState {
     // pressed by the crew
-    int cancel_recall = 0;  // CANC/RCL of either side
-    int warning_reset = 0;  // master warning and caution button of either side
     int uplink_accept = 0;  // ACPT, RJCT, CANC: the answer to a datalink message
     int uplink_reject = 0;
     int uplink_cancel = 0;

@@ -7,6 +7,8 @@ constexpr Variable kSoundRows[] = {
     {"event_cue", &sound.event_cue},
     {"event_cue_next", &sound.event_cue_next},
     {"alert_aural", &sound.alert_aural},
+    {"siren_running", &sound.siren_running},
+    {"beeper_running", &sound.beeper_running},
     {"terrain_aural_request", &sound.terrain_aural_request},
     {"env_sound_request", &sound.env_sound_request},
     {"misc_sound_request", &sound.misc_sound_request},

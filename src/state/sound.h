@@ -10,6 +10,7 @@ struct SoundState {
     int event_cue = 0;
     int event_cue_next = 0;  // one further cue, taken after event_cue
     int alert_aural = 0;
+    int siren_running = 0, beeper_running = 0;  // what the warning channel holds
     int terrain_aural_request = 0;
     int env_sound_request = 0;
     int misc_sound_request = 0;

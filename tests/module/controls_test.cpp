@@ -317,7 +317,7 @@ TEST(MouseGauges, AreasEndInTheHandlers) {
         {"GEAR_AUTOBRAKE", "autobrake", "autobrake_switch", 0, -1},
         {"GEAR_AUTOBRAKE", "autobrake", "autobrake_switch", 6, 6, kMouseRightSingle},
         {"CAPT_CLOCK_BUTTON", "TZ_MCP_Clock_L_Button", "et_clock_running", 0, 1},
-        {"CAPT_CANC_RECALL_BUTTON", "TZ_MCP_L_CANRCL_Button", "cancel_recall_request", 0, 1},
+        {"CAPT_CANC_RECALL_BUTTON", "TZ_MCP_L_CANRCL_Button", "unseen_cautions", 1, 0},
         {"WXR_BUTTON", "TZ_MCP_L_WXR_Button", "capt.nd_wxr", 0, 2},
         {"WXR_BUTTON", "TZ_MCP_L_WXR_Button", "capt.nd_terr", 1, 0},
         {"TERR_BUTTON", "TZ_MCP_L_TERR_Button", "capt.nd_wxr", 1, 0},

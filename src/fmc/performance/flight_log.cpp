@@ -8,6 +8,7 @@
 #include "base/units.h"
 #include "fmc/performance/predictions.h"
 #include "frame/named_variables.h"
+#include "frame/tokens.h"
 #include "platform/files.h"
 #include "state/cfg.h"
 #include "state/flight_log.h"
@@ -46,7 +47,6 @@ constexpr const char* kHeader =
     "; TIME   Segment  Waypoint   GSP   TAS       V/S    ALT    FF     FOB       GW   IAS    N1    FPA\n";
 
 constexpr double kSteepFpm = 400;
-constexpr double kParkingBrakeSet = 32000;
 
 void BeginLog() {
     flight_log = {};

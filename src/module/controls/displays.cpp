@@ -5,8 +5,9 @@
 #include "display/routing/routing.h"
 #include "guidance/mcp.h"
 #include "module/controls/panels.h"
-#include "state/requests.h"
 #include "state/side.h"
+#include "systems/alerting/master_caution.h"
+#include "systems/alerting/message_lists.h"
 
 namespace {
 
@@ -31,8 +32,8 @@ constexpr Control kDisplays[] = {
     Momentary("TZ_MCP_L_WXR_Button", On<kCaptain, PressWeatherButton>),
     Momentary("TZ_MCP_L_TERR_Button", On<kCaptain, PressTerrainButton>),
     Momentary("TZ_MCP_L_TFC_Button", On<kCaptain, PressTrafficButton>),
-    Momentary("TZ_MCP_L_CANRCL_Button", [](int) { requests.cancel_recall = 1; }),
-    Momentary("TZ_MCP_L_WARNING_Button", [](int) { requests.warning_reset = 1; }),
+    Momentary("TZ_MCP_L_CANRCL_Button", [](int) { CancelRecall(); }),
+    Momentary("TZ_MCP_L_WARNING_Button", [](int) { MasterWarningReset(); }),
     Key("TZ_MCP_L_MFD_L_Button", [](int) { SelectHalf(kCaptain, kLeftHalf); }),
     Key("TZ_MCP_L_MFD_R_Button", [](int) { SelectHalf(kCaptain, kRightHalf); }),
     Key("TZ_MCP_L_CDU_Button", PressFormat<kCaptain, kCdu>),
@@ -58,8 +59,8 @@ constexpr Control kDisplays[] = {
     Momentary("TZ_MCP_R_WXR_Button", On<kFirstOfficer, PressWeatherButton>),
     Momentary("TZ_MCP_R_TERR_Button", On<kFirstOfficer, PressTerrainButton>),
     Momentary("TZ_MCP_R_TFC_Button", On<kFirstOfficer, PressTrafficButton>),
-    Momentary("TZ_MCP_R_CANRCL_Button", [](int) { requests.cancel_recall = 1; }),
-    Momentary("TZ_MCP_R_WARNING_Button", [](int) { requests.warning_reset = 1; }),
+    Momentary("TZ_MCP_R_CANRCL_Button", [](int) { CancelRecall(); }),
+    Momentary("TZ_MCP_R_WARNING_Button", [](int) { MasterWarningReset(); }),
     Key("TZ_MCP_R_MFD_L_Button", [](int) { SelectHalf(kFirstOfficer, kLeftHalf); }),
     Key("TZ_MCP_R_MFD_R_Button", [](int) { SelectHalf(kFirstOfficer, kRightHalf); }),
     Key("TZ_MCP_R_CDU_Button", PressFormat<kFirstOfficer, kCdu>),
