@@ -88,7 +88,7 @@ TEST(Inspection, PrintsLists) {
     cdu[1].CduMessageCount = 2;
     EXPECT_EQ(Call(print, "messages", "R"), "1\n=1 \"NEW\" \"\"\n=4 \"OLD\" \"a\\nb\"\n");
     EXPECT_EQ(Call(print, "messages", "X"), "0\nerror=messages takes L or R\n");
-    EXPECT_EQ(Call(print, "alerts", ""), "0\nerror=alerts: not available yet\n");
+    EXPECT_EQ(Call(print, "sounds", ""), "0\nerror=sounds: not available yet\n");
     EXPECT_EQ(Call(print, "candidates", "N47W122"), "1\n=N47W122 N47W122 47 -122 I -\n");
 }
 

@@ -33,7 +33,7 @@ void RecountUnseen() {
 }  // namespace
 
 int AlertList::Count() const {
-    return std::clamp(alerts.*count, 0, (alerts.*records).size() - 1);
+    return std::clamp(alerts.*count, 0, std::max((alerts.*records).size() - 1, 0));
 }
 
 const AlertList& ListOf(AlertLevel level) {
