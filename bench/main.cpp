@@ -53,6 +53,7 @@ const std::vector<Figure> kFigures = {
     {"key press to changed picture, painting included", "KeyPressToPicture", "Yardstick/GreatCircle", "", "",
      0},
     {"  service calls at most", "KeyPressToPicture", "", "calls_max", "", 6},
+    {"a pass of the crew alerting, every row tested", "AlertPass", "Yardstick/GreatCircle", "", "", 20e3},
     {"a page of the CDU, acted on and composed", "CduPage", "Yardstick/GreatCircle", "", "", 100e3},
     {"a procedure loaded from 12 MB and inserted", "InsertProcedure/world", "Yardstick/ReadAndSplitWorld", "",
      "", 10e6},
