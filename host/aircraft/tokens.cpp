@@ -77,6 +77,10 @@ void FillEngines(const Aircraft& aircraft) {
         SetToken(tokens.corrected_n2, engine.n2);
         SetToken(tokens.lever, aircraft.controls.thrust_lever * kFull);
     }
+    // No take-off is meant in reverse, nor until the fans have run down behind it.
+    const bool runs_down =
+        TokenOf(641) != 0 && aircraft.controls.thrust_lever == 0 && aircraft.engines[0].n1 > 50;
+    SetToken(641, aircraft.controls.thrust_lever < 0 || runs_down ? 1 : 0);
     struct EngineVariables {
         const char *flow, *ratio, *n1;
     };

@@ -48,7 +48,7 @@ double Number(const Session& session, const char* name) {
 }
 
 // What a crew has set before the take-off, by the second of its work: a guard must be open when its switch is
-// moved.
+// moved, and a selector goes a step at a time.
 struct Setting {
     int second;
     const char* variable;
@@ -65,8 +65,10 @@ constexpr Setting kSettings[] = {
     {0, "TZ_OH_ELEC_C1_Switch", 1},     {0, "TZ_OH_ELEC_C2_Switch", 1},
     {0, "TZ_OH_ELEC_R_Switch", 1},      {0, "TZ_OH_LPUMP_FWD_Button", 1},
     {0, "TZ_OH_LPUMP_AFT_Button", 1},   {0, "TZ_OH_RPUMP_FWD_Button", 1},
-    {0, "TZ_OH_RPUMP_AFT_Button", 1},   {0, "TZ_OH_CNTRPUMP_L_Button", 1},
-    {0, "TZ_OH_CNTRPUMP_R_Button", 1},  {0, "TZ_OH_ENG_L_START_Switch", 1},
+    {0, "TZ_OH_RPUMP_AFT_Button", 1},   {0, "TZ_OH_APU_GEN_LEFT_Button", 1},
+    {0, "TZ_AFT_FD_DOOR_Switch", 1},    {0, "TZ_AFT_Transponder_Knob", 4},
+    {1, "TZ_AFT_Transponder_Knob", 4},  {2, "TZ_AFT_Transponder_Knob", 4},
+    {3, "TZ_AFT_Transponder_Knob", 4},  {0, "TZ_OH_ENG_L_START_Switch", 1},
     {0, "TZ_OH_ENG_R_START_Switch", 1}, {0, "TZ_OH_AC_LPACK_Button", 1},
     {0, "TZ_OH_AC_RPACK_Button", 1},    {0, "TZ_OH_TRIMAIR_L_Button", 1},
     {0, "TZ_OH_TRIMAIR_R_Button", 1},   {0, "TZ_OH_EQPCOOL_FWD_Button", 1},
@@ -97,6 +99,18 @@ void SetSwitches(Session& session, int second) {
 
 const Aircraft& Flown() {
     return flight.aircraft;
+}
+
+// The pumps of the centre tank run from the start when it holds enough, and stop when it is nearly empty.
+void WatchCentreTank(Pilot& pilot, Session& session) {
+    constexpr double kWorthPumping = 16000, kNearlyEmpty = 5000;  // lb
+    const double fuel = Flown().fuel_lb[kCentreTank];
+    const bool pumps =
+        pilot.phase == Pilot::kSettingUp ? fuel > kWorthPumping : pilot.centre_pumps && fuel > kNearlyEmpty;
+    if (pumps == pilot.centre_pumps) return;
+    pilot.centre_pumps = pumps;
+    for (const char* pump : {"TZ_OH_CNTRPUMP_L_Button", "TZ_OH_CNTRPUMP_R_Button"})
+        SetVariable(session, pump, pumps ? 1 : 0);
 }
 
 int VerticalMode() {
@@ -457,6 +471,7 @@ void StepPilot(Pilot& pilot, Session& session, const WayAhead& way) {
     const unsigned given_back = std::exchange(world.given_back, 0);
     SeeWhatUsersDid(pilot, given_back | world.user_has);
     if (given_back != 0) TakeBack(pilot, session, given_back);
+    WatchCentreTank(pilot, session);
     switch (pilot.phase) {
         case Pilot::kSettingUp:
             return SetUp(pilot, session);

@@ -24,6 +24,7 @@ struct Pilot {
     double heading = -1;           // degrees, of the heading window while it steers
     bool by_level_change = false;  // climbs and descends by FLCH, VNAV isn't there
     HandLanding by_hand;           // where no landing system leads to the ground
+    bool centre_pumps = false;
     bool speedbrake = false, gear_up = false, approach_armed = false, window_reset = false;
 };
 
