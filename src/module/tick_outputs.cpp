@@ -32,7 +32,14 @@
 #include "systems/battery.h"
 #include "systems/electrical.h"
 #include "systems/electrical_lamps.h"
+#include "systems/fuel_lamps.h"
+#include "systems/fuel_pumps.h"
+#include "systems/hydraulic_lamps.h"
+#include "systems/hydraulics.h"
 #include "systems/irs.h"
+#include "systems/ram_air_turbine.h"
+#include "systems/status_dots.h"
+#include "systems/surfaces.h"
 #include "systems/wheels.h"
 
 namespace {
@@ -40,6 +47,10 @@ namespace {
 void StepTimers() {
     StepBattery();
     StepApu();
+    StepFuelPumps();
+    StepHydraulics();
+    DeployTurbineForPressure();
+    ReadSurfaces();
     UpdateSpeedTrend();
     CountStepClimb();
 }
@@ -58,8 +69,12 @@ void FirstGroup() {
     StepWindUplink();
     StepElectricalPower();
     PublishApu();
+    ReadBrakeTemperatures();
     ShowElectricalLamps();
     ShowAirLamps();
+    ShowFuelLamps();
+    ShowHydraulicLamps();
+    SetStatusDots();
     RepairInboardModes();
 }
 

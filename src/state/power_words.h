@@ -6,6 +6,7 @@
 // asks here.
 
 constexpr int kBatteryPower = 5;         // what the battery alone gives
+constexpr int kTurbinePower = 10;        // what the ram air turbine gives
 constexpr int kAcBusPower = 10;          // the buses are powered
 constexpr int kFirstUnitsPower = 15;     // display units of the first level
 constexpr int kAllBusesPower = 180;      // every AC bus, and the display units of the second level

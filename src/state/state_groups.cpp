@@ -116,14 +116,14 @@ constexpr StateGroup kGroups[] = {
      "display/routing/routing module/controls/"},
     {"electrical", Reset<&electrical>, &kElectricalVariables, "frame/named_variable_catalogue systems/"},
     {"engines", Reset<&engines>, &kEngineVariables, ""},
-    {"fuel_pumps", Reset<&fuel_pumps>, &kFuelPumpVariables, ""},
-    {"hydraulics", Reset<&hydraulics>, &kHydraulicVariables, ""},
-    {"surfaces", Reset<&surfaces>, &kSurfaceVariables, ""},
+    {"fuel_pumps", Reset<&fuel_pumps>, &kFuelPumpVariables, "systems/fuel_pumps"},
+    {"hydraulics", Reset<&hydraulics>, &kHydraulicVariables, "systems/hydraulics"},
+    {"surfaces", Reset<&surfaces>, &kSurfaceVariables, "systems/surfaces"},
     {"air", Reset<&air>, &kAirVariables, ""},
     {"alerts", Reset<&alerts>, &kAlertVariables, "systems/alerting/"},
     {"eicas", Reset<&eicas>, &kEicasVariables, "display/eicas/engine_readings"},
     {"checklist", Reset<&checklist>, &kChecklistVariables, "checklist/"},
-    {"synoptics", Reset<&synoptics>, &kSynopticVariables, ""},
+    {"synoptics", Reset<&synoptics>, &kSynopticVariables, "systems/status_dots"},
 };
 
 }  // namespace

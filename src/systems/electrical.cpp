@@ -15,16 +15,15 @@
 #include "state/sim.h"
 #include "state/time_base.h"
 #include "systems/battery.h"
+#include "systems/ram_air_turbine.h"
 
 namespace {
 
 // What each source gives to the sum.
-constexpr int kRat = 10, kExternal = 180, kGenerator = 250, kApuGenerator = 450;
+constexpr int kExternal = 180, kGenerator = 250, kApuGenerator = 450;
 constexpr int kMostPower = 1000;
 constexpr int kSystemsOnSeed = 255;
 constexpr double kGeneratorN2 = 50;  // percent
-constexpr double kRatSpeed = 80;     // kt
-constexpr double kRatAfterSeconds = 120;
 constexpr double kFollowHostSeconds = 10;
 constexpr int kBatteryLoopSeconds = 180;
 
@@ -110,8 +109,8 @@ void RestartDisplays(bool external_power_now) {
 
 void SumSources() {
     const ElectricalState& e = electrical;
-    const int sum = kBatteryPower * e.batt_pwr + kRat * e.ram_air_turb + kApuGenerator * e.apu_gen_pwr +
-                    kExternal * e.ext_ac_pwr + kGenerator * e.running_gens;
+    const int sum = kBatteryPower * e.batt_pwr + kTurbinePower * e.ram_air_turb +
+                    kApuGenerator * e.apu_gen_pwr + kExternal * e.ext_ac_pwr + kGenerator * e.running_gens;
     electrical.power_level = std::min(sum, kMostPower);
 }
 
@@ -133,16 +132,6 @@ void PowerBuses() {
 
 double SecondsSinceStart() {
     return ReadToken(kTokenAbsoluteTime) - time_base.flight_time_base;
-}
-
-// Once it feeds, the buses have power by it: so it is judged on the other sources.
-void DeployRat() {
-    if (SecondsSinceStart() <= kRatAfterSeconds) return;
-    const int others = electrical.power_level - kRat * electrical.ram_air_turb;
-    const bool needed = others < kAcBusPower && sim.on_ground == 0 && sim.ias_kt > kRatSpeed;
-    electrical.ram_air_turb = needed ? 1 : 0;
-    if (!needed || cockpit.rat_unlocked == 1) return;
-    SetControl(&cockpit.rat_unlocked, 1);
 }
 
 void DarkenDisplays() {
@@ -202,7 +191,7 @@ void StepElectricalPower() {
     PowerBuses();
     WriteNamedVar(NamedVar("power_level"), electrical.power_level);
     if (electrical.power_level == kMostPower) cfg.SystemsOn = 0;
-    DeployRat();
+    DeployTurbineForPower();
     DarkenDisplays();
     FollowHostBatteryOnce();
     SwitchCabinBuses();

@@ -7,6 +7,7 @@
 #include "systems/electrical.h"
 #include "systems/engine_controls.h"
 #include "systems/flight_computers.h"
+#include "systems/fuel_pumps.h"
 #include "systems/irs.h"
 #include "systems/lights.h"
 
@@ -98,7 +99,7 @@ constexpr Control kEngine[] = {
     Latching("TZ_OH_RPUMP_AFT_Button"),
     Latching("TZ_OH_CNTRPUMP_L_Button"),
     Latching("TZ_OH_CNTRPUMP_R_Button"),
-    Latching("TZ_OH_FUEL_CROSSFEED_Button"),
+    Latching("TZ_OH_FUEL_CROSSFEED_Button", FollowCrossfeed),
     Latching("TZ_OH_FUEL_BALANCE_Button"),
     Latching("TZ_OH_FUEL_ARM_Button"),
     Switch("TZ_OH_WING_ANTICE_Switch", 0, 2),
