@@ -19,16 +19,13 @@ constexpr const EngineFuel& kEngine1 = kEngineFuel[0];
 constexpr const EngineFuel& kEngine2 = kEngineFuel[1];
 
 void FollowCutOff(const EngineFuel& engine) {
-    if (cockpit.*engine.control == kFuelRun) cockpit.*engine.control = kFuelCutOff;
+    if (cockpit.*engine.control == kFuelRun) SetFuelCutOff(engine);
     if (ReadToken(engine.starter_token) != 0) SendKeyEvent(engine.starter_toggle, 0);
     RequestCue(kCueKeyClick);
 }
 
 void FollowFuelOn(const EngineFuel& engine) {
-    if (cockpit.*engine.control == kFuelCutOff) {
-        cockpit.*engine.control = kFuelRun;
-        cockpit.*engine.start_latch = 1;
-    }
+    if (cockpit.*engine.control == kFuelCutOff) SetFuelRun(engine);
     RequestCue(kCueFuelOn);
 }
 

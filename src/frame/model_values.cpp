@@ -5,6 +5,7 @@
 #include "frame/named_variables.h"
 #include "state/cfg.h"
 #include "state/cockpit.h"
+#include "state/engines.h"
 #include "state/identity.h"
 #include "state/instruments.h"
 #include "state/sim.h"
@@ -16,8 +17,6 @@ struct ModelValue {
     double SimSnapshot::*value;
 };
 constexpr ModelValue kModelValues[] = {
-    {NamedVar("TZ_Eng1_TPR"), &SimSnapshot::eng1_tpr},
-    {NamedVar("TZ_Eng2_TPR"), &SimSnapshot::eng2_tpr},
     {NamedVar("TZ_V_S"), &SimSnapshot::v_s_kt},
     {NamedVar("TZ_V_A"), &SimSnapshot::v_a_kt},
     {NamedVar("TZ_V_MO"), &SimSnapshot::v_mo_kt},
@@ -27,6 +26,17 @@ constexpr ModelValue kModelValues[] = {
     {NamedVar("tz_cabin_rate"), &SimSnapshot::cabin_rate},
     {NamedVar("tz_cabin_fwd_ofv"), &SimSnapshot::cabin_fwd_ofv},
     {NamedVar("tz_cabin_aft_ofv"), &SimSnapshot::cabin_aft_ofv},
+};
+
+struct EngineValue {
+    NamedVarRef variable;
+    double EngineState::*value;
+};
+constexpr EngineValue kEngineValues[] = {
+    {NamedVar("TZ_Eng1_TPR"), &EngineState::Eng1_TPR},
+    {NamedVar("TZ_Eng2_TPR"), &EngineState::Eng2_TPR},
+    {NamedVar("TZ_Eng1_N1_calc"), &EngineState::Eng1_N1_calc},
+    {NamedVar("TZ_Eng2_N1_calc"), &EngineState::Eng2_N1_calc},
 };
 
 constexpr double kBarberPolePerKnot = 128;
@@ -41,6 +51,7 @@ void PublishModelSettings() {
 
 void ReadModelValues() {
     for (const ModelValue& row : kModelValues) sim.*row.value = ReadNamedVar(row.variable);
+    for (const EngineValue& row : kEngineValues) engines.*row.value = ReadNamedVar(row.variable);
     if (cfg.RealismMode == 1) sim.v_mo_kt = sim.barber_pole / kBarberPolePerKnot;
     instruments.altitude_alert = WholeNumber(ReadNamedVar(NamedVar("tz_altitude_alert")));
     sim.low_speed_limit = (sim.v_a_kt - sim.v_s_kt) * 0.7 + sim.v_s_kt;

@@ -143,7 +143,6 @@ void ReadAutoflightModes() {
     autoflight.fd_pitch_cmd = ReadNamedVar(NamedVar("TZ_FD_Pitch"));
     TakeEnvelopeProtection();
     autoflight.spd_intv_active = ReadInt(NamedVar("tz_spd_intv_active"));
-    autoflight.thrust_limit = ReadInt(NamedVar("tz_thrust_limit"));
     ReadFinalByRoute();
     FollowEngagedModes();
     StepDisconnect();

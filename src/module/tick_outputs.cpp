@@ -24,6 +24,7 @@
 #include "surveillance/terrain.h"
 #include "surveillance/traffic.h"
 #include "systems/air_lamps.h"
+#include "systems/air_temperatures.h"
 #include "systems/alerting/alert_inputs.h"
 #include "systems/alerting/alerts_update.h"
 #include "systems/alerting/master_caution.h"
@@ -32,6 +33,9 @@
 #include "systems/battery.h"
 #include "systems/electrical.h"
 #include "systems/electrical_lamps.h"
+#include "systems/engine_controls.h"
+#include "systems/engine_start.h"
+#include "systems/fire_test.h"
 #include "systems/fuel_lamps.h"
 #include "systems/fuel_pumps.h"
 #include "systems/hydraulic_lamps.h"
@@ -40,6 +44,7 @@
 #include "systems/ram_air_turbine.h"
 #include "systems/status_dots.h"
 #include "systems/surfaces.h"
+#include "systems/thrust_values.h"
 #include "systems/wheels.h"
 
 namespace {
@@ -47,6 +52,7 @@ namespace {
 void StepTimers() {
     StepBattery();
     StepApu();
+    StepEngineStart();
     StepFuelPumps();
     StepHydraulics();
     DeployTurbineForPressure();
@@ -60,6 +66,7 @@ void EveryThreeSeconds() {
     RefreshRunwaysInUse();
     PublishFmcValues();
     PublishModelSettings();
+    PublishTakeoffRating();
 }
 
 // Once a second in three groups, so that no tick carries all of it.
@@ -69,11 +76,15 @@ void FirstGroup() {
     StepWindUplink();
     StepElectricalPower();
     PublishApu();
+    StepTemperatures();
     ReadBrakeTemperatures();
+    CountStartTimers();
+    CountFireTest();
     ShowElectricalLamps();
     ShowAirLamps();
     ShowFuelLamps();
     ShowHydraulicLamps();
+    ShowEngineLamps();
     SetStatusDots();
     RepairInboardModes();
 }
@@ -82,11 +93,15 @@ void SecondGroup() {
     StartApuInFlight();
     ShowMasterCaution();
     AgreeFlightDirector();
+    ReturnStartSelectors();
+    ExchangeThrustLimit();
 }
 
 void ThirdGroup() {
     ArmGearWarning();
     UpdateFlapSpeedRow();
+    FollowHostFuel();
+    ExchangeThrustValues();
 }
 
 void HalfSecond() {
@@ -96,6 +111,7 @@ void HalfSecond() {
 
 // At the phases 0, 5, 10 and 15.
 void QuarterSecond() {
+    StepLightOff();
     CheckApproachTuning();
     PublishApproachValues();
 }

@@ -5,6 +5,7 @@ EfbState efb;
 namespace {
 constexpr Variable kEfbRows[] = {
     {"EfbBrightness", &efb.EfbBrightness},
+    {"efb_thr_ref", &efb.efb_thr_ref},
     {"capt.EfbPendingKey", &efb.side[0].pending_key},
     {"fo.EfbPendingKey", &efb.side[1].pending_key},
     {"capt.EfbMouseX", &efb.side[0].EfbMouseX},

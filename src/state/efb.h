@@ -2,6 +2,7 @@
 
 #include <array>
 #include <span>
+#include <string>
 
 #include "state/variable.h"
 
@@ -47,6 +48,7 @@ struct EfbSide {
 /// The two tablets; all but what a side presses is common to both.
 struct EfbState {
     double EfbBrightness = 1;     // 0 to 1
+    std::string efb_thr_ref;      // take-off rating worked out: "TO", "TO1", "TO2"; empty = none
     std::array<EfbSide, 2> side;  // captain, first officer
 };
 

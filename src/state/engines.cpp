@@ -13,6 +13,8 @@ constexpr Variable kEngineRows[] = {
     {"FMC_TO_Derate", &engines.FMC_TO_Derate},
     {"FMC_CLB_Derate", &engines.FMC_CLB_Derate},
     {"FMC_Flex_Temp", &engines.FMC_Flex_Temp},
+    {"climb_derate_exchanged", &engines.climb_derate_exchanged},
+    {"thrust_limit_exchanged", &engines.thrust_limit_exchanged},
     {"FADEC_Green_line", &engines.FADEC_Green_line},
     {"FADEC_Amber_line", &engines.FADEC_Amber_line},
     {"Eng1_TPR", &engines.Eng1_TPR},

@@ -159,8 +159,6 @@ constexpr Variable kSimRows[] = {
     {"v_a_kt", &sim.v_a_kt},
     {"v_mo_kt", &sim.v_mo_kt},
     {"low_speed_limit", &sim.low_speed_limit},
-    {"eng1_tpr", &sim.eng1_tpr},
-    {"eng2_tpr", &sim.eng2_tpr},
     {"vnav_spd_readback", &sim.vnav_spd_readback},
     {"fmc_mach_target", &sim.vnav_spd_readback},
     {"cabin_alt", &sim.cabin_alt},

@@ -136,8 +136,7 @@ struct SimSnapshot {
     double accel_z = 0;                     // ft/s2, along the body
     double design_vs0 = 0, design_vs1 = 0;  // kt
     double v_s_kt = 0, v_a_kt = 0, v_mo_kt = 0;
-    double low_speed_limit = 0;  // kt
-    double eng1_tpr = 0, eng2_tpr = 0;
+    double low_speed_limit = 0;    // kt
     double vnav_spd_readback = 0;  // as AutoflightLogic sees it
     double cabin_alt = 0, cabin_dp = 0, cabin_rate = 0;
     double cabin_fwd_ofv = 0, cabin_aft_ofv = 0;

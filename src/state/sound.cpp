@@ -10,6 +10,7 @@ constexpr Variable kSoundRows[] = {
     {"siren_running", &sound.siren_running},
     {"beeper_running", &sound.beeper_running},
     {"terrain_aural_request", &sound.terrain_aural_request},
+    {"starting_engs_cue", &sound.starting_engs_cue},
     {"env_sound_request", &sound.env_sound_request},
     {"misc_sound_request", &sound.misc_sound_request},
     {"host_sound_on", &sound.host_sound_on},

@@ -4,6 +4,8 @@
 
 #include "state/variable.h"
 
+constexpr int kStartingEngines = 0x21;
+
 /// Requests to the sound step, which takes them once a frame; 0 = none. Timers of the sounds that follow the
 /// electrical power.
 struct SoundState {
@@ -16,8 +18,9 @@ struct SoundState {
     int misc_sound_request = 0;
     int host_sound_on = 1;  // the host's own sound is switched on
     int slew_active = 0;
-    int dsound_ok = 0;       // the sound device is set up
-    int sounds_to_stop = 0;  // bit N asks to stop sound N; of those that loop: 1, 25, 28, 29
+    int dsound_ok = 0;          // the sound device is set up
+    int starting_engs_cue = 0;  // kStartingEngines asks once for the callout
+    int sounds_to_stop = 0;     // bit N asks to stop sound N; of those that loop: 1, 25, 28, 29
     // the flight deck's surroundings, s left; 0 = not running
     int env_battery_timer = 0;      // of the loop on battery power
     int env_quiet_start_timer = 0;  // until the fans start up

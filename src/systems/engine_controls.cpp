@@ -1,14 +1,23 @@
 #include "systems/engine_controls.h"
 
 #include "frame/engine_fuel.h"
+#include "frame/lamps.h"
 #include "platform/host.h"
 #include "state/cockpit.h"
+#include "state/power_words.h"
 
 namespace {
 
 const EngineFuel& FuelOf(int engine) {
     return kEngineFuel[engine == 2 ? 1 : 0];
 }
+
+constexpr Lamp kEngineLamps[] = {
+    {NamedVar("TZ_OH_Annun_ECCL_ALTN"),
+     [] { return cockpit.TZ_OH_ECC_L_Button == 0 && IsBatteryBusAlive(); }},
+    {NamedVar("TZ_OH_Annun_ECCR_ALTN"),
+     [] { return cockpit.TZ_OH_ECC_R_Button == 0 && IsBatteryBusAlive(); }},
+};
 
 }  // namespace
 
@@ -17,11 +26,10 @@ void ToggleFuelControl(int engine) {
     if (cockpit.*fuel.control == kFuelRun) {
         if (ReadToken(fuel.starter_token) != 0) SendKeyEvent(fuel.starter_toggle, 0);
         SendKeyEvent(fuel.cut_off, 0);
-        cockpit.*fuel.control = kFuelCutOff;
+        SetFuelCutOff(fuel);
     } else {
         SendKeyEvent(fuel.fuel_on, 0);
-        cockpit.*fuel.start_latch = 1;
-        cockpit.*fuel.control = kFuelRun;
+        SetFuelRun(fuel);
     }
 }
 
@@ -29,4 +37,13 @@ void FollowFireHandle(int engine) {
     const EngineFuel& fuel = FuelOf(engine);
     const int handle = engine == 2 ? cockpit.TZ_AFT_ENG2_FIRE_HNDL : cockpit.TZ_AFT_ENG1_FIRE_HNDL;
     if (handle > 0 && ReadToken(fuel.fuel_token) != 0) SendKeyEvent(fuel.cut_off, 0);
+}
+
+void FollowHostFuel() {
+    for (const EngineFuel& fuel : kEngineFuel)
+        if (cockpit.*fuel.control == kFuelCutOff && ReadToken(fuel.fuel_token) != 0) SetFuelRun(fuel);
+}
+
+void ShowEngineLamps() {
+    ShowLamps(kEngineLamps);
 }

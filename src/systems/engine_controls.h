@@ -7,3 +7,9 @@ void ToggleFuelControl(int engine);
 
 /// The fire handle has been looked at: pulled, it cuts the fuel of a running engine.
 void FollowFireHandle(int engine);
+
+/// A control at cut-off whose engine has fuel in the host goes to run; once a second.
+void FollowHostFuel();
+
+/// Shows the lamps of the electronic engine control; once a second.
+void ShowEngineLamps();

@@ -41,6 +41,7 @@ struct Control {
     int min = 0, max = 1;             // end positions
     NamedVarRef guard = kNoVariable;  // of the guard that must be open
     bool kept_by_model = false;       // the model knows its position when the aircraft loads
+    bool turns_over = false;          // a click beyond an end goes to the other
 };
 
 // Rows by their class. A name that the catalogue lacks, or that has no position there, doesn't compile.
@@ -102,6 +103,11 @@ consteval Control Momentary(std::string_view name, ControlFollower follow, int c
 /// A key that gives its act the click of keys.
 consteval Control Key(std::string_view name, ControlFollower follow) {
     return Momentary(name, follow, kCueKeyClick);
+}
+/// A switch of which one click makes the whole round.
+consteval Control TurnsOver(Control control) {
+    control.turns_over = true;
+    return control;
 }
 consteval Control KeptByModel(Control control) {
     control.kept_by_model = true;

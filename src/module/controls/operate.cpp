@@ -1,6 +1,7 @@
 #include "module/controls/operate.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "base/numbers.h"
 #include "frame/controls.h"
@@ -84,6 +85,7 @@ int Wrapped(const Control& control, int position) {
 
 void ClickControl(const Control& control, std::uint32_t mouse_flag) {
     const bool right = mouse_flag == kMouseRightSingle;
+    const int step = right ? 1 : -1;
     if (right && IsGuarded(control)) return Toggle(*FindControl(control.guard));
     switch (control.kind) {
         case ControlClass::kLatching:
@@ -95,13 +97,14 @@ void ClickControl(const Control& control, std::uint32_t mouse_flag) {
             Press(control, right ? 2 : 1);
             break;
         case ControlClass::kSwitch:
-            Step(control, right ? 1 : -1);
+            if (control.turns_over)
+                MoveTo(control, Wrapped(control, WithinEnds(control, *control.shadow) + step));
+            else
+                Step(control, step);
             break;
-        case ControlClass::kRotary: {
-            const int step = right ? 1 : -1;
+        case ControlClass::kRotary:
             Turn(control, Wrapped(control, WithinEnds(control, *control.shadow) + step), step);
             break;
-        }
         case ControlClass::kOneWay:
             MoveTo(control, 1);
             break;
@@ -117,6 +120,10 @@ void ClickControl(NamedVarRef variable, std::uint32_t mouse_flag) {
 void PollControl(const Control& control) {
     double value = 0;
     if (!ReadNamedVar(control.variable, value)) return;  // 0 is then no position
+    if (!std::isfinite(value)) {
+        WriteNamedVar(control.variable, control.shadow != nullptr ? *control.shadow : 0);
+        return;
+    }
     if (control.kind == ControlClass::kMomentary) {
         if (value != 0) Press(control, WholeNumber(value));
         return;

@@ -2,10 +2,13 @@
 
 #include "module/controls/panels.h"
 #include "state/side.h"
+#include "systems/air_temperatures.h"
 #include "systems/apu.h"
 #include "systems/battery.h"
 #include "systems/electrical.h"
 #include "systems/engine_controls.h"
+#include "systems/engine_start.h"
+#include "systems/fire_test.h"
 #include "systems/flight_computers.h"
 #include "systems/fuel_pumps.h"
 #include "systems/irs.h"
@@ -51,7 +54,7 @@ constexpr Control kMiddle[] = {
     Momentary("TZ_OH_CCR_L_Button", ResetByMaintenance),
     Latching("TZ_OH_FD_DOOR_Button"),
     Cover("TZ_OH_EMER_LTS_Safety_Switch"),
-    UnderGuard("TZ_OH_EMER_LTS_Switch", "TZ_OH_EMER_LTS_Safety_Switch"),
+    TurnsOver(WithGuard(Switch("TZ_OH_EMER_LTS_Switch", 1, 3), "TZ_OH_EMER_LTS_Safety_Switch")),
     Guard("TZ_OH_PASSOXY_Guard_Switch"),
     OneWay("TZ_OH_PASS_OXY1_Button", "TZ_OH_PASSOXY_Guard_Switch"),
     Latching("TZ_OH_PRMY_L_SIDE_Button"),
@@ -75,7 +78,7 @@ constexpr Control kMiddle[] = {
 static_assert(std::size(kMiddle) == 26);
 
 constexpr Control kEngine[] = {
-    Latching("TZ_OH_FIRE_OHTEST_Button"),
+    Latching("TZ_OH_FIRE_OHTEST_Button", FollowFireTest),
     Mirrored("TZ_OH_APU_FIRE_HNDL"),
     Mirrored("TZ_AFT_ENG1_FIRE_HNDL", [](int) { FollowFireHandle(1); }),
     Mirrored("TZ_AFT_ENG2_FIRE_HNDL", [](int) { FollowFireHandle(2); }),
@@ -87,8 +90,8 @@ constexpr Control kEngine[] = {
     UnderGuard("TZ_OH_ECC_L_Button", "TZ_OH_ECC_L_Guard_Switch"),
     Guard("TZ_OH_ECC_R_Guard_Switch"),
     UnderGuard("TZ_OH_ECC_R_Button", "TZ_OH_ECC_R_Guard_Switch"),
-    Switch("TZ_OH_ENG_L_START_Switch", 0, 1),
-    Switch("TZ_OH_ENG_R_START_Switch", 0, 1),
+    TurnsOver(Switch("TZ_OH_ENG_L_START_Switch", 0, 1, [](int) { FollowStartSelector(1); })),
+    TurnsOver(Switch("TZ_OH_ENG_R_START_Switch", 0, 1, [](int) { FollowStartSelector(2); })),
     Guard("TZ_OH_NZL_L_Guard_Switch"),
     UnderGuard("TZ_OH_NZL_L_Button", "TZ_OH_NZL_L_Guard_Switch"),
     Guard("TZ_OH_NZL_R_Guard_Switch"),
@@ -128,8 +131,8 @@ constexpr Control kAir[] = {
     Latching("TZ_OH_EQPCOOL_AFT_Button"),
     Latching("TZ_OH_RECIRC_UPP_Button"),
     Latching("TZ_OH_RECIRC_LOW_Button"),
-    Switch("TZ_OH_FLTDK_Temp_Switch", 0, 6),
-    Switch("TZ_OH_CABIN_Temp_Switch", 0, 6),
+    Switch("TZ_OH_FLTDK_Temp_Switch", 0, 6, FollowTemperatureSelectors),
+    Switch("TZ_OH_CABIN_Temp_Switch", 0, 6, FollowTemperatureSelectors),
     Latching("TZ_OH_AC_LPACK_Button"),
     Latching("TZ_OH_AC_RPACK_Button"),
     Latching("TZ_OH_TRIMAIR_L_Button"),
