@@ -95,7 +95,7 @@ constexpr StateGroup kGroups[] = {
     {"vnav", Reset<&vnav>, &kVnavVariables, "frame/crew_messages fmc/performance/ fmc/route/ guidance/"},
     {"lnav", Reset<&lnav>, &kLnavVariables, "fmc/legs/holds fmc/route/ guidance/ cdu/unit/cdu_service"},
     {"pause_points", Reset<&pause_points>, &kPausePointVariables, "guidance/pause_points"},
-    {"autoflight", Reset<&autoflight>, &kAutoflightVariables, "guidance/ systems/thrust_values"},
+    {"autoflight", Reset<&autoflight>, &kAutoflightVariables, "guidance/"},
     {"sound", Reset<&sound>, &kSoundVariables, "frame/ systems/ sound/ module/"},
     {"cdu", Reset<&cdu>, &kCduVariables, "frame/ cdu/words/ cdu/unit/"},
     {"route_pages", Reset<&route_pages>, &kRoutePageVariables, "cdu/words/views cdu/pages/ cdu/unit/items"},

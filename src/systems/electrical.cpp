@@ -130,17 +130,15 @@ void PowerBuses() {
     if (sound.env_battery_timer > 0) StopLoop(kLoopBattery);
 }
 
-double SecondsSinceStart() {
-    return ReadToken(kTokenAbsoluteTime) - time_base.flight_time_base;
-}
-
 void DarkenDisplays() {
     if (electrical.power_level == 0) displays.du_lwr_startup_cnt = displays.du_cib_startup_cnt = 0;
     if (electrical.power_level < kAcBusPower) displays.du_pfd_ah_startup_cnt = 0;
 }
 
 void FollowHostBatteryOnce() {
-    if (electrical.battery_followed_host == 1 || SecondsSinceStart() < kFollowHostSeconds) return;
+    if (electrical.battery_followed_host == 1 ||
+        sim.abs_time - time_base.flight_time_base < kFollowHostSeconds)
+        return;
     electrical.battery_followed_host = 1;
     FollowHostBattery();
     electrical.generators_held = 0;

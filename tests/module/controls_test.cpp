@@ -69,11 +69,11 @@ constexpr Move kMoves[] = {
     {"TZ_OH_EMER_LTS_Safety_Switch", "emerg_lights_switch_guard", 1, 0, 0, 19},
     // under a shut guard nothing moves, and the model is put back
     {"TZ_OH_DRVDISC_L1_Button", "drive_disc_l1", 0, 1, 0, 0},
-    {"TZ_OH_EMER_LTS_Switch", "emerg_lights_switch", 0, 1, 0, 0},
+    {"TZ_OH_EMER_LTS_Switch", "emerg_lights_switch", 3, 1, 3, 0},
     {"TZ_OH_ECC_L_Button", "TZ_OH_ECC_L_Button", 1, 0, 1, 0},
     {"TZ_OH_AC_VENT_Button", "ventilation_button", 0, 1, 0, 0},
     {"TZ_OH_ECC_L_Button", "TZ_OH_ECC_L_Button", 1, 0, 0, 3, "TZ_OH_ECC_L_Guard_Switch"},
-    {"TZ_OH_EMER_LTS_Switch", "emerg_lights_switch", 0, 1, 1, 3, "emerg_lights_switch_guard"},
+    {"TZ_OH_EMER_LTS_Switch", "emerg_lights_switch", 3, 1, 2, 2, "emerg_lights_switch_guard"},
     // one way: in once, in for good
     {"TZ_OH_DRVDISC_L1_Button", "drive_disc_l1", 0, 1, 1, 3, "TZ_OH_GEN_L1_Guard_Switch"},
     {"TZ_OH_DRVDISC_L1_Button", "drive_disc_l1", 1, 0, 1, 0, "TZ_OH_GEN_L1_Guard_Switch"},

@@ -21,7 +21,7 @@ namespace {
 struct PoweredHost : FakeHost {
     PoweredHost() {
         time_base.flight_time_base = 1000;
-        tokens[kTokenAbsoluteTime] = 1005;
+        sim.abs_time = 1005;
         NamedVar("power_level") = -1;
         NamedVar("TZ_OH_HYD_RAT_Button") = 0;
     }
@@ -131,10 +131,10 @@ TEST(Electrical, RatFeedsWhileNothingElseDoes) {
     PoweredHost host;
     SetVariables("on_ground 0, ias_kt 250");
     host.tokens[kTokenMasterBattery] = 1;
-    host.tokens[kTokenAbsoluteTime] = 1120;
+    sim.abs_time = 1120;
     StepElectricalPower();
     EXPECT_EQ(cockpit.rat_unlocked, 0) << "not in the first 120 seconds";
-    host.tokens[kTokenAbsoluteTime] = 1120.1;
+    sim.abs_time = 1120.1;
     StepElectricalPower();
     EXPECT_EQ(cockpit.rat_unlocked, 1);
     EXPECT_EQ(host.NamedVar("TZ_OH_HYD_RAT_Button"), 1);
