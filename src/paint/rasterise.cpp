@@ -56,6 +56,16 @@ void SetColour(cairo_t* cairo, Argb colour) {
     cairo_set_source_rgba(cairo, part(16), part(8), part(0), part(24));
 }
 
+// Letters stand where they are drawn, unbent.
+void SetFontOptions(cairo_t* cairo) {
+    cairo_font_options_t* options = cairo_font_options_create();
+    cairo_font_options_set_hint_style(options, CAIRO_HINT_STYLE_NONE);
+    cairo_font_options_set_hint_metrics(options, CAIRO_HINT_METRICS_OFF);
+    cairo_font_options_set_antialias(options, CAIRO_ANTIALIAS_GRAY);
+    cairo_set_font_options(cairo, options);
+    cairo_font_options_destroy(options);
+}
+
 struct Painter {
     const DrawList& list;
     cairo_t* cairo;
@@ -123,8 +133,10 @@ struct Painter {
                                                 CAIRO_LINE_JOIN_ROUND};
         cairo_set_line_cap(cairo, kCaps[static_cast<int>(stroke.cap)]);
         cairo_set_line_join(cairo, kJoins[static_cast<int>(stroke.join)]);
+        const LocalAxes axes{stroke.axes.rotation, static_cast<float>(along / across), stroke.axes.skew};
+        if (axes == LocalAxes{}) return cairo_stroke(cairo);
         cairo_save(cairo);
-        ApplyAxes({stroke.axes.rotation, static_cast<float>(along / across), stroke.axes.skew});
+        ApplyAxes(axes);
         cairo_stroke(cairo);
         cairo_restore(cairo);
     }
@@ -132,20 +144,19 @@ struct Painter {
         const std::lock_guard guard(raster_fonts.lock);
         cairo_font_face_t* face = raster_fonts.FaceOf(run.family);
         if (face == nullptr) return;
-        cairo_save(cairo);
         cairo_set_font_face(cairo, face);
         cairo_set_font_size(cairo, run.size);
-        cairo_font_options_t* options = cairo_font_options_create();
-        cairo_font_options_set_hint_style(options, CAIRO_HINT_STYLE_NONE);
-        cairo_font_options_set_hint_metrics(options, CAIRO_HINT_METRICS_OFF);
-        cairo_font_options_set_antialias(options, CAIRO_ANTIALIAS_GRAY);
-        cairo_set_font_options(cairo, options);
-        cairo_font_options_destroy(options);
+        SetColour(cairo, run.colour);
+        const std::string text = list.text.substr(run.text.first, run.text.count);
+        if (run.axes == LocalAxes{}) {
+            cairo_move_to(cairo, run.x, run.y);
+            return cairo_show_text(cairo, text.c_str());
+        }
+        cairo_save(cairo);
         cairo_translate(cairo, run.x, run.y);
         ApplyAxes(run.axes);
-        SetColour(cairo, run.colour);
         cairo_move_to(cairo, 0, 0);
-        cairo_show_text(cairo, list.text.substr(run.text.first, run.text.count).c_str());
+        cairo_show_text(cairo, text.c_str());
         cairo_restore(cairo);
     }
     void operator()(const DrawnImage& image) const {
@@ -201,6 +212,7 @@ void RasteriseOnto(const DrawList& list, int width, int height, std::uint32_t* p
     const double sy = list.height > 0 ? height / static_cast<double>(list.height) : 1;
     cairo_scale(cairo, sx, sy);
     cairo_set_tolerance(cairo, 0.1);
+    SetFontOptions(cairo);
     const Painter painter{list, cairo, 0.5 / sx, 0.5 / sy};
     for (const Primitive& primitive : list.primitives) std::visit(painter, primitive);
     cairo_destroy(cairo);

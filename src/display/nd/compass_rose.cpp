@@ -4,6 +4,8 @@
 #include <charconv>
 #include <cmath>
 
+#include "base/angles.h"
+#include "base/numbers.h"
 #include "paint/painter.h"
 #include "state/autoflight.h"
 #include "state/cfg.h"
@@ -81,9 +83,11 @@ void DrawRoseTicks(Graphics& graphics, const RoseTicks& ticks, double up) {
     const Matrix upright = graphics.world;
     const Pen pen = GdipCreatePen1(Scaled(ticks.colour), ticks.width);
     const int step = ticks.fives == ticks.outer ? 10 : 5;
-    for (int degrees = 0; degrees < 360; degrees += step) {
+    up = FoldBearing(up);
+    const int first = WholeNumber(std::ceil((up - ticks.within) / step)) * step;
+    for (int tick = first; tick <= up + ticks.within && tick < first + 360; tick += step) {
+        const int degrees = (tick + 360) % 360;
         const bool ten = degrees % 10 == 0;
-        if (std::fabs(std::remainder(degrees - up, 360)) > ticks.within) continue;
         graphics.world = upright;
         GdipRotateWorldTransform(graphics, degrees - up);
         GdipDrawLine(graphics, pen, 0, -ticks.outer, 0, ten ? -ticks.tens : -ticks.fives);

@@ -23,6 +23,12 @@ struct Turning {
     double rate = 0;  // degrees a second
 };
 
+// Of a way across and along; a picture doesn't need it more exactly, and takes many.
+double BearingOf(double across, double along) {
+    return FoldBearing(std::atan2(static_cast<float>(across), static_cast<float>(along)) *
+                       static_cast<float>(kDegPerRad));
+}
+
 // One step of LNAV and autopilot. A bank is taken up and left within seconds, and a track is turned to within
 // seconds, as AutoflightLogic does it.
 void Step(Turning& aircraft, double seconds, double leg_length, double speed, double most_rate) {
@@ -31,8 +37,7 @@ void Step(Turning& aircraft, double seconds, double leg_length, double speed, do
     const double to_fix = std::sqrt(to_end * to_end + aircraft.right * aircraft.right);
     const double flown = to_fix > leg_length ? 0 : leg_length - to_fix;
     const double aim = flown + LnavLookahead(speed) - aircraft.along;
-    const double wanted = LnavBearing(FoldBearing(std::atan2(-aircraft.right, aim) * kDegPerRad),
-                                      FoldBearing(std::atan2(-aircraft.right, to_end) * kDegPerRad));
+    const double wanted = LnavBearing(BearingOf(-aircraft.right, aim), BearingOf(-aircraft.right, to_end));
     const double off = FoldBearing(wanted - aircraft.track), error = off > 180 ? off - 360 : off;
     const double rate = std::clamp(error / std::max(kTurnSeconds, seconds), -most_rate, most_rate);
     const double change = most_rate / kRollSeconds * seconds, before = aircraft.rate;
@@ -40,7 +45,7 @@ void Step(Turning& aircraft, double seconds, double leg_length, double speed, do
     // The rate changes at the beginning of the step and then stands.
     const double changing = change > 0 ? std::fabs(aircraft.rate - before) / change : 0;
     const double turned = (aircraft.rate - (aircraft.rate - before) * changing / 2) * seconds;
-    const double middle = (aircraft.track + turned / 2) * kRadPerDeg;
+    const auto middle = static_cast<float>((aircraft.track + turned / 2) * kRadPerDeg);
     const double dist = speed / 3600 * seconds;
     aircraft.along += dist * std::cos(middle);
     aircraft.right += dist * std::sin(middle);
@@ -82,10 +87,13 @@ TurnShape ShapeTurn(MapPoint before, MapPoint fix, MapPoint after, const FixTurn
     };
     shape.leaves = leaves;
     add();
-    // Short steps through the turn, long ones while the leg is joined.
+    // Short steps through the turn, long ones while the leg is joined, and on a large map.
     constexpr double kStepAngle = 12, kLongest = 6, kJoining = 12, kOnLeg = 0.05,
-                     kOnCourse = 1.5;  // s, nm, degrees
-    const double in_turn = std::min(kStepAngle / most_rate, kLongest);
+                     kOnCourse = 1.5;      // s, nm, degrees
+    constexpr double kShortestStep = 2.5;  // units
+    const double told_apart = kShortestStep / (speed / 3600 * scale);
+    const double in_turn =
+        std::max(std::min(kStepAngle / most_rate, kLongest), std::min(told_apart, kJoining));
     while (shape.count < shape.points.size() - 1) {
         const bool turning = std::fabs(aircraft.rate) > most_rate / 4 || aircraft.rate == 0;
         Step(aircraft, turning ? in_turn : kJoining, leg_length, speed, most_rate);

@@ -33,11 +33,10 @@ void DrawTapeNumber(Graphics& graphics, int altitude, double y) {
     if (altitude < 1000)
         return TextUpTo(graphics, kSplit + 13, y, altitude < 0 ? kSmall : kLarge, kWhite,
                         Format("%03d", altitude));
-    const std::string hundreds = Format("%03d", altitude / 100);
-    std::string large = hundreds.substr(0, hundreds.size() - 1);
-    if (large[0] == '0') large[0] = ' ';
-    TextFrom(graphics, kFrom, y, kLarge, kWhite, large);
-    TextFrom(graphics, kSplit, y + 1, kSmall - 1, kWhite, Format("%c00", hundreds.back()));
+    const std::string thousands = std::to_string(altitude / 1000);
+    const char hundreds[] = {static_cast<char>('0' + altitude / 100 % 10), '0', '0'};
+    TextFrom(graphics, kFrom, y, kLarge, kWhite, thousands.size() < 2 ? ' ' + thousands : thousands);
+    TextFrom(graphics, kSplit, y + 1, kSmall - 1, kWhite, {hundreds, sizeof hundreds});
 }
 
 void DrawAltitudeScale(Graphics& graphics) {
@@ -180,8 +179,7 @@ void DrawMetres(const PfdView& view) {
     const auto readout = [&](int x, int y, int width, int height, Rgb colour, double metres) {
         FilledBox(graphics, x, y, width, height, kBlack);
         const double middle = y + height / 2.0;
-        TextUpTo(graphics, x + width - 8, middle, kSize, colour,
-                 Format("%*s", 5, Format("%.0f", metres).c_str()));
+        TextUpTo(graphics, x + width - 8, middle, kSize, colour, Format("%5.0f", metres));
         TextUpTo(graphics, x + width - 1, middle, kLetterSize, kCyan, "M");
     };
     constexpr double kMetresPerFoot = 0.3048;

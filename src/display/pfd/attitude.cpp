@@ -2,8 +2,8 @@
 
 #include <cmath>
 #include <cstdlib>
+#include <string>
 
-#include "base/text.h"
 #include "state/cfg.h"
 #include "state/instruments.h"
 #include "state/sim.h"
@@ -52,7 +52,7 @@ void DrawLadder(Graphics& graphics, double horizon) {
             GdipDrawLine(graphics, pen, -kHalfStepHalf, y - up * kHalfStep, kHalfStepHalf,
                          y - up * kHalfStep);
             if (!ten) continue;
-            const std::string number = Format("%d", pitch);
+            const std::string number = std::to_string(pitch);
             TextUpTo(graphics, -kTenHalf - 2, y, kSize, kWhite, number);
             TextFrom(graphics, kTenHalf + 2, y, kSize, kWhite, number);
         }

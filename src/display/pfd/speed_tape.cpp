@@ -27,7 +27,7 @@ void DrawSpeedScale(const PfdView& view, double speed) {
         const double y = (speed - value) * kUnitsPerKnot;
         GdipDrawLine(view.graphics, pen, view.left + 33, y, view.left + 40, y);
         if (value % kNumbered == 0)
-            TextUpTo(view.graphics, view.left + 32, y, kSize, kWhite, Format("%d", value));
+            TextUpTo(view.graphics, view.left + 32, y, kSize, kWhite, std::to_string(value));
     }
 }
 
