@@ -4,6 +4,7 @@
 
 struct Rgb {
     int r, g, b;
+    bool operator==(const Rgb&) const = default;
 };
 
 // The named base colours of the display units; each is scaled by the brightness when it is used.

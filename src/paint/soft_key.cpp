@@ -36,7 +36,7 @@ void DrawBevel(Graphics& graphics, const SoftKeyBox& box, bool pressed) {
 void DrawSoftKey(Graphics& graphics, const SoftKeyBox& box, std::string_view text, const SoftKeyLook& look) {
     DrawBevel(graphics, box, look.active);
     const double middle = box.x + box.width / 2.0;
-    const Rgb colour = look.enabled ? kBlack : kDarkEdge;
+    const Rgb colour = look.enabled ? look.ink : kDarkEdge;
     const std::size_t line_end = text.find('\n');
     if (line_end == std::string_view::npos) {
         if (look.visible)

@@ -2,6 +2,7 @@
 
 #include <string_view>
 
+#include "paint/colours.h"
 #include "paint/graphics.h"
 
 /// A key on a screen.
@@ -13,6 +14,7 @@ struct SoftKeyLook {
     bool active = false;  // what it selects is in force: a green line under its text
     bool enabled = true;  // else its text is grey
     bool visible = true;  // false while a flashing key is dark
+    Rgb ink = kBlack;
 };
 
 /// Draws a key with its text, which may have two lines, in the middle.

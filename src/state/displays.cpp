@@ -28,6 +28,7 @@ constexpr Variable kDisplayRows[] = {
     {"eicas_eng_button", &displays.eicas_eng_button},
     {"du_sel_pos", &displays.du_sel_pos},
     {"info_page", &displays.info_page},
+    {"cb_view", &displays.cb_view},
     {"info_status", &displays.info_status},
     {"compose_busy", &displays.compose_busy},
     {"cockpit_2d_active", &displays.cockpit_2d_active},

@@ -29,6 +29,7 @@ struct DisplayState {
     int eicas_eng_button = 0;
     int du_sel_pos = 0;  // -1, 0, 1: last acted position of the captain's selector
     int info_page = 1;   // 1 to 4
+    int cb_view = 0;     // which list of circuit breakers is shown, 0 to 5
     int info_status = 0;
     std::array<int, 28> compose_busy = {};  // by gauge id: 1 = its picture is being composed
     int cockpit_2d_active = 0;              // the two-dimensional cockpit is shown, taken once a tick

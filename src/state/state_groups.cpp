@@ -100,7 +100,7 @@ constexpr StateGroup kGroups[] = {
     {"cdu", Reset<&cdu>, &kCduVariables, "frame/ cdu/words/ cdu/unit/"},
     {"route_pages", Reset<&route_pages>, &kRoutePageVariables, "cdu/words/views cdu/pages/ cdu/unit/items"},
     {"displays", Reset<&displays>, &kDisplayVariables,
-     "systems/ display/routing/ display/formats/ display/pictures/compose"},
+     "systems/ display/routing/ display/synoptics/cb_page display/formats/ display/pictures/compose"},
     {"nd", Reset<&nd>, &kNdVariables,
      "frame/named_variable_catalogue cdu/pages/legs_page display/routing/nd_controls display/nd/nd_keys "
      "display/nd/nd_memory"},
@@ -108,12 +108,12 @@ constexpr StateGroup kGroups[] = {
     {"fix_info", Reset<&fix_info>, &kFixInfoVariables, ""},
     {"instruments", Reset<&instruments>, &kInstrumentVariables,
      "frame/named_variable_catalogue frame/model_values guidance/decision_height "
-     "display/routing/instrument_controls display/pfd/pfd_memory"},
+     "display/routing/instrument_controls display/synoptics/efis_dsp_page display/pfd/pfd_memory"},
     {"efb", Reset<&efb>, &kEfbVariables, "efb/tablet_input"},
     {"remote", Reset<&remote>, &kRemoteVariables, "display/pictures/remote_bridge module/remote_input"},
     {"requests", Reset<&requests>, &kRequestVariables,
      "fmc/legs/holds fmc/route/modification fmc/files/ guidance/ cdu/words/views checklist/ "
-     "display/routing/routing module/controls/"},
+     "display/routing/routing display/synoptics/efis_dsp_page module/controls/"},
     {"electrical", Reset<&electrical>, &kElectricalVariables, "frame/named_variable_catalogue systems/"},
     {"engines", Reset<&engines>, &kEngineVariables, "frame/ systems/"},
     {"fuel_pumps", Reset<&fuel_pumps>, &kFuelPumpVariables, "systems/fuel_pumps"},

@@ -18,7 +18,7 @@ void OnDisplayUnitClick(int x, int y, int unit) {
     if (!contents) return;
     const int half = x < kRightCanvas || mode == kModeWideNd ? 1 : 2;
     const Content content = half == 1 ? contents->left : contents->right;
-    const Format* format = FindFormat(content);
+    const DisplayFormat* format = FindFormat(content);
     if (format == nullptr || format->touch == nullptr) return;
     const int origin = mode == kModeWideNd ? kWideNdShift : half == 1 ? 0 : format->right_at;
     format->touch({unit, half, x - origin, y, PlaceOf(content, mode, unit, half).side});

@@ -18,7 +18,7 @@ namespace {
 // Where the right half's drawings begin; most canvases begin one further right.
 constexpr int kRightEdge = 282;
 
-constexpr Format kFormats[] = {
+constexpr DisplayFormat kFormats[] = {
     {Content::kAux, DrawAuxStrip, nullptr},
     {Content::kPfd, DrawPfd, nullptr},
     {Content::kEicas, DrawEicas, nullptr},
@@ -33,14 +33,14 @@ constexpr Format kFormats[] = {
 
 }  // namespace
 
-const Format* FindFormat(Content content) {
-    for (const Format& format : kFormats)
+const DisplayFormat* FindFormat(Content content) {
+    for (const DisplayFormat& format : kFormats)
         if (format.content == content) return &format;
     return nullptr;
 }
 
 ContentPlace PlaceOf(Content content, int mode, int unit, int half) {
-    const Format* format = FindFormat(content);
+    const DisplayFormat* format = FindFormat(content);
     const bool by_inboard = format != nullptr && format->owner == Owner::kOfItsInboard;
     return {.mode = mode,
             .unit = unit,

@@ -3,7 +3,7 @@
 #include "display/formats/format.h"
 
 /// Null for a content without a row.
-const Format* FindFormat(Content content);
+const DisplayFormat* FindFormat(Content content);
 
 /// Where a content stands on a half of a unit.
 ContentPlace PlaceOf(Content content, int mode, int unit, int half);

@@ -1,39 +1,58 @@
 #include "display/formats/system_pages.h"
 
-#include "base/area.h"
-#include "display/formats/unbuilt.h"
+#include <algorithm>
+#include <iterator>
+
+#include "display/synoptics/air_page.h"
+#include "display/synoptics/cb_page.h"
+#include "display/synoptics/door_page.h"
+#include "display/synoptics/efis_dsp_page.h"
+#include "display/synoptics/elec_page.h"
+#include "display/synoptics/fctl_page.h"
+#include "display/synoptics/fuel_page.h"
+#include "display/synoptics/gear_page.h"
+#include "display/synoptics/hyd_page.h"
+#include "display/synoptics/key_strip.h"
+#include "display/synoptics/maint_page.h"
+#include "display/synoptics/stat_page.h"
 #include "state/displays.h"
 
 namespace {
 
 struct SystemPage {
     int page;
-    Area strip;
+    void (*draw)(const SysPage& page);
+    void (*touch)(const FormatTouch& at) = nullptr;  // beyond the keys above
 };
-constexpr int kCbPage = 2, kMaintPage = 10, kStatPage = 11;
 constexpr SystemPage kSystemPages[] = {
-    {kStatPage, {2, 41, 0, 24}},   {5, {50, 91, 0, 22}},
-    {9, {97, 137, 0, 22}},         {7, {143, 184, 0, 22}},
-    {1, {191, 231, 0, 22}},        {3, {236, 278, 0, 22}},
-    {8, {2, 51, 30, 48}},          {6, {58, 108, 30, 48}},
-    {4, {114, 164, 30, 48}},       {kMaintPage, {171, 221, 30, 48}},
-    {kCbPage, {227, 277, 30, 48}},
+    {kAirPage, DrawAirPage},   {kCbPage, DrawCbPage, TouchCbPage},
+    {kDoorPage, DrawDoorPage}, {kEfisDspPage, DrawEfisDspPage, TouchEfisDspPage},
+    {kElecPage, DrawElecPage}, {kFctlPage, DrawFctlPage},
+    {kFuelPage, DrawFuelPage}, {kGearPage, DrawGearPage},
+    {kHydPage, DrawHydPage},   {kMaintPage, DrawMaintPage},
+    {kStatPage, DrawStatPage},
 };
-// The pages without a strip of their own but for the way back.
-constexpr Area kBackToStat = {2, 55, 0, 24};
+
+const SystemPage* FindSystemPage(int page) {
+    const auto row = std::ranges::find(kSystemPages, page, &SystemPage::page);
+    return row == std::end(kSystemPages) ? nullptr : row;
+}
 
 }  // namespace
 
 void DrawSystemPage(Graphics& graphics, const ContentPlace& place) {
-    DrawFormatName(graphics, place, "SYS");
+    const SystemPage* row = FindSystemPage(place.system_page);
+    if (row == nullptr) return;
+    DrawSysKeyStrip(graphics, place.half, row->page);
+    const TransformBlock block(graphics);
+    if (place.half == 1) GdipTranslateWorldTransform(graphics, -kHalf, 0);
+    row->draw({graphics, place.side});
 }
 
 void TouchSystemPage(const FormatTouch& at) {
     int& page = SystemPageOf(at.unit, at.half);
-    if (page == kCbPage || page == kMaintPage) {
-        if (kBackToStat.Has(at.x, at.y)) page = kStatPage;
-        return;
-    }
-    for (const SystemPage& row : kSystemPages)
-        if (row.strip.Has(at.x, at.y)) page = row.page;
+    const int chosen = PageOfPress(page, at.x, at.y);
+    const SystemPage* row = FindSystemPage(page);
+    if (chosen == page && row != nullptr && row->touch != nullptr) row->touch(at);
+    page = chosen;
 }

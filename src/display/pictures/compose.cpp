@@ -12,7 +12,7 @@ constexpr int kWidth = 564, kHeight = 424;
 void DrawContent(Graphics& graphics, Content content, int mode, int unit, int half) {
     GdipResetWorldTransform(graphics);
     GdipResetClip(graphics);
-    if (const Format* format = FindFormat(content))
+    if (const DisplayFormat* format = FindFormat(content))
         format->draw(graphics, PlaceOf(content, mode, unit, half));
 }
 
