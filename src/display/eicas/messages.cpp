@@ -4,6 +4,7 @@
 
 #include "base/text.h"
 #include "state/alerts.h"
+#include "systems/alerting/message_lists.h"
 
 namespace {
 
@@ -11,11 +12,12 @@ constexpr float kMessageText = 10;
 constexpr int kFirstY = 1, kStep = 11, kLastY = 110;
 constexpr int kOuterX = -5, kAdvisoryX = 2;
 
-int DrawRecords(Graphics& graphics, const GrowingList<AlertRecord>& list, int count, int x, Rgb colour,
-                bool cancellable, int y) {
-    for (int index = 1; index <= std::min(count, list.size()); ++index) {
-        if (cancellable && list[index].cancelled != 0) continue;
-        if (y <= kLastY) EicasText(graphics, x, y, kMessageText, colour, list[index].text);
+int DrawRecords(Graphics& graphics, AlertLevel level, int x, Rgb colour, int y) {
+    const AlertList& list = ListOf(level);
+    const int last = list.Count();
+    for (int index = 1; index <= last; ++index) {
+        if (level != AlertLevel::kWarning && list.At(index).cancelled != 0) continue;
+        if (y <= kLastY) EicasText(graphics, x, y, kMessageText, colour, list.At(index).text);
         y += kStep;
     }
     return y;
@@ -23,11 +25,13 @@ int DrawRecords(Graphics& graphics, const GrowingList<AlertRecord>& list, int co
 
 void DrawMemos(Graphics& graphics, int y) {
     constexpr int kLines = 11, kFoot = 121;
-    const int from_foot = (kLines - alerts.memo_count) * kStep;
-    if (alerts.memo_count >= 1 && std::max(y, from_foot) < kFoot) y = std::max(y, from_foot);
-    for (int index = 1; index <= std::min(alerts.memo_count, alerts.memo_list.size()); ++index, y += kStep) {
+    const AlertList& memos = ListOf(AlertLevel::kMemo);
+    const int last = memos.Count();
+    const int from_foot = (kLines - last) * kStep;
+    if (last >= 1 && std::max(y, from_foot) < kFoot) y = std::max(y, from_foot);
+    for (int index = 1; index <= last; ++index, y += kStep) {
         if (y > kLastY) continue;
-        const std::string& text = alerts.memo_list[index].text;
+        const std::string& text = memos.At(index).text;
         if (text == "COMM") GdipFillEllipseI(graphics, BrushOf(kWhite), -10, y + 2, 4, 4);
         EicasText(graphics, kOuterX, y, kMessageText, kWhite, text);
     }
@@ -38,9 +42,9 @@ void DrawMemos(Graphics& graphics, int y) {
 void DrawMessages(Graphics& graphics) {
     constexpr int kLinesOfAPage = 11, kBelow = 130;
     int y = kFirstY;
-    y = DrawRecords(graphics, alerts.warning_list, alerts.warning_count, kOuterX, kEicasRed, false, y);
-    y = DrawRecords(graphics, alerts.caution_list, alerts.caution_count, kOuterX, kAmber, true, y);
-    y = DrawRecords(graphics, alerts.advisory_list, alerts.advisory_count, kAdvisoryX, kAmber, true, y);
+    y = DrawRecords(graphics, AlertLevel::kWarning, kOuterX, kEicasRed, y);
+    y = DrawRecords(graphics, AlertLevel::kCaution, kOuterX, kAmber, y);
+    y = DrawRecords(graphics, AlertLevel::kAdvisory, kAdvisoryX, kAmber, y);
     DrawMemos(graphics, y);
     if (alerts.warning_count + alerts.unseen_cautions + alerts.unseen_advisories > kLinesOfAPage)
         EicasText(graphics, 60, kBelow, kMessageText, kWhite, Format("PG %d", 1));
