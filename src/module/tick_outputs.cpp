@@ -23,7 +23,6 @@
 #include "state/time_base.h"
 #include "surveillance/terrain.h"
 #include "surveillance/traffic.h"
-#include "systems/air_lamps.h"
 #include "systems/air_temperatures.h"
 #include "systems/alerting/alert_inputs.h"
 #include "systems/alerting/alerts_update.h"
@@ -32,15 +31,13 @@
 #include "systems/apu.h"
 #include "systems/battery.h"
 #include "systems/electrical.h"
-#include "systems/electrical_lamps.h"
 #include "systems/engine_controls.h"
 #include "systems/engine_start.h"
 #include "systems/fire_test.h"
-#include "systems/fuel_lamps.h"
 #include "systems/fuel_pumps.h"
-#include "systems/hydraulic_lamps.h"
 #include "systems/hydraulics.h"
 #include "systems/irs.h"
+#include "systems/overhead_lamps.h"
 #include "systems/ram_air_turbine.h"
 #include "systems/status_dots.h"
 #include "systems/surfaces.h"
@@ -80,11 +77,7 @@ void FirstGroup() {
     ReadBrakeTemperatures();
     CountStartTimers();
     CountFireTest();
-    ShowElectricalLamps();
-    ShowAirLamps();
-    ShowFuelLamps();
-    ShowHydraulicLamps();
-    ShowEngineLamps();
+    ShowOverheadLamps();
     SetStatusDots();
     RepairInboardModes();
 }

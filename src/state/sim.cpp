@@ -172,6 +172,7 @@ constexpr Variable kSimRows[] = {
     {"gs_kt", &sim.ground_speed_kt},
     {"flap_handle_pos", &sim.flap_pos},
     {"nose_gear_pos", &sim.gear_nose},
+    {"tz_cabin_alt", &sim.cabin_alt},
 };
 }  // namespace
 

@@ -1,23 +1,14 @@
 #include "systems/engine_controls.h"
 
 #include "frame/engine_fuel.h"
-#include "frame/lamps.h"
 #include "platform/host.h"
 #include "state/cockpit.h"
-#include "state/power_words.h"
 
 namespace {
 
 const EngineFuel& FuelOf(int engine) {
     return kEngineFuel[engine == 2 ? 1 : 0];
 }
-
-constexpr Lamp kEngineLamps[] = {
-    {NamedVar("TZ_OH_Annun_ECCL_ALTN"),
-     [] { return cockpit.TZ_OH_ECC_L_Button == 0 && IsBatteryBusAlive(); }},
-    {NamedVar("TZ_OH_Annun_ECCR_ALTN"),
-     [] { return cockpit.TZ_OH_ECC_R_Button == 0 && IsBatteryBusAlive(); }},
-};
 
 }  // namespace
 
@@ -42,8 +33,4 @@ void FollowFireHandle(int engine) {
 void FollowHostFuel() {
     for (const EngineFuel& fuel : kEngineFuel)
         if (cockpit.*fuel.control == kFuelCutOff && ReadToken(fuel.fuel_token) != 0) SetFuelRun(fuel);
-}
-
-void ShowEngineLamps() {
-    ShowLamps(kEngineLamps);
 }

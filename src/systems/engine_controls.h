@@ -10,6 +10,3 @@ void FollowFireHandle(int engine);
 
 /// A control at cut-off whose engine has fuel in the host goes to run; once a second.
 void FollowHostFuel();
-
-/// Shows the lamps of the electronic engine control; once a second.
-void ShowEngineLamps();

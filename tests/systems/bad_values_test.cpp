@@ -11,16 +11,13 @@
 #include "state/surfaces.h"
 #include "support/fake_host.h"
 #include "support/set_variables.h"
-#include "systems/air_lamps.h"
 #include "systems/air_temperatures.h"
 #include "systems/electrical.h"
-#include "systems/electrical_lamps.h"
 #include "systems/engine_controls.h"
 #include "systems/engine_start.h"
-#include "systems/fuel_lamps.h"
 #include "systems/fuel_pumps.h"
-#include "systems/hydraulic_lamps.h"
 #include "systems/hydraulics.h"
+#include "systems/overhead_lamps.h"
 #include "systems/ram_air_turbine.h"
 #include "systems/status_dots.h"
 #include "systems/surfaces.h"
@@ -52,11 +49,7 @@ void RunSecond() {
     ExchangeThrustValues();
     FollowHostFuel();
     SetStatusDots();
-    ShowElectricalLamps();
-    ShowAirLamps();
-    ShowFuelLamps();
-    ShowHydraulicLamps();
-    ShowEngineLamps();
+    ShowOverheadLamps();
 }
 
 // Values that no aircraft has, from the host and from its model, leave everything within its range, and once

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "frame/tokens.h"
-#include "lamp_cases.h"
 #include "module/controls/operate.h"
 #include "state/cfg.h"
 #include "state/cockpit.h"
@@ -14,7 +13,6 @@
 #include "state/time_base.h"
 #include "support/fake_host.h"
 #include "support/set_variables.h"
-#include "systems/electrical_lamps.h"
 
 namespace {
 
@@ -180,56 +178,6 @@ TEST(Electrical, ShedsLoads) {
         EXPECT_EQ(electrical.load_shed_level, row.level)
             << row.n2_l << ' ' << row.n2_r << ' ' << row.start_l << row.start_r << ' ' << row.power;
     }
-}
-
-TEST(Electrical, LightsItsLamps) {
-    constexpr LampCase kCases[] = {
-        {"OFF_BATT", "battery_button 0, power_level 6", 1},
-        {"OFF_BATT", "battery_button 0, power_level 5", 0},
-        {"OFF_BATT", "battery_button 1", 0},
-        {"OFF_APUL", "apu_gen_button 0, power_level 5", 1},
-        {"OFF_APUL", "apu_gen_button 0, power_level 4", 0},
-        {"OFF_APUR", "apu_gen_button 0, power_level 5", 1},
-        {"OFF_APUR", "apu_gen_button 1", 0},
-        {"OFF_GCL1", "gen_l1_pwr 0, power_level 5", 1},
-        {"OFF_GCL1", "gen_l1_pwr 0, power_level 4", 0},
-        {"OFF_GCL1", "gen_l2_pwr 0", 0},
-        {"OFF_GCL2", "gen_l2_pwr 0", 1},
-        {"OFF_GCR1", "gen_r1_pwr 0", 1},
-        {"OFF_GCR2", "gen_r2_pwr 0", 1},
-        {"DRIVE_DDL1", "n2_l 25, power_level 5", 1},
-        {"DRIVE_DDL1", "n2_l 25, power_level 4", 0},
-        {"DRIVE_DDL1", "n2_l 25.1", 0},
-        {"DRIVE_DDL1", "n2_l 25.1, drive_disc_l1 1, power_level 0", 1},
-        {"DRIVE_DDL1", "drive_disc_l2 1", 0},
-        {"DRIVE_DDL1", "n2_r 0", 0},
-        {"DRIVE_DDL2", "drive_disc_l2 1", 1},
-        {"DRIVE_DDR1", "drive_disc_r1 1", 1},
-        {"DRIVE_DDR1", "n2_r 10", 1},
-        {"DRIVE_DDR2", "drive_disc_r2 1", 1},
-        {"OFF_IFE", "ife_bus_on 0, power_level 5", 1},
-        {"OFF_IFE", "ife_bus_on 0, power_level 4", 0},
-        {"OFF_CAB", "cab_bus_on 0", 1},
-        {"OFF_CAB", "ife_bus_on 0", 0},
-        {"AVAIL_FXPL", "fwd_ext_pwr_avail 1, power_level 0", 1},
-        {"AVAIL_FXPR", "fwd_ext_pwr_avail 1", 1},
-        {"AVAIL_FXPR", "fwd_ext_pwr_avail 1, fwd_ext_pwr_button 1", 0},
-        {"RAT_UNLKD", "rat_unlocked 1, power_level 0", 1},
-        {"RAT_PRESS", "rat_unlocked 1, ias_kt 80.1", 1},
-        {"RAT_PRESS", "rat_unlocked 1, ias_kt 80", 0},
-        {"RAT_PRESS", "ias_kt 200", 0},
-        {"DISC_PFC", "PfcSwitch 4, power_level 5", 1},
-        {"DISC_PFC", "PfcSwitch 4, power_level 4", 0},
-        {"DISC_PFC", "PfcSwitch 7", 0},
-        {"BAT_IRS", "irs_right 1, power_level 5", 1},
-        {"BAT_IRS", "irs_left 1, power_level 5", 1},
-        {"BAT_IRS", "irs_left 1, power_level 15", 0},
-        {"BAT_IRS", "power_level 5", 0},
-    };
-    CheckLamps(
-        "power_level 100, battery_button 1, apu_gen_button 1, gen_l1_pwr 1, gen_l2_pwr 1, gen_r1_pwr 1, "
-        "gen_r2_pwr 1, n2_l 60, n2_r 60, ife_bus_on 1, cab_bus_on 1, PfcSwitch 7",
-        kCases, ShowElectricalLamps);
 }
 
 TEST(Electrical, CabinBusesNeedPowerToComeOn) {
