@@ -5,8 +5,8 @@
 #include "display/routing/routing.h"
 #include "state/instruments.h"
 #include "state/nd.h"
-#include "state/requests.h"
 #include "state/side.h"
+#include "systems/alerting/message_lists.h"
 
 namespace {
 
@@ -49,7 +49,7 @@ constexpr PanelKey kPanelKeys[] = {
      {kKeyColumn3, 250, kPanelWidth, kPanelHeight},
      [](int side) { PressInboardFormat(side, Content::kComm); }},
     {"EICAS", {kKeyColumn4, 250, kPanelWidth, kPanelHeight}, [](int) { PressEicas(); }},
-    {"CANC/RCL", {kKeyColumn1, 290, kPanelWidth, kPanelHeight}, [](int) { requests.cancel_recall = 1; }},
+    {"CANC/RCL", {kKeyColumn1, 290, kPanelWidth, kPanelHeight}, [](int) { CancelRecall(); }},
 };
 
 }  // namespace
