@@ -113,7 +113,7 @@ constexpr StateGroup kGroups[] = {
     {"remote", Reset<&remote>, &kRemoteVariables, "display/pictures/remote_bridge module/remote_input"},
     {"requests", Reset<&requests>, &kRequestVariables,
      "fmc/legs/holds fmc/route/modification fmc/files/ guidance/ cdu/words/views checklist/ "
-     "display/routing/routing display/synoptics/efis_dsp_page module/controls/"},
+     "display/routing/routing module/controls/"},
     {"electrical", Reset<&electrical>, &kElectricalVariables, "frame/named_variable_catalogue systems/"},
     {"engines", Reset<&engines>, &kEngineVariables, "frame/ systems/"},
     {"fuel_pumps", Reset<&fuel_pumps>, &kFuelPumpVariables, "systems/fuel_pumps"},
