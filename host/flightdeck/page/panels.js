@@ -142,7 +142,7 @@ export const overhead = [
   {title: 'Cabin and crew', controls: [
     selector('TZ_OH_SEATB_SIGN_Switch', 'Seat Belts', OFF_AUTO_ON),
     button('TZ_OH_CAB_CHM_Button', 'Cabin Chime', 'ON'),
-    selector('TZ_OH_EMER_LTS_Switch', 'Emer Lights', ['ARMED', 'ON']),
+    selector('TZ_OH_EMER_LTS_Switch', 'Emer Lights', ['OFF', 'ON', 'ARMED']),
     button('TZ_OH_PASS_OXY1_Button', 'Pass Oxygen', '', ['TZ_OH_Annun_POXY_ON', 'ON']),
     key('TZ_OXYGEN_TEST_Switch01', 'Oxygen Test'),
     button('TZ_OH_FD_DOOR_Button', 'Flt Deck Door', 'AUTO', ['TZ_OH_Annun_FDD_OFF', 'OFF']),
