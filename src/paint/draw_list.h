@@ -99,6 +99,24 @@ struct Unclip {
 using Primitive =
     std::variant<ClearSurface, FillPath, StrokePath, TextRun, DrawnImage, ClipIn, ClipOut, Unclip>;
 
+/// A figure in the making, in the coordinates of whoever draws it.
+struct GraphicsPath {
+    std::vector<PathVerb> verbs = {};
+    std::vector<PaintPoint> points = {};
+    bool winding = false;
+    bool open = false;  // the last figure takes further lines
+};
+
+/// Where figures are made; the storage stays from figure to figure and from picture to picture.
+struct FigureRoom {
+    GraphicsPath figure = {};  // being drawn
+    GraphicsPath flat = {};    // the same, of lines only
+    GraphicsPath drawn = {};   // what is drawn in its stead
+    std::vector<PaintPoint> corners = {};
+    std::vector<float> crossings = {};
+    bool operator==(const FigureRoom&) const { return true; }  // it is no part of a picture
+};
+
 struct DrawList {
     float width = 0, height = 0;  // of the logical frame
     std::vector<Primitive> primitives;
@@ -106,9 +124,7 @@ struct DrawList {
     std::vector<PaintPoint> points;
     std::vector<float> dashes;
     std::string text;
-    // Storage for figures in the making, empty: it goes from picture to picture.
-    std::vector<PathVerb> spare_verbs;
-    std::vector<PaintPoint> spare_points;
+    FigureRoom room = {};
 
     bool operator==(const DrawList&) const = default;
 };

@@ -60,15 +60,16 @@ void AddHatchLine(GraphicsPath& to, const HatchLines& lines, float value, const 
 // The lines of a hatch stand in the list's frame, whatever the transform, and so go on from figure to figure.
 void FillHatch(Graphics& graphics, const Brush& brush, const GraphicsPath& path) {
     constexpr float kPeriod = 8, kLineShift = 0.5f;  // a line is drawn half a unit to the right and below
-    const GraphicsPath flat = Flatten(path, 0.25);
-    std::vector<PaintPoint> corners;
+    FigureRoom& room = graphics.room;
+    const GraphicsPath& flat = Flatten(room, path, 0.25);
+    std::vector<PaintPoint>& corners = room.corners;
+    corners.clear();
     for (const PaintPoint& given : flat.points) {
         const PaintPoint p = Map(graphics.world, given.x, given.y);
         corners.push_back({p.x - kLineShift, p.y - kLineShift});
     }
     const float reach = graphics.list->width + graphics.list->height;
-    GraphicsPath stretches;
-    std::vector<float> crossings;
+    GraphicsPath& stretches = Emptied(room.drawn);
     const auto& pair = kHatches[static_cast<std::size_t>(brush.hatch)];
     const bool crossed = pair[0].a != pair[1].a || pair[0].b != pair[1].b;
     for (const HatchLines& lines : std::span(pair).first(crossed ? 2 : 1)) {
@@ -80,7 +81,7 @@ void FillHatch(Graphics& graphics, const Brush& brush, const GraphicsPath& path)
         const auto start = static_cast<float>(lines.first);
         float value = start + std::ceil((std::max(least, -reach) - start) / kPeriod) * kPeriod;
         for (; value <= std::min(most, reach); value += kPeriod)
-            AddHatchLine(stretches, lines, value, flat, corners, crossings);
+            AddHatchLine(stretches, lines, value, flat, corners, room.crossings);
     }
     if (stretches.verbs.empty()) return;
     const Matrix world = graphics.world;

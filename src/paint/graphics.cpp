@@ -54,26 +54,14 @@ void DrawImage(Graphics& graphics, const Image& image, double x, double y, doubl
 
 }  // namespace
 
-GraphicsPath& ScratchPath(Graphics& graphics) {
-    GraphicsPath& path = graphics.scratch;
-    path.verbs.clear();
-    path.points.clear();
-    path.open = false;
-    path.winding = false;
-    return path;
-}
-
 Graphics GdipCreateGraphics(DrawList& list, float width, float height) {
     ClearList(list, width, height);
-    return {.list = &list,
-            .scratch = {.verbs = std::move(list.spare_verbs), .points = std::move(list.spare_points)}};
+    return {.list = &list, .room = std::move(list.room)};
 }
 
 void GdipDeleteGraphics(Graphics& graphics) {
     if (graphics.list == nullptr) return;
-    GraphicsPath& path = ScratchPath(graphics);
-    graphics.list->spare_verbs = std::move(path.verbs);
-    graphics.list->spare_points = std::move(path.points);
+    graphics.list->room = std::move(graphics.room);
     graphics.list = nullptr;
 }
 

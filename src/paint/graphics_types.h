@@ -13,19 +13,12 @@ struct Matrix {  // x' = a x + c y + e, y' = b x + d y + f
     double a = 1, b = 0, c = 0, d = 1, e = 0, f = 0;
 };
 
-struct GraphicsPath {
-    std::vector<PathVerb> verbs = {};
-    std::vector<PaintPoint> points = {};
-    bool winding = false;
-    bool open = false;  // the last figure takes further lines
-};
-
 /// The surface of one frame: a world transform and a clip over the list that it records to.
 struct Graphics {
     DrawList* list = nullptr;
     Matrix world = {};
     bool clipped = false;
-    GraphicsPath scratch = {};  // of the figure being drawn; keeps its storage from figure to figure
+    FigureRoom room = {};  // the list's, while the frame is drawn
 };
 
 struct LineArrowCap {

@@ -5,6 +5,13 @@
 
 #include "base/angles.h"
 
+GraphicsPath& Emptied(GraphicsPath& path) {
+    path.verbs.clear();
+    path.points.clear();
+    path.winding = path.open = false;
+    return path;
+}
+
 namespace {
 
 constexpr double kQuarterArc = 0.5522847498307936;  // control length of a quarter circle, 4/3 tan(pi/8)
@@ -128,8 +135,8 @@ void AddCardinalSpline(GraphicsPath& path, std::span<const PaintPoint> points, b
     if (closed) ClosePath(path);
 }
 
-GraphicsPath Flatten(const GraphicsPath& path, double tolerance) {
-    GraphicsPath flat;
+const GraphicsPath& Flatten(FigureRoom& room, const GraphicsPath& path, double tolerance) {
+    GraphicsPath& flat = Emptied(room.flat);
     flat.winding = path.winding;
     std::size_t next = 0;
     PaintPoint at{};
@@ -170,9 +177,11 @@ GraphicsPath Flatten(const GraphicsPath& path, double tolerance) {
 
 namespace {
 
-// One figure of lines moved sideways.
-void OffsetFigure(GraphicsPath& to, std::span<const PaintPoint> given, bool closed, double offset) {
-    std::vector<PaintPoint> points;
+// One figure of lines moved sideways, into room.drawn.
+void OffsetFigure(FigureRoom& room, std::span<const PaintPoint> given, bool closed, double offset) {
+    GraphicsPath& to = room.drawn;
+    std::vector<PaintPoint>& points = room.corners;
+    points.clear();
     for (const PaintPoint& point : given)
         if (points.empty() || Distance(points.back(), point) > 1e-4f) points.push_back(point);
     if (closed && points.size() > 2 && Distance(points.front(), points.back()) <= 1e-4f) points.pop_back();
@@ -200,12 +209,12 @@ void OffsetFigure(GraphicsPath& to, std::span<const PaintPoint> given, bool clos
 
 }  // namespace
 
-GraphicsPath OffsetPath(const GraphicsPath& path, double offset) {
-    const GraphicsPath flat = Flatten(path, 0.1);
-    GraphicsPath moved;
+const GraphicsPath& OffsetPath(FigureRoom& room, const GraphicsPath& path, double offset) {
+    const GraphicsPath& flat = Flatten(room, path, 0.1);
+    Emptied(room.drawn);
     std::size_t first = 0, next = 0;
     const auto end_figure = [&](bool closed) {
-        OffsetFigure(moved, std::span(flat.points).subspan(first, next - first), closed, offset);
+        OffsetFigure(room, std::span(flat.points).subspan(first, next - first), closed, offset);
         first = next;
     };
     for (const PathVerb verb : flat.verbs) {
@@ -216,5 +225,5 @@ GraphicsPath OffsetPath(const GraphicsPath& path, double offset) {
             ++next;
     }
     if (next > first) end_figure(false);
-    return moved;
+    return room.drawn;
 }

@@ -6,6 +6,9 @@
 
 // Figures as lines and cubic curves, shared by paths, outlines and fills.
 
+/// Empties a path and gives it back; its storage stays.
+GraphicsPath& Emptied(GraphicsPath& path);
+
 void MoveTo(GraphicsPath& path, double x, double y);
 void LineTo(GraphicsPath& path, double x, double y);
 void CurveTo(GraphicsPath& path, PaintPoint control1, PaintPoint control2, PaintPoint end);
@@ -25,9 +28,9 @@ void AddPie(GraphicsPath& path, double x, double y, double width, double height,
 /// A cardinal spline of tension 0.5 through the points.
 void AddCardinalSpline(GraphicsPath& path, std::span<const PaintPoint> points, bool closed);
 
-/// The path with its curves made short lines, to within `tolerance` of a unit.
-GraphicsPath Flatten(const GraphicsPath& path, double tolerance);
+/// Makes the path in room.flat: its curves are short lines, to within `tolerance` of a unit.
+const GraphicsPath& Flatten(FigureRoom& room, const GraphicsPath& path, double tolerance);
 
-/// The path moved sideways by `offset` (positive to the right of its direction), curves flattened and corners
-/// mitred: the strips of a compound pen.
-GraphicsPath OffsetPath(const GraphicsPath& path, double offset);
+/// Makes the path in room.drawn: moved sideways by `offset` (positive to the right of its direction), curves
+/// flattened and corners mitred: the strips of a compound pen.
+const GraphicsPath& OffsetPath(FigureRoom& room, const GraphicsPath& path, double offset);

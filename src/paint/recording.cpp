@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "base/angles.h"
+#include "paint/path_builder.h"
 
 Growth GrowthOf(const Matrix& m) {
     constexpr double kNothing = 1e-12;
@@ -16,6 +17,10 @@ Growth GrowthOf(const Matrix& m) {
     return {height,
             {static_cast<float>(std::atan2(m.b, m.a) * kDegPerRad), static_cast<float>(run / height),
              static_cast<float>(slant / height)}};
+}
+
+GraphicsPath& ScratchPath(Graphics& graphics) {
+    return Emptied(graphics.room.figure);
 }
 
 PaintRange RangeOf(std::size_t first, std::size_t end) {

@@ -36,7 +36,8 @@ void StrokeOnce(Graphics& graphics, const Pen& pen, const GraphicsPath& path, do
 // The arrow at the end of a path's last line; the line is cut back to the arrow's base, so that its tip is
 // sharp.
 void DrawWithArrow(Graphics& graphics, const Pen& pen, const GraphicsPath& path) {
-    GraphicsPath line = Flatten(path, 0.1);
+    Flatten(graphics.room, path, 0.1);
+    GraphicsPath& line = graphics.room.flat;
     const std::size_t count = line.points.size();
     if (line.verbs.back() == PathVerb::kClose || count < 2) return StrokeOnce(graphics, pen, path, pen.width);
     const PaintPoint tip = line.points[count - 1], before = line.points[count - 2];
@@ -45,7 +46,7 @@ void DrawWithArrow(Graphics& graphics, const Pen& pen, const GraphicsPath& path)
     const double ux = dx / length, uy = dy / length;
     const double height = pen.end_cap.height * pen.width, half = pen.end_cap.width * pen.width / 2;
     const PaintPoint base{static_cast<float>(tip.x - ux * height), static_cast<float>(tip.y - uy * height)};
-    GraphicsPath head;
+    GraphicsPath& head = Emptied(graphics.room.drawn);
     MoveTo(head, base.x - uy * half, base.y + ux * half);
     LineTo(head, tip.x, tip.y);
     LineTo(head, base.x + uy * half, base.y - ux * half);
@@ -72,7 +73,7 @@ void Stroke(Graphics& graphics, const Pen& pen, const GraphicsPath& path) {
         for (std::size_t i = 0; i + 1 < pen.compound.count; i += 2) {
             const double from = pen.compound.values[i], to = pen.compound.values[i + 1];
             if (to <= from) continue;
-            StrokeOnce(graphics, pen, OffsetPath(path, ((from + to) / 2 - 0.5) * pen.width),
+            StrokeOnce(graphics, pen, OffsetPath(graphics.room, path, ((from + to) / 2 - 0.5) * pen.width),
                        (to - from) * pen.width);
         }
     } else {
