@@ -77,15 +77,16 @@ void Arrange(NearList<AirwayFixRow>& list) {
 
 void Arrange(NearList<NavaidRow>&) {}
 
+constexpr auto kEveryRow = [](const auto&) { return true; };
+
 template <class Row>
 bool BringTo(NearListPair<Row>& pair, const GrowingList<Row>& table, int count, double lat, double lon,
              double far_nm, double near_nm) {
-    const auto every_row = [](const Row&) { return true; };
     const bool far_moved = HasMoved(pair.far, lat, lon, kFarRebuildNm);
-    if (far_moved) Rebuild(pair.far, table, count, lat, lon, far_nm, every_row);
+    if (far_moved) Rebuild(pair.far, table, count, lat, lon, far_nm, kEveryRow);
     const bool near_moved = HasMoved(pair.near, lat, lon, kNearRebuildNm);
     if (near_moved) {
-        Rebuild(pair.near, pair.far.rows, pair.far.cnt, lat, lon, near_nm, every_row);
+        Rebuild(pair.near, pair.far.rows, pair.far.cnt, lat, lon, near_nm, kEveryRow);
         Arrange(pair.near);
     }
     return far_moved || near_moved;
@@ -140,7 +141,12 @@ void OfferAlternate(Alternates& rows, const AirportRow& airport) {
 }  // namespace
 
 bool NearAirports(NearPlaces& places, double lat, double lon) {
-    return BringTo(places.airports, nav_tables.AirportTable, nav_tables.apt_cnt, lat, lon, 1700, 1280);
+    constexpr double kCloseNm = 200;
+    const auto& near = places.airports.near;
+    if (!BringTo(places.airports, nav_tables.AirportTable, nav_tables.apt_cnt, lat, lon, 1700, 1280))
+        return false;
+    Rebuild(places.close_airports, near.rows, near.cnt, lat, lon, kCloseNm, kEveryRow);
+    return true;
 }
 
 bool NearFixes(NearPlaces& places, double lat, double lon) {

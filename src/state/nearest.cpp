@@ -44,6 +44,7 @@ struct Describe<NearPlaces> {
         FieldRow<&N::airports>("airports"),
         FieldRow<&N::fixes>("fixes"),
         FieldRow<&N::navaids>("navaids"),
+        FieldRow<&N::close_airports>("close_airports"),
     };
     static constexpr ValueType type{.kind = ValueKind::kRecord, .fields = fields};
 };
@@ -56,6 +57,8 @@ constexpr Variable kNearestRows[] = {
     {"far_airport_cnt", &nearest.around.airports.far.cnt},
     {"near_airport_list", &nearest.around.airports.near.rows},
     {"near_airport_cnt", &nearest.around.airports.near.cnt},
+    {"close_airport_list", &nearest.around.close_airports.rows},
+    {"close_airport_cnt", &nearest.around.close_airports.cnt},
     {"far_fix_list", &nearest.around.fixes.far.rows},
     {"far_fix_cnt", &nearest.around.fixes.far.cnt},
     {"near_fix_list", &nearest.around.fixes.near.rows},

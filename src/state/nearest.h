@@ -41,9 +41,10 @@ struct TunedVor {
 
 /// What a map can show around its centre.
 struct NearPlaces {
-    NearListPair<AirportRow> airports;  // 1700 and 1280 nm
-    NearListPair<AirwayFixRow> fixes;   // 600 and 200 nm, fixes of airways
-    NearListPair<NavaidRow> navaids;    // 600 and 320 nm
+    NearListPair<AirportRow> airports;    // 1700 and 1280 nm
+    NearListPair<AirwayFixRow> fixes;     // 600 and 200 nm, fixes of airways
+    NearListPair<NavaidRow> navaids;      // 600 and 320 nm
+    NearList<AirportRow> close_airports;  // those of the near list within 200 nm, for maps of small range
 };
 
 /// Filled by navdata/nearest and navdata/vor_autotune; a picture is composed under the state lock, so it

@@ -278,6 +278,7 @@ TEST_F(NdPicture, WithoutAnyIrsThereIsNoMap) {
     const std::string picture = Draw();
     EXPECT_EQ(picture.find("stroke 255,19,213"), std::string::npos) << "no route, no bug";
     EXPECT_EQ(picture.find("\"GS\""), std::string::npos);
+    EXPECT_TRUE(Shows("LEG1") && Shows("------") && Shows("----")) << "nobody knows how far it is";
     sim.tas_kt = 400;
     EXPECT_TRUE(Shows("TAS") && Shows("400")) << "the air data needs none";
     EXPECT_NE(TextLine("TRK").find("233,183,62"), std::string::npos);
@@ -319,13 +320,18 @@ TEST_F(NdPicture, RoutePensByWhatALegIs) {
     std::string picture = Draw();
     EXPECT_NE(picture.find(kMagentaLine), std::string::npos);
     EXPECT_EQ(picture.find(kCyanLine), std::string::npos);
-    plan.active.legs[3].via = plan.active.legs[4].via = kMissedVia;
-    picture = Draw();
-    EXPECT_NE(picture.find(kCyanLine + "M"), std::string::npos) << "the missed approach";
+    plan.active.legs[3].via = kMissedVia;  // and the way back to the airport behind it
+    plan.HoldList[1].leg = 3;
+    plan.hold_cnt = 1;
+    picture = Draw();  // each leg of 30 nm is 56.25 units long
+    EXPECT_NE(picture.find(kMagentaLine + " 141 412.25 L 141 356 L 141 299.75\n"), std::string::npos);
+    EXPECT_NE(picture.find(kCyanLine + "M 141 299.75 L 141 243.5 L 141 187.25\n"), std::string::npos);
+    EXPECT_NE(picture.find(kCyanLine + "dash 6,2"), std::string::npos) << "its hold, not entered";
+    plan.hold_cnt = 0;
     plan.active.stpos = 3;
     EXPECT_EQ(Draw().find(kCyanLine), std::string::npos) << "until it is flown";
     plan.active.stpos = 1;
-    plan.active.legs[3].via = plan.active.legs[4].via = "";
+    plan.active.legs[3].via = "";
     plan.active.legs[3].ident = kDiscoIdent;
     plan.active.legs[2].lat = 47.5;
     picture = Draw();  // two legs of 30 nm up to LEG2, 56.25 units each, and none behind the gap
@@ -465,6 +471,7 @@ TEST_F(NdPicture, LayersByRange) {
         near.rows[1] = row;
         near.cnt = 1;
     };
+    put(nearest.around.close_airports, AirportRow{"KABCDEF", "", 47.05, -122, 0, ""});
     put(nearest.around.airports.near, AirportRow{"KABCDEF", "", 47.05, -122, 0, ""});
     put(nearest.around.fixes.near, AirwayFixRow{"FIXES", 47.03, -122});
     put(nearest.around.navaids.near, NavaidRow{"NAV", "", 47.04, -122, "V", ""});

@@ -162,11 +162,14 @@ void DrawStations(Graphics& graphics, const NdFrame& frame) {
 
 void DrawAirports(Graphics& graphics, const NdFrame& frame) {
     constexpr int kMostAirports = 80;
+    constexpr double kSmallRange = 80;
+    const NearPlaces& places = PlacesOf(frame.side);
     int drawn = 0;
-    ForEachSeen(PlacesOf(frame.side).airports.near, frame.view, [&](const AirportRow& row, MapPoint at) {
-        DrawAirport(graphics, frame.view, at, row.ident);
-        return ++drawn < kMostAirports;
-    });
+    ForEachSeen(frame.view.range <= kSmallRange ? places.close_airports : places.airports.near, frame.view,
+                [&](const AirportRow& row, MapPoint at) {
+                    DrawAirport(graphics, frame.view, at, row.ident);
+                    return ++drawn < kMostAirports;
+                });
 }
 
 void DrawRouteAirports(Graphics& graphics, const MapView& view) {

@@ -116,16 +116,13 @@ class RouteDrawing {
         : line_(graphics, view), view_(view), route_(route), active_(active) {}
 
     void Draw(int first, Place from, const RoutePens& pens) {
-        // What follows the marker is the missed approach, until it is flown.
         const bool missed_flown = first <= route_.leg_cnt && IsOfMissedApproach(route_.legs[first]);
-        bool missed = false;
         Place before = PlaceBeforeFrom(first, from), to;
         StartOfRoute(first, before, from);
         LatLon start = from.at;
         bool is_near = true;  // `before` and `from` are those of the leg
         for (int i = first; i <= route_.leg_cnt; ++i) {
             const FlightPlanLeg& leg = route_.legs[i];
-            missed = missed || (!missed_flown && IsMissedApproach(leg));
             // Of a long route most legs are far away: they cost no more than this.
             const bool in_reach = IsLegInReach(view_, start.lat, start.lon, leg.lat, leg.lon);
             start = {leg.lat, leg.lon};
@@ -144,6 +141,7 @@ class RouteDrawing {
             is_near = true;
             Place next = StartAt(i).there ? PlaceOfLeg(route_, i + 1) : Place{};
             if (to.there && from.there) {
+                const bool missed = !missed_flown && IsBehindMissedPoint(i);
                 line_.Use(missed ? pens.missed : pens.line, pens.band);
                 DrawLeg(before, from, to, next);
             } else {
@@ -158,6 +156,11 @@ class RouteDrawing {
     }
 
   private:
+    // On the missed approach, or back to the airport from its end.
+    bool IsBehindMissedPoint(int leg) const {
+        return IsOfMissedApproach(route_.legs[leg]) || (leg > 0 && IsOfMissedApproach(route_.legs[leg - 1]));
+    }
+
     void Interrupt() {
         line_.Finish();
         turn_drawn_at_ = kNoLeg;
