@@ -87,6 +87,7 @@ void SecondGroup() {
     ShowMasterCaution();
     AgreeFlightDirector();
     ReturnStartSelectors();
+    HeatPitotsWithEngines();
     ExchangeThrustLimit();
 }
 

@@ -9,6 +9,7 @@ constexpr Variable kEngineRows[] = {
     {"eng1_lightoff_timer", &engines.eng1_lightoff_timer},
     {"eng2_lightoff_timer", &engines.eng2_lightoff_timer},
     {"start_pressure_timer", &engines.start_pressure_timer},
+    {"engine_turns", &engines.engine_turns},
     {"eng_starter_cutout", &engines.eng_starter_cutout},
     {"FMC_TO_Derate", &engines.FMC_TO_Derate},
     {"FMC_CLB_Derate", &engines.FMC_CLB_Derate},

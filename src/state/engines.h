@@ -10,7 +10,8 @@ struct EngineState {
     int eng1_start_phase = 0, eng2_start_phase = 0;        // 0 none, 1 starter running, 2 past 25 percent
     int eng1_lightoff_timer = 0, eng2_lightoff_timer = 0;  // s, 30 when the engine reaches the cut-out speed
     int start_pressure_timer = 0;                          // s
-    double eng_starter_cutout = 62;                        // percent N2, by the engine's model
+    int engine_turns = -1;           // one of the engines makes power; -1 = not yet looked at
+    double eng_starter_cutout = 62;  // percent N2, by the engine's model
     int FMC_TO_Derate = 0;
     int FMC_CLB_Derate = 0;
     int FMC_Flex_Temp = 0;  // degrees C, 0 = none
