@@ -86,14 +86,15 @@ struct Apart {
     int seconds = 0;
 };
 
-// How far the track lies from the path drawn for a turn, until the next turn or the end of the drawing.
+// How far the track lies from the path drawn for a turn, until the next turn or the end of the drawing, and
+// while LNAV flies it.
 Apart MeasureTurn(const PathPlot& plot, std::size_t turn) {
     constexpr std::size_t kLongest = 150;
     constexpr double kEnd = 1;
     Apart apart;
     const PlottedTurn& at = plot.turns[turn];
     const std::size_t next = turn + 1 < plot.turns.size() ? plot.turns[turn + 1].flown_at : plot.flown.size();
-    const std::size_t end = std::min(next, at.flown_at + kLongest);
+    const std::size_t end = std::min(at.left_at > 0 ? at.left_at : next, at.flown_at + kLongest);
     for (std::size_t i = at.flown_at; i < end; ++i) {
         const Offset to_end = OffsetFrom(plot.flown[i], at.drawn.back());
         if (std::hypot(to_end.east, to_end.north) < kEnd) break;
@@ -173,7 +174,11 @@ void StepPlot(Session& session, PathPlot& plot) {
     const double course = ModuleNumber(session, "course_here");
     if (to != plot.to && plot.to > 0)
         plot.turns.push_back({plot.ident, std::fabs(std::remainder(course - plot.course, 360)), plot.fix,
-                              plot.drawn, plot.flown.size(), to != plot.to + 1});
+                              plot.drawn, plot.flown.size(), 0, to != plot.to + 1});
+    constexpr int kLnav = 6;
+    if (!plot.turns.empty() && plot.turns.back().left_at == 0 &&
+        ModuleNumber(session, "ap_lat_mode") != kLnav)
+        plot.turns.back().left_at = plot.flown.size();
     plot.to = to;
     plot.course = course;
     plot.flown.push_back(aircraft);

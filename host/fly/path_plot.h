@@ -22,6 +22,7 @@ struct PlottedTurn {
     PlotPoint fix;
     PlotLine drawn;            // as the display had it just before
     std::size_t flown_at = 0;  // place in the track
+    std::size_t left_at = 0;   // where LNAV let go on the way to the next one; 0: it didn't
     bool direct = false;       // the plan itself has changed
 };
 
