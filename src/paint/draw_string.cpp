@@ -86,8 +86,14 @@ void GdipDrawString(Graphics& graphics, std::string_view text, const Font& font,
         if (!line.empty() && IsNear(origin)) {
             const std::size_t first = list.text.size();
             AppendUtf8(list.text, line);
-            list.primitives.emplace_back(TextRun{origin.x, origin.y, size, growth.axes, font.family,
-                                                 brush.colour, RangeOf(first, list.text.size())});
+            TextRun& run = AddPrimitive<TextRun>(list);
+            run.x = origin.x;
+            run.y = origin.y;
+            run.size = size;
+            run.axes = growth.axes;
+            run.family = font.family;
+            run.colour = brush.colour;
+            run.text = RangeOf(first, list.text.size());
         }
         top += metrics.line_spacing * font.size;
     }

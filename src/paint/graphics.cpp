@@ -84,10 +84,10 @@ void GdipRotateWorldTransform(Graphics& graphics, double degrees) {
 }
 
 void GdipSetClipPath(Graphics& graphics, const GraphicsPath& path) {
-    const auto recorded = RecordPath(graphics, path);
-    if (!recorded) return;
+    PaintPath recorded;
+    if (graphics.list == nullptr || !RecordPath(graphics, path, recorded)) return;
     GdipResetClip(graphics);
-    graphics.list->primitives.emplace_back(ClipIn{*recorded});
+    graphics.list->primitives.emplace_back(ClipIn{recorded});
     graphics.clipped = true;
 }
 
@@ -95,10 +95,7 @@ void GdipSetClipRectI(Graphics& graphics, int x, int y, int width, int height) {
     if (width <= 0 || height <= 0) return;
     GraphicsPath& path = ScratchPath(graphics);
     AddRectangle(path, x, y, width, height);
-    const auto recorded = RecordPath(graphics, path);
-    if (!recorded) return;
-    graphics.list->primitives.emplace_back(ClipOut{*recorded});
-    graphics.clipped = true;
+    if (AddPathPrimitive<ClipOut>(graphics, path) != nullptr) graphics.clipped = true;
 }
 
 void GdipResetClip(Graphics& graphics) {

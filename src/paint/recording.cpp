@@ -33,8 +33,8 @@ bool IsDrawable(const Graphics& graphics, const GraphicsPath& path) {
                                [&](PaintPoint p) { return IsNear(Map(graphics.world, p.x, p.y)); });
 }
 
-std::optional<PaintPath> RecordPath(Graphics& graphics, const GraphicsPath& path) {
-    if (graphics.list == nullptr || path.points.size() < 2) return {};
+bool RecordPath(Graphics& graphics, const GraphicsPath& path, PaintPath& recorded) {
+    if (path.points.size() < 2) return false;
     DrawList& list = *graphics.list;
     const std::size_t verbs = list.verbs.size(), points = list.points.size();
     list.points.resize(points + path.points.size());
@@ -47,14 +47,16 @@ std::optional<PaintPath> RecordPath(Graphics& graphics, const GraphicsPath& path
     }
     if (!is_near) {
         list.points.resize(points);
-        return {};
+        return false;
     }
     list.verbs.insert(list.verbs.end(), path.verbs.begin(), path.verbs.end());
-    return PaintPath{RangeOf(verbs, list.verbs.size()), RangeOf(points, list.points.size()), path.winding};
+    recorded.verbs = RangeOf(verbs, list.verbs.size());
+    recorded.points = RangeOf(points, list.points.size());
+    recorded.winding = path.winding;
+    return true;
 }
 
 void RecordFill(Graphics& graphics, const GraphicsPath& path, Argb colour) {
     if (colour >> 24 == 0) return;
-    if (const auto recorded = RecordPath(graphics, path))
-        graphics.list->primitives.emplace_back(FillPath{*recorded, colour});
+    if (FillPath* fill = AddPathPrimitive<FillPath>(graphics, path)) fill->colour = colour;
 }

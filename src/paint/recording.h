@@ -1,7 +1,8 @@
 #pragma once
 
 #include <cstddef>
-#include <optional>
+#include <utility>
+#include <variant>
 
 #include "paint/graphics_types.h"
 
@@ -36,8 +37,25 @@ PaintRange RangeOf(std::size_t first, std::size_t end);
 /// There is a list, and the path has points for a figure, all near.
 bool IsDrawable(const Graphics& graphics, const GraphicsPath& path);
 
-/// Puts a path into the list's arrays; nothing, and nothing recorded, for one that isn't drawable.
-std::optional<PaintPath> RecordPath(Graphics& graphics, const GraphicsPath& path);
+/// A further primitive, to be filled in where it stands: to put it together elsewhere and copy it costs as
+/// much as all the rest.
+template <class P>
+P& AddPrimitive(DrawList& list) {
+    return std::get<P>(list.primitives.emplace_back(std::in_place_type<P>));
+}
+
+/// Puts a path into the list's arrays and tells where; false, and nothing recorded, for one that isn't
+/// drawable.
+bool RecordPath(Graphics& graphics, const GraphicsPath& path, PaintPath& recorded);
+/// The same with a primitive for the path; null when nothing is recorded, or there is no list.
+template <class P>
+P* AddPathPrimitive(Graphics& graphics, const GraphicsPath& path) {
+    if (graphics.list == nullptr) return nullptr;
+    P& primitive = AddPrimitive<P>(*graphics.list);
+    if (RecordPath(graphics, path, primitive.path)) return &primitive;
+    graphics.list->primitives.pop_back();
+    return nullptr;
+}
 
 /// Fills a path with one colour; nothing with one that can't be seen, or when the path isn't drawable.
 void RecordFill(Graphics& graphics, const GraphicsPath& path, Argb colour);

@@ -18,8 +18,9 @@ Growth GrowthOfPen(const Matrix& m) {
 }
 
 void StrokeOnce(Graphics& graphics, const Pen& pen, const GraphicsPath& path, double width) {
-    const auto recorded = RecordPath(graphics, path);
-    if (!recorded) return;
+    StrokePath* const added = AddPathPrimitive<StrokePath>(graphics, path);
+    if (added == nullptr) return;
+    StrokePath& stroke = *added;
     DrawList& list = *graphics.list;
     const Growth growth = GrowthOfPen(graphics.world);
     constexpr float kThinnest = 1;  // below it a pen is a line of one pixel, and its dashes count in these
@@ -27,10 +28,10 @@ void StrokeOnce(Graphics& graphics, const Pen& pen, const GraphicsPath& path, do
     const std::size_t dashes = list.dashes.size();
     const float dash_unit = std::max(pen.width * scale, kThinnest);
     for (const float dash : pen.dashes.All()) list.dashes.push_back(dash * dash_unit);
-    StrokePath stroke{*recorded, pen.colour, static_cast<float>(width) * scale};
+    stroke.colour = pen.colour;
+    stroke.width = static_cast<float>(width) * scale;
     stroke.dashes = RangeOf(dashes, list.dashes.size());
     if (stroke.width * std::max(growth.axes.stretch, 1.0f) > kThinnest) stroke.axes = growth.axes;
-    list.primitives.emplace_back(stroke);
 }
 
 // The arrow at the end of a path's last line; the line is cut back to the arrow's base, so that its tip is
