@@ -32,6 +32,9 @@ int main(int argc, char** argv) {
         ->excludes(headless);
     fly->add_option("--record", fly_options.record,
                     "write what pilots and host do to this new file, a scenario for tz900 run");
+    CLI::Option* play = fly->add_option(
+        "--play", fly_options.play,
+        "show a recording on the flight deck; the flight is yours where it ends, or when you touch anything");
     fly->add_option("--plot", fly_options.plot,
                     "draw the route, the path on the navigation display and the track into this SVG file")
         ->needs(headless);
@@ -55,6 +58,10 @@ int main(int argc, char** argv) {
     fly->add_option("--navdata", fly_options.navdata, "the navigation data folder")
         ->check(CLI::ExistingDirectory);
     fly->add_option("--aircraft", fly_options.aircraft, "the title of an aircraft under the root");
+
+    for (const char* of_a_flight : {"--headless", "--cold", "--no-pilot", "--record", "--route", "--wind",
+                                    "--root", "--navdata", "--aircraft"})
+        play->excludes(fly->get_option(of_a_flight));
 
     CLI11_PARSE(app, argc, argv);
     if (*fly) return host::Fly(fly_options);

@@ -26,10 +26,11 @@ std::string ShortNumber(double value) {
 }
 
 std::optional<std::string> HostValue(std::string_view name) {
-    if (name == "rate") return ShortNumber(world.sim_rate);
+    const bool plays = world.played_rate >= 0;
+    if (name == "rate") return ShortNumber(plays ? world.played_rate : world.sim_rate);
     if (name == "pilot") return world.pilot_does;
     if (name == "user_has") return TellWhatUserHas();
-    if (name == "paused") return world.paused ? "1" : "0";
+    if (name == "paused") return (plays ? world.played_rate == 0 : world.paused) ? "1" : "0";
     if (name == "clock") {
         char text[16];
         std::snprintf(text, sizeof text, "%02.0f:%02.0f:%02.0f", TokenOf(6), TokenOf(7), TokenOf(5));

@@ -76,8 +76,8 @@ bool ApplyDuePresses(Session& session, PressQueue& presses) {
     return !due.empty();
 }
 
-void TakeCommands(Session& session, FlightDeck& deck, PressQueue& presses) {
-    for (const DeckCommand& command : deck.TakeCommands()) {
+void ApplyCommands(Session& session, const std::vector<DeckCommand>& commands, PressQueue& presses) {
+    for (const DeckCommand& command : commands) {
         if (command.kind == DeckCommand::kPress)
             QueuePress(presses, command.name, command.value);
         else
@@ -93,25 +93,49 @@ void MakeCall(Session& session, bool paused_frame) {
 
 }  // namespace
 
-bool RunFlightDeck(Session& session, const FlyOptions& options, const std::function<void()>& opened,
-                   const std::function<void()>& each_second, std::string& error) {
+struct DeckLoop {
+    Session& session;
+    std::atomic<bool> in_2d;
+    FlightDeck deck;
+    int period = 0;
+    Clock::time_point next = Clock::now();
+
+    DeckLoop(Session& of, const DeckSettings& settings)
+        : session(of),
+          in_2d(IsMainPanelShown()),
+          deck(settings, PicturesOf(*of.linkage->inspection, in_2d)) {}
+};
+
+std::shared_ptr<DeckLoop> OpenFlightDeck(Session& session, const FlyOptions& options, std::string& error) {
     const DeckSettings settings = SettingsOf(session, options);
-    std::atomic<bool> in_2d = IsMainPanelShown();
-    FlightDeck deck(settings, PicturesOf(*session.linkage->inspection, in_2d));
-    deck.SetGreeting(DeckGreeting(session));
-    if (!deck.Start(error)) return false;
+    auto loop = std::make_shared<DeckLoop>(session, settings);
+    loop->deck.SetGreeting(DeckGreeting(session));
+    if (!loop->deck.Start(error)) return {};
     const bool is_v6 = options.address.find(':') != std::string::npos;
     std::printf("The flight deck is at http://%s%s%s:%d/%s%s (Ctrl-C ends)\n", is_v6 ? "[" : "",
-                options.address.c_str(), is_v6 ? "]" : "", deck.port(),
+                options.address.c_str(), is_v6 ? "]" : "", loop->deck.port(),
                 settings.token.empty() ? "" : "?token=", settings.token.c_str());
-    opened();
     std::fflush(stdout);
+    return loop;
+}
 
+std::vector<DeckCommand> PassPeriod(DeckLoop& loop) {
+    loop.in_2d = IsMainPanelShown();
+    if (loop.period++ % kPublishEvery == 0)
+        loop.deck.PublishValues(ReadValues(loop.session, loop.deck.WatchedNames()));
+    loop.next += kPeriod;
+    if (Clock::now() > loop.next + kLate) loop.next = Clock::now();
+    std::this_thread::sleep_until(loop.next);
+    return loop.deck.TakeCommands();
+}
+
+void RunFlightDeck(DeckLoop& loop, const std::function<void()>& each_second) {
+    Session& session = loop.session;
     PressQueue presses;
     double ticks_due = 0;
-    auto next = Clock::now();
-    for (int period = 0; EndSignal() == 0; ++period) {
-        TakeCommands(session, deck, presses);
+    std::vector<DeckCommand> commands;
+    while (EndSignal() == 0) {
+        ApplyCommands(session, commands, presses);
         if (world.paused) MakeCall(session, true);
         for (ticks_due += world.paused ? 0 : world.sim_rate; ticks_due >= 1 && !world.paused; --ticks_due) {
             MakeCall(session, false);
@@ -120,15 +144,9 @@ bool RunFlightDeck(Session& session, const FlyOptions& options, const std::funct
         // Of keys typed at once each takes a call, but not a tick.
         for (int frame = 0; frame < kFramesForKeys && ApplyDuePresses(session, presses); ++frame)
             MakeCall(session, true);
-        in_2d = IsMainPanelShown();
         if (!world.paints_in_line) RequestPictures(session);
-        if (period % kPublishEvery == 0) deck.PublishValues(ReadValues(session, deck.WatchedNames()));
-        next += kPeriod;
-        if (Clock::now() > next + kLate) next = Clock::now();
-        std::this_thread::sleep_until(next);
+        commands = PassPeriod(loop);
     }
-    deck.Stop();
-    return true;
 }
 
 }  // namespace host

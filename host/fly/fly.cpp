@@ -12,6 +12,7 @@
 #include "host/fly/flight_log.h"
 #include "host/fly/path_plot.h"
 #include "host/fly/pilot.h"
+#include "host/fly/playback.h"
 #include "host/fly/profile_check.h"
 #include "host/fly/start.h"
 #include "host/process.h"
@@ -179,6 +180,7 @@ int Fly(const FlyOptions& given) {
     HoldEndSignals();
     world = World{};
     flight = Flight{};
+    if (!options.play.empty()) return PlayRecording(options);
     Session session;
     Recorder recorder;
     std::string error;
@@ -202,15 +204,15 @@ int Fly(const FlyOptions& given) {
         if (options.watch) options.watch(session);
     };
     const auto began = std::chrono::steady_clock::now();
-    const auto begin = [&] {
-        if (!options.cold) PrintFlightHeading(session, options.route);
-    };
-    if (options.headless) {
-        begin();
+    std::shared_ptr<DeckLoop> deck;
+    if (!options.headless && !(deck = OpenFlightDeck(session, options, error))) return Refuse(session, error);
+    if (!options.cold) PrintFlightHeading(session, options.route);
+    std::fflush(stdout);
+    if (deck)
+        RunFlightDeck(*deck, each_second);
+    else
         FlyHeadless(session, route, each_second);
-    } else if (!RunFlightDeck(session, options, begin, each_second, error)) {
-        return Refuse(session, error);
-    }
+    deck.reset();
     const double wall = std::chrono::duration<double>(std::chrono::steady_clock::now() - began).count();
     if (!options.cold) PrintEnd(route, wall);
     if (!options.plot.empty() && !FinishPlot(plot, options.plot)) error = options.plot + " can't be written";

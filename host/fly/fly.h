@@ -21,6 +21,7 @@ struct FlyOptions {
     bool no_pilot = false;     // with a route, but nobody at the controls
     std::vector<double> wind;  // direction it blows from (degrees true) and knots; empty = calm
     std::string record;        // file of the recording; empty = none
+    std::string play;          // file of a recording to be shown; empty = none
     std::string plot;          // SVG file of the paths drawn and flown, when headless; empty = none
     std::function<void(const Session&)> watch;  // called once a second of flight; empty = nobody looks on
     // the flight deck

@@ -52,6 +52,7 @@ void PrintPicture(Scenario& scenario, const std::vector<Word>& words) {
 }
 
 void Shot(Scenario& scenario, const std::vector<Word>& words) {
+    if (!scenario.may_write_files) throw CommandError{"a recording writes no files"};
     PrintedPicture(scenario, kText, words[1].text);  // tells a wrong screen
     const double scale = words.size() > 3 ? NumberWord(words[3], "a scale") : 1;
     if (!(scale > 0 && scale <= 16))

@@ -53,6 +53,15 @@ std::string Form(const Command& command) {
     return std::string(command.name) + (command.usage.empty() ? "" : " ") + std::string(command.usage);
 }
 
+// A file may hold anything, and a terminal obeys some of it.
+std::string Printable(const std::string& text) {
+    constexpr std::size_t kLongest = 1000;
+    std::string printable = text.substr(0, kLongest);
+    for (char& c : printable)
+        if ((static_cast<unsigned char>(c) < ' ' && c != '\n') || c == '\x7f') c = '?';
+    return printable;
+}
+
 void RunLine(Scenario& scenario, const std::string& line) {
     const std::optional<std::vector<Word>> words = SplitWords(line);
     if (!words) throw CommandError{"a quote is left open; a text ends with \""};
@@ -137,7 +146,7 @@ int RunScenario(Scenario& scenario, std::istream& in, const std::string& file_na
             RunLine(scenario, line);
         } catch (const CommandError& error) {
             scenario.out.flush();
-            errors << file_name << ':' << scenario.line << ": " << error.text << '\n';
+            errors << file_name << ':' << scenario.line << ": " << Printable(error.text) << '\n';
             return 2;
         } catch (const Interruption&) {
             break;

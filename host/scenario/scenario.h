@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <istream>
 #include <ostream>
 #include <string>
@@ -24,6 +25,8 @@ struct Scenario {
     std::vector<std::string> message_texts = {};
     int paint_every = 1;  // calls from picture to picture, 0 = never
     int calls_since_paint = 0;
+    std::function<void(bool paused_frame)> after_call = {};  // may throw Interruption; empty = nobody looks
+    bool may_write_files = true;
 };
 
 /// A command that is wrong: what is wrong, what would be right.
@@ -31,7 +34,7 @@ struct CommandError {
     std::string text;
 };
 
-/// Thrown between two calls of the module when a signal asks the process to end.
+/// Thrown between two calls of the module to end the run, as when a signal asks the process to end.
 struct Interruption {};
 
 struct Command {

@@ -69,6 +69,7 @@ void TickScenario(Scenario& scenario, bool paused_frame) {
         scenario.calls_since_paint = 0;
         PaintGauges(scenario.session);
     }
+    if (scenario.after_call) scenario.after_call(paused_frame);
 }
 
 std::vector<Command> TimeCommands() {

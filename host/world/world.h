@@ -115,8 +115,10 @@ struct World {
     int clock_offset_hours = 0;  // the clock set by hand against its start
     double sim_rate = 1;
     bool paused = false;
-    std::string pilot_does;   // what the demonstration's pilot is about, for the page; empty = there is none
-    unsigned user_has = 0;    // bits of flightdeck/control_sharing.h: what that pilot has let go
+    double played_rate =
+        -1;                  // times real time, at which a recording is shown, 0 = stopped; below 0 = none is
+    std::string pilot_does;  // what the demonstration's pilot is about, for the page; empty = there is none
+    unsigned user_has = 0;   // bits of flightdeck/control_sharing.h: what that pilot has let go
     unsigned given_back = 0;  // of these, what he hasn't taken up again yet
 
     // other aircraft, as a traffic module would publish them

@@ -1,6 +1,9 @@
 // I have control: the pilot lets go of what a user touches; stick, keys and gamepad fly.
 
 import assert from 'node:assert/strict';
+import {mkdtempSync, rmSync, writeFileSync} from 'node:fs';
+import {tmpdir} from 'node:os';
+import {join} from 'node:path';
 import {test} from 'node:test';
 import {openDeck, passStart, setRate, startHost, until, untilValue, valueOf} from './support.mjs';
 
@@ -74,4 +77,25 @@ test('without a pilot nobody acts, and a gamepad that vanishes lets go', async (
       window.deck.link.send({type: 'lever', name, value});
   });
   await reaches(page, 'token:128', (raw) => raw === -4096);
+});
+
+test('a recording is shown, and a key takes over', async (t) => {
+  const folder = mkdtempSync(join(tmpdir(), 'tz900-played-'));
+  t.after(() => rmSync(folder, {recursive: true}));
+  const recording = join(folder, 'seen.scn');
+  writeFileSync(recording, 'at 47.45 -122.31 12000 180 280\nfdm on\nstart\ntick 180\nset capt.ScratchPad SHOWN\ntick 9000\n');
+  const host = await startHost(t, '--play', recording, '--rate', '16');
+  const page = await openDeck(t, host.address);
+  await until('what is shown', async () => (await page.textContent('.doing')).includes('shows seen.scn'));
+  await untilValue(page, 'capt.ScratchPad', 'SHOWN');
+  assert.equal(await valueOf(page, 'host:rate'), '16');
+  await page.click('.pause');
+  await untilValue(page, 'host:paused', 1);
+  await setRate(page, 2);
+  await page.click('.pause');
+  await page.locator('canvas[data-screen="lower"]').focus();
+  await page.keyboard.press('A');
+  await untilValue(page, 'host:pilot', '');
+  await untilValue(page, 'capt.ScratchPad', 'SHOWNA');
+  assert.match(host.told(), /Taken over, after 0:0\d:\d\d; the flight is yours/);
 });

@@ -170,6 +170,25 @@ TEST(Program, AFlightThatCannotStartTellsWhyAndLeavesNothing) {
     EXPECT_EQ(FileText(taken), "mine");
 }
 
+TEST(Program, RefusesWhatIsNoRecording) {
+    const Workplace place;
+    const struct {
+        std::string lines, told;
+    } kCases[] = {
+        {"", "nothing flies in it"},
+        {"log here\nstart\n", "nothing flies in it"},
+        {"start\nlvar", "bad.scn:2: `lvar` can't take 0 words"},
+        {"\x1b[2J\x7f", "bad.scn:1: \"?[2J?\" is no command"},
+        {"start\nshot lower " + (place.folder / "x.png").string() + "\n", "bad.scn:2: a recording writes no"},
+    };
+    for (const auto& row : kCases) {
+        EXPECT_EQ(place.Run({"fly", "--port", "0", "--play", place.Put("bad.scn", row.lines)}), 2);
+        EXPECT_NE(place.Printed().find(row.told), std::string::npos) << place.Printed();
+        EXPECT_TRUE(place.TemporaryIsEmpty());
+    }
+    EXPECT_EQ(place.Run({"fly", "--play", place.folder}), 2);
+}
+
 // Whole flights hands off, each to a stop on the runway; one without an approach in its route, which the
 // pilot leads to the final by headings.
 TEST(Program, FliesFromRunwayToRunway) {
