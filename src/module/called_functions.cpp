@@ -23,6 +23,9 @@
 #include "navdata/airways.h"
 #include "navdata/geodesy.h"
 #include "navdata/magnetic_model.h"
+#include "panels/load_panel.h"
+#include "panels/panel_folder.h"
+#include "panels/save_panel.h"
 #include "systems/alerting/alerts_update.h"
 #include "systems/alerting/master_caution.h"
 #include "systems/alerting/message_lists.h"
@@ -164,6 +167,9 @@ constexpr BoundFunction kOperations[] = {
     Bind<ApplyRouteWinds>("ApplyRouteWinds", "SIDE"),
     Bind<RequestDescentWinds>("RequestDescentWinds", ""),
     Bind<OnChecklistClick>("OnChecklistClick", "X Y DU"),
+    Bind<SavePanelState>("SavePanelState", "NAME SIDE MODE"),
+    Bind<LoadPanelState>("LoadPanelState", "NAME MODE"),
+    Bind<ListPanels>("ListPanels", ""),
     Bind<SelectNormalList>("SelectNormalList", ""),
     Bind<AlertsUpdate>("AlertsUpdate", ""),
     Bind<CancelRecall>("CancelRecall", ""),

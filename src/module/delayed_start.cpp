@@ -10,6 +10,7 @@
 #include "navdata/airport_file.h"
 #include "navdata/nav_tables.h"
 #include "navdata/nearest.h"
+#include "panels/load_panel.h"
 #include "state/module_life.h"
 #include "systems/start_up.h"
 
@@ -22,6 +23,7 @@ void DelayedStart() {
     StartIrsOfKnobs();
     PublishModelSettings();
     ReadNavFrequencies();
+    LoadPanelAtStart();
     TellNavdataOutOfDate();
     StartSystemsRunning();
     ReadModelPositions();

@@ -14,6 +14,7 @@
 #include "module/service_cycle.h"
 #include "navdata/nav_tables.h"
 #include "paint/image_store.h"
+#include "panels/panel_folder.h"
 #include "platform/host.h"
 #include "platform/resident_libraries.h"
 #include "platform/state_lock.h"
@@ -72,6 +73,7 @@ void PreInitialize() {
         module_life.navdata_read = 1;
     }
     if (route_files.route_files_listed == 0) ListRouteFiles();
+    ListPanels();
 }
 
 void ConnectToWindow() {

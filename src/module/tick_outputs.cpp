@@ -18,6 +18,7 @@
 #include "guidance/step_climb.h"
 #include "module/remote_input.h"
 #include "navdata/runways_in_use.h"
+#include "panels/save_panel.h"
 #include "sound/environment.h"
 #include "sound/warnings.h"
 #include "state/time_base.h"
@@ -96,6 +97,7 @@ void ThirdGroup() {
     UpdateFlapSpeedRow();
     FollowHostFuel();
     ExchangeThrustValues();
+    StepPanelAutosave();
 }
 
 void HalfSecond() {
@@ -140,6 +142,7 @@ void TickOutputs(bool ticked) {
     if (ticked) StepPhases(time_base.tick_phase);
     TakeDisplaySelector();
     StepChecklist();
+    FollowFlightSaves();
     ShowRequestedChecklist();
     if (time_base.frame_phase % 2 == 0) ReadModelValues();
     TakeAlertAural();

@@ -3,6 +3,7 @@
 #include "state/air.h"
 #include "state/airports.h"
 #include "state/alerts.h"
+#include "state/announcements.h"
 #include "state/autoflight.h"
 #include "state/cdu.h"
 #include "state/cfg.h"
@@ -28,6 +29,7 @@
 #include "state/nav_tables.h"
 #include "state/nd.h"
 #include "state/nearest.h"
+#include "state/panel_files.h"
 #include "state/pause_points.h"
 #include "state/perf.h"
 #include "state/placement.h"
@@ -57,13 +59,14 @@ void Reset() {
 }
 
 constexpr StateGroup kGroups[] = {
-    {"host_link", Reset<&host_link>, &kHostLinkVariables, "frame/"},
+    {"host_link", Reset<&host_link>, &kHostLinkVariables, "frame/ panels/save_panel"},
     {"cfg", Reset<&cfg>, &kCfgVariables, "frame/ guidance/ systems/"},
     {"identity", Reset<&identity>, &kIdentityVariables, "frame/aircraft navdata/airport_file"},
     {"weights", Reset<&weights>, &kWeightVariables, "frame/"},
     {"irs", Reset<&irs>, &kIrsVariables, "systems/"},
     {"module_life", Reset<&module_life>, &kModuleLifeVariables, "module/"},
-    {"cockpit", Reset<&cockpit>, &kCockpitVariables, "frame/ guidance/ systems/ display/routing/routing"},
+    {"cockpit", Reset<&cockpit>, &kCockpitVariables,
+     "frame/ guidance/ systems/ display/routing/routing panels/panel_keys"},
     {"keyboard", Reset<&keyboard>, &kKeyboardVariables, "frame/keyboard_capture cdu/unit/"},
     {"placement", Reset<&placement>, &kPlacementVariables, ""},
     {"pos_init", Reset<&pos_init>, &kPosInitVariables, ""},
@@ -79,7 +82,7 @@ constexpr StateGroup kGroups[] = {
      "navdata/ fmc/procedures/select_procedures fmc/route/ fmc/files/loaded_route"},
     {"plan", Reset<&plan>, &kPlanVariables,
      "frame/configuration fmc/legs/ fmc/performance/ fmc/procedures/ fmc/route/ fmc/files/ guidance/ "
-     "cdu/words/constraint_entry cdu/pages/ module/lifecycle"},
+     "cdu/words/constraint_entry cdu/pages/ module/lifecycle panels/load_panel"},
     {"procedure_lists", Reset<&procedure_lists>, &kProcedureListVariables,
      "fmc/procedures/ fmc/route/ fmc/files/loaded_route"},
     {"winds", Reset<&winds>, &kWindsVariables, "fmc/performance/winds cdu/pages/"},
@@ -91,11 +94,11 @@ constexpr StateGroup kGroups[] = {
     {"takeoff_approach", Reset<&takeoff_approach>, &kTakeoffApproachVariables,
      "frame/aircraft fmc/performance/approach_speeds cdu/unit/keypad display/pfd/pfd_memory"},
     {"flight_log", Reset<&flight_log>, &kFlightLogVariables,
-     "fmc/performance/flight_log fmc/route/execute_route fmc/files/loaded_route"},
+     "fmc/performance/flight_log fmc/route/execute_route fmc/files/loaded_route panels/load_panel"},
     {"vnav", Reset<&vnav>, &kVnavVariables, "frame/crew_messages fmc/performance/ fmc/route/ guidance/"},
     {"lnav", Reset<&lnav>, &kLnavVariables, "fmc/legs/holds fmc/route/ guidance/ cdu/unit/cdu_service"},
     {"pause_points", Reset<&pause_points>, &kPausePointVariables, "guidance/pause_points"},
-    {"autoflight", Reset<&autoflight>, &kAutoflightVariables, "guidance/"},
+    {"autoflight", Reset<&autoflight>, &kAutoflightVariables, "guidance/ panels/panel_keys"},
     {"sound", Reset<&sound>, &kSoundVariables, "frame/ systems/ sound/ module/"},
     {"cdu", Reset<&cdu>, &kCduVariables, "frame/ cdu/words/ cdu/unit/"},
     {"route_pages", Reset<&route_pages>, &kRoutePageVariables, "cdu/words/views cdu/pages/ cdu/unit/items"},
@@ -122,6 +125,8 @@ constexpr StateGroup kGroups[] = {
     {"air", Reset<&air>, &kAirVariables, "systems/air_temperatures"},
     {"alerts", Reset<&alerts>, &kAlertVariables, "systems/alerting/"},
     {"eicas", Reset<&eicas>, &kEicasVariables, "display/eicas/engine_readings"},
+    {"panel_files", Reset<&panel_files>, &kPanelFileVariables, "panels/"},
+    {"announcements", Reset<&announcements>, &kAnnouncementVariables, ""},
     {"checklist", Reset<&checklist>, &kChecklistVariables, "checklist/"},
     {"synoptics", Reset<&synoptics>, &kSynopticVariables, "systems/status_dots"},
 };

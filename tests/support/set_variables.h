@@ -18,3 +18,9 @@ inline void SetVariables(const std::string& text) {
         ASSERT_TRUE(variable && StoreValue(*variable, value)) << name << ' ' << value;
     }
 }
+
+/// A state variable as text, by its name; empty for one that isn't there.
+inline std::string StoredText(const std::string& name) {
+    const auto variable = FindVariable(name);
+    return variable ? FormatValue(*variable) : std::string();
+}

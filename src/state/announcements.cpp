@@ -1,0 +1,14 @@
+#include "state/announcements.h"
+
+AnnouncementState announcements;
+
+namespace {
+constexpr Variable kAnnouncementRows[] = {
+    {"cockpit_callout_mode", &announcements.cockpit_callout_mode},
+    {"annuncement_mode", &announcements.annuncement_mode},
+    {"get_pax_flag", &announcements.get_pax_flag},
+    {"cargo_doors_anun", &announcements.cargo_doors_anun},
+};
+}  // namespace
+
+const std::span<const Variable> kAnnouncementVariables = kAnnouncementRows;
