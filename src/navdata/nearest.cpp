@@ -17,6 +17,7 @@
 #include "state/nav.h"
 #include "state/nav_tables.h"
 #include "state/nd.h"
+#include "state/side.h"
 #include "state/sim.h"
 
 namespace {
@@ -99,6 +100,11 @@ void BringVors() {
             [](const NavaidRow& row) { return row.type == "V"; });
 }
 
+bool IsDrawnFarAway(const NdSide& map) {
+    return map.nd_mode == kNdPlan &&
+           HasMoved(nearest.around.airports.near, map.map_lat, map.map_lon, kNearRebuildNm);
+}
+
 void Forget(NearPlaces& places) {
     const auto forget = [](auto& pair) { pair.far.built = pair.near.built = 0; };
     forget(places.airports);
@@ -140,6 +146,11 @@ void OfferAlternate(Alternates& rows, const AirportRow& airport) {
 
 }  // namespace
 
+const NearPlaces& PlacesOfMap(int side) {
+    if (!IsDrawnFarAway(NdOf(side))) return nearest.around;
+    return nearest.around_plan[side == kFirstOfficer ? 1 : 0];
+}
+
 bool NearAirports(NearPlaces& places, double lat, double lon) {
     constexpr double kCloseNm = 200;
     const auto& near = places.airports.near;
@@ -177,7 +188,7 @@ void RefreshNearest() {
     }
     if (BringPlaces(nearest.around, sim.plane_lat, sim.plane_lon)) BuildAltnList();
     for (std::size_t side = 0; side < nd.size(); ++side)
-        if (nd[side].nd_mode == kNdPlan)
+        if (IsDrawnFarAway(nd[side]))
             BringPlaces(nearest.around_plan[side], nd[side].map_lat, nd[side].map_lon);
     BringVors();
     AutoTuneRadios();

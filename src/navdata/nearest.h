@@ -4,9 +4,12 @@
 
 /// Brings the proximity lists, the alternates and the automatic tuning of the VOR radios up to date; called
 /// about once a second. There is a set of lists around the aircraft, and one for each side whose map is drawn
-/// around another place, in PLAN. A list is rebuilt only when its reference point has moved (200 nm for the
-/// far lists, 50 nm for the near ones), or at once when `nav.nearest_refresh_due` is set.
+/// around a place far from it, in PLAN. A list is rebuilt only when its reference point has moved (200 nm for
+/// the far lists, 50 nm for the near ones), or at once when `nav.nearest_refresh_due` is set.
 void RefreshNearest();
+
+/// What a side's map can show: the set around the aircraft, or its own.
+const NearPlaces& PlacesOfMap(int side);
 
 /// Bring one pair of lists to a reference point (degrees); true when one of the two was rebuilt.
 bool NearAirports(NearPlaces& places, double lat, double lon);

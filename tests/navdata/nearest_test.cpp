@@ -61,9 +61,11 @@ TEST_F(NearestTest, TwoStagesFollowTheReference) {
     NdOf(kFirstOfficer).nd_mode = kNdPlan;
     NdOf(kFirstOfficer).map_lat = 5;
     At(24.6, 0);
-    EXPECT_EQ(nearest.around_plan[1].fixes.near.rows[1].lat, 2);
-    EXPECT_EQ(nearest.around_plan[0].fixes.near.cnt, 0);
+    EXPECT_EQ(PlacesOfMap(kFirstOfficer).fixes.near.rows[1].lat, 2);
+    EXPECT_EQ(&PlacesOfMap(kCaptain), &nearest.around);
     EXPECT_EQ(nearest.around.fixes.near.lat, 24.6);
+    NdOf(kFirstOfficer).map_lat = 24;
+    EXPECT_EQ(&PlacesOfMap(kFirstOfficer), &nearest.around) << "close by";
 }
 
 TEST_F(NearestTest, AlternatesByDistanceAroundFixedRows) {

@@ -8,22 +8,17 @@
 
 #include "base/angles.h"
 #include "display/nd/map_symbols.h"
+#include "navdata/nearest.h"
 #include "paint/painter.h"
 #include "state/airports.h"
 #include "state/nearest.h"
 #include "state/plan.h"
-#include "state/side.h"
 #include "state/sim.h"
 
 namespace {
 
 constexpr double kSymbolRoom = 8, kLabelRoom = 60;
 constexpr std::size_t kLabelLength = 5;
-
-const NearPlaces& PlacesOf(int side) {
-    const bool in_plan = NdOf(side).nd_mode == kNdPlan;
-    return in_plan ? nearest.around_plan[side == kFirstOfficer ? 1 : 0] : nearest.around;
-}
 
 // Whether a symbol, or the label to the right of it, can be seen.
 bool IsLabelledPointSeen(const MapView& view, MapPoint p) {
@@ -149,7 +144,7 @@ void DrawRouteAirport(Graphics& graphics, const MapView& view, const AirportData
 void DrawStations(Graphics& graphics, const NdFrame& frame) {
     const NdSide& settings = NdOf(frame.side);
     if (settings.nd_sta == 1)
-        ForEachSeen(PlacesOf(frame.side).navaids.near, frame.view, [&](const NavaidRow& row, MapPoint at) {
+        ForEachSeen(PlacesOfMap(frame.side).navaids.near, frame.view, [&](const NavaidRow& row, MapPoint at) {
             DrawStation(graphics, at, row.type == "V", row.ident);
             return true;
         });
@@ -163,7 +158,7 @@ void DrawStations(Graphics& graphics, const NdFrame& frame) {
 void DrawAirports(Graphics& graphics, const NdFrame& frame) {
     constexpr int kMostAirports = 80;
     constexpr double kSmallRange = 80;
-    const NearPlaces& places = PlacesOf(frame.side);
+    const NearPlaces& places = PlacesOfMap(frame.side);
     int drawn = 0;
     ForEachSeen(frame.view.range <= kSmallRange ? places.close_airports : places.airports.near, frame.view,
                 [&](const AirportRow& row, MapPoint at) {
@@ -180,7 +175,7 @@ void DrawRouteAirports(Graphics& graphics, const MapView& view) {
 }
 
 void DrawFixes(Graphics& graphics, const NdFrame& frame) {
-    ForEachSeen(PlacesOf(frame.side).fixes.near, frame.view, [&](const AirwayFixRow& row, MapPoint at) {
+    ForEachSeen(PlacesOfMap(frame.side).fixes.near, frame.view, [&](const AirwayFixRow& row, MapPoint at) {
         DrawMapSymbol(graphics, at, MapSymbol::kTriangle, kMapGreen);
         LabelBeside(graphics, at, kMapGreen, row.ident);
         return true;
@@ -190,8 +185,9 @@ void DrawFixes(Graphics& graphics, const NdFrame& frame) {
 NearItem ItemNear(int side, double lat, double lon) {
     const NdSide& settings = NdOf(side);
     NearItem item;
-    if (settings.nd_apt == 1) item = NearestOf(PlacesOf(side).airports.near, lat, lon);
-    if (item.ident.empty() && settings.nd_sta == 1) item = NearestOf(PlacesOf(side).navaids.near, lat, lon);
-    if (item.ident.empty() && settings.nd_wpt == 1) item = NearestOf(PlacesOf(side).fixes.near, lat, lon);
+    if (settings.nd_apt == 1) item = NearestOf(PlacesOfMap(side).airports.near, lat, lon);
+    if (item.ident.empty() && settings.nd_sta == 1)
+        item = NearestOf(PlacesOfMap(side).navaids.near, lat, lon);
+    if (item.ident.empty() && settings.nd_wpt == 1) item = NearestOf(PlacesOfMap(side).fixes.near, lat, lon);
     return item;
 }
