@@ -49,6 +49,12 @@ bool IsNumber(std::string_view text) {
     return !text.empty() && text.find_first_not_of("0123456789.") == std::string_view::npos;
 }
 
+std::string_view WithoutByteOrderMark(std::string_view text) {
+    constexpr std::string_view kMark = "\xef\xbb\xbf";
+    if (text.starts_with(kMark)) text.remove_prefix(kMark.size());
+    return text;
+}
+
 std::string UpperCase(std::string_view text) {
     std::string upper(text);
     std::ranges::transform(upper, upper.begin(), Upper);

@@ -22,6 +22,9 @@ inline bool IsDigit(char c) {
 /// Whether a text is nothing but digits and points, with a sign before them at the most.
 bool IsNumber(std::string_view text);
 
+/// Without the mark by which some editors begin a file of UTF-8.
+std::string_view WithoutByteOrderMark(std::string_view text);
+
 std::string UpperCase(std::string_view text);
 std::string LowerCase(std::string_view text);
 bool EqualIgnoringCase(std::string_view a, std::string_view b);

@@ -134,7 +134,7 @@ void TakeRunways(const Panel& panel) {
         const std::string& runway = std::as_const(airports.dest_airport.runways)[arrival].ident;
         plan.mod.procedures.arr_appr_rwy = runway;
         const std::string approach = plan.mod.procedures.appr_type + runway;
-        if (HasApproach(approach)) plan.mod.procedures.arr_appr = approach;
+        if (HasApproach(approach)) plan.mod.procedures.arr_appr = plan.mod.procedures.appr_type;
         plan.active.procedures = plan.mod.procedures;
     }
 }

@@ -63,8 +63,10 @@ TEST_F(PlanFiles, KeysAndValues) {
 // 26' 59.40" = 0.449833, 18' 42.6" = 0.311833.
 TEST_F(PlanFiles, Xml) {
     const auto waypoint = [](const std::string& id, const std::string& type, const std::string& position) {
-        return "<ATCWaypoint id=\"" + id + "\">\r\n<ATCWaypointType>" + type +
-               "</ATCWaypointType>\r\n<WorldPosition>" + position + "</WorldPosition></ATCWaypoint>\n";
+        const std::string tag = type == "VOR" ? "<ATCWaypoint uid=\"X\" id='" + id + "' r=\"1\">"
+                                              : "<ATCWaypoint id=\"" + id + "\">";
+        return tag + "\r\n<ATCWaypointType>" + type + "</ATCWaypointType>\r\n<WorldPosition>" + position +
+               "</WorldPosition></ATCWaypoint>\n";
     };
     const std::string head =
         "\xef\xbb\xbf<?xml "

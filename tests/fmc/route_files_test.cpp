@@ -117,6 +117,14 @@ TEST_F(RouteFiles, AShortRowGivesTheFieldsThatItHas) {
     ExpectInvariants("EXEC");
 }
 
+TEST_F(RouteFiles, ARouteThatWaitsForActivateGoesOnWaiting) {
+    ASSERT_EQ(Load(kSimple), 1);
+    ASSERT_EQ(Load("\xef\xbb\xbf" + std::string(kSimple)), 1);  // as some editors store it
+    EXPECT_EQ(plan.fms_fpln_active, kRouteEntered);
+    EXPECT_EQ(Load("[FlightPlan]\n"), 0);
+    EXPECT_EQ(plan.fms_fpln_active, kRouteNone);  // there is nothing to activate
+}
+
 std::string FullRow(const std::string& ident, const std::string& via = "DIRECT --- ",
                     const std::string& restrictions = "--- --- --- 0 0") {
     return ident + " 41.5 10 INT --- " + via + " 5000 " + restrictions +
@@ -270,7 +278,7 @@ TEST_F(RouteFiles, HostileFiles) {
              "RT 1e99 999 91 181 nan inf 1e5 1e5\n" +
              end,
          "ORIG NUMS DEST"},
-        {std::string("\xef\xbb\xbf[FlightPlan]\n") + end, ""},
+        {std::string("\xef\xbb\xbf[FlightPlan]\n") + end, "DEST"},
     };
     for (const Row& row : rows) {
         Load(row.text);

@@ -119,8 +119,12 @@ void AddLoadedLeg(FlightPlanLeg leg) {
 }
 
 void FinishLoadedRoute(std::string_view company_route) {
-    if (!AwaitsExec()) AdvanceRouteState();
-    if (plan.mod.leg_cnt < 0) return;
+    const bool empty = plan.mod.leg_cnt < 0;
+    if (IsRouteSettled() || (plan.fms_fpln_active == kRouteNone && !empty)) AdvanceRouteState();
+    if (empty) {
+        if (!IsRouteActive()) plan.fms_fpln_active = kRouteNone;  // there is nothing to activate
+        return;
+    }
     MakeStoredHolds();
     RebuildRouteRows();
     FlightLogStep(false);

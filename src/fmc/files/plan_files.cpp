@@ -145,12 +145,39 @@ std::string_view TypeOfWord(std::string_view word) {
     return word == "Intersection" ? "INT" : "WPT";
 }
 
+constexpr std::string_view kWaypointTag = "<ATCWaypoint";
+
+// Behind the name of an element stands a blank; "<ATCWaypointType>" is another one.
+std::size_t FindWaypoint(std::string_view text) {
+    std::size_t at = text.find(kWaypointTag);
+    while (at != std::string_view::npos) {
+        const std::size_t behind = at + kWaypointTag.size();
+        if (behind < text.size() && IsBlank(text[behind])) return at;
+        at = text.find(kWaypointTag, behind);
+    }
+    return at;
+}
+
+// The attribute `id` of an opening tag, wherever it stands among the others, in quotes of either kind.
+std::string_view IdOf(std::string_view tag) {
+    tag = tag.substr(0, tag.find('>'));
+    for (std::size_t at = tag.find("id="); at != std::string_view::npos; at = tag.find("id=", at + 1)) {
+        if (at == 0 || !IsBlank(tag[at - 1]) || at + 3 >= tag.size()) continue;
+        const char quote = tag[at + 3];
+        const std::size_t end = tag.find(quote, at + 4);
+        if ((quote == '"' || quote == '\'') && end != std::string_view::npos)
+            return tag.substr(at + 4, end - at - 4);
+    }
+    return {};
+}
+
 std::string ConvertXml(std::string_view text) {
     std::string rows;
     if (Between(text, "<DepartureID>", "</DepartureID>").empty()) return rows;
-    while (!text.empty()) {
-        std::string_view waypoint = TakeBetween(text, "<ATCWaypoint id=", "</ATCWaypoint>");
-        const std::string_view ident = TakeBetween(waypoint, "\"", "\"");
+    for (std::size_t at = FindWaypoint(text); at != std::string_view::npos; at = FindWaypoint(text)) {
+        text.remove_prefix(at);
+        const std::string_view waypoint = TakeBetween(text, kWaypointTag, "</ATCWaypoint>");
+        const std::string_view ident = IdOf(waypoint);
         const std::string_view position = Between(waypoint, "<WorldPosition>", "</WorldPosition>");
         const std::vector<std::string_view> parts = SplitAtCommas(position);
         if (parts.size() < 2 || !Begins(parts[0], "NS") || !Begins(parts[1], "EW")) continue;
@@ -165,7 +192,7 @@ std::string ConvertXml(std::string_view text) {
 int ConvertPlanFile(std::string_view name) {
     const auto file = ReadRouteFile(name);
     if (!file) return kNotConverted;
-    const bool is_xml = file->Text().find("<ATCWaypoint id=") != std::string_view::npos;
+    const bool is_xml = FindWaypoint(file->Text()) != std::string_view::npos;
     const std::string rows = is_xml ? ConvertXml(file->Text()) : ConvertIni(file->Text());
     return WriteFile(kConvertedFile, "[FlightPlan]\n" + rows) ? 0 : kNotConverted;
 }

@@ -313,10 +313,10 @@ int LoadCompanyRoute(std::string_view given) {
         is_plan ? ReadFile(kConvertedFile, FileRoot::kSimulator, kMaxRouteFileBytes) : ReadRouteFile(name);
     BeginLoadedRoute();
     if (!file) {
-        if (IsRouteSettled()) AdvanceRouteState();
+        FinishLoadedRoute({});
         return 0;
     }
-    std::string_view rest = file->Text();
+    std::string_view rest = WithoutByteOrderMark(file->Text());
     RouteReader reader;
     while (const auto line = NextLine(rest)) reader.ReadLine(line->substr(0, kMaxLine));
     FinishLoadedRoute(std::string_view(name).substr(0, name.find('.')));
