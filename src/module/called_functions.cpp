@@ -13,6 +13,7 @@
 #include "fmc/performance/predictions.h"
 #include "fmc/performance/profile.h"
 #include "fmc/performance/step_point.h"
+#include "fmc/performance/takeoff_speeds.h"
 #include "fmc/performance/winds.h"
 #include "fmc/route/delete_restrictions.h"
 #include "fmc/route/execute_route.h"
@@ -130,6 +131,10 @@ constexpr BoundFunction kPureFunctions[] = {
     Bind<BestAltitude>("BestAltitude", ""),
     Bind<LegWind>("LegWind", "PREV_LEG LEG"),
     Bind<DescentWind>("DescentWind", "LEG"),
+    Bind<ComputeV1>("ComputeV1",
+                    "KG WET REDUCTION FLAPS WIND_DIR WIND_SPEED RUNWAY_HEADING OAT PRESSURE_ALT"),
+    Bind<ComputeVR>("ComputeVR", "KG REDUCTION FLAPS OAT PRESSURE_ALT"),
+    Bind<ComputeV2>("ComputeV2", "KG REDUCTION FLAPS OAT PRESSURE_ALT"),
 };
 static_assert(UsagesFit(kPureFunctions));
 

@@ -44,6 +44,7 @@
 #include "state/sound.h"
 #include "state/surfaces.h"
 #include "state/synoptics.h"
+#include "state/tablet_performance.h"
 #include "state/takeoff_approach.h"
 #include "state/time_base.h"
 #include "state/traffic.h"
@@ -112,7 +113,8 @@ constexpr StateGroup kGroups[] = {
     {"instruments", Reset<&instruments>, &kInstrumentVariables,
      "frame/named_variable_catalogue frame/model_values guidance/decision_height "
      "display/routing/instrument_controls display/synoptics/efis_dsp_page display/pfd/pfd_memory"},
-    {"efb", Reset<&efb>, &kEfbVariables, "efb/tablet_input"},
+    {"efb", Reset<&efb>, &kEfbVariables, "efb/"},
+    {"tablet_performance", Reset<&tablet_performance>, &kTabletPerformanceVariables, ""},
     {"remote", Reset<&remote>, &kRemoteVariables, "display/pictures/remote_bridge module/remote_input"},
     {"requests", Reset<&requests>, &kRequestVariables,
      "fmc/legs/holds fmc/route/modification fmc/files/ guidance/ cdu/words/views checklist/ "
