@@ -25,7 +25,8 @@ int main(int argc, char** argv) {
     CLI::App* fly = app.add_subcommand("fly", "Fly a route, with the flight deck in a browser");
     CLI::Option* headless = fly->add_flag("--headless", fly_options.headless,
                                           "no flight deck; as fast as the machine allows, to the end");
-    fly->add_flag("--cold", fly_options.cold, "on the ground, everything off; the flight is yours")
+    fly->add_flag("--cold", fly_options.cold,
+                  "on the ground, everything off; the flight is yours, a --route entered for you to activate")
         ->excludes(headless);
     fly->add_flag("--no-pilot", fly_options.no_pilot,
                   "on the runway with the route entered, and nobody flies but you")

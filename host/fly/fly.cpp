@@ -10,6 +10,7 @@
 #include "host/flightdeck/commands.h"
 #include "host/fly/deck_loop.h"
 #include "host/fly/flight_log.h"
+#include "host/fly/navdata_table.h"
 #include "host/fly/path_plot.h"
 #include "host/fly/pilot.h"
 #include "host/fly/playback.h"
@@ -26,6 +27,18 @@ namespace {
 constexpr const char* kDemonstrationRoute = "KSEA/16L ALDER1 ALDER J1 RBL J1 AVE J1 FIM FIM2 KLAX/24R";
 constexpr double kMaxHours = 24;
 
+constexpr double kPatience = 600;  // seconds without progress
+constexpr int kMostGoArounds = 3;
+
+// The last that brought the flight nearer to its end.
+struct Progress {
+    double at = 0;  // second of the run
+    int to = 0;
+    Pilot::Phase phase = Pilot::kSettingUp;
+    double to_go = 1e9;  // nm, the least since the leg began
+    int go_arounds = 0;
+};
+
 // The flight along the route, looked at once a second.
 struct RouteFlight {
     Pilot pilot;
@@ -39,6 +52,8 @@ struct RouteFlight {
     bool in_the_air = false;
     bool leads_to_runway = false;  // so that what is predicted is what is flown
     bool arrived = false;
+    Progress progress;
+    std::string stuck;  // why it doesn't get any further; empty = it does
 };
 
 // The route ends on a final approach when its last leg leads to the runway along the landing course.
@@ -108,6 +123,25 @@ void TellPhase(Pilot::Phase phase) {
     if (phase == Pilot::kStopped) PrintProgress("stopped");
 }
 
+// A flight may turn away from its end for a while, but not for long.
+void WatchProgress(RouteFlight& route, double to_go) {
+    constexpr double kNearer = 0.1;  // nm
+    Progress& last = route.progress;
+    const Pilot::Phase phase = route.pilot.phase;
+    if (phase != last.phase && phase == Pilot::kGoAround) ++last.go_arounds;
+    const bool is_new = route.to != last.to || phase != last.phase;
+    if (is_new || to_go < last.to_go - kNearer)
+        last = {world.seconds, route.to, phase, to_go, last.go_arounds};
+    const bool waits = world.seconds - last.at > kPatience;
+    if (!waits && last.go_arounds < kMostGoArounds) return;
+    char where[160];
+    std::snprintf(where, sizeof where, ": %s, %.0f kt, %.0f lb of fuel, %.1f nm to go, pilot %s",
+                  flight.aircraft.on_ground ? "on the ground" : "in the air", AircraftNumber("gs"),
+                  AircraftNumber("fuel"), to_go, world.pilot_does.c_str());
+    route.stuck =
+        (waits ? "no progress for ten minutes" : "no landing in three approaches") + std::string(where);
+}
+
 // Has the pilot act and the log printed, until the aircraft stands on the runway; where none can be landed
 // on, until the last fix.
 void StepRoute(Session& session, RouteFlight& route) {
@@ -127,6 +161,7 @@ void StepRoute(Session& session, RouteFlight& route) {
     if (!flight.aircraft.on_ground) route.log.touchdown_fuel = AircraftNumber("fuel");
     KeepLog(session, route);
     StepDescentCheck(session, route.check);
+    WatchProgress(route, way.to_go);
     if (!route.pilot.arrival.name.empty()) {
         route.arrived = route.pilot.phase == Pilot::kStopped;
         return;
@@ -137,7 +172,7 @@ void StepRoute(Session& session, RouteFlight& route) {
 }
 
 void FlyHeadless(Session& session, const RouteFlight& route, const std::function<void()>& each_second) {
-    while (EndSignal() == 0 && !route.arrived && world.seconds < kMaxHours * 3600) {
+    while (EndSignal() == 0 && !route.arrived && route.stuck.empty() && world.seconds < kMaxHours * 3600) {
         TickSession(session, world.paused);
         if (world.ticks % 18 == 0) each_second();
     }
@@ -147,7 +182,7 @@ void PrintEnd(const RouteFlight& route, double wall_seconds) {
     const RunwayEnd& runway = route.pilot.arrival;
     PrintLog(route.log);
     if (!route.arrived)
-        std::printf("\nBroken off");
+        std::printf("\n%s", route.stuck.empty() ? "Broken off" : ("Given up, " + route.stuck + ";").c_str());
     else if (route.pilot.phase != Pilot::kStopped)
         std::printf("\nAt the last fix");
     else {
@@ -176,7 +211,7 @@ int Refuse(Session& session, const std::string& error) {
 
 int Fly(const FlyOptions& given) {
     FlyOptions options = given;
-    if (options.route.empty()) options.route = kDemonstrationRoute;
+    if (options.route.empty() && !options.cold) options.route = kDemonstrationRoute;
     HoldEndSignals();
     world = World{};
     flight = Flight{};
@@ -206,6 +241,7 @@ int Fly(const FlyOptions& given) {
     const auto began = std::chrono::steady_clock::now();
     std::shared_ptr<DeckLoop> deck;
     if (!options.headless && !(deck = OpenFlightDeck(session, options, error))) return Refuse(session, error);
+    PrintNavdata(session);
     if (!options.cold) PrintFlightHeading(session, options.route);
     std::fflush(stdout);
     if (deck)

@@ -11,13 +11,14 @@ struct Session;
 /// What `tz900 fly` is asked for; everything has a default that works.
 struct FlyOptions {
     std::string demo_root;
-    std::string root;          // empty = a private copy of the demonstration root
-    std::string navdata;       // empty = the one under the root
-    std::string aircraft;      // title; empty = the first under the root
-    std::string route;         // filed route text; empty = the demonstration's
-    bool headless = false;     // as fast as the machine allows, to the end, without a flight deck
-    double rate = 1;           // times real time, when not headless
-    bool cold = false;         // on the ground, everything off, no route and nobody at the controls
+    std::string root;       // empty = a private copy of the demonstration root
+    std::string navdata;    // empty = the one under the root
+    std::string aircraft;   // title; empty = the first under the root
+    std::string route;      // filed route text; empty = the demonstration's, or with `cold` none
+    bool headless = false;  // as fast as the machine allows, to the end, without a flight deck
+    double rate = 1;        // times real time, when not headless
+    bool cold =
+        false;  // on the ground, everything off, nobody at the controls; a route, if any, only entered
     bool no_pilot = false;     // with a route, but nobody at the controls
     std::vector<double> wind;  // direction it blows from (degrees true) and knots; empty = calm
     std::string record;        // file of the recording; empty = none

@@ -145,6 +145,20 @@ void EnterWinds(Session& session, const FlyOptions& options) {
     }
 }
 
+// The route is entered and the aircraft stands at its origin; to activate and execute it is the crew's.
+bool LayOutRoute(Session& session, const FlyOptions& options, std::string& error) {
+    constexpr double kThere = 5;  // nm
+    Record(session.recorder, {"route", options.route});
+    if (!EnterRoute(session, options.route, error)) return false;
+    const double lat = ModuleNumber(session, "origin_airport.lat"),
+                 lon = ModuleNumber(session, "origin_airport.lon");
+    if (DistanceNm(AircraftNumber("lat"), AircraftNumber("lon"), lat, lon) < kThere) return true;
+    const Placement at{lat, lon, GroundElevationMetres(lat, lon) / kMetresPerFoot, 0};
+    Record(session.recorder, {"at", NumberText(at.lat), NumberText(at.lon), NumberText(at.alt_ft), "0"});
+    PlaceAircraft(at);
+    return true;
+}
+
 }  // namespace
 
 bool StartFlight(Session& session, const FlyOptions& options, std::string& error) {
@@ -165,7 +179,7 @@ bool StartFlight(Session& session, const FlyOptions& options, std::string& error
     if (options.cold) {
         Record(session.recorder, {"cold"});
         ShutDownAircraft();
-        return true;
+        return options.route.empty() || LayOutRoute(session, options, error);
     }
     // The system knows the aircraft's weight, and looks at its panels, some seconds after it has come up.
     constexpr int kComesUp = 10 * 18;  // ticks

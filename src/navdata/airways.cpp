@@ -1,6 +1,7 @@
 #include "navdata/airways.h"
 
 #include <algorithm>
+#include <cmath>
 #include <string>
 #include <unordered_map>
 
@@ -34,7 +35,8 @@ bool VisitRun(std::string_view name, int run_wanted, Visit visit) {
         NextField(*line);
         NextField(*line);
         AirwayFix fix{NextField(*line), 0, 0};
-        if (NextNumber(*line, fix.lat) && NextNumber(*line, fix.lon)) visit(fix);
+        if (!NextNumber(*line, fix.lat) || !NextNumber(*line, fix.lon)) continue;
+        if (std::fabs(fix.lat) <= 90 && std::fabs(fix.lon) <= 180) visit(fix);
     }
     return found;
 }

@@ -22,10 +22,37 @@ namespace {
 constexpr std::size_t kTableBound = 1698;
 constexpr std::size_t kHeaderBound = 299;
 
-// Reads a file into its place, where the rows' texts point.
-std::string_view KeepFile(std::string_view name, FileBytes& file) {
+// One file while it is read: its text, which stays where the rows' texts point, and what came of it.
+struct FileReading {
+    std::string_view text;
+    NavdataFile& told;
+
+    void Skip(std::string_view line, std::string_view why) {
+        std::string_view rest = line;
+        if (NextField(rest).empty() || told.skipped++ > 0) return;
+        told.first_skipped = static_cast<int>(std::count(text.data(), line.data(), '\n')) + 1;
+        told.why = why;
+    }
+
+    // Takes the place that the next two fields tell; a line without one on the globe is skipped.
+    bool TakePlace(std::string_view line, std::string_view& fields, double& lat, double& lon) {
+        if (!NextNumber(fields, lat) || !NextNumber(fields, lon))
+            Skip(line, "no position");
+        else if (!(lat >= -90 && lat <= 90))
+            Skip(line, "latitude beyond 90");
+        else if (!(lon >= -180 && lon <= 180))
+            Skip(line, "longitude beyond 180");
+        else
+            return true;
+        return false;
+    }
+};
+
+FileReading ReadInto(NavTables& t, std::string_view name, FileBytes& file) {
     file = ReadNavdata(name);
-    return file.Text();
+    NavdataFile& told = t.navdata_files[++t.navdata_file_cnt];
+    told = {.name = name, .size = static_cast<int>(file.size), .why = {}};
+    return {file.Text(), told};
 }
 
 // Room for the rows that a file of this size may hold, so that a table doesn't move while it grows. What
@@ -40,24 +67,30 @@ void ReserveRows(GrowingList<Row>& table, std::string_view text) {
 constexpr auto kIdentOf = [](const auto& row) { return row.ident; };
 
 void LoadIntersections(NavTables& t) {
-    std::string_view rest = KeepFile("ints.txt", t.ints_file);
+    FileReading reading = ReadInto(t, "ints.txt", t.ints_file);
+    std::string_view rest = reading.text;
     ReserveRows(t.IntersectionTable, rest);
-    while (auto line = NextDataLine(rest, kTableBound)) {
-        const std::string_view ident = NextField(*line), name = NextField(*line);
+    while (const auto line = NextDataLine(rest, kTableBound)) {
+        std::string_view fields = *line;
+        const std::string_view ident = NextField(fields), name = NextField(fields);
         double lat = 0, lon = 0;
-        if (!NextNumber(*line, lat) || !NextNumber(*line, lon)) continue;
+        if (!reading.TakePlace(*line, fields, lat, lon)) continue;
         t.IntersectionTable[++t.int_cnt] = {ident, name, lat, lon};
     }
+    reading.told.rows = t.int_cnt;
     BuildIdentIndex(t.int_index, t.IntersectionTable, t.int_cnt, kIdentOf);
 }
 
-void AddAirwayFix(NavTables& t, std::string_view line) {
+void AddAirwayFix(NavTables& t, std::string_view line, FileReading& reading) {
     constexpr std::size_t kShortestFix = 4;  // shorter idents are navaids, which have a table of their own
-    NextField(line);
-    NextField(line);
-    const std::string_view ident = NextField(line);
+    std::string_view fields = line;
+    NextField(fields);
+    NextField(fields);
+    const std::string_view ident = NextField(fields);
     double lat = 0, lon = 0;
-    if (ident.size() < kShortestFix || !NextNumber(line, lat) || !NextNumber(line, lon)) return;
+    if (!reading.TakePlace(line, fields, lat, lon)) return;
+    ++reading.told.rows;
+    if (ident.size() < kShortestFix) return;
     t.AirwayFixTable[++t.awy_fix_cnt] = {ident, lat, lon};
 }
 
@@ -72,12 +105,13 @@ void ExtendAirwayRun(NavTables& t, std::string_view line) {
 }
 
 void LoadAirways(NavTables& t) {
-    std::string_view rest = KeepFile("awys.txt", t.awys_file);
+    FileReading reading = ReadInto(t, "awys.txt", t.awys_file);
+    std::string_view rest = reading.text;
     ReserveRows(t.AirwayFixTable, rest);
     while (const auto line = NextBoundedLine(rest, rest.size())) {
         // The table and the later reading of one airway divide a line that is too long at different places.
         std::string_view for_table = *line, for_runs = *line;
-        while (const auto piece = NextDataLine(for_table, kTableBound)) AddAirwayFix(t, *piece);
+        while (const auto piece = NextDataLine(for_table, kTableBound)) AddAirwayFix(t, *piece, reading);
         while (const auto piece = NextDataLine(for_runs, kAirwayBound)) ExtendAirwayRun(t, *piece);
     }
     BuildIdentIndex(t.airway_index, t.airway_runs, t.airway_run_cnt,
@@ -97,7 +131,8 @@ double LongestRunway(std::string_view tokens) {
 }
 
 void LoadAirports(NavTables& t) {
-    std::string_view rest = KeepFile("apts.txt", t.apts_file);
+    FileReading reading = ReadInto(t, "apts.txt", t.apts_file);
+    std::string_view rest = reading.text;
     ReserveRows(t.AirportTable, rest);
     ReserveRows(t.airport_lines, rest);
     while (auto line = NextDataLine(rest, kTableBound)) {
@@ -105,34 +140,41 @@ void LoadAirports(NavTables& t) {
         const std::string_view ident = NextField(fields), name = NextField(fields);
         const std::string_view elevation = NextField(fields);
         double lat = 0, lon = 0;
-        if (!NextNumber(fields, lat) || !NextNumber(fields, lon)) continue;
+        if (!reading.TakePlace(*line, fields, lat, lon)) continue;
         t.airport_lines[++t.airport_line_cnt] = *line;
         const double longest = LongestRunway(fields);
         if (longest < cfg.MinAptRwyLen) continue;
         t.AirportTable[++t.apt_cnt] = {ident, name, lat, lon, longest, elevation};
     }
+    reading.told.rows = t.airport_line_cnt;
     BuildIdentIndex(t.apt_index, t.AirportTable, t.apt_cnt, kIdentOf);
     BuildIdentIndex(t.airport_line_index, t.airport_lines, t.airport_line_cnt, AirportLineIdent);
 }
 
 void LoadNavaids(NavTables& t) {
-    std::string_view rest = KeepFile("navs.txt", t.navs_file);
+    FileReading reading = ReadInto(t, "navs.txt", t.navs_file);
+    std::string_view rest = reading.text;
     ReserveRows(t.NavaidTable, rest);
-    while (auto line = NextDataLine(rest, kTableBound)) {
-        const std::string_view ident = NextField(*line), name = NextField(*line);
+    while (const auto line = NextDataLine(rest, kTableBound)) {
+        std::string_view fields = *line;
+        const std::string_view ident = NextField(fields), name = NextField(fields);
         double lat = 0, lon = 0;
-        NextNumber(*line, lat);
-        NextNumber(*line, lon);
-        const std::string_view kind = NextField(*line), freq = NextField(*line);
-        if (kind.empty()) continue;
+        if (!reading.TakePlace(*line, fields, lat, lon)) continue;
+        const std::string_view kind = NextField(fields), freq = NextField(fields);
+        if (kind.empty()) {
+            reading.Skip(*line, "no kind");
+            continue;
+        }
         const std::string_view type = EqualIgnoringCase(kind, "VOR") ? "V" : "N";
         t.NavaidTable[++t.nav_cnt] = {ident, name, lat, lon, type, freq};
     }
+    reading.told.rows = t.nav_cnt;
     BuildIdentIndex(t.nav_index, t.NavaidTable, t.nav_cnt, kIdentOf);
 }
 
 void LoadLandmarks(NavTables& t) {
-    std::string_view rest = KeepFile("landmarks.txt", t.landmarks_file);
+    FileReading reading = ReadInto(t, "landmarks.txt", t.landmarks_file);
+    std::string_view rest = reading.text;
     ReserveRows(t.LandmarkTable, rest);
     char* const text = t.landmarks_file.data.get();
     while (auto line = NextDataLine(rest, kTableBound)) {
@@ -144,6 +186,7 @@ void LoadLandmarks(NavTables& t) {
         std::replace(first, first + name.size(), '_', ' ');
         t.LandmarkTable[++t.landmark_cnt] = {name, lat, lon};
     }
+    reading.told.rows = t.landmark_cnt;
 }
 
 // "05-NOV-2026".

@@ -1,7 +1,8 @@
 #pragma once
 
 /// Reads ints.txt, awys.txt, apts.txt, navs.txt and landmarks.txt into `nav_tables`, in that order, and
-/// indexes them. A missing file leaves its table empty; a line that doesn't fit is passed over. Airports
+/// indexes them. A missing file leaves its table empty; a line that doesn't fit, or whose
+/// place isn't on the globe, is passed over; `navdata_files` tells what came of each. Airports
 /// whose longest runway is below `cfg.MinAptRwyLen` stay out of AirportTable, and so unknown to the entry
 /// parser.
 void LoadNavTables();

@@ -17,10 +17,26 @@ struct Describe<AirwayRun> {
     static constexpr ValueType type{.kind = ValueKind::kRecord, .fields = fields};
 };
 
+template <>
+struct Describe<NavdataFile> {
+    using F = NavdataFile;
+    static constexpr Field fields[] = {
+        FieldRow<&F::name>("name"),
+        FieldRow<&F::size>("size"),
+        FieldRow<&F::rows>("rows"),
+        FieldRow<&F::skipped>("skipped"),
+        FieldRow<&F::first_skipped>("first_skipped"),
+        FieldRow<&F::why>("why"),
+    };
+    static constexpr ValueType type{.kind = ValueKind::kRecord, .fields = fields};
+};
+
 NavTables nav_tables;
 
 namespace {
 constexpr Variable kNavTableRows[] = {
+    {"navdata_files", &nav_tables.navdata_files},
+    {"navdata_file_cnt", &nav_tables.navdata_file_cnt},
     {"IntersectionTable", &nav_tables.IntersectionTable},
     {"int_cnt", &nav_tables.int_cnt},
     {"AirwayFixTable", &nav_tables.AirwayFixTable},

@@ -58,8 +58,21 @@ struct AirwayRun {
     std::string_view lines;
 };
 
+/// What came of reading one file of the database.
+struct NavdataFile {
+    std::string_view name;
+    int size = 0;           // bytes; 0 = missing or empty
+    int rows = 0;           // lines that have been taken
+    int skipped = 0;        // lines that say something and don't fit
+    int first_skipped = 0;  // the first of them, counted from 1
+    std::string_view why;   // it doesn't
+};
+
 /// Filled by LoadNavTables; all tables count from 1.
 struct NavTables {
+    GrowingList<NavdataFile> navdata_files;  // in the order in which they are read
+    int navdata_file_cnt = 0;
+
     FileBytes ints_file, awys_file, apts_file, navs_file, landmarks_file;
 
     GrowingList<FixRow> IntersectionTable;

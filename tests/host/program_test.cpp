@@ -170,6 +170,24 @@ TEST(Program, AFlightThatCannotStartTellsWhyAndLeavesNothing) {
     EXPECT_EQ(FileText(taken), "mine");
 }
 
+TEST(Program, TellsWhatItReadAndGivesUpAFlightThatGetsNowhere) {
+    const Workplace place;
+    for (const char* name : {"ints.txt", "apts.txt", "navs.txt", "awys.txt"}) {
+        const fs::path file = fs::path(SourceDir()) / "data/root/Velarion/TZ900/Navdata" / name;
+        place.Put(std::string("navdata/") + name, "NORTH NORTH 0 90.5 0 VOR 112.3\n" + FileText(file));
+    }
+    place.Put("navdata/selcal.txt", "; nobody\n");
+    EXPECT_EQ(place.Run({"fly", "--headless", "--navdata", place.folder / "navdata", "--route",
+                         "KSEA/16L BTG J1 OED KSFO", "--wind", "170", "600"}),
+              1);
+    const std::string printed = place.Printed();
+    for (const char* told :
+         {"AIRAC 2612", "apts.txt                      22 rows, 1 skipped, the first is line 1: latitude",
+          "landmarks.txt            missing\n", "selcal.txt               empty\n",
+          "Given up, no progress for ten minutes: in the air, "})
+        EXPECT_NE(printed.find(told), std::string::npos) << told << " in " << printed;
+}
+
 TEST(Program, RefusesWhatIsNoRecording) {
     const Workplace place;
     const struct {

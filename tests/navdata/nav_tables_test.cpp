@@ -68,6 +68,34 @@ TEST_F(NavTablesTest, FilesBecomeTables) {
     EXPECT_EQ(LoadAirport("KBBB", airports.origin_airport), 1) << "still loads as an origin";
 }
 
+TEST_F(NavTablesTest, TellsWhatWasReadAndWhatWasSkipped) {
+    Put("ints.txt", "; a comment\nALPHA A 47.5 -122.25\n\nNORTH N 90.5 0\nCUT C 1\nPOLE P -90 180\n");
+    Put("awys.txt", "J1 1 ALPHA 47 -122\nJ1 2 SEA 47 -180.1\nJ1 3 BRAVO 48 -122\n");
+    Put("apts.txt", "");
+    Put("navs.txt", "SEA SEATTLE 47.4 -122.3 VOR 116.8\nBAD B 47.4 -122.3\n");
+    LoadNavTables();
+    const struct {
+        const char* name;
+        int rows, skipped, first;
+        const char* why;
+    } kRows[] = {{"ints.txt", 2, 2, 4, "latitude beyond 90"},
+                 {"awys.txt", 2, 1, 2, "longitude beyond 180"},
+                 {"apts.txt", 0, 0, 0, ""},
+                 {"navs.txt", 1, 1, 2, "no kind"},
+                 {"landmarks.txt", 0, 0, 0, ""}};
+    ASSERT_EQ(nav_tables.navdata_file_cnt, 5);
+    for (int i = 1; i <= 5; ++i) {
+        const NavdataFile& file = nav_tables.navdata_files[i];
+        const auto& row = kRows[i - 1];
+        EXPECT_EQ(file.name, row.name);
+        EXPECT_EQ(file.rows, row.rows) << row.name;
+        EXPECT_EQ(file.skipped, row.skipped) << row.name;
+        EXPECT_EQ(file.first_skipped, row.first) << row.name;
+        EXPECT_EQ(file.why, row.why) << row.name;
+    }
+    EXPECT_EQ(LoadAirway("J1", ""), 2) << "its fix off the globe is left out";
+}
+
 TEST_F(NavTablesTest, TextBeyondTheBoundIsAFurtherLine) {
     const std::string long_name(1698 - 6, 'n');
     Put("ints.txt", "AAAAA " + long_name + "BBBBB B 1 2\nCCCCC C 3 4\n");
