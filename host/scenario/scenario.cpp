@@ -53,10 +53,11 @@ std::string Form(const Command& command) {
     return std::string(command.name) + (command.usage.empty() ? "" : " ") + std::string(command.usage);
 }
 
-// A file may hold anything, and a terminal obeys some of it.
+// A file may hold anything, and a terminal obeys some of it. Of a long text the ends tell most.
 std::string Printable(const std::string& text) {
-    constexpr std::size_t kLongest = 1000;
-    std::string printable = text.substr(0, kLongest);
+    constexpr std::size_t kLongest = 1000, kEnd = kLongest / 2;
+    std::string printable =
+        text.size() <= kLongest ? text : text.substr(0, kEnd) + " ... " + text.substr(text.size() - kEnd);
     for (char& c : printable)
         if ((static_cast<unsigned char>(c) < ' ' && c != '\n') || c == '\x7f') c = '?';
     return printable;
