@@ -299,6 +299,9 @@ constexpr PanelKey kKeys[] = {
     {.name = "TZ_AFT_Transponder_Knob"},
     {.section = "TZCP"},
     {.name = "cargo_doors_anun", .use = kOnlyWritten},
+    {.name = "EadiMode", .use = kOnlyWritten},
+    {.name = "FlightDirectorType", .use = kOnlyWritten},
+    {.name = "play_announcements", .use = kOnlyWritten, .variable = "PlayAnnouncements"},
     // never written; a file edited by hand may hold it
     {.name = "parking_brake_pos", .use = kOnlyRead, .then = Agree<kTokenParkingBrake, kKeyParkingBrake>},
 };
