@@ -17,14 +17,19 @@ double PitchOf(const DrumFace& face) {
 
 }  // namespace
 
-void DrawDrum(const DrumFace& face, double x, double value, double place, double step, bool blank) {
+DrumDigit DigitOnDrum(double value, double place, double step) {
     const double turns = std::floor(value / place);
     const int digit = static_cast<int>(std::fmod(turns, 10));
-    const double rolled = Bounded((value - turns * place - (place - step)) / step, 0, 1);
-    const double offset = rolled * PitchOf(face);
-    if (!blank) TextAbout(face.graphics, x, offset, face.size, face.colour, DigitText(digit));
-    if (rolled > 0)
-        TextAbout(face.graphics, x, offset - PitchOf(face), face.size, face.colour, DigitText(digit + 1));
+    return {(digit + 10) % 10, Bounded((value - turns * place - (place - step)) / step, 0, 1)};
+}
+
+void DrawDrum(const DrumFace& face, double x, double value, double place, double step, bool blank) {
+    const DrumDigit drum = DigitOnDrum(value, place, step);
+    const double offset = drum.rolled * PitchOf(face);
+    if (!blank) TextAbout(face.graphics, x, offset, face.size, face.colour, DigitText(drum.digit));
+    if (drum.rolled > 0)
+        TextAbout(face.graphics, x, offset - PitchOf(face), face.size, face.colour,
+                  DigitText(drum.digit + 1));
 }
 
 void DrawUnitsDrum(const DrumFace& face, double x, double value) {
