@@ -4,6 +4,7 @@
 #include <cmath>
 #include <string_view>
 
+#include "host/aircraft/model_systems.h"
 #include "host/aircraft/tokens.h"
 #include "host/world/receivers.h"
 #include "host/world/terrain.h"
@@ -94,7 +95,7 @@ void PlaceAircraft(const Placement& placement) {
 }
 
 void ShutDownAircraft() {
-    for (Engine& engine : flight.aircraft.engines) engine = Engine{.running = false};
+    for (Engine& engine : flight.aircraft.engines) engine = Engine{.running = false, .fuel_on = false};
     flight.aircraft.controls.thrust_lever = 0;
     SetToken(kTokenMasterBattery, 0);
     SetToken(kTokenParkingBrake, kBrakeSet);
@@ -126,6 +127,17 @@ void SetOutsideTemperature(double celsius) {
 void SetQnh(double hpa) {
     flight.aircraft.air.qnh = hpa;
     FillTokens(flight.aircraft);
+}
+
+void SetFailure(const FailureRow& row, bool fails) {
+    flight.aircraft.fails[row.failure] = fails;
+    if (fails && !row.trips.empty()) SetNamedValue(row.trips, 0);
+    FillTokens(flight.aircraft);
+    FillModelSystems(flight.aircraft);
+}
+
+bool SetGround(const GroundRow& row, bool on) {
+    return SetGroundService(flight.aircraft, row, on);
 }
 
 void FollowCommands(const AutoflightCommands& commands, FlightControls& controls) {

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "host/aircraft/aircraft.h"
+#include "host/aircraft/ground_services.h"
 #include "host/autoflight/autoflight_logic.h"
 
 // The aircraft in its world: where it stands, the air around it, and who flies it. One a process, as the
@@ -42,6 +43,11 @@ void LoadFuel(double pounds);
 void SetWind(double from_deg, double speed_kt);
 void SetOutsideTemperature(double celsius);
 void SetQnh(double hpa);
+
+/// A failure begins or ends, also where the aircraft doesn't fly.
+void SetFailure(const FailureRow& row, bool fails);
+/// A door, the chocks, the ground's power. False when the aircraft must stand for it.
+bool SetGround(const GroundRow& row, bool on);
 
 /// Moves the controls as the autopilot asks; what it doesn't fly is left as the pilot has it.
 void FollowCommands(const AutoflightCommands& commands, FlightControls& controls);

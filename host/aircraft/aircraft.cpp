@@ -75,18 +75,33 @@ void StepEngines(Aircraft& aircraft, double dt) {
     // A lock keeps the reversers in until the wheels are on the ground.
     const double lever =
         aircraft.on_ground ? aircraft.controls.thrust_lever : std::max(aircraft.controls.thrust_lever, 0.0);
-    double burnt = 0;
-    const bool fuel = FuelOnBoard(aircraft) > 0;
-    for (Engine& engine : aircraft.engines) {
-        engine.running = engine.running && fuel;
+    for (std::size_t side = 0; side < aircraft.engines.size(); ++side) {
+        Engine& engine = aircraft.engines[side];
+        engine.failed = aircraft.fails[side == 0 ? kEngineLeft : kEngineRight];
         StepEngine(engine, aircraft.airframe.engine, lever, aircraft.mach, density_ratio, dt);
-        burnt += engine.fuel_flow / 3600 * dt;
     }
-    // The centre tank feeds first, then both mains alike.
-    const double centre = std::min(burnt, aircraft.fuel_lb[kCentreTank]);
-    aircraft.fuel_lb[kCentreTank] -= centre;
-    for (const FuelTank tank : {kLeftTank, kRightTank})
-        aircraft.fuel_lb[tank] = std::max(aircraft.fuel_lb[tank] - (burnt - centre) / 2, 0.0);
+    StepFuel(aircraft, dt);
+}
+
+CabinSetting SettingOfCabin(const Aircraft& aircraft) {
+    const Switches& switches = aircraft.switches;
+    const bool power = HasAlternatingCurrent(aircraft);
+    return {.outside = PressureAltitude(aircraft),
+            .landing_elevation = aircraft.landing_elevation,
+            .on_ground = aircraft.on_ground,
+            .hole = aircraft.door_open || aircraft.fails[kDecompression],
+            .packs = power ? switches.packs[0] + switches.packs[1] : 0,
+            .valve_auto = {switches.outflow_auto[0], switches.outflow_auto[1]}};
+}
+
+// The angle that the handle asks for, or the one below it that the speed still allows.
+double AllowedFlaps(Aircraft& aircraft) {
+    constexpr double kTakeoffFlaps = 20, kMostFor25 = 210, kMostFor30 = 200, kBack = 5;  // degrees, kt
+    const double asked = aircraft.controls.flaps;
+    const double most = asked > 25 ? kMostFor30 : kMostFor25;
+    aircraft.load_relief =
+        asked > kTakeoffFlaps && aircraft.ias > (aircraft.load_relief ? most - kBack : most);
+    return aircraft.load_relief ? std::min(asked, kTakeoffFlaps) : asked;
 }
 
 // Engines that stand as they run, or don't, with the lever at idle.
@@ -202,6 +217,7 @@ void StepFlight(Aircraft& aircraft, double dt) {
 // On the wheels: speed along the nose; a pull above flying speed lifts off.
 void StepRoll(Aircraft& aircraft, double dt) {
     constexpr double kRollingFriction = 0.015, kBrakeFriction = 0.40, kMostPitch = 12, kPitchRate = 2.5;
+    constexpr double kHeldByChocks = 2e6, kBrakes = 8;  // N, wheels that have one
     aircraft.vertical_speed = 0;
     const double mass = GrossWeight(aircraft) * kKgPerLb;
     const double thrust = aircraft.engines[0].thrust_n + aircraft.engines[1].thrust_n;
@@ -209,7 +225,10 @@ void StepRoll(Aircraft& aircraft, double dt) {
                         aircraft.ground_speed, -aircraft.body_acceleration, dt);
     const double braked = std::max(aircraft.controls.wheel_brakes, aircraft.brakes.pressure);
     const double friction = kRollingFriction + kBrakeFriction * braked;
-    const double held = friction * mass * kGravity;
+    const double held = aircraft.chocks ? kHeldByChocks : friction * mass * kGravity;
+    const double braking = kBrakeFriction * braked * mass * kGravity / kBrakes;  // N, of one brake
+    for (WheelBrake& brake : aircraft.wheel_brakes)
+        HeatBrake(brake, braking * aircraft.ground_speed / kKnotsPerMps * dt);
     double force = thrust - Drag(aircraft, 0.2);
     force = aircraft.ground_speed > 0.1 ? force - held : std::max(force - held, 0.0);
     aircraft.ground_speed = std::max(aircraft.ground_speed + force / mass * kKnotsPerMps * dt, 0.0);
@@ -242,6 +261,8 @@ void PlaceAircraftAt(Aircraft& aircraft, double lat, double lon, double altitude
     aircraft.gear = aircraft.controls.gear = aircraft.on_ground ? 1 : 0;
     aircraft.flaps = aircraft.speedbrake = 0;
     aircraft.brakes = {};
+    aircraft.wheel_brakes = {};
+    aircraft.chocks = aircraft.load_relief = false;
     aircraft.trim = kTakeoffTrim;
     aircraft.controls.bank = aircraft.controls.path = aircraft.controls.steering = 0;
     aircraft.controls.flaps = aircraft.controls.speedbrake = 0;
@@ -256,18 +277,23 @@ void PlaceAircraftAt(Aircraft& aircraft, double lat, double lon, double altitude
     else
         TrimThrust(aircraft);
     StepPlace(aircraft, 0);
+    SettleCabin(aircraft.cabin, SettingOfCabin(aircraft));
 }
 
 void StepAircraft(Aircraft& aircraft, double dt) {
     constexpr double kFlapTime = 40, kGearTime = 10, kBrakeTime = 1.5;  // s, from end to end
     aircraft.wind_kt = WindHere(aircraft);
-    aircraft.flaps = Towards(aircraft.flaps, aircraft.controls.flaps, kFullFlaps * dt / kFlapTime);
+    aircraft.flaps = Towards(aircraft.flaps, AllowedFlaps(aircraft), kFullFlaps * dt / kFlapTime);
     // On the wheels a lock keeps the gear down, whatever its lever says.
     aircraft.gear = Towards(aircraft.gear, aircraft.on_ground ? 1 : aircraft.controls.gear, dt / kGearTime);
     const bool by_itself = aircraft.on_ground && aircraft.brakes.landed && aircraft.controls.armed_spoilers;
     aircraft.speedbrake =
         Towards(aircraft.speedbrake, by_itself ? 1 : aircraft.controls.speedbrake, dt / kBrakeTime);
     StepEngines(aircraft, dt);
+    StepFires(aircraft, dt);
+    StepCabin(aircraft.cabin, SettingOfCabin(aircraft), dt);
+    for (WheelBrake& brake : aircraft.wheel_brakes)
+        CoolBrake(brake, aircraft.gear > 0, aircraft.on_ground ? aircraft.ground_speed : aircraft.tas, dt);
     StepBank(aircraft, dt);
     if (aircraft.on_ground)
         StepRoll(aircraft, dt);
@@ -275,6 +301,13 @@ void StepAircraft(Aircraft& aircraft, double dt) {
         StepFlight(aircraft, dt);
     StepPlace(aircraft, dt);
     UpdateAirspeeds(aircraft);
+}
+
+bool HasAlternatingCurrent(const Aircraft& aircraft) {
+    constexpr double kGenerates = 50;  // percent of N2
+    return aircraft.switches.other_power || std::ranges::any_of(aircraft.engines, [](const Engine& engine) {
+               return engine.n2 >= kGenerates;
+           });
 }
 
 double Latitude(const Aircraft& aircraft) {

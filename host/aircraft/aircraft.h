@@ -1,12 +1,18 @@
 #pragma once
 
 #include <array>
+#include <bitset>
 
 #include "host/aircraft/air.h"
 #include "host/aircraft/airframe.h"
 #include "host/aircraft/brakes.h"
+#include "host/aircraft/cabin.h"
 #include "host/aircraft/engines.h"
+#include "host/aircraft/failures.h"
+#include "host/aircraft/fire_bottles.h"
+#include "host/aircraft/fuel_feed.h"
 #include "host/aircraft/sphere.h"
+#include "host/aircraft/switches.h"
 
 // The stand-in aircraft: a point mass that banks, climbs and turns with believable lags, burns fuel and knows
 // its drag. It is flown by FlightControls alone and knows nothing of tokens; aircraft/tokens.h tells the
@@ -28,10 +34,6 @@ struct FlightControls {
     double steering = 0;          // degrees a second on the ground, right positive
 };
 
-enum FuelTank { kLeftTank, kRightTank, kCentreTank };
-constexpr std::array<double, 3> kTankGallons = {5570, 5570, 22340};
-constexpr double kFuelLbPerGallon = 6.7;
-
 struct Aircraft {
     // A unit vector to the place on the sphere and one along the nose, so that poles are places like others.
     Vector3 place = {1, 0, 0};
@@ -45,13 +47,22 @@ struct Aircraft {
     bool on_ground = true;
     double ground_elevation = 0;      // ft, given by who knows the terrain
     double flaps = 0;                 // degrees
+    bool load_relief = false;         // they stay in while it is too fast for them
     double gear = 1, speedbrake = 0;  // positions, 0 to 1
     AutomaticBrakes brakes;
+    std::array<WheelBrake, 8> wheel_brakes;
+    bool chocks = false;
     double trim = 4.5;  // units of the stabiliser, more is nose up
     std::array<Engine, 2> engines;
     std::array<double, 3> fuel_lb = {30000, 30000, 40000};
     std::array<double, 5> payload_lb = {10000, 10000, 10000, 10000, 15000};  // by station
-    double body_acceleration = 0;                                            // ft/s^2 along the nose
+    Switches switches;
+    Cabin cabin;
+    double landing_elevation = 0;  // ft, for the cabin
+    bool door_open = false;
+    std::bitset<kFailureCount> fails;
+    FireBottles bottles;
+    double body_acceleration = 0;  // ft/s^2 along the nose
     Airframe airframe = AirframeOf("");
     AirMass air;
     double wind_kt = 0;  // as it blows where the aircraft is: less than the air's own near the ground
@@ -70,6 +81,9 @@ void PlaceAircraftAt(Aircraft& aircraft, double lat, double lon, double altitude
 
 /// Flies on by `dt` seconds.
 void StepAircraft(Aircraft& aircraft, double dt);
+
+/// Some generator gives alternating current, of an engine, the APU or on the ground.
+bool HasAlternatingCurrent(const Aircraft& aircraft);
 
 double Latitude(const Aircraft& aircraft);
 double Longitude(const Aircraft& aircraft);  // -180 to 180

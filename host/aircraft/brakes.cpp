@@ -31,4 +31,17 @@ void StepAutomaticBrakes(AutomaticBrakes& brakes, int setting, double lever, dou
             PressureFor(kDecelerations[setting - kAutobrake1], brakes.pressure, deceleration, dt);
 }
 
+void HeatBrake(WheelBrake& brake, double joule) {
+    constexpr double kJoulePerUnit = 9e6;
+    brake.disc += joule / kJoulePerUnit;
+}
+
+void CoolBrake(WheelBrake& brake, bool gear_out, double speed, double dt) {
+    constexpr double kInWell = 3600, kAtRest = 2400, kPerKnot = 0.015;  // s, s; of the still air's cooling
+    constexpr double kSensorLag = 60;                                   // s
+    const double time = gear_out ? kAtRest / (1 + kPerKnot * speed) : kInWell;
+    brake.disc -= brake.disc * dt / time;
+    brake.shown += (brake.disc - brake.shown) * dt / kSensorLag;
+}
+
 }  // namespace host

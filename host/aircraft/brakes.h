@@ -23,4 +23,15 @@ enum AutobrakeSetting {
 void StepAutomaticBrakes(AutomaticBrakes& brakes, int setting, double lever, double ground_speed,
                          double deceleration, double dt);
 
+/// One wheel's brake. Its sensor sits in the heat sink's rim and lags behind the discs.
+struct WheelBrake {
+    double disc = 0;   // on the scale of the sensor, hot from 5 on
+    double shown = 0;  // what the sensor tells
+};
+
+/// Takes in the energy (J) of some braking: a landing brings about 3, a heavy rejected take-off 7.
+void HeatBrake(WheelBrake& brake, double joule);
+/// Cools for `dt` seconds in air of a speed in knots; in its well with the gear in.
+void CoolBrake(WheelBrake& brake, bool gear_out, double speed, double dt);
+
 }  // namespace host

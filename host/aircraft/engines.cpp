@@ -2,35 +2,78 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 
 namespace host {
 namespace {
 
-// Below idle the core gathers speed by its flame, or turns by its starter or what is left of the fan's.
-void StepCore(Engine& engine, double dt) {
-    constexpr double kCrankedN2 = 28, kRunUp = 4;  // percent, percent a second
-    constexpr double kLag = 4;                     // s
+constexpr double kLightOffN2 = 18;
+
+// Calibrated airspeed, kt, as far as a windmill cares.
+double WindSpeed(double mach, double density_ratio) {
+    return 640 * mach * std::sqrt(density_ratio);
+}
+
+void StepFlame(Engine& engine, double windmill, double dt) {
+    constexpr double kIgnition = 2;          // s
+    constexpr double kWindmillFactor = 0.8;  // the wind helps a flame that a starter alone couldn't hold
+    if (!engine.fuel_on || !engine.fed || engine.failed) {
+        engine.running = false;
+        engine.ignition_s = 0;
+    } else if (!engine.running) {
+        const bool fast_enough =
+            engine.n2 >= (windmill > 0 && !engine.starter ? kLightOffN2 * kWindmillFactor : kLightOffN2);
+        engine.ignition_s = fast_enough ? engine.ignition_s + dt : 0;
+        engine.running = engine.ignition_s >= kIgnition;
+        if (engine.running) engine.ignition_s = 0;
+    }
+}
+
+// Below idle the core gathers speed by its flame; without one it turns by its starter or the wind.
+void StepCore(Engine& engine, double windmill, double dt) {
+    constexpr double kCrankedN2 = 29, kStarterLetsGo = 50;  // percent
+    constexpr double kLag = 12;                             // s
+    constexpr double kFirstRunUp = 1, kMoreRunUp = 0.02;    // percent a second, and for each percent of N2
+    if (engine.n2 >= kStarterLetsGo) engine.starter = false;
     if (engine.running) {
-        if (engine.n2 < kIdleN2) engine.n2 = std::min(engine.n2 + kRunUp * dt, kIdleN2);
+        const double run_up = kFirstRunUp + kMoreRunUp * std::max(engine.n2 - kLightOffN2, 0.0);
+        if (engine.n2 < kIdleN2) engine.n2 = std::min(engine.n2 + run_up * dt, kIdleN2);
         return;
     }
-    const double turned = std::max(engine.n1 * 1.5, engine.starter ? kCrankedN2 : 0);
+    const double turned = std::max(windmill, engine.starter ? kCrankedN2 : 0);
     engine.n2 += (turned - engine.n2) * std::min(dt / kLag, 1.0);
+}
+
+double WantedEgt(const Engine& engine, double spool) {
+    constexpr double kAmbient = 15, kIdle = 380, kMore = 420, kStartPeak = 190;
+    if (!engine.running) return kAmbient;
+    const double way = std::clamp((engine.n2 - kLightOffN2) / (kIdleN2 - kLightOffN2), 0.0, 1.0);
+    return kIdle + kMore * spool + kStartPeak * std::sin(std::numbers::pi * way);
 }
 
 }  // namespace
 
-void StepEngine(Engine& engine, const EngineMake& make, double lever, double mach, double density_ratio,
-                double dt) {
+double CommandedN1(const Engine& engine, double lever) {
     constexpr double kReverseN1 = 72;
-    StepCore(engine, dt);
     const double core = std::min(engine.n2 / kIdleN2, 1.0);  // what a core below idle still lacks
     const bool reverse = lever < 0;
     const double range = reverse ? kReverseN1 - kIdleN1 : kFullN1 - kIdleN1;
     const double share = std::clamp(reverse ? lever / kFullReverse : lever, 0.0, 1.0);
-    const double wanted_n1 = engine.running ? core * core * (kIdleN1 + range * share) : 0;
+    return engine.running ? core * core * (kIdleN1 + range * share) : 0;
+}
+
+void StepEngine(Engine& engine, const EngineMake& make, double lever, double mach, double density_ratio,
+                double dt) {
+    constexpr double kWindN1 = 0.035, kWindN2 = 0.058;  // percent for each knot
+    const double wind = WindSpeed(mach, density_ratio);
+    StepFlame(engine, wind * kWindN2, dt);
+    StepCore(engine, wind * kWindN2, dt);
+    const double core = std::min(engine.n2 / kIdleN2, 1.0);
+    const bool reverse = lever < 0;
+    const double wanted_n1 = std::max(CommandedN1(engine, lever), engine.running ? 0 : wind * kWindN1);
     // A fan near idle takes seconds to gather speed, near full thrust it answers at once.
-    const double lag = 1.2 + 3.0 * std::clamp((70 - engine.n1) / 50, 0.0, 1.0);
+    constexpr double kRunDown = 8;  // s
+    const double lag = engine.running ? 1.2 + 3.0 * std::clamp((70 - engine.n1) / 50, 0.0, 1.0) : kRunDown;
     engine.n1 += (wanted_n1 - engine.n1) * std::min(dt / lag, 1.0);
     const double spool = std::clamp((engine.n1 - kIdleN1) / (kFullN1 - kIdleN1), 0.0, 1.0);
     if (engine.running && engine.n2 >= kIdleN2) engine.n2 = kIdleN2 + 32 * spool;
@@ -51,9 +94,9 @@ void StepEngine(Engine& engine, const EngineMake& make, double lever, double mac
     constexpr double kLbfPerNewton = 0.224809, kSpecific = 0.37;  // lb/h for each lbf
     const double idle_flow = 1100 * density_ratio + 3300 * std::sqrt(density_ratio) * mach;
     engine.fuel_flow =
-        engine.running ? make.fuel_factor * (idle_flow + kSpecific * gross * kLbfPerNewton) : 0;
-    const double wanted_egt = engine.running ? 380 + 420 * spool : 15;
-    engine.egt_c += (wanted_egt - engine.egt_c) * std::min(dt / 4, 1.0);
+        engine.running ? make.fuel_factor * (core * idle_flow + kSpecific * gross * kLbfPerNewton) : 0;
+    const double egt_lag = engine.running ? 4 : 60;  // s
+    engine.egt_c += (WantedEgt(engine, spool) - engine.egt_c) * std::min(dt / egt_lag, 1.0);
 }
 
 double ThrustRatioOfN1(double n1) {

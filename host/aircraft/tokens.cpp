@@ -7,6 +7,7 @@
 
 #include "host/aircraft/angles.h"
 #include "host/aircraft/magnetic_variation.h"
+#include "host/aircraft/model_systems.h"
 #include "host/world/world.h"
 
 namespace host {
@@ -62,20 +63,22 @@ void FillAir(const Aircraft& aircraft) {
 
 void FillEngines(const Aircraft& aircraft) {
     struct EngineTokens {
-        int combustion, egt, n1, n2, corrected_n1, corrected_n2, lever;
+        int combustion, starter, egt, n1, n2, corrected_n1, corrected_n2, lever, fire;
     };
-    constexpr EngineTokens kTokens[] = {{560, 567, 624, 625, 626, 627, 128},
-                                        {570, 577, 643, 644, 645, 646, 163}};
+    constexpr EngineTokens kTokens[] = {{560, 563, 567, 624, 625, 626, 627, 128, 887},
+                                        {570, 573, 577, 643, 644, 645, 646, 163, 888}};
     for (std::size_t i = 0; i < aircraft.engines.size(); ++i) {
         const Engine& engine = aircraft.engines[i];
         const EngineTokens& tokens = kTokens[i];
-        SetToken(tokens.combustion, engine.running ? 1 : 0);
+        SetToken(tokens.combustion, engine.fuel_on ? 1 : 0);
+        SetToken(tokens.starter, engine.starter ? 1 : 0);
         SetToken(tokens.egt, engine.egt_c * 9 / 5 + kRankineOffset);
         SetToken(tokens.n1, engine.n1);
         SetToken(tokens.n2, engine.n2);
         SetToken(tokens.corrected_n1, engine.n1);
         SetToken(tokens.corrected_n2, engine.n2);
         SetToken(tokens.lever, aircraft.controls.thrust_lever * kFull);
+        SetToken(tokens.fire, aircraft.fails[i == 0 ? kFireLeft : kFireRight] ? 1 : 0);
     }
     // No take-off is meant in reverse, nor until the fans have run down behind it.
     const bool runs_down =
@@ -90,7 +93,7 @@ void FillEngines(const Aircraft& aircraft) {
         const Engine& engine = aircraft.engines[i];
         SetModelValue(kVariables[i].flow, engine.fuel_flow);
         SetModelValue(kVariables[i].ratio, ThrustRatioOfN1(engine.n1));
-        SetModelValue(kVariables[i].n1, engine.n1);
+        SetModelValue(kVariables[i].n1, CommandedN1(engine, aircraft.controls.thrust_lever));
     }
 }
 
@@ -114,6 +117,7 @@ void FillSurfaces(const Aircraft& aircraft) {
     SetCalc("(A:LEADING EDGE FLAPS LEFT ANGLE,degrees)", SlatAngle(aircraft.flaps));
     SetModelValue("TZ_Flaps_Handle_Index", FlapDetent(aircraft.airframe, aircraft.controls.flaps));
     SetModelValue("elev_trim_ind", aircraft.trim);
+    SetModelValue("TZ_Flaps_load_relief", aircraft.load_relief ? 1 : 0);
 }
 
 // What the cockpit model and its gauges work out for themselves.
@@ -164,6 +168,8 @@ void FillTokens(const Aircraft& aircraft) {
     FillWeights(aircraft);
     FillSurfaces(aircraft);
     FillModelVariables(aircraft);
+    if (world.ticks % kSurfaceTicks == 0) FillControlSurfaces(aircraft);
+    if (world.ticks % kSystemTicks == 0) FillModelSystems(aircraft);
 }
 
 void TakeControlsFromTokens(Aircraft& aircraft) {
@@ -174,10 +180,15 @@ void TakeControlsFromTokens(Aircraft& aircraft) {
     aircraft.controls.armed_spoilers = TokenOf(324) != 0;
     aircraft.controls.autobrake = static_cast<int>(std::clamp(NamedValue("auto_brake_switch"), -1.0, 9.0));
     aircraft.controls.wheel_brakes = TokenOf(323) >= 32000 ? 1 : 0;
-    aircraft.engines[0].running = TokenOf(560) != 0;
-    aircraft.engines[1].running = TokenOf(570) != 0;
-    aircraft.engines[0].starter = TokenOf(563) != 0;
-    aircraft.engines[1].starter = TokenOf(573) != 0;
+    constexpr int kCombustion[] = {560, 570}, kStarter[] = {563, 573};
+    for (std::size_t i = 0; i < aircraft.engines.size(); ++i) {
+        Engine& engine = aircraft.engines[i];
+        engine.fuel_on = TokenOf(kCombustion[i]) != 0;
+        // Combustion set by hand is an engine that runs: it starts by itself.
+        const bool by_itself = engine.fuel_on && world.pinned[static_cast<std::size_t>(kCombustion[i])];
+        engine.starter = TokenOf(kStarter[i]) != 0 || (by_itself && !engine.running);
+    }
+    TakeSwitches(aircraft);
 }
 
 bool TakeDataWrites(Aircraft& aircraft) {

@@ -11,6 +11,7 @@ namespace host {
 std::vector<Command> SetUpCommands();
 std::vector<Command> TimeCommands();
 std::vector<Command> HostSideCommands();
+std::vector<Command> AircraftCommands();
 std::vector<Command> CockpitCommands();
 std::vector<Command> CduCommands();
 std::vector<Command> LookingCommands();

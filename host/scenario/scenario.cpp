@@ -15,8 +15,8 @@ namespace host {
 const std::vector<Command>& Commands() {
     static const std::vector<Command> kCommands = [] {
         std::vector<Command> all;
-        for (const auto& group : {SetUpCommands(), TimeCommands(), HostSideCommands(), CockpitCommands(),
-                                  CduCommands(), LookingCommands()})
+        for (const auto& group : {SetUpCommands(), TimeCommands(), HostSideCommands(), AircraftCommands(),
+                                  CockpitCommands(), CduCommands(), LookingCommands()})
             all.insert(all.end(), group.begin(), group.end());
         return all;
     }();

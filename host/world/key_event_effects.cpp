@@ -24,6 +24,7 @@ constexpr TokenEffect kTokenEffects[] = {
     {0x100ac, Effect::kStoreBcd, 24, 0, 0, 0},      {0x100ad, Effect::kStoreBcd, 27, 0, 0, 0},
     {0x100b4, Effect::kStore, 550, 0, 0, 360},      {0x100d8, Effect::kToggle, 323, 32767, 0, 0},
     {0x100ee, Effect::kSet, 560, 1, 0, 0},          {0x100ee, Effect::kSet, 570, 1, 0, 0},
+    {0x100ee, Effect::kSet, 563, 1, 0, 0},          {0x100ee, Effect::kSet, 573, 1, 0, 0},
     {0x100f2, Effect::kSet, 560, 0, 0, 0},          {0x100f2, Effect::kSet, 570, 0, 0, 0},
     {0x10144, Effect::kToggle, 103, 1, 0, 0},       {0x10144, Effect::kToggle, 123, 1, 0, 0},
     {0x1015b, Effect::kAdd, 75, 0.3386, 880, 1085}, {0x1015c, Effect::kAdd, 75, -0.3386, 880, 1085},

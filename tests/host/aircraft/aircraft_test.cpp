@@ -290,7 +290,7 @@ TEST(AircraftTokens, AnEngineIsCrankedLitAndCutOff) {
     world = {};
     Aircraft aircraft;
     PlaceAircraftAt(aircraft, 47, -122, 400, 90, 0, 400);
-    for (Engine& engine : aircraft.engines) engine = Engine{.running = false};
+    for (Engine& engine : aircraft.engines) engine = Engine{.running = false, .fuel_on = false};
     FillTokens(aircraft);
     SetToken(323, 32767);  // brakes
     const auto n2_after = [&](double seconds) {
@@ -306,7 +306,7 @@ TEST(AircraftTokens, AnEngineIsCrankedLitAndCutOff) {
     EXPECT_EQ(TokenOf(643), 0);
     SetToken(570, 1);
     EXPECT_LT(n2_after(5), 50) << "too slow yet for a generator";
-    EXPECT_NEAR(n2_after(30), 65, 0.5);
+    EXPECT_NEAR(n2_after(40), 65, 0.5);
     EXPECT_NEAR(TokenOf(643), 22, 0.5);
     SetToken(573, 0);
     SetToken(570, 0);
@@ -329,7 +329,7 @@ TEST(AircraftTokens, ControlsSetByTokenMoveTheAircraft) {
     EXPECT_NEAR(aircraft.gear, 1, 0.01);
     EXPECT_GT(aircraft.engines[0].n1, 95);
     EXPECT_GT(aircraft.engines[0].fuel_flow, 10000);
-    EXPECT_LT(aircraft.engines[1].n1, 1);
+    EXPECT_NEAR(aircraft.engines[1].n1, 10, 2) << "the wind turns it";
     EXPECT_EQ(aircraft.engines[1].fuel_flow, 0);
     FillTokens(aircraft);
     EXPECT_EQ(TokenOf(560), 1);
