@@ -7,6 +7,7 @@
 #include <boost/beast/websocket.hpp>
 #include <chrono>
 #include <filesystem>
+#include <list>
 #include <memory>
 #include <optional>
 #include <thread>
@@ -37,7 +38,8 @@ using Timer = asio::basic_waitable_timer<std::chrono::steady_clock,
 using Request = http::request<http::string_body>;
 
 constexpr std::size_t kMaxMessage = 64 * 1024;
-constexpr int kMaxConnections = 200;     // of HTTP, before they become a browser's link
+constexpr std::size_t kMaxConnections = 200;  // of HTTP, before they become a browser's link
+constexpr auto kRequestTime = std::chrono::seconds(5), kAnswerTime = std::chrono::seconds(30);
 constexpr int kSendBuffer = 256 * 1024;  // bytes: what is on its way to a slow browser is soon old
 constexpr auto kPeerSilence = std::chrono::seconds(20);
 
@@ -47,8 +49,12 @@ std::string_view View(beast::string_view text) {
 
 }  // namespace
 
+namespace {
+class Connection;
+}
+
 struct FlightDeck::Network : Exchange {
-    int connections = 0;  // network thread only
+    std::list<Connection*> connections;  // network thread only; the one that has been idle longest first
     asio::io_context io{1};
     asio::basic_socket_acceptor<tcp, Executor> acceptor{io};
     Timer accept_pause{io};
@@ -140,9 +146,9 @@ class Connection : public std::enable_shared_from_this<Connection> {
   public:
     Connection(Socket&& socket, FlightDeck::Network& network)
         : stream_(std::move(socket)), network_(network) {
-        ++network_.connections;
+        place_ = network_.connections.insert(network_.connections.end(), this);
     }
-    ~Connection() { --network_.connections; }
+    ~Connection() { network_.connections.erase(place_); }
     Connection(const Connection&) = delete;
     Connection& operator=(const Connection&) = delete;
 
@@ -150,15 +156,19 @@ class Connection : public std::enable_shared_from_this<Connection> {
         parser_.emplace();
         parser_->body_limit(1024);
         parser_->header_limit(8192);
-        stream_.expires_after(std::chrono::seconds(30));
+        stream_.expires_after(kRequestTime);
         http::async_read(stream_, buffer_, *parser_,
                          [self = shared_from_this()](beast::error_code error, std::size_t) {
                              if (!error) self->Answer(self->parser_->release());
                          });
     }
 
+    /// Makes room for another; what is under way ends with an error.
+    void Drop() { stream_.close(); }
+
   private:
     void Answer(const Request& request) {
+        network_.connections.splice(network_.connections.end(), network_.connections, place_);
         const std::string_view path = TargetPath(View(request.target()));
         if (!MayConnect(network_.settings,
                         {View(request.target()), View(request[http::field::host]),
@@ -172,12 +182,12 @@ class Connection : public std::enable_shared_from_this<Connection> {
         }
         if (request.method() != http::verb::get && request.method() != http::verb::head)
             return SendRefusal(request, 405);
-        Send(request, AnswerFor(network_.settings, path));
+        const SiteAnswer answer = AnswerFor(network_.settings, path);
+        if (IsPage(answer) && !HasRoom(network_)) return SendRefusal(request, 503);
+        Send(request, answer);
     }
 
-    void SendRefusal(const Request& request, int status) {
-        Send(request, {status, "text/plain", std::to_string(status) + "\n"});
-    }
+    void SendRefusal(const Request& request, int status) { Send(request, Refusal(status)); }
 
     void Send(const Request& request, SiteAnswer answer) {
         auto response = std::make_shared<http::response<http::string_body>>(
@@ -193,7 +203,7 @@ class Connection : public std::enable_shared_from_this<Connection> {
         response->body() = std::move(answer.body);
         response->prepare_payload();
         if (request.method() == http::verb::head) response->body().clear();
-        stream_.expires_after(std::chrono::seconds(30));
+        stream_.expires_after(kAnswerTime);
         http::async_write(stream_, *response,
                           [self = shared_from_this(), response](beast::error_code error, std::size_t) {
                               if (!error && response->keep_alive()) return self->Read();
@@ -204,6 +214,7 @@ class Connection : public std::enable_shared_from_this<Connection> {
 
     beast::basic_stream<tcp, Executor> stream_;
     FlightDeck::Network& network_;
+    std::list<Connection*>::iterator place_;
     beast::flat_buffer buffer_;
     std::optional<http::request_parser<http::string_body>> parser_;
 };
@@ -217,7 +228,9 @@ void FlightDeck::Network::Accept() {
             beast::error_code ignored;
             socket.set_option(tcp::no_delay(true), ignored);
             socket.set_option(asio::socket_base::send_buffer_size(kSendBuffer), ignored);
-            if (connections < kMaxConnections) std::make_shared<Connection>(std::move(socket), *this)->Read();
+            // Who holds connections without asking for anything keeps nobody out.
+            if (connections.size() >= kMaxConnections) connections.front()->Drop();
+            std::make_shared<Connection>(std::move(socket), *this)->Read();
             return Accept();
         }
         // Out of files, say: time may help.

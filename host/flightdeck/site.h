@@ -15,10 +15,16 @@ struct SiteRequest {
 };
 
 struct SiteAnswer {
-    int status = 404;
-    std::string_view type = "text/plain";
-    std::string body = "404\n";
+    int status;
+    std::string_view type;
+    std::string body;
 };
+
+/// A page that tells why there is no other, and what to do.
+SiteAnswer Refusal(int status);
+
+/// Is it one of the deck's pages, rather than what belongs to one?
+bool IsPage(const SiteAnswer& answer);
 
 /// May whoever sent this be answered? A page of another site may not reach the deck, nor may a name that such
 /// a site has pointed at this machine; where a token is set whoever comes must know it.

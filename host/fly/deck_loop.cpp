@@ -11,6 +11,7 @@
 #include "host/flightdeck/commands.h"
 #include "host/flightdeck/control_sharing.h"
 #include "host/flightdeck/deck.h"
+#include "host/flightdeck/reach.h"
 #include "host/flightdeck/values.h"
 #include "host/inspection.h"
 #include "host/process.h"
@@ -111,10 +112,11 @@ std::shared_ptr<DeckLoop> OpenFlightDeck(Session& session, const FlyOptions& opt
     auto loop = std::make_shared<DeckLoop>(session, settings);
     loop->deck.SetGreeting(DeckGreeting(session));
     if (!loop->deck.Start(error)) return {};
-    const bool is_v6 = options.address.find(':') != std::string::npos;
-    std::printf("The flight deck is at http://%s%s%s:%d/%s%s (Ctrl-C ends)\n", is_v6 ? "[" : "",
-                options.address.c_str(), is_v6 ? "]" : "", loop->deck.port(),
-                settings.token.empty() ? "" : "?token=", settings.token.c_str());
+    const std::vector<std::string> urls = DeckUrls(options.address, loop->deck.port(), settings.token);
+    std::printf("The flight deck is at %s (Ctrl-C ends)\n", urls.front().c_str());
+    for (std::size_t i = 1; i < urls.size(); ++i) std::printf("  and at %s\n", urls[i].c_str());
+    if (!IsLoopback(options.address))
+        std::printf("For a tablet or phone in the same network:\n%s", DrawQrCode(urls.front()).c_str());
     std::fflush(stdout);
     return loop;
 }

@@ -210,12 +210,33 @@ test('who may come, and what there is', async (t) => {
     assert.equal(await status(port, target, headers), wanted, `${target} ${JSON.stringify(headers ?? {})}`);
 
   const wide = await startHost(t, '--address', '0.0.0.0', '--token', 'secret2abcdef');
+  const told = await until('the QR code', () => /\u2584[^]*\n\n/.test(wide.told()) && wide.told());
+  assert.match(told, /and at http:\/\/127\.0\.0\.1:\d+\/\?token=secret2abcdef\n/);
   assert.equal(await status(wide.port, '/'), 403);
+  assert.equal(await status(wide.port, '/?token=secret'), 403);
   assert.equal(await status(wide.port, '/socket', UPGRADE), 403);
   assert.equal(await status(wide.port, '/?token=secret2abcdeg'), 403);
   assert.equal(await status(wide.port, '/?token=secret2abcdef'), 200);
   assert.equal(await status(wide.port, '/main.js', {Cookie: 'token=secret2abcdef'}), 200);
   assert.equal(await status(wide.port, '/socket', {...UPGRADE, Cookie: 'token=secret2abcdef'}), 101);
+});
+
+test('who holds connections and asks for nothing keeps nobody out', async (t) => {
+  const {port, address} = await startHost(t);
+  const held = [...Array(600)].map(() => createConnection(port, '127.0.0.1'));
+  t.after(() => held.forEach((socket) => socket.destroy()));
+  let closed = 0;
+  for (const socket of held) socket.on('error', () => {}).on('close', () => { ++closed; }).resume().write('GET / HT');
+  await until('most to be dropped', () => closed >= 400);
+  const page = await openDeck(t, address);
+  await until('all to be dropped', () => closed === 600);
+  await page.evaluate(() => {
+    window.links = [...Array(31)].map(() => new WebSocket(`ws://${location.host}/socket`));
+  });
+  await until('the links', () => page.evaluate(() => window.links.every((link) => link.readyState === 1)));
+  assert.equal(await status(port, '/'), 503);
+  assert.equal(await status(port, '/socket', UPGRADE), 503);
+  assert.equal(await status(port, '/main.js'), 200);
 });
 
 test('a browser that stops reading costs the host nothing', async (t) => {
