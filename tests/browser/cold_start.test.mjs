@@ -22,6 +22,8 @@ test('from battery to screens', async (t) => {
   for (const screen of ['capt_outb', 'capt_inb', 'fo_inb', 'fo_outb', 'stby'])
     assert.equal(await litPixels(page, screen), 0, screen);
 
+  const windows = () => page.locator('.mcp-window .window').allTextContents();
+  assert.equal((await windows()).join(''), '', 'the mode control panel is dark');
   await page.click(face('TZ_OH_ELE_BAT_Button'));
   await untilValue(page, 'power_level', 5);
   await until('the APU generator\'s OFF lamp', () => isLit(page, 'TZ_OH_Annun_OFF_APUL'));
@@ -37,6 +39,7 @@ test('from battery to screens', async (t) => {
   await page.click('.rate[data-rate="1"]');
   await page.click(face('TZ_OH_APU_GEN_LEFT_Button'));
   await untilValue(page, 'power_level', 455);
+  await until('the windows lit', async () => (await windows()).join('') !== '');
   await until('the OFF lamp to go out', async () => !await isLit(page, 'TZ_OH_Annun_OFF_APUL'));
   for (const screen of ['capt_outb', 'fo_outb', 'fo_inb', 'stby'])
     await until(`${screen} lit`, async () => await litPixels(page, screen) > 0);

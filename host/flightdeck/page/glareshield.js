@@ -9,6 +9,7 @@ function digits(entry, value) {
   return (entry.sign ? (number < 0 ? '-' : number > 0 ? '+' : '') : '') + text;
 }
 
+const BATTERY_ALONE = 5;  // power_level, at which the panel is dark
 const PIXELS_A_STEP = 6;  // of a drag
 
 // A window over its knob. The knob turns by the wheel, by a drag up or right and by the arrow keys, with Shift or Page
@@ -19,12 +20,13 @@ function makeWindow(panels, entry) {
   shown.dataset.value = entry.value;
   shown.setAttribute('aria-label', entry.label);
   const show = () => {
-    const blank = entry.blank && entry.blank[1].includes(link.number(entry.blank[0])) &&
+    const dark = link.number('power_level') <= BATTERY_ALONE;
+    const blank = dark || entry.blank && entry.blank[1].includes(link.number(entry.blank[0])) &&
                   !(entry.open && link.number(entry.open) === 1);
     const mach = entry.mach && link.number(entry.mach[0]) === 1 ? link.number(entry.mach[1]) : 0;
     shown.textContent = blank ? '' : mach > 0 ? mach.toFixed(3).slice(1) : digits(entry, link.values.get(entry.value) ?? 0);
   };
-  for (const name of [entry.value, entry.blank?.[0], entry.open, ...(entry.mach ?? [])])
+  for (const name of ['power_level', entry.value, entry.blank?.[0], entry.open, ...(entry.mach ?? [])])
     if (name) link.watch(name, () => queueMicrotask(show));
 
   const turn = (detents) => link.send({type: 'area', gauge: 'MCP', button: 'left',

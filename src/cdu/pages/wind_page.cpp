@@ -183,7 +183,9 @@ void WindPage(PageCall& call) {
 
     const FlightPlanLeg& leg = LegShown(call);
     Title(call, 105, leg.ident, call.unit.wind_leg == ShownActiveLeg() ? kMagenta : kWhite);
-    Title(call, 140, "WIND");
+    // A long ident takes the place of the title's first letters, which moves on.
+    const double behind_ident = 105 + 7.0 * (static_cast<double>(leg.ident.size()) + 0.5);
+    Title(call, std::max(140.0, behind_ident), "WIND");
     PageText(call, 228, 23, Format("%d/%d", place, count), kWhite, kLabelSize);
     LeftLabel(call, 1, "ALT");
     PageText(call, 110, LabelY(1), "OAT", kCyan, kLabelSize);

@@ -38,6 +38,13 @@ constexpr CduPage kPages[] = {
     {kPageWind, WindPage, true, kWindRows},
 };
 
+// Ids that keys and panel files name, and that have no row above yet. Any other id is no page.
+constexpr int kPagesToCome[] = {kPagePerfInit,     kPageApproachRef,   kPageVnav,           kPagePanels,
+                                kPageInitRefIndex, kPageIdent,         kPagePosInit,        kPageTakeoffRef,
+                                kPageRefNavData,   kPageProgress,      kPageFixInfo,        kPageHold,
+                                kPageNavRadio,     kPageAltn,          kPageThrustLim,      kPageAltnDetail,
+                                kPagePosReport,    kPageAnnouncements, kPageDescentForecast};
+
 struct FirstItem {
     int page, item;
 };
@@ -53,6 +60,10 @@ const CduPage* FindPage(int id) {
     const auto* row = std::find_if(std::begin(kPages), std::end(kPages),
                                    [id](const CduPage& page) { return page.id == id; });
     return row == std::end(kPages) ? nullptr : row;
+}
+
+bool IsPageToCome(int id) {
+    return std::find(std::begin(kPagesToCome), std::end(kPagesToCome), id) != std::end(kPagesToCome);
 }
 
 int FirstCursorItem(int page) {

@@ -20,6 +20,7 @@ double MiddleOf(const ContentPlace& place) {
 void DrawName(Graphics& graphics, double middle, double height, const char* name) {
     constexpr float kSize = 20;
     CentredText(graphics, middle, height / 2 - kSize, kSize, kBlueGrey, name);
+    CentredText(graphics, middle, height / 2 + kSize / 2, kSize / 2, kBlueGrey, "not there yet");
 }
 
 void DrawFormatName(Graphics& graphics, const ContentPlace& place, const char* name) {
