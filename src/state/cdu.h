@@ -70,7 +70,7 @@ struct CduState {
     // page within a family, from 1
     int rte_index = 1, legs_index = 1, rte_data_index = 1;
     int dep_index = 1, arr_index = 1, select_index = 1;
-    int progress_index = 1, altn_index = 1, fix_index = 1;
+    int takeoff_index = 1, progress_index = 1, altn_index = 1, fix_index = 1;
     int flight_plans_index = 1, panels_index = 1;
     int wind_leg = 0;            // leg of the wind page
     int arrivals_of_origin = 0;  // ARRIVALS shows those of the origin, for a return

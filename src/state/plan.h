@@ -118,7 +118,7 @@ constexpr int kNoStepEntry = -99;
 struct PerfEntries {
     PlannedSpeeds speeds;
     int ActiveStepSize = kNoStepEntry;  // ft, or a kind of step
-    int ActiveCostIndex = -1;           // -1 = nothing
+    int ActiveCostIndex = -1;           // -1 = nothing, -2 = none in place of the one in force
     double cruise_alt = 0;              // ft
 };
 

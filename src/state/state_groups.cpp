@@ -61,7 +61,7 @@ void Reset() {
 
 constexpr StateGroup kGroups[] = {
     {"host_link", Reset<&host_link>, &kHostLinkVariables, "frame/ panels/save_panel"},
-    {"cfg", Reset<&cfg>, &kCfgVariables, "frame/ guidance/ systems/"},
+    {"cfg", Reset<&cfg>, &kCfgVariables, "frame/ guidance/ systems/ cdu/pages/"},
     {"identity", Reset<&identity>, &kIdentityVariables, "frame/aircraft navdata/airport_file"},
     {"weights", Reset<&weights>, &kWeightVariables, "frame/"},
     {"irs", Reset<&irs>, &kIrsVariables, "systems/"},
@@ -90,16 +90,16 @@ constexpr StateGroup kGroups[] = {
     {"route_files", Reset<&route_files>, &kRouteFileVariables, "fmc/files/"},
     {"perf", Reset<&perf>, &kPerfVariables,
      "fmc/legs/route_state fmc/performance/ fmc/route/ fmc/files/ guidance/vnav_speed "
-     "cdu/words/constraint_entry"},
+     "cdu/words/ cdu/pages/"},
     {"predictions", Reset<&predictions>, &kPredictionVariables, "fmc/performance/ fmc/route/"},
     {"takeoff_approach", Reset<&takeoff_approach>, &kTakeoffApproachVariables,
-     "frame/aircraft fmc/performance/approach_speeds cdu/unit/keypad display/pfd/pfd_memory"},
+     "frame/aircraft fmc/performance/ systems/thrust_rating cdu/pages/ cdu/unit/keypad display/pfd/pfd_memory"},
     {"flight_log", Reset<&flight_log>, &kFlightLogVariables,
      "fmc/performance/flight_log fmc/route/execute_route fmc/files/loaded_route panels/load_panel"},
     {"vnav", Reset<&vnav>, &kVnavVariables, "frame/crew_messages fmc/performance/ fmc/route/ guidance/"},
     {"lnav", Reset<&lnav>, &kLnavVariables, "fmc/legs/holds fmc/route/ guidance/ cdu/unit/cdu_service"},
     {"pause_points", Reset<&pause_points>, &kPausePointVariables, "guidance/pause_points"},
-    {"autoflight", Reset<&autoflight>, &kAutoflightVariables, "guidance/ panels/panel_keys"},
+    {"autoflight", Reset<&autoflight>, &kAutoflightVariables, "guidance/ systems/thrust_rating panels/panel_keys"},
     {"sound", Reset<&sound>, &kSoundVariables, "frame/ systems/ sound/ module/"},
     {"cdu", Reset<&cdu>, &kCduVariables, "frame/ cdu/words/ cdu/unit/"},
     {"route_pages", Reset<&route_pages>, &kRoutePageVariables, "cdu/words/views cdu/pages/ cdu/unit/items"},
@@ -114,7 +114,7 @@ constexpr StateGroup kGroups[] = {
      "frame/named_variable_catalogue frame/model_values guidance/decision_height "
      "display/routing/instrument_controls display/synoptics/efis_dsp_page display/pfd/pfd_memory"},
     {"efb", Reset<&efb>, &kEfbVariables, "efb/"},
-    {"tablet_performance", Reset<&tablet_performance>, &kTabletPerformanceVariables, ""},
+    {"tablet_performance", Reset<&tablet_performance>, &kTabletPerformanceVariables, "cdu/pages/"},
     {"remote", Reset<&remote>, &kRemoteVariables, "display/pictures/remote_bridge module/remote_input"},
     {"requests", Reset<&requests>, &kRequestVariables,
      "fmc/legs/holds fmc/route/modification fmc/files/ guidance/ cdu/words/views checklist/ "

@@ -17,6 +17,7 @@ namespace {
 constexpr Variable kWeightRows[] = {
     {"zfw", &weights.zfw},
     {"gross_weight", &weights.gross_weight},
+    {"GrossWeightShown", &weights.gross_weight},
     {"flap_speeds", &weights.flap_speeds},
     {"flap_speed_row", &weights.flap_speed_row},
     {"flap_speed_ref_weight", &weights.flap_speed_ref_weight},

@@ -19,6 +19,8 @@ constexpr Variable kWindsRows[] = {
     {"WxStations", &winds.WxStations},
     {"wx_station_cnt", &winds.wx_station_cnt},
     {"DescentForecast", &winds.DescentForecast},
+    {"TransLvl", &winds.TransLvl},
+    {"AntiIceAlt", &winds.AntiIceAlt},
     {"wind_uplink_timer", &winds.wind_uplink_timer},
     {"wind_uplink_pending", &winds.wind_uplink_pending},
     {"wind_uplink_side", &winds.wind_uplink_side},

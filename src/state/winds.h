@@ -21,6 +21,8 @@ struct WindsState {
     GrowingList<WxStation> WxStations;  // from 1, made anew at each request
     int wx_station_cnt = 0;
     std::array<WindLevel, 4> DescentForecast = {};  // the whole descent's; fmc/winds
+    int TransLvl = 0;                               // ft, 0 = the transition altitude
+    int AntiIceAlt = 0;                             // ft, below which anti-ice is on in the descent; 0 = none
     int wind_uplink_timer = 0;    // s until what was requested has come; 0 = nothing is under way
     int wind_uplink_pending = 0;  // 1 = it waits for LOAD
     int wind_uplink_side = 1;     // who asked

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "base/text.h"
+#include "cdu/words/eta.h"
 #include "cdu/words/page.h"
 #include "cdu/words/shown_plan.h"
 #include "fmc/legs/route_state.h"
@@ -21,7 +22,6 @@
 namespace {
 
 constexpr int kLegsPerPage = 5;
-constexpr double kUsableGroundSpeed = 60;  // kt; below it the planned one counts
 
 int PageCount() {
     return PagesFor(ShownCount() - FirstShownLeg() + 1, kLegsPerPage);
@@ -46,16 +46,9 @@ double DistanceTo(int leg) {
 
 // From one leg to the next, as the aircraft goes now.
 void FlyTo(Arrival& arrival, int leg) {
-    const double speed = sim.ground_speed_kt > kUsableGroundSpeed ? sim.ground_speed_kt : predictions.avg_gs;
     const double distance = DistanceTo(leg);
-    if (speed > 0) arrival.hours += distance / speed;
+    arrival.hours += HoursFor(distance);
     arrival.fuel_lb = std::max(0.0, arrival.fuel_lb - distance * BurnPerNm(leg));
-}
-
-std::string EtaText(double hours_from_now) {
-    const double minutes =
-        std::fmod(sim.utc_hours * 60 + sim.utc_minutes + std::floor(hours_from_now * 60), 1440);
-    return Format("%02.0f%02.0fZ", std::floor(minutes / 60), std::fmod(minutes, 60));
 }
 
 bool HasWinds(const FlightPlanLeg& leg) {

@@ -2,11 +2,11 @@
 
 #include <algorithm>
 #include <array>
-#include <optional>
 
 #include "base/text.h"
 #include "cdu/words/page.h"
 #include "cdu/words/shown_plan.h"
+#include "cdu/words/typed_values.h"
 #include "fmc/legs/route_state.h"
 #include "frame/crew_messages.h"
 #include "state/cfg.h"
@@ -47,13 +47,6 @@ void SortWinds(Winds& winds) {
 int CountWinds(const Winds& winds) {
     return static_cast<int>(
         std::count_if(winds.begin(), winds.end(), [](const WindLevel& w) { return w.alt != 0; }));
-}
-
-// Both sides of a slash; nothing without one.
-std::optional<std::pair<std::string_view, std::string_view>> SplitAtSlash(std::string_view text) {
-    const std::size_t slash = text.find('/');
-    if (slash == std::string_view::npos) return {};
-    return std::pair(text.substr(0, slash), text.substr(slash + 1));
 }
 
 bool IsFlightLevel(std::string_view text) {
@@ -97,14 +90,10 @@ void OnWind(PageCall& call, int row) {
         return call.unit.ScratchMessage.clear();
     }
     if (Entry(call).empty()) return;
-    const auto parts = SplitAtSlash(Entry(call));
-    if (level.alt == 0 || !parts || !IsNumber(parts->first) || !IsNumber(parts->second))
-        return Refuse(call, "INVALID WIND ENTRY", kHelpWindEntry);
-    level.dir = LeadingDouble(parts->first);
-    level.spd = LeadingDouble(parts->second);
-    const auto in_range = [](double value) { return value >= 0 && value < 360; };
-    if (!in_range(level.dir) || !in_range(level.spd))
-        return Refuse(call, "INVALID WIND ENTRY", kHelpWindEntry);
+    const auto wind = ParseWind(Entry(call));
+    if (level.alt == 0 || !wind) return Refuse(call, "INVALID WIND ENTRY", kHelpWindEntry);
+    level.dir = wind->direction;
+    level.spd = wind->speed;
     StoreWinds(call, winds);
     ClearEntry(call);
 }

@@ -4,14 +4,18 @@
 #include <initializer_list>
 #include <iterator>
 
+#include "cdu/pages/approach_ref_page.h"
 #include "cdu/pages/arrivals_page.h"
 #include "cdu/pages/dep_arr_index_page.h"
 #include "cdu/pages/departures_page.h"
 #include "cdu/pages/flight_plans_page.h"
 #include "cdu/pages/legs_page.h"
+#include "cdu/pages/perf_init_page.h"
 #include "cdu/pages/rte_data_page.h"
 #include "cdu/pages/rte_page.h"
 #include "cdu/pages/select_wpt_page.h"
+#include "cdu/pages/takeoff_ref_page.h"
+#include "cdu/pages/thrust_lim_page.h"
 #include "cdu/pages/wind_page.h"
 
 namespace {
@@ -28,10 +32,14 @@ constexpr unsigned kWindRows = Lines({kL2, kL3, kL4, kR1, kR2, kR3, kR4});
 
 constexpr CduPage kPages[] = {
     {kPageFlightPlans, FlightPlansPage, true, kNoLine},
+    {kPagePerfInit, PerfInitPage, false, Lines({kL2, kL3, kR2, kR5})},
     {kPageLegs, LegsPage, true, kRows1To5},
     {kPageSelectWpt, SelectWptPage, true, kNoLine},
     {kPageDepartures, DeparturesPage, true, kNoLine},
     {kPageArrivals, ArrivalsPage, true, kNoLine},
+    {kPageApproachRef, ApproachRefPage, false, kNoLine},
+    {kPageTakeoffRef, TakeoffRefPage, true, Lines({kL2, kL3})},
+    {kPageThrustLim, ThrustLimPage, false, Lines({kL1})},
     {kPageRte, RtePage, true, kRows1To5},
     {kPageDepArrIndex, DepArrIndexPage, false, kNoLine},
     {kPageRteData, RteDataPage, true, kNoLine},

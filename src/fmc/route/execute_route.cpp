@@ -41,9 +41,10 @@ void ApplyEntries() {
     for (const auto& [speed, selected] : kPlannedSpeeds)
         if (entries.speeds.*speed > 0) perf.speeds.*speed = entries.speeds.*speed;
     if (entries.ActiveStepSize > kNoStepEntry) perf.fms_step_size = entries.ActiveStepSize;
-    if (entries.ActiveCostIndex < 0) return;
-    perf.cost_index = entries.ActiveCostIndex;
-    plan.mod.selected = {};
+    constexpr int kNoCostIndex = -1;
+    if (entries.ActiveCostIndex == kNoCostIndex) return;
+    perf.cost_index = std::max(entries.ActiveCostIndex, kNoCostIndex);
+    if (perf.cost_index > kNoCostIndex) plan.mod.selected = {};
 }
 
 void BeginNewRoute() {
