@@ -104,7 +104,9 @@ void FillWeights(const Aircraft& aircraft) {
         SetToken(kTankTokens[tank], aircraft.fuel_lb[tank] / (capacity * kFuelLbPerGallon) * kFullTank);
         SetToken(kTankTokens[tank] + 1, capacity);
     }
+    constexpr double kCgPercent = 24;  // its payload and fuel lie about the wing
     SetCalc("(A:EMPTY WEIGHT,pounds)", aircraft.airframe.empty_lb);
+    SetCalc("(A:CG PERCENT,percent)", kCgPercent);
     for (std::size_t station = 0; station < aircraft.payload_lb.size(); ++station)
         SetCalc(kPayloadExpressions[station], aircraft.payload_lb[station]);
 }

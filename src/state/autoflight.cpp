@@ -25,6 +25,7 @@ constexpr Variable kAutoflightRows[] = {
     {"ap_master_disconnect", &autoflight.ap_master_disconnect},
     {"tz_spd_intv_active", &autoflight.spd_intv_active},
     {"tz_thrust_limit", &autoflight.thrust_limit},
+    {"ThrustMode", &autoflight.thrust_limit},
     {"ap_disc_warning", &autoflight.ap_disc_warning},
     {"ap_disc_latch", &autoflight.ap_disc_latch},
     {"ap_status_timer", &autoflight.ap_status_timer},

@@ -12,6 +12,8 @@ constexpr Variable kEngineRows[] = {
     {"engine_turns", &engines.engine_turns},
     {"eng_starter_cutout", &engines.eng_starter_cutout},
     {"FMC_TO_Derate", &engines.FMC_TO_Derate},
+    {"TakeoffDerate", &engines.FMC_TO_Derate},
+    {"ClimbDerate", &engines.FMC_CLB_Derate},
     {"FMC_CLB_Derate", &engines.FMC_CLB_Derate},
     {"FMC_Flex_Temp", &engines.FMC_Flex_Temp},
     {"climb_derate_exchanged", &engines.climb_derate_exchanged},

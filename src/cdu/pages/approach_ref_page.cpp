@@ -135,8 +135,7 @@ void DrawSpeeds(PageCall& call) {
     RightLabel(call, 4, "FLAP/SPEED");
     const bool uplink = IsUplinkPending();
     const int flaps = uplink ? tablet_performance.uplink.EfbApproachUplinkFlaps : takeoff_approach.ldg_flaps;
-    const double speed =
-        uplink ? tablet_performance.uplink.EfbApproachUplinkSpeed : takeoff_approach.vref;
+    const double speed = uplink ? tablet_performance.uplink.EfbApproachUplinkSpeed : takeoff_approach.vref;
     RightData(call, 4, flaps > 0 && speed > 0 ? Format("%d/%.0f", flaps, speed) : "---/---");
 }
 

@@ -83,7 +83,7 @@ void FollowCostIndex(int cost_index) {
     const double cruise = active && pending > 0 ? pending : perf.cruise_alt;
     if (selected.ClimbSelected == 0) speeds.climb_ias = EconClimbSpeed(cost_index);
     const bool by_knots = selected.CruiseSelected == 1, by_mach = selected.CruiseMachSelected == 1;
-    if (!by_knots && !by_mach && selected.LrcSelected == 0 && (!active || cruise >= kLowestCruise))
+    if (!by_knots && !by_mach && selected.LrcSelected == 0 && cruise >= kLowestCruise)
         speeds.cruise_mach = EconCruiseMach(cost_index, cruise);
     if (selected.DescentSelected == 0) speeds.descent_ias = EconDescentSpeed(cost_index);
 }

@@ -38,12 +38,6 @@ double BurnPerNm(int leg) {
     return predictions.crz_burn_per_nm;
 }
 
-double DistanceTo(int leg) {
-    if (leg == ShownActiveLeg() && lnav.wpt_dist > 0) return lnav.wpt_dist;
-    const ShownTrack track = TrackToLeg(leg);
-    return track.known ? track.dist : 0;
-}
-
 // From one leg to the next, as the aircraft goes now.
 void FlyTo(Arrival& arrival, int leg) {
     const double distance = DistanceTo(leg);

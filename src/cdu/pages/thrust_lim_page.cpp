@@ -63,7 +63,8 @@ void DrawLimit(PageCall& call) {
     LeftData(call, 1, selected + Format("/%.0f%s", sim.oat_c, kDegree));
     const char* unit = identity.engine_model == "TRENT 1000" ? "TPR" : "N1";
     RightLabel(call, 1, Format("%s %s", ThrustModeName(), unit));
-    RightData(call, 1, Format("%.1f%%", engines.FADEC_Green_line));
+    const double limit = engines.FADEC_Green_line;  // 0 until the model tells it
+    RightData(call, 1, limit > 0 ? Format("%.1f%%", limit) : "--.-%");
 }
 
 void DrawSelected(PageCall& call, double x, int row) {

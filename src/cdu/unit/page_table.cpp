@@ -8,6 +8,7 @@
 #include "cdu/pages/arrivals_page.h"
 #include "cdu/pages/dep_arr_index_page.h"
 #include "cdu/pages/departures_page.h"
+#include "cdu/pages/descent_forecast_page.h"
 #include "cdu/pages/flight_plans_page.h"
 #include "cdu/pages/legs_page.h"
 #include "cdu/pages/perf_init_page.h"
@@ -16,6 +17,7 @@
 #include "cdu/pages/select_wpt_page.h"
 #include "cdu/pages/takeoff_ref_page.h"
 #include "cdu/pages/thrust_lim_page.h"
+#include "cdu/pages/vnav_page.h"
 #include "cdu/pages/wind_page.h"
 
 namespace {
@@ -38,6 +40,8 @@ constexpr CduPage kPages[] = {
     {kPageDepartures, DeparturesPage, true, kNoLine},
     {kPageArrivals, ArrivalsPage, true, kNoLine},
     {kPageApproachRef, ApproachRefPage, false, kNoLine},
+    {kPageVnav, VnavPage, true, Lines({kL3, kL4, kL5})},
+    {kPageDescentForecast, DescentForecastPage, false, Lines({kL2, kL3, kL4, kL5, kR1, kR2, kR3, kR4, kR5})},
     {kPageTakeoffRef, TakeoffRefPage, true, Lines({kL2, kL3})},
     {kPageThrustLim, ThrustLimPage, false, Lines({kL1})},
     {kPageRte, RtePage, true, kRows1To5},

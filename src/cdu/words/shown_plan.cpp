@@ -9,6 +9,7 @@
 #include "navdata/geodesy.h"
 #include "navdata/magnetic_model.h"
 #include "state/leg_words.h"
+#include "state/lnav.h"
 
 namespace {
 
@@ -45,4 +46,10 @@ ShownTrack TrackToLeg(int index) {
     double course = FoldBearing(line.bearing - MagVarAt(from.lat, from.lon));
     if (course < 0.5) course += 360;
     return {true, course, line.dist};
+}
+
+double DistanceTo(int leg) {
+    if (leg == ShownActiveLeg() && lnav.wpt_dist > 0) return lnav.wpt_dist;
+    const ShownTrack track = TrackToLeg(leg);
+    return track.known ? track.dist : 0;
 }

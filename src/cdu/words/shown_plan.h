@@ -19,3 +19,6 @@ struct ShownTrack {
     double dist = 0;
 };
 ShownTrack TrackToLeg(int index);
+
+/// Distance (nm) to a shown leg from the place before it; of the leg that is flown what is left of it.
+double DistanceTo(int leg);

@@ -36,7 +36,8 @@ std::optional<TypedWind> ParseWind(std::string_view text) {
     const auto parts = SplitAtSlash(text);
     if (!parts) return {};
     constexpr double kLimit = 360;
-    const auto direction = TypedNumber(parts->first, 0, kLimit), speed = TypedNumber(parts->second, 0, kLimit);
+    const auto direction = TypedNumber(parts->first, 0, kLimit),
+               speed = TypedNumber(parts->second, 0, kLimit);
     if (!direction || !speed || *direction == kLimit || *speed == kLimit) return {};
     return TypedWind{*direction, *speed};
 }

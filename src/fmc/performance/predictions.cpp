@@ -154,6 +154,13 @@ int MaxAltitudeFor(double weight) {
     return static_cast<int>(std::clamp(std::round(feet / 100 + 0.5), 0.0, limit));
 }
 
+int OptimumAltitude() {
+    int best = 0;
+    for (const WeightAltitude& row : kAltitudeByWeight)
+        if (row.weight >= GrossWeight()) best = static_cast<int>(row.altitude / 100);
+    return best;
+}
+
 double BestAltitude() {
     constexpr double kShortest = 35, kLongest = 450;
     constexpr double kStep = 20;  // nm

@@ -36,6 +36,9 @@ double PerfFactor();
 int MaxAltitude();
 int MaxAltitudeFor(double weight);
 
+/// The best altitude for the gross weight, in hundreds of feet; 0 when it is too heavy for any.
+int OptimumAltitude();
+
 /// A cruise altitude (ft) for a short route without one, 0 when there is none.
 double BestAltitude();
 

@@ -2,6 +2,7 @@
 
 #include "base/angles.h"
 #include "fmc/performance/predictions.h"
+#include "fmc/performance/takeoff_reference.h"
 #include "frame/named_variables.h"
 #include "navdata/from_aircraft.h"
 #include "state/airports.h"
@@ -45,6 +46,7 @@ void PublishFmcValues() {
     WriteNamedVar(NamedVar("tz_fpln_active"), plan.fms_fpln_active);
     WriteNamedVar(NamedVar("tz_dest_dist"), predictions.dist_to_dest);
     WriteNamedVar(NamedVar("tz_dest_elev"), airports.dest_airport.elevation_ft);
+    WriteNamedVar(NamedVar("tz_cdu_preflt_compl"), IsPreflightComplete() ? 1 : 0);
     WriteNamedVar(NamedVar("tz_v1"), takeoff_approach.v1);
     WriteNamedVar(NamedVar("tz_V1"), takeoff_approach.v1);
     WriteNamedVar(NamedVar("tz_vr"), takeoff_approach.vr);

@@ -75,7 +75,10 @@ void FillSpeeds() {
     const double altitude = perf.cruise_alt > 0 ? perf.cruise_alt : kUsualCruise;
     if (perf.cost_index < 0) {
         if (selected.climb_mach_manual == 0) speeds.climb_mach = IasToMach(speeds.climb_ias, altitude);
-        if (selected.CruiseMachSelected == 0) speeds.cruise_mach = IasToMach(speeds.cruise_ias, altitude);
+        if (selected.LrcSelected == 1)
+            speeds.cruise_mach = EconCruiseMach(kLongRangeCruise, altitude);
+        else if (selected.CruiseMachSelected == 0)
+            speeds.cruise_mach = IasToMach(speeds.cruise_ias, altitude);
         if (selected.descent_mach_manual == 0) speeds.descent_mach = IasToMach(speeds.descent_ias, altitude);
         return;
     }

@@ -1,0 +1,6 @@
+#pragma once
+
+struct PageCall;
+
+/// CLB, the first of the VNAV group.
+void ClimbPage(PageCall& call);

@@ -1,0 +1,6 @@
+#pragma once
+
+struct PageCall;
+
+/// CRZ, the second of the VNAV group.
+void CruisePage(PageCall& call);
