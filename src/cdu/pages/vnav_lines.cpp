@@ -94,7 +94,7 @@ void VnavTitle(PageCall& call, const SpeedPair& pair, std::string_view phase) {
         speed = Format("%.0fKT", Shown(pair.ias));
     else if (plan.mod.selected.*pair.mach_selected != 0)
         speed = Format("M.%03.0f", Shown(pair.mach) * 1000);
-    else if (&pair == &kCruisePair && plan.mod.selected.LrcSelected != 0)
+    else if (pair.mach == kCruisePair.mach && plan.mod.selected.LrcSelected != 0)
         speed = "LRC";
     RouteStatusMark(call, kMarkX);
     Title(call, kTitleX, speed.append(" ").append(phase), IsRouteSettled() ? kMapGreen : kWhite);
