@@ -1,5 +1,6 @@
 #include <benchmark/benchmark.h>
 
+#include <cstdlib>
 #include <string>
 
 #include "cdu/unit/cdu_format.h"
@@ -17,7 +18,9 @@
 
 namespace {
 
-constexpr int kPages[] = {kPageRte, kPageLegs, kPageRteData, kPageWind, kPageDepartures, kPageArrivals};
+constexpr int kPages[] = {kPageRte,        kPageLegs,        kPageRteData,  kPageWind,
+                          kPageDepartures, kPageArrivals,    kPagePerfInit, kPageThrustLim,
+                          kPageTakeoffRef, kPageApproachRef, kPageVnav,     kPageDescentForecast};
 
 void FillRoute(int last) {
     FillLegs(plan.active.legs, last);
@@ -34,7 +37,9 @@ void DrawPages(benchmark::State& state) {
     DrawList picture;
     int turn = 0;
     for (auto _ : state) {
-        cdu[0].fms_page = kPages[turn++ % std::size(kPages)];
+        const auto [round, page] = std::div(turn++, static_cast<int>(std::size(kPages)));
+        cdu[0].fms_page = kPages[page];
+        cdu[0].fms_vnav_page = round % kVnavDesPage + 1;
         Graphics graphics = GdipCreateGraphics(picture, 564, 424);
         DrawCdu(graphics, 1, 5);
     }

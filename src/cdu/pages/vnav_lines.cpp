@@ -88,7 +88,7 @@ void SpeedLine(PageCall& call, const SpeedPair& pair, std::string_view label) {
 }
 
 void VnavTitle(PageCall& call, const SpeedPair& pair, std::string_view phase) {
-    constexpr double kMarkX = 80, kTitleX = 108;
+    constexpr double kMarkX = 86, kTitleX = 113;
     std::string speed = "ECON";
     if (plan.mod.selected.*pair.ias_selected != 0)
         speed = Format("%.0fKT", Shown(pair.ias));

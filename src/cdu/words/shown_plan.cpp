@@ -50,6 +50,8 @@ ShownTrack TrackToLeg(int index) {
 
 double DistanceTo(int leg) {
     if (leg == ShownActiveLeg() && lnav.wpt_dist > 0) return lnav.wpt_dist;
-    const ShownTrack track = TrackToLeg(leg);
-    return track.known ? track.dist : 0;
+    const int before = PlaceBefore(ShownList(), leg);
+    if (before < 0 || !IsPlace(ShownLeg(leg))) return 0;
+    const FlightPlanLeg& from = ShownLeg(before);
+    return GreatCircle(from.lat, from.lon, ShownLeg(leg).lat, ShownLeg(leg).lon).dist;
 }

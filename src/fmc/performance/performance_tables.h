@@ -139,9 +139,9 @@ struct GridTable {
 };
 
 /// Economy climb speed by gross weight and cost index.
-constexpr GridTable<17, 5> kEconClimb = {
+constexpr GridTable<18, 5> kEconClimb = {
     {200000, 220000, 240000, 260000, 280000, 300000, 320000, 340000, 360000, 380000, 400000, 420000, 440000,
-     460000, 480000, 500000, 520000},
+     460000, 480000, 500000, 520000, 540000},
     {0, 100, 200, 300, 340},
     {{{288, 296, 302, 317, 336},
       {290, 298, 305, 320, 336},
@@ -159,7 +159,8 @@ constexpr GridTable<17, 5> kEconClimb = {
       {311, 327, 334, 346, 347},
       {312, 329, 336, 347, 348},
       {314, 331, 338, 348, 349},
-      {316, 333, 340, 349, 350}}}};
+      {316, 333, 340, 349, 350},
+      {317, 335, 342, 350, 350}}}};
 
 /// Economy descent speed by gross weight and cost index.
 constexpr GridTable<7, 5> kEconDescent = {{200000, 250000, 300000, 350000, 400000, 450000, 500000},
