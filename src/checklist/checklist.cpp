@@ -106,7 +106,7 @@ int RowAt(int x, int y) {
 
 void OpenFromMenu(int list) {
     List() = list;
-    SetAllItems(kNotDone);
+    ResetList();
     CurrentItemOf(list) = 0;
 }
 

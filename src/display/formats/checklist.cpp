@@ -14,18 +14,18 @@
 namespace {
 
 constexpr float kItemSize = 9, kTitleSize = 11;
-constexpr int kSecondLine = 10;
+constexpr int kOnlyLine = 3, kFirstLine = -2, kSecondLine = 8;
 // The middle of a half, where the drawing's frame has its origin.
 constexpr int kMiddleX = 141, kMiddleY = 235;
 
 constexpr int kDone = 1, kOverridden = 2;
 
-// Two lines of text, of which the second may be missing.
+// In the middle of a row's frame: one line of text, or two.
 void DrawLines(Graphics& graphics, double x, double y, Rgb colour, std::string_view text) {
     const std::size_t end = text.find('\n');
-    Text(graphics, x, y, kItemSize, colour, text.substr(0, end));
-    if (end != std::string_view::npos)
-        Text(graphics, x, y + kSecondLine, kItemSize, colour, text.substr(end + 1));
+    if (end == std::string_view::npos) return Text(graphics, x, y + kOnlyLine, kItemSize, colour, text);
+    Text(graphics, x, y + kFirstLine, kItemSize, colour, text.substr(0, end));
+    Text(graphics, x, y + kSecondLine, kItemSize, colour, text.substr(end + 1));
 }
 
 void DrawArrowLeft(Graphics& graphics, int x, int y) {
