@@ -254,6 +254,9 @@ void ReadSlowValues() {
     sim.nav2_ident = EvalCalcText("(A:NAV IDENT:2,string)");
     sim.adf1_ident = EvalCalcText("(A:ADF IDENT:1,string)");
     sim.adf2_ident = EvalCalcText("(A:ADF IDENT:2,string)");
+}
+
+void ReadDoors() {
     sim.door_count = 0;
     for (const Door& door : kDoors) {
         sim.*door.member = EvalCalc(door.expression) != 0 ? 1 : 0;

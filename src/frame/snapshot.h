@@ -14,8 +14,11 @@ void StepFlightClock();
 /// Autopilot altitude, decision height, flaps, ADF 2.
 void ReadRestOfSnapshot();
 
-/// Once a second: calendar, empty weight, doors, identifiers of the radios.
+/// Once a second: calendar, empty weight, identifiers of the radios.
 void ReadSlowValues();
+
+/// Twice a second, for the alerts: which doors are open, and how many.
+void ReadDoors();
 
 /// What the tail of the main update looks at: autopilot master, autothrottle arm, gear.
 void ReadTailValues();

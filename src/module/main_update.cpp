@@ -25,6 +25,7 @@ void MainUpdate() {
     StepFlightClock();
     ReadRestOfSnapshot();
     if (time_base.tick_phase == 0) ReadSlowValues();
+    if (time_base.tick_phase == 0 || time_base.tick_phase == kMiddlePhase) ReadDoors();
     if (time_base.tick_phase == kNearestPhase || nav.nearest_refresh_due == 1) RefreshNearest();
     LnavUpdate();
     if (time_base.tick_phase == kMiddlePhase) AlertsUpdate();
