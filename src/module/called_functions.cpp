@@ -2,6 +2,7 @@
 
 #include "base/angles.h"
 #include "checklist/checklist.h"
+#include "display/eicas/engine_readings.h"
 #include "fmc/legs/edit_legs.h"
 #include "fmc/legs/holds.h"
 #include "fmc/legs/insert_fix.h"
@@ -135,6 +136,7 @@ constexpr BoundFunction kPureFunctions[] = {
                     "KG WET REDUCTION FLAPS WIND_DIR WIND_SPEED RUNWAY_HEADING OAT PRESSURE_ALT"),
     Bind<ComputeVR>("ComputeVR", "KG REDUCTION FLAPS OAT PRESSURE_ALT"),
     Bind<ComputeV2>("ComputeV2", "KG REDUCTION FLAPS OAT PRESSURE_ALT"),
+    Bind<EicasTpr>("EicasTpr", "N1"),
 };
 static_assert(UsagesFit(kPureFunctions));
 
