@@ -37,7 +37,9 @@ void DrawZones(const SysPage& page) {
     DrawSysValue(page, 340, 77, Fahrenheit(air.cabin_temp_target));
     DrawSysLabel(page, 400, 72, "CABIN");
     DrawSysLabel(page, 400, 81, "OCCUPANTS");
-    DrawSysValue(page, 446, 77, "AUTO");
+    DrawSysValue(page, 442, 77, "AUTO");
+    DrawSysLabel(page, 500, 77, "FLT DECK");
+    DrawSysValue(page, 533, 77, Fahrenheit(air.flt_deck_temp_target));
     DrawZone(page, 292, 92, 70, "FLIGHT DECK", air.flt_deck_temp_target, air.flt_deck_temp);
     DrawZone(page, 366, 92, 116, "PASSENGER CABIN", air.cabin_temp_target, air.cabin_temp);
     DrawZone(page, 292, 140, 64, "FWD CARGO", air.cargo_temp_target, air.fwd_cargo_temp);
@@ -72,14 +74,27 @@ void DrawTrimAir(const SysPage& page, int x, int heads_for, int button, bool pac
     DrawUser(page, heads_for - 42, 248, 84, 14, LiveIf(on), {zones});
 }
 
+// The upper zones are fed around the cargo compartments.
+void DrawSupply(const SysPage& page, bool on) {
+    const FlowState flow = LiveIf(on);
+    DrawFlow(page, {{308, 214}, {308, 197}, {286, 197}, {286, 112}, {292, 112}}, flow);
+    DrawFlow(page, {{466, 214}, {466, 197}, {487, 197}, {487, 112}, {482, 112}}, flow);
+    struct Cargo {
+        int x;
+        bool open;
+    };
+    for (const Cargo& cargo : {Cargo{324, cockpit.TZ_OH_FWDCARGO_AC_Button == 1}, Cargo{392, true},
+                               Cargo{448, cockpit.bulk_cargo_heat_button == 1}}) {
+        DrawFlow(page, {{cargo.x, 214}, {cargo.x, 180}}, LiveIf(on && cargo.open));
+        DrawFlowArrow(page, cargo.x, 186, LiveIf(on && cargo.open), on && cargo.open);
+    }
+}
+
 void DrawDistribution(const SysPage& page) {
     const bool left = IsPackOn(cockpit.pack_l_button), right = IsPackOn(cockpit.pack_r_button);
     DrawUser(page, 300, 214, 246, 22, LiveIf(left || right), {"AIR DISTRIBUTION"});
-    for (const int x : {327, 424}) {
-        DrawFlow(page, {{x, 214}, {x, 182}}, LiveIf(left || right));
-        DrawFlowArrow(page, x, 186, LiveIf(left || right), left || right);
-    }
-    DrawSysLabel(page, 490, 204, "TRIM HEAT");
+    DrawSupply(page, left || right);
+    DrawSysLabel(page, 522, 204, "TRIM HEAT");
     DrawTrimAir(page, 322, 378, cockpit.trim_air_l_button, left, "FLTDECK + B + D");
     DrawTrimAir(page, 524, 468, cockpit.trim_air_r_button, right, "FLTDECK + A + C");
     DrawSysLabel(page, kPageMiddle, 292, "TRIM AIR");
@@ -93,8 +108,8 @@ void DrawAirPage(const SysPage& page) {
     DrawZones(page);
     DrawRecirculation(page);
     DrawDistribution(page);
-    DrawSysLabel(page, 392, 402, "CAB ALT");
-    DrawSysValue(page, 424, 402, Format("%.0f", sim.cabin_alt));
-    DrawSysLabel(page, 454, 402, "RATE");
-    DrawSysValue(page, 484, 402, Format("%.0f", sim.cabin_rate));
+    DrawSysLabel(page, 384, 402, "CAB ALT");
+    DrawSysValue(page, 420, 402, Format("%.0f", sim.cabin_alt));
+    DrawSysLabel(page, 456, 402, "RATE");
+    DrawSysValue(page, 486, 402, Format("%.0f", sim.cabin_rate));
 }

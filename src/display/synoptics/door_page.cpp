@@ -13,8 +13,8 @@ constexpr int kLeftDoors = 296, kMiddleHatch = 393, kRightDoors = 490, kDoorWidt
 constexpr DoorRow kDoors[] = {
     {"FWD ACCESS", kMiddleHatch, 66},
     {"FD OVHD", kRightDoors, 66},
-    {"ENTRY 1L", kLeftDoors, 102, &SimSnapshot::door_1l},
-    {"ENTRY 1R", kRightDoors, 102, &SimSnapshot::door_1r},
+    {"ENTRY 1L", kLeftDoors, 112, &SimSnapshot::door_1l},
+    {"ENTRY 1R", kRightDoors, 112, &SimSnapshot::door_1r},
     {"FWD CARGO", kRightDoors, 146, &SimSnapshot::door_fwd_cargo},
     {"ENTRY 2L", kLeftDoors, 182, &SimSnapshot::door_2l},
     {"ENTRY 2R", kRightDoors, 182, &SimSnapshot::door_2r},

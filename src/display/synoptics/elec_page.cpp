@@ -23,9 +23,9 @@ void DrawSockets(const SysPage& page, int x, int y, int width, int step, bool th
 }
 
 void DrawForwardExternal(const SysPage& page) {
-    DrawSysLabel(page, 345, 98, "FWD EXT PWR");
-    DrawSysLabel(page, 332, 110, "L");
-    DrawSysLabel(page, 357, 110, "R");
+    DrawSysLabel(page, 345, 102, "FWD EXT PWR");
+    DrawSysLabel(page, 332, 112, "L");
+    DrawSysLabel(page, 357, 112, "R");
     DrawSockets(page, 322, 117, 20, 25, electrical.fwd_ext_pwr_avail == 1);
     const bool feeds = electrical.ext_ac_pwr == 1 && !FeedsAnyGenerator() && electrical.apu_gen_pwr == 0;
     for (const int x : {332, 357}) {
@@ -40,9 +40,9 @@ void DrawStarter(const SysPage& page) {
 }
 
 void DrawApuGenerator(const SysPage& page) {
-    DrawSysLabel(page, 424, 74, "APU GEN");
-    DrawSysLabel(page, 412, 85, "L");
-    DrawSysLabel(page, 436, 85, "R");
+    DrawSysLabel(page, 424, 76, "APU GEN");
+    DrawSysLabel(page, 412, 87, "L");
+    DrawSysLabel(page, 436, 87, "R");
     const bool on = electrical.apu_gen_pwr == 1;
     DrawSockets(page, 402, 92, 20, 24, on);
     const bool feeds = on && electrical.running_gens < 2;
@@ -54,7 +54,7 @@ void DrawApuGenerator(const SysPage& page) {
 }
 
 void DrawAftExternal(const SysPage& page) {
-    DrawSysLabel(page, 503, 100, "AFT EXT PWR");
+    DrawSysLabel(page, 503, 104, "AFT EXT PWR");
     DrawSysBox(page, 493, 118, 20, 22, FlowState::kDead);
     DrawFlow(page, {{502, 140}, {502, kBusTop}}, FlowState::kDead);
     DrawUser(page, 468, 156, 69, 24, FlowState::kDead, {"LARGE MOTOR", "POWER SYS"});
@@ -70,7 +70,7 @@ void DrawBuses(const SysPage& page) {
     const bool alive = AreAllBusesAlive();
     DrawSysBox(page, 318, 194, 212, 43, LiveIf(alive));
     const Rgb colour = alive ? kWhite : kAmber;
-    for (const Bus& bus : kBuses) TextAbout(page.graphics, bus.x, 213, 8, colour, bus.name);
+    for (const Bus& bus : kBuses) TextAbout(page.graphics, bus.x, 219, 8, colour, bus.name);
     for (const int x : {354, 398, 440, 482}) DrawFlowTick(page, x, 208, LiveIf(alive), alive);
 }
 

@@ -129,8 +129,8 @@ void DrawJettison(const SysPage& page) {
     DrawFlow(page, {{514, 204}, {548, 204}}, LiveIf(right));
     DrawValve(page, 308, 204, left, true, LiveIf(left));
     DrawValve(page, 538, 204, right, true, LiveIf(right));
-    DrawSysLabel(page, 306, 191, "L NOZZLE");
-    DrawSysLabel(page, 540, 191, "R NOZZLE");
+    DrawSysLabel(page, 310, 191, "L NOZZLE");
+    DrawSysLabel(page, 536, 191, "R NOZZLE");
     if (!left && !right) return;
     const double nozzles = (left ? 0.5 : 0.0) + (right ? 0.5 : 0.0);
     DrawSysLabel(page, 330, 392, "TO REMAIN");

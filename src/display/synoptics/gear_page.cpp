@@ -25,7 +25,7 @@ constexpr Wheel kWheels[] = {
 
 void DrawTyre(const SysPage& page, int x, int y, double pressure) {
     DrawSysBox(page, x, y, kWheelWidth, kWheelHeight, FlowState::kPlain);
-    TextAbout(page.graphics, x + kWheelWidth / 2.0, y + 10, 8, kWhite, Format("%2.1f", pressure));
+    TextAbout(page.graphics, x + kWheelWidth / 2.0, y + 10, 7, kWhite, Format("%2.1f", pressure));
 }
 
 void DrawWheel(const SysPage& page, const Wheel& wheel, double hottest) {

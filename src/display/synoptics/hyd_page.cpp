@@ -79,7 +79,7 @@ constexpr User kUsers[] = {
     {0, 333, kUsersTop, 36, {"FLT", "CTRL"}},
     {1, 376, kUsersTop, 36, {"FLT", "CTRL"}},
     {1, 434, kUsersTop, 38, {"FLAPS"}, true},
-    {1, 434, 100, 60, {"NOSE GEAR", "& STEERING"}, true},
+    {1, 434, 100, 54, {"NOSE GEAR", "& STEERING"}, true},
     {1, 434, 128, 38, {"MAIN", "GEAR"}, true},
     {2, 477, kUsersTop, 36, {"FLT", "CTRL"}},
     {2, 517, kUsersTop, 40, {"R REV"}},

@@ -8,11 +8,16 @@ void DrawMaintPage(const SysPage& page) {
                                            "FLIGHT DECK ACCESS    (FDAS)", "MISC SYSTEM CTRLS     (MSC)"};
     struct Tab {
         SoftKeyBox box;
-        std::string_view text;
+        std::string_view words[2];
     };
-    constexpr Tab kTabs[] = {{{344, 4, 62, 24}, "  LATCHED\n    MAINT"},
-                             {{412, 4, 62, 24}, "  CENTRAL\n    MAINT"}};
-    for (const Tab& tab : kTabs) DrawSoftKey(page.graphics, tab.box, tab.text, {});
+    constexpr Tab kTabs[] = {{{344, 4, 62, 24}, {"  LATCHED", "    MAINT"}},
+                             {{412, 4, 62, 24}, {"  CENTRAL", "    MAINT"}}};
+    // The blanks before the words bring both lines to the middle.
+    for (const Tab& tab : kTabs) {
+        DrawSoftKey(page.graphics, tab.box, "", {});
+        TextFrom(page.graphics, tab.box.x + 5, tab.box.y + 8, 8, kBlack, tab.words[0]);
+        TextFrom(page.graphics, tab.box.x + 5, tab.box.y + 17, 8, kBlack, tab.words[1]);
+    }
     DrawSysTitle(page, kPageMiddle, 60, "MAINT CTRL PGS");
     int y = 96;
     for (const std::string_view line : kLines) {

@@ -43,14 +43,14 @@ void DrawApuBlock(const SysPage& page) {
     DrawSysLabel(page, 305, 150, "APU");
     const bool known = cockpit.apu_switch != 0 || electrical.apu_rpm >= kTurning;
     const auto row = [&](double x, double y, std::string_view name, const std::string& value) {
-        DrawSysLabel(page, x, y, name);
-        if (known) DrawSysValue(page, x + 42, y, value);
+        TextFrom(page.graphics, x, y, 8, kBlueGrey, name);
+        if (known) TextUpTo(page.graphics, x + 100, y, 10, kWhite, value);
     };
-    row(348, 152, "RPM", Format("%3.1f", electrical.apu_rpm));
-    row(348, 163, "EGT", Format("%4.0f C", electrical.apu_egt));
-    row(470, 152, "OIL PRESS", Format("%2.0f PSI", electrical.apu_oil_press));
-    row(470, 163, "OIL TEMP", Format("%3.0f C", electrical.apu_oil_temp));
-    row(470, 174, "OIL QTY", Format("%2.1f", electrical.apu_oil_qty));
+    row(332, 152, "RPM", Format("%3.1f", electrical.apu_rpm));
+    row(332, 163, "EGT", Format("%4.0f C", electrical.apu_egt));
+    row(446, 152, "OIL PRESS", Format("%2.0f PSI", electrical.apu_oil_press));
+    row(446, 163, "OIL TEMP", Format("%3.0f C", electrical.apu_oil_temp));
+    row(446, 174, "OIL QTY", Format("%2.1f", electrical.apu_oil_qty));
 }
 
 void DrawOxygenAndCooling(const SysPage& page) {
@@ -67,7 +67,7 @@ void DrawOxygenAndCooling(const SysPage& page) {
 }
 
 void DrawStatusMessages(const SysPage& page) {
-    constexpr int kTop = 226, kFirstY = 242, kStep = 11, kLines = 13;
+    constexpr int kTop = 226, kFirstY = 246, kStep = 11, kLines = 13;
     DrawSysBox(page, kLeft, kTop, 264, 170, FlowState::kDead);
     DrawSysLabel(page, 340, kTop + 7, "STATUS MESSAGES");
     const int count = std::min({alerts.memo_count, alerts.memo_list.size(), kLines});
