@@ -122,6 +122,10 @@ TEST_F(EngineDisplay, CabinDataAndTrimsComeWhenTheyAreWanted) {
 
     sim.on_ground = 0;
     EXPECT_FALSE(Has(Picture(), "RUDDER TRIM"));
+    sim.gear_handle = 1;  // the lever is down, the gear hasn't moved yet
+    EXPECT_TRUE(Has(Picture(), "233,183,62 \"GEAR\""));
+    sim.gear_handle = 0;
+    EXPECT_TRUE(Has(Picture(), "222,230,233 \"GEAR\""));
     sim.rudder_trim = -0.5;
     EXPECT_TRUE(Has(Picture(), "\"L\"") && Has(Picture(), "\"0.5\""));
     sim.rudder_trim = 0;

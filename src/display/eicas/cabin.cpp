@@ -57,7 +57,7 @@ void DrawValve(Graphics& graphics, int x, double angle, bool fault, double name_
 }  // namespace
 
 void DrawCabin(Graphics& graphics) {
-    if (IsAirPageShown() || !IsWanted()) return;
+    if (!IsWanted() || IsAirPageShown()) return;
     constexpr int kLeft = 49;
     DrawRow(graphics, kLeft, 102, "CAB ALT", Format("%.0f", sim.cabin_alt));
     DrawRow(graphics, kLeft, 112, "RATE", Format("%.0f", sim.cabin_rate));
@@ -65,7 +65,7 @@ void DrawCabin(Graphics& graphics) {
     DrawRow(graphics, 55, 122, "P", Format("%1.1f", sim.cabin_dp));
     FillOutline(graphics, BrushOf(kCyanAlternate), {At(51, 124), At(54, 130), At(48, 130)});
     DrawRow(graphics, kLeft, 132, "LDG ALT", Format("%d", airports.dest_airport.elevation_ft));
-    EicasText(graphics, 111, 132, kCabinTextSmall, kWhite, eicas.ldg_alt_manual == 1 ? "MAN" : "AUTO");
+    EicasText(graphics, 111, 132, kCabinTextSmall - 1, kWhite, eicas.ldg_alt_manual == 1 ? "MAN" : "AUTO");
     constexpr std::size_t kForwardFault = 64, kAftFault = 63;
     DrawValve(graphics, 128, sim.cabin_fwd_ofv, alerts.posted[kForwardFault] != 0, 145, "FWD");
     DrawValve(graphics, 156, sim.cabin_aft_ofv, alerts.posted[kAftFault] != 0, 168, "AFT");

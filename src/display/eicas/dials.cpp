@@ -5,6 +5,7 @@
 #include <string>
 
 #include "base/text.h"
+#include "state/cfg.h"
 #include "state/displays.h"
 #include "state/engines.h"
 
@@ -115,7 +116,7 @@ void Spoke(Graphics& graphics, int x, int y, double angle, double from, double t
 
 void DrawScale(Graphics& graphics, int x, int y, Rgb frame) {
     constexpr Argb kHalf = 0x80000000U, kColour = 0xffffffU;
-    const Pen pen = GdipCreatePen1(kHalf | (Scaled(frame) & kColour), 1);
+    const Pen pen = GdipCreatePen1(kHalf | (Scaled(frame) & kColour), static_cast<float>(cfg.DuLinesize));
     for (int pass = 0; pass < 2; ++pass) GdipDrawArcI(graphics, pen, x, y - kRadius, kSide, kSide, 0, kSweep);
     Spoke(graphics, x, y, 0, 28, 32, PenOf(frame));
     Spoke(graphics, x, y, kSweep, 20, 32, PenOf(frame));
@@ -128,26 +129,24 @@ void DrawCommand(Graphics& graphics, const Dial& dial, int x, int y, double valu
     const double to = SweepOf(dial, command), from = SweepOf(dial, value);
     for (const double beside : {-3, 0, 3}) Spoke(graphics, x, y, to, 28, 34, green, beside);
     if (value > kRunning && to != from)
-        GdipDrawArcI(graphics, PenOf(kWhite), x - kOutside, y - kRadius - kOutside, kOuterSide, kOuterSide,
-                     from, to - from);
+        GdipDrawArcI(graphics, PenOf(kWhite, static_cast<float>(cfg.DuLinesize)), x - kOutside,
+                     y - kRadius - kOutside, kOuterSide, kOuterSide, from, to - from);
 }
 
-// The limits that the engine's own computer gives for the first dial.
+// The limits that the engine's own computer gives for the first dial; within reach of no other's readout.
 void DrawFadecLimits(Graphics& graphics, const Dial& dial, int x, int y) {
     if (engines.FADEC_Green_line > 0)
-        Spoke(graphics, x, y, SweepOf(dial, engines.FADEC_Green_line), 28, 36, PenOf(kGreen));
+        Spoke(graphics, x, y, SweepOf(dial, engines.FADEC_Green_line), 22, 30, PenOf(kGreen));
     if (engines.FADEC_Amber_line > 0)
-        Spoke(graphics, x, y, SweepOf(dial, engines.FADEC_Amber_line), 26, 36, PenOf(kAmber, 2));
+        Spoke(graphics, x, y, SweepOf(dial, engines.FADEC_Amber_line), 20, 30, PenOf(kAmber, 2));
 }
 
 void DrawReadout(Graphics& graphics, const Dial& dial, int x, int y, double value, const Look& look) {
     constexpr float kSize = 12;
     constexpr int kWidth = 35, kHeight = 15;
     BoxOutline(graphics, x + kRadius, y - 17, kWidth, kHeight, look.frame);
-    const std::string number = dial.whole ? Format("%3.0f", value) : Format("%3.1f", value);
-    const Rgb colour = look.frame;
-    EicasTextUpTo(graphics, x + kRadius + kWidth - 1, y - 9, kSize, colour,
-                  Format("%*s", dial.whole ? 4 : 5, number.c_str()));
+    EicasTextUpTo(graphics, x + kRadius + kWidth - 1, y - 9, kSize, look.frame,
+                  dial.whole ? Format("%4.0f", value) : Format("%5.1f", value));
 }
 
 void DrawDial(Graphics& graphics, const Dial& dial, int x, int y, const EngineReadings& readings,

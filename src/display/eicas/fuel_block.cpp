@@ -54,7 +54,7 @@ void DrawFuelBlock(Graphics& graphics) {
     EicasText(graphics, 59, 186, kFuelText, kWhite, Format("%-3.1f", ThousandsOf(GrossWeight())));
     DrawLabel(graphics, 100, 181, cfg.WeightUnit == "KGS" ? "KGS X" : "LBS X");
     DrawLabel(graphics, 103, 190, "1000");
-    DrawLabel(graphics, 130, 173, "TOTAL FUEL");
+    EicasLabel(graphics, 130, 173, kFuelTextSmall - 1, "TOTAL FUEL");
     BoxOutline(graphics, 138, 183, 30, 16, kWhite);
     EicasTextUpTo(graphics, 167, 191, kFuelText, kWhite, Format("%.1f", ThousandsOf(sim.total_fuel)));
     DrawLabel(graphics, 53, 205, "SAT");
@@ -62,5 +62,5 @@ void DrawFuelBlock(Graphics& graphics) {
     DrawLabel(graphics, 121, 202, "FUEL");
     DrawLabel(graphics, 121, 210, "TEMP");
     BoxOutline(graphics, 152, 203, 23, 12, kWhite);
-    EicasTextUpTo(graphics, 175, 209, kFuelTextSmall, kWhite, Signed(eicas.fuel_temp));
+    EicasTextUpTo(graphics, 174, 209, kFuelTextSmall, kWhite, Signed(eicas.fuel_temp));
 }

@@ -43,7 +43,7 @@ double TapeY(double degrees) {
 
 void DrawGear(Graphics& graphics) {
     constexpr int kX = 109, kY = -57, kWidth = 31, kHeight = 15;
-    const bool up = AreAllGears(IsUp), down = AreAllGears(IsDownAndLocked);
+    const bool up = AreAllGears(IsUp) && sim.gear_handle == 0, down = AreAllGears(IsDownAndLocked);
     if (down) FilledBox(graphics, kX, kY, kWidth, kHeight, kGreen);
     const Rgb colour = down ? kBlack : up ? kWhite : kAmber;
     BoxOutline(graphics, kX, kY, kWidth, kHeight, down ? kGreen : colour);

@@ -41,7 +41,7 @@ void DrawOilScale(Graphics& graphics, const EngineView& engine, const OilScale& 
     Line(graphics, bar, scale.bottom, tick, scale.bottom, kEicasRed, 2);
     const double back = Inwards(engine, kBar + 8);
     FillOutline(graphics, BrushOf(kWhite), {At(bar, y), At(back, y - 4), At(back, y + 4)});
-    DrawBoxed(graphics, engine, 19, scale.bottom - 14, 18, Format("%3.0f", value));
+    DrawBoxed(graphics, engine, 17, scale.bottom - 14, 18, Format("%3.0f", value));
 }
 
 }  // namespace

@@ -24,7 +24,7 @@ bool AreShown() {
 }
 
 void DrawStabilizer(Graphics& graphics) {
-    constexpr int kScaleX = 95, kTop = 48, kBottom = 92, kTitleX = 44;
+    constexpr int kScaleX = 97, kTop = 48, kBottom = 92, kTitleX = 44;
     constexpr double kMostUnits = 16, kFirstForTakeoff = 3, kLastForTakeoff = 9;
     const auto y_of = [](double units) { return kTop + (kBottom - kTop) * units / kMostUnits; };
     double title_y = 53;
@@ -57,7 +57,7 @@ void DrawRudder(Graphics& graphics) {
     const double trim = std::clamp(sim.rudder_trim, -1.0, 1.0);
     Line(graphics, kLeft, kY, kRight, kY, kWhite);
     for (const int tick : {kLeft, kMiddle, kRight}) Line(graphics, tick, kY - 4, tick, kY, kWhite);
-    EicasLabel(graphics, kLeft - 4, 85, kTrimText - 1, "RUDDER TRIM");
+    EicasLabel(graphics, kLeft - 8, 85, kTrimText - 1, "RUDDER TRIM");
     BoxOutline(graphics, 139, 52, 20, 14, kWhite);
     if (IsRudderTrimmed()) EicasText(graphics, kLeft, 54, kTrimText, kWhite, trim < 0 ? "L" : "R");
     EicasText(graphics, 139, 54, kTrimText, kWhite, Format("%.1f", std::fabs(trim)));
