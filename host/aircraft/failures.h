@@ -45,7 +45,7 @@ enum Failure {
 
 struct FailureRow {
     Failure failure;
-    std::string_view name, told;
+    std::string_view name, told, group;
     /// The switch that trips and doesn't hold while the failure lasts; empty for one that acts otherwise.
     std::string_view trips;
 };

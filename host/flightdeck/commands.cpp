@@ -128,6 +128,17 @@ void ApplyDeckCommand(Session& session, const DeckCommand& command) {
             Overpower(session, command.name, command.value);
             MoveLever(session, command.name, command.value);
             break;
+        case DeckCommand::kFailure:
+            if (const FailureRow* row = FindFailure(command.name)) {
+                Record(session.recorder, {"fail", command.name, command.value != 0 ? "1" : "0"});
+                SetFailure(*row, command.value != 0);
+            }
+            break;
+        case DeckCommand::kGround:
+            if (const GroundRow* row = FindGroundService(command.name);
+                row != nullptr && SetGround(*row, command.value != 0))
+                Record(session.recorder, {"ground", command.name, command.value != 0 ? "1" : "0"});
+            break;
         case DeckCommand::kControl:
             if (world.pilot_does.empty()) break;
             if (command.value == 0) world.given_back |= world.user_has;

@@ -27,6 +27,8 @@ struct DeckCommand {
         kPause,          // value 0 or 1
         kRate,           // value: times real time, 0 to 64
         kControl,        // value 1: the user has control, 0: the demonstration's pilot has it again
+        kFailure,        // name (of `fail`), value 0 or 1
+        kGround,         // name (of `ground`), value 0 or 1
     };
     Kind kind;
     std::string name = {};

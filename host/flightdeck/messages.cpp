@@ -32,6 +32,8 @@ constexpr CommandForm kForms[] = {
     {"area", DeckCommand::kMouseArea, "gauge", "area", "", "", "", true},
     {"event", DeckCommand::kKeyEvent, "", "", "event", "value", "", false, kMaxInt},
     {"lever", DeckCommand::kLever, "name", "", "value", "", ""},
+    {"fail", DeckCommand::kFailure, "name", "", "value", "", ""},
+    {"ground", DeckCommand::kGround, "name", "", "value", "", ""},
     {"control", DeckCommand::kControl, "", "", "value", "", ""},
     {"pause", DeckCommand::kPause, "", "", "value", "", ""},
     {"rate", DeckCommand::kRate, "", "", "value", "", ""},

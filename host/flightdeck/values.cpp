@@ -36,6 +36,12 @@ std::optional<std::string> HostValue(std::string_view name) {
         std::snprintf(text, sizeof text, "%02.0f:%02.0f:%02.0f", TokenOf(6), TokenOf(7), TokenOf(5));
         return text;
     }
+    if (name.starts_with("fail:"))
+        if (const FailureRow* row = FindFailure(name.substr(5)))
+            return flight.aircraft.fails[row->failure] ? "1" : "0";
+    if (name.starts_with("ground:"))
+        if (const GroundRow* row = FindGroundService(name.substr(7)))
+            return IsSet(flight.aircraft, *row) ? "1" : "0";
     return {};
 }
 
@@ -79,6 +85,10 @@ std::string DeckGreeting(const Session& session) {
     greeting["variables"] = json::object();
     for (const auto& [name, type] : Ask(inspection.list_variables, "").results)
         greeting["variables"][name] = type;
+    for (const FailureRow& row : FailureRows())
+        greeting["failures"].push_back({row.name, row.told, row.group});
+    for (const GroundRow& row : GroundRows())
+        greeting["ground"].push_back({row.name, row.told, row.expression.empty() ? "Services" : "Doors"});
     std::vector<std::string> named;
     for (const NamedVariable& variable : world.named)
         if (variable.exists) named.push_back(variable.name);

@@ -27,7 +27,8 @@ void Tell(Scenario& scenario, std::string_view name, bool on, std::string_view t
 void Fail(Scenario& scenario, const std::vector<Word>& words) {
     if (words.size() == 1) {
         for (const FailureRow& row : FailureRows())
-            Tell(scenario, row.name, flight.aircraft.fails[row.failure], row.told);
+            Tell(scenario, row.name, flight.aircraft.fails[row.failure],
+                 std::string(row.group) + ": " + std::string(row.told));
         return;
     }
     const FailureRow* row = FindFailure(words[1].text);

@@ -54,7 +54,7 @@ function faultsOf({target, text}) {
 async function look(t, host, [width, height], options, target) {
   const found = [];
   const page = await openDeck(t, host.address, '', {viewport: {width, height}, ...options});
-  for (const view of ['Centre', 'Overhead', 'Pedestal', 'Hands', 'Inspector']) {
+  for (const view of ['Centre', 'Overhead', 'Pedestal', 'Ground', 'Failures', 'Hands', 'Inspector']) {
     await page.click(`[data-view="${view}"].tab`);
     const faults = await page.evaluate(faultsOf, {target, text: SMALLEST_TEXT});
     found.push(...faults.map((fault) => `${width} by ${height}, ${view}: ${fault}`));

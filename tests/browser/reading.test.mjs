@@ -16,7 +16,7 @@ async function findings(page, what) {
 test('every control has a role and a name', async (t) => {
   const host = await startHost(t), found = [];
   const page = await openDeck(t, host.address);
-  for (const view of ['Centre', 'Overhead', 'Pedestal', 'Hands', 'Inspector']) {
+  for (const view of ['Centre', 'Overhead', 'Pedestal', 'Ground', 'Failures', 'Hands', 'Inspector']) {
     await page.click(`[data-view="${view}"].tab`);
     found.push(...await findings(page, view));
   }

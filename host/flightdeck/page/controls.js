@@ -94,7 +94,7 @@ export class Panels {
     const lit = element('i', `lamp ${colour}`);
     lit.dataset.lamp = name;
     if (text) lit.dataset.text = text;
-    this.link.watch(`lvar:${name}`, (value) => {
+    this.link.watch(name.includes(':') ? name : `lvar:${name}`, (value) => {
       lit.classList.toggle('lit', Number(value) !== 0);
       const burning = [...parent.querySelectorAll('.lamp.lit')].map((lamp) => lamp.dataset.text ?? 'lit');
       face.setAttribute('aria-label', [face.dataset.label, ...burning].join(', '));
@@ -105,7 +105,7 @@ export class Panels {
   /** The element of a panel's entry. */
   make(entry) {
     const makers = {button: this.button, switch: this.selector, key: this.key, handle: this.handle,
-                    area: this.area, event: this.event, lever: this.lever};
+                    area: this.area, event: this.event, lever: this.lever, toggle: this.toggle};
     const made = makers[entry.look].call(this, entry);
     if (entry.name) {
       made.dataset.name = entry.name;
@@ -203,14 +203,20 @@ export class Panels {
   }
 
   handle(entry) {
-    const face = element('button', 'pull', entry.text);
+    const face = element('button', 'pull', entry.text), text = element('span', 'position');
     const made = this.frame('handle', entry, face);
+    made.append(text);
     for (const lamp of entry.lamps) this.lamp(lamp, made, face);
     this.link.watch(`lvar:${entry.name}`, (value) => {
       face.classList.toggle('out', Number(value) !== 0);
       face.setAttribute('aria-pressed', Number(value) !== 0);
+      text.textContent = ['IN', 'OUT', ...entry.bottles][Number(value)] ?? value;
     });
-    bindPress(face, (up) => this.operate(entry, up));
+    // The left button pulls it and pushes it in, the right one turns what is pulled to a bottle.
+    bindPress(face, (up) => {
+      const now = this.link.number(`lvar:${entry.name}`);
+      this.write(entry.name, !up ? (now === 0 ? 1 : 0) : now === 0 ? 1 : now > entry.bottles.length ? 2 : now + 1);
+    });
     return made;
   }
 
@@ -245,6 +251,21 @@ export class Panels {
     });
     bindPress(face, () =>
       this.link.send({type: 'event', event: entry.events[this.link.number(entry.value) !== 0 ? 0 : 1], value: 0}));
+    return made;
+  }
+
+  // What the host's aircraft has or hasn't by itself: a failure, an open door.
+  toggle(entry) {
+    const face = element('button', 'face'), stays = element('i', 'stays'), value = `host:${entry.sends}:${entry.what}`;
+    stays.dataset.text = entry.stays;
+    face.append(stays);
+    this.link.watch(value, (now) => {
+      face.classList.toggle('in', now === '1');
+      face.setAttribute('aria-pressed', now === '1');
+    });
+    bindPress(face, () => this.link.send({type: entry.sends, name: entry.what, value: this.link.number(value) === 0 ? 1 : 0}));
+    const made = this.frame('push', entry, face);
+    made.dataset[entry.sends] = entry.what;
     return made;
   }
 

@@ -6,7 +6,7 @@ import {Hands} from './hands.js';
 import {Inspector} from './inspector.js';
 import {makeKeyboardHelp, makeKeypad, takeKeyboard} from './keypad.js';
 import {Link} from './link.js';
-import {efbKeys, efbLabels, overhead, pedestal} from './panels.js';
+import {efbKeys, efbLabels, failures, ground, overhead, pedestal} from './panels.js';
 import {Screens} from './screens.js';
 
 // A page of one screen, or of one unit for a phone or tablet; else the whole deck.
@@ -19,6 +19,7 @@ const link = new Link({
     screens.setFamilies(message.fonts ?? []);
     loadFonts(message.fonts ?? []);
     panels.setControls(message.controls ?? {});
+    onAircraft = {ground: message.ground ?? [], failures: message.failures ?? []};
     version.textContent = message.version ?? '';
     if (!built) (kind ? handheld : deck)();
     built = true;
@@ -76,6 +77,7 @@ function timeControls() {
   return made;
 }
 
+let onAircraft = {ground: [], failures: []};  // what the ground can do to it, what can fail
 const version = element('small', 'version');
 
 function bar() {
@@ -115,6 +117,8 @@ function lower() {
                     makeKeypad(panels, 'R'), tablet('R')),
     Overhead: element('div', 'view', '', panels.groups(overhead, 'overhead')),
     Pedestal: element('div', 'view', '', panels.groups(pedestal, 'pedestal')),
+    Ground: element('div', 'view', '', panels.groups(ground(onAircraft.ground), 'overhead')),
+    Failures: element('div', 'view', '', panels.groups(failures(onAircraft.failures), 'overhead')),
     Hands: element('div', 'view', '', new Hands(panels).element),
     Inspector: element('div', 'view inspection', '', inspector.element, screens.unit('debug')),
   };

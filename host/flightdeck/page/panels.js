@@ -4,17 +4,19 @@
 //   button  a lighted push button: `stays` is the text that shows while it is in
 //   switch  a selector with `positions` named from its lower end
 //   key     springs back
-//   handle  a fire handle
+//   handle  a fire handle, with the bottles that it can be turned to
+//   toggle  what the host's aircraft has or hasn't by itself
 //   area    a button worked through a mouse area of its gauge
 //   event   what the pilot's own hardware does by key events, [off, on]
 //   lever   the pilot's own lever, with its stops
-// A lamp is [variable, text, colour].
+// A lamp is [variable, text, colour]; a variable with a ':' is any value that the host tells.
 
 const lampsOf = (lamps) => lamps.map(([name, text, colour = 'amber']) => [name, text, colour]);
 const button = (name, label, stays = 'ON', ...lamps) => ({look: 'button', name, label, stays, lamps: lampsOf(lamps)});
 const selector = (name, label, positions = [], ...lamps) => ({look: 'switch', name, label, positions, lamps: lampsOf(lamps)});
 const key = (name, label, ...lamps) => ({look: 'key', name, label, lamps: lampsOf(lamps)});
-const handle = (name, label, text, ...lamps) => ({look: 'handle', name, label, text, lamps: lampsOf(lamps)});
+const handle = (name, label, text, bottles, ...lamps) =>
+  ({look: 'handle', name, label, text, bottles, lamps: lampsOf(lamps)});
 
 const OFF_ON = ['OFF', 'ON'], OFF_AUTO_ON = ['OFF', 'AUTO', 'ON'];
 const TEMPERATURE = ['C', '', '', 'AUTO', '', '', 'W'];
@@ -82,7 +84,7 @@ export const overhead = [
     selector('TZ_OH_GND_TEST_Switch', 'Gnd Test', ['OFF', 'NORM', 'TEST']),
   ]},
   {title: 'Fire', controls: [
-    handle('TZ_OH_APU_FIRE_HNDL', 'APU Fire', 'APU', ['FIRE APU', 'FIRE', 'red'], ['BOTTLE DISCH APU', 'DISCH']),
+    handle('TZ_OH_APU_FIRE_HNDL', 'APU Fire', 'APU', ['BTL'], ['FIRE APU', 'FIRE', 'red'], ['BOTTLE DISCH APU', 'DISCH']),
     button('TZ_OH_CFA_FWD_Button', 'Cargo Arm Fwd', 'ARMED'),
     button('TZ_OH_CFA_AFT_Button', 'Cargo Arm Aft', 'ARMED'),
     button('TZ_OH_CFA_DISCH_Button', 'Cargo Disch', 'DISCH'),
@@ -301,8 +303,8 @@ export const flightLevers = {
 export const pedestal = [
   {title: 'Main panel', controls: [
     selector('TZ_MAIN_PFD_MFD_L_Switch', 'PFD / MFD', ['OUTBD', 'NORM', 'INBD']),
-    selector('TZ_MAIN_AIRDATA_ATT_L_Switch', 'Air Data L', ['ALTN', 'AUTO']),
-    selector('TZ_MAIN_AIRDATA_ATT_R_Switch', 'Air Data R', ['ALTN', 'AUTO']),
+    selector('TZ_MAIN_AIRDATA_ATT_L_Switch', 'Air Data L', ['AUTO', 'ALTN']),
+    selector('TZ_MAIN_AIRDATA_ATT_R_Switch', 'Air Data R', ['AUTO', 'ALTN']),
     selector('auto_brake_switch', 'Autobrake', ['RTO', 'OFF', 'DISARM', '1', '2', '3', '4', 'MAX']),
     key('TZ_Wheel_L_HUD_Button', 'HUD'),
   ]},
@@ -313,8 +315,8 @@ export const pedestal = [
     key('TZ_MAIN_SPFD_POS_Button', '+'),
   ]},
   {title: 'Engine fire', controls: [
-    handle('TZ_AFT_ENG1_FIRE_HNDL', 'Engine L', 'L', ['TZ_AFT_ENGBTL_1_Annun', 'BTL 1 DISCH']),
-    handle('TZ_AFT_ENG2_FIRE_HNDL', 'Engine R', 'R', ['TZ_AFT_ENGBTL_2_Annun', 'BTL 2 DISCH']),
+    handle('TZ_AFT_ENG1_FIRE_HNDL', 'Engine L', 'L', ['BTL 1', 'BTL 2'], ['token:887', 'FIRE', 'red'], ['TZ_AFT_ENGBTL_1_Annun', 'BTL 1 DISCH']),
+    handle('TZ_AFT_ENG2_FIRE_HNDL', 'Engine R', 'R', ['BTL 1', 'BTL 2'], ['token:888', 'FIRE', 'red'], ['TZ_AFT_ENGBTL_2_Annun', 'BTL 2 DISCH']),
   ]},
   {title: 'Throttle quadrant', controls: [
     {look: 'event', label: 'Fuel Ctrl L', value: 'token:560', texts: ['CUTOFF', 'RUN'], events: [0x101c3, 0x101bf]},
@@ -336,3 +338,11 @@ export const pedestal = [
     selector('TZ_AFT_OBS_Audio_Switch', 'Obs Audio', ['NORM', 'CAPT']),
   ]},
 ];
+
+// Doors and services on the ground, and what can fail: the host tells what there is and in which group it stands.
+const toggles = (sends, rows, staysIn) => [...new Set(rows.map(([, , title]) => title))].map((title) => ({
+  title, controls: rows.filter((row) => row[2] === title).map(([what, label]) =>
+    ({look: 'toggle', sends, what, label, stays: staysIn(title)})),
+}));
+export const ground = (rows) => toggles('ground', rows, (title) => title === 'Doors' ? 'OPEN' : 'SET');
+export const failures = (rows) => toggles('fail', rows, () => 'FAIL');

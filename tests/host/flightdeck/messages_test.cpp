@@ -38,6 +38,8 @@ TEST(Messages, EachTypeIsACommandOrTellsWhatItLacks) {
         {R"({"type":"pause","value":1})", "7 '' '' 1 0 0 0"},
         {R"({"type":"rate","value":16})", "8 '' '' 16 0 0 0"},
         {R"({"type":"control","value":1})", "9 '' '' 1 0 0 0"},
+        {R"({"type":"fail","name":"leak_l","value":1})", "10 'leak_l' '' 1 0 0 0"},
+        {R"({"type":"ground","name":"chocks","value":0})", "11 'chocks' '' 0 0 0 0"},
         {R"({"type":"lvar","name":5,"value":1})", "lvar: name and value"},
         {too_long.c_str(), "lvar: name and value"},
         {R"({"type":"lvar","name":"N","value":1e13})", "lvar: name and value"},
