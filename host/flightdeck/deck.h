@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <map>
@@ -73,6 +74,8 @@ class FlightDeck {
     /// The host's loop: takes what has been asked since the last call. While the loop doesn't call, browsers
     /// hear nothing and blank their screens.
     std::vector<DeckCommand> TakeCommands();
+    /// Waits until something has been asked; false when that hasn't come by `until`.
+    bool WaitForCommands(std::chrono::steady_clock::time_point until);
     /// The names that any browser watches.
     std::set<std::string> WatchedNames();
     /// Gives the values of watched names; what has changed goes out.

@@ -26,6 +26,11 @@ std::vector<DeckCommand> TakeCommands(Exchange& exchange) {
     return std::exchange(exchange.commands, {});
 }
 
+bool WaitForCommands(Exchange& exchange, Clock::time_point until) {
+    std::unique_lock guard(exchange.lock);
+    return exchange.commands_came.wait_until(guard, until, [&] { return !exchange.commands.empty(); });
+}
+
 std::set<std::string> WatchedNames(Exchange& exchange) {
     const std::lock_guard guard(exchange.lock);
     return exchange.watched;
@@ -42,6 +47,7 @@ bool HasRoom(const Exchange& exchange) {
 void QueueCommand(Exchange& exchange, DeckCommand command) {
     const std::lock_guard guard(exchange.lock);
     if (exchange.commands.size() < kMaxCommands) exchange.commands.push_back(std::move(command));
+    exchange.commands_came.notify_one();
 }
 
 void RenewWatched(Exchange& exchange) {

@@ -3,6 +3,7 @@
 #include <array>
 #include <atomic>
 #include <chrono>
+#include <condition_variable>
 #include <cstddef>
 #include <cstdint>
 #include <map>
@@ -50,13 +51,15 @@ struct Exchange {
 
     // Both threads'.
     std::atomic<std::chrono::steady_clock::rep> loop_seen = 0;  // when the host's loop was last here
-    std::mutex lock;                                            // over the two that follow
+    std::mutex lock;                                            // over commands and watched
+    std::condition_variable commands_came;
     std::vector<DeckCommand> commands;
     std::set<std::string> watched;
 };
 
 /// The host's loop: takes what browsers have asked for since the last call.
 std::vector<DeckCommand> TakeCommands(Exchange& exchange);
+bool WaitForCommands(Exchange& exchange, std::chrono::steady_clock::time_point until);
 std::set<std::string> WatchedNames(Exchange& exchange);
 
 // The rest is for the network thread.

@@ -298,6 +298,10 @@ std::vector<DeckCommand> FlightDeck::TakeCommands() {
     return host::TakeCommands(*network_);
 }
 
+bool FlightDeck::WaitForCommands(std::chrono::steady_clock::time_point until) {
+    return host::WaitForCommands(*network_, until);
+}
+
 std::set<std::string> FlightDeck::WatchedNames() {
     return host::WatchedNames(*network_);
 }

@@ -121,13 +121,25 @@ std::shared_ptr<DeckLoop> OpenFlightDeck(Session& session, const FlyOptions& opt
     return loop;
 }
 
-std::vector<DeckCommand> PassPeriod(DeckLoop& loop) {
+namespace {
+
+void ShowPresent(DeckLoop& loop) {
     loop.in_2d = IsMainPanelShown();
     if (loop.period++ % kPublishEvery == 0)
         loop.deck.PublishValues(ReadValues(loop.session, loop.deck.WatchedNames()));
+}
+
+Clock::time_point EndOfPeriod(DeckLoop& loop) {
     loop.next += kPeriod;
     if (Clock::now() > loop.next + kLate) loop.next = Clock::now();
-    std::this_thread::sleep_until(loop.next);
+    return loop.next;
+}
+
+}  // namespace
+
+std::vector<DeckCommand> PassPeriod(DeckLoop& loop) {
+    ShowPresent(loop);
+    std::this_thread::sleep_until(EndOfPeriod(loop));
     return loop.deck.TakeCommands();
 }
 
@@ -135,9 +147,8 @@ void RunFlightDeck(DeckLoop& loop, const std::function<void()>& each_second) {
     Session& session = loop.session;
     PressQueue presses;
     double ticks_due = 0;
-    std::vector<DeckCommand> commands;
     while (EndSignal() == 0) {
-        ApplyCommands(session, commands, presses);
+        ApplyCommands(session, loop.deck.TakeCommands(), presses);
         if (world.paused) MakeCall(session, true);
         for (ticks_due += world.paused ? 0 : world.sim_rate; ticks_due >= 1 && !world.paused; --ticks_due) {
             MakeCall(session, false);
@@ -147,7 +158,15 @@ void RunFlightDeck(DeckLoop& loop, const std::function<void()>& each_second) {
         for (int frame = 0; frame < kFramesForKeys && ApplyDuePresses(session, presses); ++frame)
             MakeCall(session, true);
         if (!world.paints_in_line) RequestPictures(session);
-        commands = PassPeriod(loop);
+        ShowPresent(loop);
+        // Who works something within the period needn't wait for its end.
+        const Clock::time_point end = EndOfPeriod(loop);
+        for (int frame = 0; frame < kFramesForKeys && loop.deck.WaitForCommands(end); ++frame) {
+            ApplyCommands(session, loop.deck.TakeCommands(), presses);
+            MakeCall(session, true);
+            if (!world.paints_in_line) RequestPictures(session);
+        }
+        std::this_thread::sleep_until(end);
     }
 }
 
