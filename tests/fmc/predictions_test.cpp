@@ -43,6 +43,19 @@ TEST_F(Predictions, EconomySpeedsFollowTheirTables) {
     EXPECT_EQ(EconDescentSpeed(20), 311);
 }
 
+TEST_F(Predictions, ClimbAndDescentSpeedsRiseWithWeightAndIndex) {
+    for (double weight = 180000; weight < 580000; weight += 7000)
+        for (int index = 0; index < 400; index += 10) {
+            weights.gross_weight = weight;
+            const double climb = EconClimbSpeed(index), descent = EconDescentSpeed(index);
+            EXPECT_LE(climb, EconClimbSpeed(index + 10));
+            EXPECT_LE(descent, EconDescentSpeed(index + 10));
+            weights.gross_weight = weight + 10000;
+            EXPECT_LE(climb, EconClimbSpeed(index));
+            EXPECT_LE(descent, EconDescentSpeed(index));
+        }
+}
+
 TEST_F(Predictions, CruiseMachRisesWithIndexHeightAndWeight) {
     for (double weight = 180000; weight < 560000; weight += 7000)
         for (double altitude = 5000; altitude < 46000; altitude += 1300)

@@ -116,7 +116,7 @@ double FuelAtDestination() {
     const double to_descent = vnav.tod == 0 ? p.dist_to_tod : 0;
     const double burn = climb * p.clb_burn_per_nm + std::max(to_descent - climb, 0.0) * p.crz_burn_per_nm +
                         std::max(p.dist_to_dest - to_descent, 0.0) * p.des_burn_per_nm;
-    return std::max(sim.total_fuel + perf.FuelEntry - burn, 0.0);
+    return std::max(sim.total_fuel + perf.FuelEntry - burn * (1 + PerfFactor()), 0.0);
 }
 
 std::string StepPointText() {

@@ -14,9 +14,23 @@
 namespace {
 
 constexpr int kLowest = 1000, kHighest = 43100;
+constexpr int kLastRow = 5;
 
 WindLevel& LevelOfRow(int row) {
     return winds.DescentForecast[static_cast<std::size_t>(row - 2)];
+}
+
+// The row's altitude in the configuration: it stays from flight to flight.
+int& ConfiguredLevel(int row) {
+    int* const levels[] = {&cfg.DescForecastAlt1, &cfg.DescForecastAlt2, &cfg.DescForecastAlt3,
+                           &cfg.DescForecastAlt4};
+    return *levels[row - 2];
+}
+
+void TakeConfiguredLevels() {
+    for (int row = 2; row <= kLastRow; ++row)
+        if (LevelOfRow(row).alt == 0 && ConfiguredLevel(row) >= kLowest)
+            LevelOfRow(row).alt = ConfiguredLevel(row);
 }
 
 // Three digits are hundreds of feet; nothing outside the range.
@@ -45,6 +59,7 @@ void EnterLevel(PageCall& call, int& altitude, int help_id) {
 void OnAltitude(PageCall& call, int row) {
     EnterLevel(call, LevelOfRow(row).alt, kHelpWindAltitude);
     if (LevelOfRow(row).alt == 0) LevelOfRow(row) = {};
+    ConfiguredLevel(row) = LevelOfRow(row).alt;
     RefreshProfile();
 }
 
@@ -97,7 +112,7 @@ void DrawRow(PageCall& call, int row) {
 }  // namespace
 
 void DescentForecastPage(PageCall& call) {
-    constexpr int kLastRow = 5;
+    TakeConfiguredLevels();
     OnLine(call);
 
     Title(call, 88, "DESCENT FORECAST");

@@ -80,7 +80,7 @@ void FollowCostIndex(int cost_index) {
     PlannedSpeeds& speeds = active ? plan.mod.entries.speeds : perf.speeds;
     ApplyCostIndexRow(!active, cost_index);
     const double pending = plan.mod.entries.cruise_alt;
-    const double cruise = active && pending > 0 ? pending : perf.cruise_alt;
+    const double cruise = pending > 0 ? pending : perf.cruise_alt;
     if (selected.ClimbSelected == 0) speeds.climb_ias = EconClimbSpeed(cost_index);
     const bool by_knots = selected.CruiseSelected == 1, by_mach = selected.CruiseMachSelected == 1;
     if (!by_knots && !by_mach && selected.LrcSelected == 0 && cruise >= kLowestCruise)

@@ -196,8 +196,9 @@ void DrawFirst(PageCall& call) {
     LeftData(call, 5, uplink ? "<REJECT" : "<REQUEST");
     DrawSpeeds(call);
     RightLabel(call, 4, "GR WT   TOGW");
-    RightData(call, 4,
-              Format("%-3.1f %-3.1f", ThousandsShown(GrossWeight()), ThousandsShown(TakeoffWeight())));
+    const double sent_weight = tablet_performance.takeoff.EfbTakeoffWeight;
+    const double togw = uplink && sent_weight > 0 ? sent_weight : TakeoffWeight();
+    RightData(call, 4, Format("%-3.1f %-3.1f", ThousandsShown(GrossWeight()), ThousandsShown(togw)));
     if (uplink) RightData(call, 5, "ACCEPT>");
     for (const int line : {kL1, kL2, kL3, kL5, kR4}) MarkSelectable(call, line);
     if (uplink) return MarkSelectable(call, kR5);
@@ -217,10 +218,14 @@ void EnterHeight(PageCall& call, int& height, int help_id) {
 
 void OnRunwayWind(PageCall& call) {
     if (Entry(call).empty()) return;
-    const auto wind = ParseWind(Entry(call));
-    if (!wind) return Refuse(call, "INVALID ENTRY", kHelpNotAllowed);
-    takeoff_approach.RefWindDir = wind->direction;
-    takeoff_approach.RefWindSpeed = wind->speed;
+    constexpr double kFullCircle = 360, kStrongest = 999;
+    const auto parts = SplitAtSlash(Entry(call));
+    if (!parts) return Refuse(call, "INVALID ENTRY", kHelpNotAllowed);
+    const auto direction = TypedNumber(parts->first, 0, kFullCircle);
+    const auto speed = TypedNumber(parts->second, 0, kStrongest);
+    if (!direction || !speed) return Refuse(call, "INVALID ENTRY", kHelpNotAllowed);
+    takeoff_approach.RefWindDir = *direction;
+    takeoff_approach.RefWindSpeed = *speed;
     ComputeRunwayWind();
     ClearEntry(call);
 }
@@ -244,15 +249,18 @@ void OnHeightsLine(PageCall& call) {
 void DrawSecond(PageCall& call) {
     const TakeoffApproachState& takeoff = takeoff_approach;
     const bool windy = takeoff.RefWindSpeed > 0;
-    if (windy) ComputeRunwayWind();
     LeftLabel(call, 1, "EO ACCEL HT");
     LeftData(call, 1, Format("%4dFT", takeoff.EoAccelHt));
     LeftLabel(call, 2, "ACCEL HT");
     LeftData(call, 2, Format("%4dFT", cfg.AccelHt));
     LeftLabel(call, 3, "WIND");
-    LeftData(call, 3,
-             windy ? Format("%03.0f%s/%.0fKT", takeoff.RefWindDir, kDegree, takeoff.RefWindSpeed)
-                   : Format("---%s/---KT", kDegree));
+    const TabletTakeoff& sent = tablet_performance.takeoff;
+    if (IsUplinkPending())
+        LeftData(call, 3, Format("%03.0f%s/%.0fKT", sent.EfbWindDir, kDegree, sent.EfbWindSpeed));
+    else
+        LeftData(call, 3,
+                 windy ? Format("%03.0f%s/%.0fKT", takeoff.RefWindDir, kDegree, takeoff.RefWindSpeed)
+                       : Format("---%s/---KT", kDegree));
     RightLabel(call, 1, "THR REDUCTION");
     PageText(call, 165, DataY(1), "CLB");
     RightData(call, 1, Format("%4dFT", cfg.ThrustReductionHt));
@@ -280,6 +288,7 @@ void TakeoffRefPage(PageCall& call) {
     else
         page == 1 ? OnSpeedsLine(call) : OnHeightsLine(call);
 
+    if (takeoff_approach.RefWindSpeed > 0) ComputeRunwayWind();
     if (IsUplinkPending()) PageText(call, 34, 25, "UPLINK", kMagenta, kSmallSize);
     Title(call, 105, "TAKEOFF REF");
     PageText(call, 230, 25, Format("%d/%d", page, kPages), kWhite, kLabelSize);

@@ -48,7 +48,7 @@ void OnLine(PageCall& call) {
         case kR4:
             return SelectClimb(call.line - kR2);
         case kR6:
-            UpdateTakeoffSpeeds();
+            if (takeoff_approach.to_flaps > 0) ComputeTakeoffSpeeds();
             return GoToPage(call.side, kPageTakeoffRef);
         default:
             break;

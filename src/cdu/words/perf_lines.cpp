@@ -51,10 +51,12 @@ void CruiseAltitudeLine(PageCall& call, bool left) {
     if (IsRouteModified() && pending > 0)
         return left ? HighlightedLeft(call, 1, AltitudeText(pending))
                     : HighlightedRight(call, 1, AltitudeText(pending));
-    if (perf.cruise_alt <= 0) return left ? LeftBoxes(call, 1, kBoxes) : RightBoxes(call, 1, kBoxes);
-    const Rgb colour = perf.cruise_alt == vnav.cross_at_elev ? kMagenta : kWhite;
-    left ? LeftData(call, 1, AltitudeText(perf.cruise_alt), colour)
-         : RightData(call, 1, AltitudeText(perf.cruise_alt), colour);
+    // Before EXEC that of a route that has just been loaded stands in for one.
+    const double altitude = perf.cruise_alt > 0 || IsRouteActive() ? perf.cruise_alt : pending;
+    if (altitude <= 0) return left ? LeftBoxes(call, 1, kBoxes) : RightBoxes(call, 1, kBoxes);
+    const Rgb colour = altitude == vnav.cross_at_elev ? kMagenta : kWhite;
+    left ? LeftData(call, 1, AltitudeText(altitude), colour)
+         : RightData(call, 1, AltitudeText(altitude), colour);
 }
 
 void StoreCruiseAltitude(double altitude) {
