@@ -107,10 +107,14 @@ FoundArea FindArea(Session& session, const std::string& gauge, IsWanted&& is_wan
 }
 
 // Hands a press at a point of the gauge's frame to an area.
-void Press(PanelGauge& panel, const MouseRectangle& area, int x, int y, bool right) {
+void Press(PanelGauge& panel, const MouseRectangle& area, int x, int y, uint32_t flags) {
     panel.instance.mouse_x = x;
     panel.instance.mouse_y = y;
-    area.callback(&panel.instance, right ? kMouseRightSingle : kMouseLeftSingle);
+    area.callback(&panel.instance, flags);
+}
+
+uint32_t FlagsOf(bool right) {
+    return right ? kMouseRightSingle : kMouseLeftSingle;
 }
 
 }  // namespace
@@ -214,18 +218,28 @@ bool PressMouseArea(Session& session, const std::string& gauge, const std::strin
     const auto [panel, area] =
         FindArea(session, gauge, [&](const MouseRectangle& candidate) { return name == candidate.name; });
     if (area == nullptr) return false;
-    Press(*panel, *area, area->x + area->width / 2, area->y + area->height / 2, right);
+    Press(*panel, *area, area->x + area->width / 2, area->y + area->height / 2, FlagsOf(right));
     return true;
 }
 
-bool PressMouse(Session& session, const std::string& gauge, double x, double y, bool right) {
+namespace {
+bool MouseAt(Session& session, const std::string& gauge, double x, double y, uint32_t flags) {
     const auto [panel, area] = FindArea(session, gauge, [&](const MouseRectangle& candidate) {
         return x >= candidate.x && x < candidate.x + candidate.width && y >= candidate.y &&
                y < candidate.y + candidate.height;
     });
     if (area == nullptr) return false;
-    Press(*panel, *area, static_cast<int>(x), static_cast<int>(y), right);
+    Press(*panel, *area, static_cast<int>(x), static_cast<int>(y), flags);
     return true;
+}
+}  // namespace
+
+bool PressMouse(Session& session, const std::string& gauge, double x, double y, bool right) {
+    return MouseAt(session, gauge, x, y, FlagsOf(right));
+}
+
+bool DragMouse(Session& session, const std::string& gauge, double x, double y) {
+    return MouseAt(session, gauge, x, y, kMouseLeftDrag);
 }
 
 void StopSession(Session& session) {

@@ -81,6 +81,9 @@ bool PressMouseArea(Session& session, const std::string& gauge, const std::strin
 /// Presses what lies at a place of a gauge, in its logical frame. False when nothing does.
 bool PressMouse(Session& session, const std::string& gauge, double x, double y, bool right);
 
+/// Moves the pressed mouse on to a place of a gauge. False when nothing lies there.
+bool DragMouse(Session& session, const std::string& gauge, double x, double y);
+
 /// Takes the module down in the simulator's order and removes a private root.
 void StopSession(Session& session);
 

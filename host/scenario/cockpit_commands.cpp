@@ -1,6 +1,9 @@
+#include <algorithm>
 #include <cstdlib>
+#include <sstream>
 
 #include "host/scenario/commands.h"
+#include "host/scenario/inspection.h"
 #include "host/screens.h"
 
 // What the crew does with its hands on gauges, tablets and the mode control panel.
@@ -40,13 +43,63 @@ void Press(Scenario& scenario, const std::vector<Word>& words) {
     throw CommandError{words[1].text + " has no area \"" + words[2].text + "\"; " + known};
 }
 
+struct TabletPoint {
+    double x, y;
+};
+TabletPoint PointWords(const Word& across, const Word& down) {
+    const TabletPoint at{NumberWord(across, "an x"), NumberWord(down, "a y")};
+    if (!(at.x >= 0 && at.x < 340 && at.y >= 0 && at.y < 448))
+        throw CommandError{across.text + ' ' + down.text + " is outside the canvas; 0 to 339, 0 to 447"};
+    return at;
+}
+
+// Pressed at the first point, then moved to the last; of a recording the going on alone.
+void DragOnTablet(Scenario& scenario, const char* gauge, const std::vector<Word>& words) {
+    constexpr int kSteps = 4;
+    if (words.size() != 5 && words.size() != 7) throw CommandError{"efb L|R drag X Y X Y"};
+    const TabletPoint from = PointWords(words[3], words[4]);
+    if (words.size() == 5) {
+        DragMouse(scenario.session, gauge, from.x, from.y);
+        return;
+    }
+    const TabletPoint to = PointWords(words[5], words[6]);
+    PressMouse(scenario.session, gauge, from.x, from.y, false);
+    for (int step = 1; step <= kSteps; ++step)
+        DragMouse(scenario.session, gauge, from.x + (to.x - from.x) * step / kSteps,
+                  from.y + (to.y - from.y) * step / kSteps);
+}
+
+// The module lists what may be touched, topmost first: "X Y WIDTH HEIGHT "LABEL"".
+void TouchLabel(Scenario& scenario, const char* gauge, const std::string& side, std::string label) {
+    std::replace(label.begin(), label.end(), '\n', ' ');
+    std::string known;
+    std::istringstream touches(PrintedList(scenario, "touches", side));
+    int x = 0, y = 0, width = 0, height = 0;
+    std::string rest;
+    while (touches >> x >> y >> width >> height && std::getline(touches, rest)) {
+        const std::string text = rest.substr(std::min<std::size_t>(rest.size(), 2));
+        if (text == label + '"') {
+            PressMouse(scenario.session, gauge, x + width / 2, y + height / 2, false);
+            return;
+        }
+        known += (known.empty() ? "" : ", ") + text.substr(0, text.size() - 1);
+    }
+    throw CommandError{"nothing there bears \"" + label + "\"; " +
+                       (known.empty() ? "the tablet is dark" : known)};
+}
+
 void Efb(Scenario& scenario, const std::vector<Word>& words) {
-    const char* gauge = IsLeftSide(words[1]) ? "CAPT_EFB" : "FO_EFB";
-    const double x = NumberWord(words[2], "an x"), y = NumberWord(words[3], "a y");
-    if (!(x >= 0 && x < 340 && y >= 0 && y < 448))
-        throw CommandError{words[2].text + ' ' + words[3].text +
-                           " is outside the canvas; 0 to 339, 0 to 447"};
-    PressMouse(scenario.session, gauge, x, y, false);
+    const bool left = IsLeftSide(words[1]);
+    const char* gauge = left ? "CAPT_EFB" : "FO_EFB";
+    if (words.size() == 3) return TouchLabel(scenario, gauge, left ? "L" : "R", words[2].text);
+    if (words[2].text == "drag") return DragOnTablet(scenario, gauge, words);
+    if (words[2].text == "type") {
+        Inspect(InspectionOf(scenario).type_on_tablet, left ? 1 : 2, words[3].text.c_str());
+        return;
+    }
+    const TabletPoint at = PointWords(words[2], words[3]);
+    if (words.size() > 4 && words[4].text == "wheel") return;  // no page scrolls
+    PressMouse(scenario.session, gauge, at.x, at.y, IsRight(words, 4));
 }
 
 // A button by its name, a bar by "up" or "down", a knob by detents: ten of them are one big step.
@@ -79,7 +132,8 @@ std::vector<Command> CockpitCommands() {
         {"click", "GAUGE X Y [left|right]", "click DU_CAPT_INB_MC 120 10", Command::kAfter, 3, 4, Click},
         {"press", "GAUGE AREA [left|right]", "press MCP \"hdg +10\"", Command::kAfter, 2, 3, Press},
         {"mcp", "CONTROL [N|up|down|push]", "mcp hdg 10", Command::kAfter, 1, 2, Mcp},
-        {"efb", "L|R X Y", "efb L 50 110", Command::kAfter, 3, 3, Efb},
+        {"efb", "L|R \"LABEL\" | X Y [left|right|wheel] | drag X Y X Y | type TEXT", "efb L 50 110",
+         Command::kAfter, 2, 6, Efb},
     };
 }
 

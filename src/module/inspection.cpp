@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "cdu/unit/items.h"
+#include "efb/tablet_input.h"
 #include "fmc/route/route_text.h"
 #include "frame/named_variables.h"
 #include "module/called_functions.h"
@@ -124,6 +125,12 @@ int PressClearMessage(int side) {
     return 1;
 }
 
+int TypeKeys(int side, const char* keys, ResultSink, void*) {
+    const StateLock lock;
+    for (const char* key = keys; *key != '\0'; ++key) TypeOnTablet(side, *key);
+    return 1;
+}
+
 constexpr InspectionTable kInspection = {
     .version = kLinkageVersion,
     .read_variable = ReadVariable,
@@ -142,6 +149,7 @@ constexpr InspectionTable kInspection = {
     .press_clear_message = PressClearMessage,
     .stream_image = CopyStreamImage,
     .list_model_variables = ListModelVariables,
+    .type_on_tablet = TypeKeys,
 };
 
 }  // namespace

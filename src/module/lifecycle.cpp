@@ -2,6 +2,7 @@
 
 #include <string_view>
 
+#include "efb/performance/takeoff_analysis.h"
 #include "fmc/files/route_files.h"
 #include "fmc/performance/winds.h"
 #include "frame/aircraft.h"
@@ -66,6 +67,7 @@ void PreInitialize() {
     if (cfg.config_read == 0) {
         ReadConfig();
         LoadAircraft();
+        LoadPerformanceTable(identity.aircraft_model);
     }
     if (module_life.navdata_read == 0) {
         LoadNavTables();

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string>
 
+#include "efb/tablet.h"
 #include "module/pictures.h"
 #include "navdata/parse_entry.h"
 #include "state/cdu.h"
@@ -105,14 +106,33 @@ int PrintAlerts(std::string_view, const Results& results) {
     return 1;
 }
 
+// What may be touched on a side's tablet, topmost first; what has a label and a text answers to both.
+int PrintTouches(std::string_view side, const Results& results) {
+    if (side != "L" && side != "R") return results.Fail("touches takes L or R");
+    const int number = side == "L" ? kCaptain : kFirstOfficer;
+    if (!IsTabletLit(number)) return 1;
+    const TabletFace face = FaceOf(number);
+    for (auto item = face.items.rbegin(); item != face.items.rend(); ++item) {
+        if (!item->IsTouchable()) continue;
+        for (std::string text : {item->label, item->text}) {
+            if (text.empty()) continue;
+            std::ranges::replace(text, '\n', ' ');
+            Line line(item->box.x);
+            line << item->box.y << item->box.width << item->box.height << Quoted(text);
+            line.Print(results);
+        }
+    }
+    return 1;
+}
+
 struct PrintedList {
     std::string_view name;
     int (*print)(std::string_view argument, const Results& results);
 };
 constexpr PrintedList kPrintedLists[] = {
-    {"legs", PrintLegs},          {"rows", PrintRows},     {"candidates", PrintCandidates},
-    {"messages", PrintMessages},  {"alerts", PrintAlerts}, {"text", PrintPictureTexts},
-    {"draws", PrintPictureDraws},
+    {"legs", PrintLegs},          {"rows", PrintRows},       {"candidates", PrintCandidates},
+    {"messages", PrintMessages},  {"alerts", PrintAlerts},   {"text", PrintPictureTexts},
+    {"draws", PrintPictureDraws}, {"touches", PrintTouches},
 };
 
 }  // namespace

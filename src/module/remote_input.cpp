@@ -5,6 +5,7 @@
 
 #include "cdu/unit/items.h"
 #include "efb/tablet_input.h"
+#include "efb/words/face.h"
 #include "frame/named_variables.h"
 #include "module/controls/operate.h"
 #include "platform/panel_gauges.h"
@@ -151,7 +152,7 @@ void Touch(const RemoteEvent& event) {
     if (event.x <= 0 || event.y <= 0 || event.x >= image.width || event.y >= image.height) return;
     if (event.device == kTablet) {
         const FramePoint at = InFrame(event, image, kTabletWidth, kTabletHeight);
-        TouchTablet(kCaptain, static_cast<int>(at.x), static_cast<int>(at.y));
+        OnEfbTouch(static_cast<int>(at.x), static_cast<int>(at.y), kCaptain, kMouseLeftSingle);
         remote.efb.due = 1;
     } else {
         const FramePoint at = InFrame(event, image, 564, 424);

@@ -3,6 +3,7 @@
 #include "cdu/unit/cdu_service.h"
 #include "display/routing/cdu_shown.h"
 #include "display/routing/panel_windows.h"
+#include "efb/tablet.h"
 #include "frame/aircraft.h"
 #include "frame/keyboard_capture.h"
 #include "frame/snapshot.h"
@@ -32,6 +33,7 @@ void RunOutputs() {
     if (!ticked) PollControls(time_base.frame_phase);  // in pause every control is seen too
     for (const int side : {kCaptain, kFirstOfficer}) StepCdu(side, IsCduShown(side));
     TickOutputs(ticked);
+    StepTablets();
 }
 
 }  // namespace

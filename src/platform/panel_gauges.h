@@ -45,6 +45,7 @@ struct GaugeInstance {
 
 constexpr uint32_t kMouseLeftSingle = 0x20000000;
 constexpr uint32_t kMouseRightSingle = 0x80000000;
+constexpr uint32_t kMouseLeftDrag = 0x00800000;
 
 /// A mouse area of a gauge, in its logical frame.
 struct MouseRectangle {

@@ -103,7 +103,7 @@ constexpr StateGroup kGroups[] = {
     {"autoflight", Reset<&autoflight>, &kAutoflightVariables,
      "guidance/ systems/thrust_rating panels/panel_keys"},
     {"sound", Reset<&sound>, &kSoundVariables, "frame/ systems/ sound/ module/"},
-    {"cdu", Reset<&cdu>, &kCduVariables, "frame/ cdu/words/ cdu/unit/"},
+    {"cdu", Reset<&cdu>, &kCduVariables, "frame/ cdu/words/ cdu/unit/ efb/pages/send_page"},
     {"route_pages", Reset<&route_pages>, &kRoutePageVariables, "cdu/words/views cdu/pages/ cdu/unit/items"},
     {"displays", Reset<&displays>, &kDisplayVariables,
      "systems/ display/routing/ display/synoptics/cb_page display/formats/ display/pictures/compose"},
@@ -116,7 +116,7 @@ constexpr StateGroup kGroups[] = {
      "frame/named_variable_catalogue frame/model_values guidance/decision_height "
      "display/routing/instrument_controls display/synoptics/efis_dsp_page display/pfd/pfd_memory"},
     {"efb", Reset<&efb>, &kEfbVariables, "efb/"},
-    {"tablet_performance", Reset<&tablet_performance>, &kTabletPerformanceVariables, "cdu/pages/"},
+    {"tablet_performance", Reset<&tablet_performance>, &kTabletPerformanceVariables, "cdu/pages/ efb/"},
     {"remote", Reset<&remote>, &kRemoteVariables, "display/pictures/remote_bridge module/remote_input"},
     {"requests", Reset<&requests>, &kRequestVariables,
      "fmc/legs/holds fmc/route/modification fmc/files/ guidance/ cdu/words/views checklist/ "

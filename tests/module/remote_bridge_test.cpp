@@ -121,12 +121,13 @@ TEST_F(RemoteInput, TouchesAreInTheSurfacesPixels) {
     EXPECT_EQ(cdu[1].PendingLine, 1);
     remote.efb.width = 245;
     remote.efb.height = 435;
+    efb.side[0].EfbPower = 1;
     Touch(2, 49, 87);  // a fifth of either
     EXPECT_EQ(efb.side[0].EfbMouseX, 68);
     EXPECT_EQ(efb.side[0].EfbMouseY, 89);
-    EXPECT_EQ(efb.side[0].touch_pending, 1);
+    EXPECT_EQ(efb.side[0].touch_ticks > 0, true);
 
-    efb.side[0].touch_pending = 0;
+    efb.side[0].touch_ticks = 0;
     cdu[0].PendingLine = 0;
     remote.cdu.due = remote.efb.due = 0;
     for (const auto& [x, y] : {std::pair{0, 87}, {49, 0}, {-5, 87}, {245, 87}, {49, 435}, {2147483647, 1}})
@@ -138,7 +139,7 @@ TEST_F(RemoteInput, TouchesAreInTheSurfacesPixels) {
     }
     Touch(0, 0, 78);
     Touch(0, 1000, 78);
-    EXPECT_EQ(efb.side[0].touch_pending, 0);
+    EXPECT_EQ(efb.side[0].touch_ticks, 0);
     EXPECT_EQ(efb.side[0].pending_key, 0);
     EXPECT_EQ(cdu[0].PendingLine, 0);
     EXPECT_EQ(cdu[0].ScratchPad, "");

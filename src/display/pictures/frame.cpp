@@ -6,8 +6,8 @@
 #include "display/formats/debug_screen.h"
 #include "display/formats/hud.h"
 #include "display/formats/standby_pfd.h"
-#include "display/formats/tablet.h"
 #include "display/pictures/compose.h"
+#include "efb/tablet.h"
 #include "paint/graphics.h"
 #include "state/displays.h"
 #include "state/power_words.h"
@@ -64,9 +64,9 @@ constexpr Screen kScreens[] = {
          return true;
      },
      true, kClear},
-    {Painting::kEfb, nullptr,
+    {Painting::kEfb, IsTabletLit,
      [](Graphics& graphics, const PaintedGauge& gauge) {
-         DrawTablet(graphics, gauge.unit);
+         DrawEfb(graphics, gauge.unit);
          return true;
      },
      false, kDark},

@@ -41,18 +41,23 @@ double SpeedFor(const SpeedTable& table, double weight) {
         ->speed;
 }
 
-void FillEmpty(double& speed, const SpeedTable& table, double weight) {
-    if (speed == 0) speed = SpeedFor(table, weight);
+void FillEmpty(double& speed, int flaps, double weight, LandingWeight limit) {
+    if (speed == 0) speed = ApproachSpeed(flaps, weight, limit);
 }
 
 }  // namespace
 
-void FillApproachSpeeds(LandingWeight limit) {
+double ApproachSpeed(int flaps, double weight, LandingWeight limit) {
     constexpr double kHeaviestLanding = 380000;
+    if (flaps == 20) return SpeedFor(kVref20, weight);
+    if (flaps == 25) return SpeedFor(kVref25, weight);
+    return SpeedFor(kVref30, limit == LandingWeight::kLimited ? std::min(weight, kHeaviestLanding) : weight);
+}
+
+void FillApproachSpeeds(LandingWeight limit) {
     TakeoffApproachState& approach = takeoff_approach;
     const double weight = approach.ApproachWeightEntry != 0 ? approach.ApproachWeightEntry : GrossWeight();
-    const double landing = limit == LandingWeight::kLimited ? std::min(weight, kHeaviestLanding) : weight;
-    FillEmpty(approach.Vref30, kVref30, landing);
-    FillEmpty(approach.Vref25, kVref25, weight);
-    FillEmpty(approach.Vref20, kVref20, weight);
+    FillEmpty(approach.Vref30, 30, weight, limit);
+    FillEmpty(approach.Vref25, 25, weight, limit);
+    FillEmpty(approach.Vref20, 20, weight, limit);
 }

@@ -7,6 +7,7 @@
 
 #include "display/formats/clicks.h"
 #include "efb/tablet_input.h"
+#include "efb/words/face.h"
 #include "frame/key_events.h"
 #include "module/controls/control_table.h"
 #include "module/controls/operate.h"
@@ -138,9 +139,9 @@ constexpr MouseRectangle kScreens[] = {
 };
 
 template <int kSide>
-int32_t OnTabletTouch(GaugeInstance* instance, uint32_t) {
+int32_t OnTabletTouch(GaugeInstance* instance, uint32_t flags) {
     const StateLock lock;
-    TouchTablet(kSide, instance->mouse_x, instance->mouse_y);
+    OnEfbTouch(instance->mouse_x, instance->mouse_y, kSide, flags);
     return 0;
 }
 

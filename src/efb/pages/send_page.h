@@ -1,0 +1,5 @@
+#pragma once
+
+#include "efb/words/face.h"
+
+void SendPage(TabletFace& face);
