@@ -18,10 +18,11 @@ void ChooseDestination(int, int destination) {
     efb.EfbSendTo = destination;
 }
 
-// The crew accepts it on the captain's CDU, on a page of its own.
+// The crew accepts it on the captain's CDU.
 void ShowOnCdu(int page) {
     CduState& captain = CduOf(kCaptain);
     captain.fms_page = page;
+    captain.takeoff_index = 1;
 }
 
 void SendTakeoff() {

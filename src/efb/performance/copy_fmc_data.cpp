@@ -16,7 +16,8 @@ void CopyFmcData(int, int) {
     TabletLanding& landing = tablet_performance.landing;
     if (takeoff_approach.to_flaps > 0) takeoff.EfbTakeoffFlaps = Format("%d", takeoff_approach.to_flaps);
     takeoff.EfbTakeoffWeight = GrossWeight();
-    takeoff.EfbCg = EvalCalc("(A:CG PERCENT,percent)");
+    takeoff.EfbCg = takeoff_approach.TakeoffTrimCg > 0 ? takeoff_approach.TakeoffTrimCg
+                                                       : EvalCalc("(A:CG PERCENT,percent)");
     landing.EfbLandingWeight =
         takeoff_approach.ApproachWeightEntry > 0 ? takeoff_approach.ApproachWeightEntry : GrossWeight();
     takeoff.EfbTakeoffDone = landing.EfbLandingDone = 0;
