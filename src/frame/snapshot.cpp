@@ -187,7 +187,9 @@ void ComputeWindAndTrack() {
 void ReadMotion() {
     constexpr double kBankDeadBand = 0.035;
     sim.ground_speed_kt = std::fabs(ReadToken(kTokenGroundSpeed) / kFpsPerKnot);
-    sim.ias_kt = 0.7 * sim.ias_kt + 0.3 * ReadToken(kTokenIas);
+    // What is smoothed would keep what is no number for ever.
+    if (const double ias = ReadToken(kTokenIas); std::isfinite(ias))
+        sim.ias_kt = 0.7 * sim.ias_kt + 0.3 * ias;
     sim.ind_alt_ft = EvalCalc("(A:INDICATED ALTITUDE, feet)");
     sim.pitch_deg = ReadToken(kTokenPitch);
     const double bank = ReadToken(cfg.simver == 9 ? kTokenBankGen9 : kTokenBank);
@@ -199,7 +201,8 @@ void ReadMotion() {
 
 void ReadSnapshot() {
     for (const PlainValue& value : kPlainValues) sim.*value.member = ReadToken(value.token) * value.scale;
-    for (const PlainFlag& flag : kPlainFlags) sim.*flag.member = ReadToken(flag.token) != 0 ? 1 : 0;
+    // What is no number raises no flag.
+    for (const PlainFlag& flag : kPlainFlags) sim.*flag.member = std::fabs(ReadToken(flag.token)) > 0 ? 1 : 0;
     const double lon = ReadToken(kTokenLon) / 781874935307.4;
     sim.plane_lon = lon > 180 ? lon - 360 : lon;
     sim.radio_alt_ft =

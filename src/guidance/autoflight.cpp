@@ -71,10 +71,15 @@ void FollowEngagedModes() {
     vnav.vnav_engaged = autoflight.ap_vert_mode == kVertVnavSpd || autoflight.ap_vert_mode == kVertVnavPth;
 }
 
+void ShowMasterWarning(int lit) {
+    SetControl(&cockpit.TZ_MCP_Annun_WARN, lit);
+    SetControl(&cockpit.TZ_MCP_AnnunR_WARN, lit);
+}
+
 void SetDisconnectWarning(int warning) {
     autoflight.ap_disc_warning = warning;
     autoflight.ap_disc_lamp = warning;
-    SetControl(&cockpit.TZ_MCP_Annun_WARN, warning);
+    ShowMasterWarning(warning);
 }
 
 void StepDisconnect() {
@@ -96,7 +101,7 @@ void StepDisconnect() {
     if (autoflight.ap_disc_latch == 1 && IsAutopilotEngaged()) {
         autoflight.ap_disc_latch = 0;
         autoflight.ap_disc_lamp = 0;
-        SetControl(&cockpit.TZ_MCP_Annun_WARN, 0);
+        ShowMasterWarning(0);
         if (cfg.DiscATOnAPDisc == 1) {
             SetControl(&cockpit.TZ_OH_PFC_Safety_Switch, 1);
             SetControl(&cockpit.TZ_OH_PFC_G_Switch, 1);

@@ -1,5 +1,6 @@
 #include "guidance/speed_trend.h"
 
+#include <cmath>
 #include <numeric>
 
 #include "frame/named_variables.h"
@@ -9,7 +10,8 @@
 
 void UpdateSpeedTrend() {
     AutoflightState& a = autoflight;
-    sim.airspeed_smooth = ReadNamedVar(NamedVar("airspeed_smooth"));
+    const double heard = ReadNamedVar(NamedVar("airspeed_smooth"));
+    if (std::isfinite(heard)) sim.airspeed_smooth = heard;
     a.spd_ring[static_cast<std::size_t>(time_base.tick_phase)] = sim.airspeed_smooth;
     const double mean =
         std::accumulate(a.spd_ring.begin(), a.spd_ring.end(), 0.0) / static_cast<double>(a.spd_ring.size());

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include "base/bcd.h"
 #include "frame/tokens.h"
 #include "state/cfg.h"
@@ -72,6 +74,12 @@ TEST(Snapshot, RawValuesBecomeUnits) {
     ReadMotion();
     EXPECT_NEAR(sim.ias_kt, 0.7 * 30 + 30, 1e-9);
     EXPECT_EQ(sim.bank_deg, -0.5);
+    // what is no number passes: the speed goes on from what it was, and no engine burns
+    host.tokens[kTokenIas] = host.tokens[kTokenEng1Fire] = std::nan("");
+    ReadMotion();
+    ReadSnapshot();
+    EXPECT_NEAR(sim.ias_kt, 0.7 * 30 + 30, 1e-9);
+    EXPECT_EQ(sim.eng1_fire, 0);
 }
 
 TEST(Snapshot, WindMakesDriftAboveTheRunwayOnly) {

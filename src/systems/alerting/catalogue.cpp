@@ -285,7 +285,7 @@ constexpr AlertRow kCatalogue[] = {
      [] { return autoflight.ap_disc_warning == 0; }},
     {10, "FIRE ENG L", kWarning, [] { return sim.eng1_fire != 0; }, [] { return sim.eng1_fire == 0; }},
     {11, "FIRE ENG R", kWarning, [] { return sim.eng2_fire != 0; }, [] { return sim.eng2_fire == 0; }},
-    {12, "FIRE APU", kWarning, [] { return !IsDark(NamedVar("FIRE APU")); },
+    {12, "FIRE APU", kWarning, [] { return std::fabs(ReadNamedVar(NamedVar("FIRE APU"))) > 0; },
      [] { return IsDark(NamedVar("FIRE APU")); }},
     {13, "CABIN ALTITUDE", kWarning, [] { return sim.cabin_alt >= 10000 && sim.radio_alt_ft > 5000; },
      [] { return sim.cabin_alt < 10000 || sim.radio_alt_ft < 5000; }},
