@@ -8,6 +8,12 @@ namespace {
 
 constexpr float kSecondaryText = 9, kNameSize = 7;
 
+// What stands under the dials makes room for a fourth row of them.
+void GiveRoomToDials(Graphics& graphics) {
+    constexpr int kRoom = 34;
+    if (HasThrustRatioDials()) GdipTranslateWorldTransform(graphics, 0, kRoom);
+}
+
 // Towards the middle between the two engines: the right one is the left one mirrored.
 double Inwards(const EngineView& engine, double x) {
     return engine.right ? -x : x;
@@ -47,6 +53,8 @@ void DrawOilScale(Graphics& graphics, const EngineView& engine, const OilScale& 
 }  // namespace
 
 void DrawSecondary(Graphics& graphics, const EngineView& engine) {
+    const TransformBlock block(graphics);
+    GiveRoomToDials(graphics);
     DrawOilScale(graphics, engine, kPressure);
     DrawOilScale(graphics, engine, kTemperature);
     DrawBoxed(graphics, engine, 10, 136, 15, Format("%3.0f", engine.readings.oil_qty));
@@ -68,6 +76,8 @@ void DrawSecondaryNames(Graphics& graphics) {
         TextAbout(graphics, kBetween, y, kNameSize, kCyanAlternate, text);
     };
     TextAbout(graphics, 362, HasThrustRatioDials() ? 256 : 203, kNameSize, kCyanAlternate, "FF");
+    const TransformBlock block(graphics);
+    GiveRoomToDials(graphics);
     name(270, "OIL");
     name(279, "PRESS");
     name(332, "OIL");
