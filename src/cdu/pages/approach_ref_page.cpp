@@ -117,7 +117,7 @@ void DrawRunway(PageCall& call) {
     LeftData(call, 3, Format("%05dFT %04.0fM", runway->length_ft, runway->length_ft * kMetresPerFoot));
     const std::string& kind = plan.mod.procedures.appr_type;
     if (kind != "ILS" && kind != "LOC") return;
-    LeftLabel(call, 4, plan.mod.procedures.arr_appr);
+    LeftLabel(call, 4, Format("%s %s", kind.c_str(), runway->ident.c_str()));
     LeftData(call, 4,
              Format("%s%s/%03.0f%s", runway->ils_freq.c_str(), runway->ils_ident.c_str(), runway->course,
                     kDegree));

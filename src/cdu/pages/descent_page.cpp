@@ -98,6 +98,12 @@ double BearingTo(int next) {
     return distance > 0 ? std::atan2(down, distance * kFeetPerNm) / kRadPerDeg : 0;
 }
 
+// Without the sign of a zero.
+std::string AngleText(double degrees) {
+    const std::string text = Format("%2.1f", degrees);
+    return text == "-0.0" ? "0.0" : text;
+}
+
 void DrawPath(PageCall& call) {
     constexpr double kAngleX = 140, kBearingX = 180, kFpmPerKnot = 101.27;
     const int next = NextDescentConstraint(kAltitudeRestr);
@@ -117,9 +123,9 @@ void DrawPath(PageCall& call) {
     const double angle = per_knot > 0 ? -std::atan2(sim.vs_fpm, per_knot) / kRadPerDeg : 0;
     const double bearing = next > 0 ? BearingTo(next) : 0;
     PageText(call, kAngleX, LabelY(4), "FPA", kCyan, kLabelSize);
-    PageText(call, kAngleX, DataY(4), Format("%2.1f", angle));
+    PageText(call, kAngleX, DataY(4), AngleText(angle));
     PageText(call, kBearingX, LabelY(4), "V/B", kCyan, kLabelSize);
-    PageText(call, kBearingX, DataY(4), Format("%2.1f", bearing));
+    PageText(call, kBearingX, DataY(4), AngleText(bearing));
     RightLabel(call, 4, "V/S");
     RightData(call, 4, Format("%2.0f", std::tan(bearing * kRadPerDeg) * per_knot));
 }
