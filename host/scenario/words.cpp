@@ -17,11 +17,12 @@ std::optional<std::vector<Word>> SplitWords(std::string_view line) {
         bool quoted = false;
         for (; at < line.size() && (quoted || !blank(line[at])); ++at) {
             word.raw += line[at];
+            const char escaped = quoted && line[at] == '\\' && at + 1 < line.size() ? line[at + 1] : ' ';
             if (line[at] == '"') {
                 quoted = !quoted;
-            } else if (quoted && line[at] == '\\' && at + 1 < line.size() && line[at + 1] == 'n') {
+            } else if (escaped == 'n' || escaped == '"') {
                 word.raw += line[++at];
-                word.text += '\n';
+                word.text += escaped == 'n' ? '\n' : '"';
             } else {
                 word.text += line[at];
             }

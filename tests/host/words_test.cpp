@@ -27,6 +27,7 @@ TEST(ScenarioWords, SplitAtBlanksOutsideQuotes) {
         {R"(expect call:"GreatCircle 0 0 1 1".dist ~ 84.8 0.1)",
          "[expect][call:GreatCircle 0 0 1 1.dist][~][84.8][0.1]"},
         {R"(log "a\nb\c")", "[log][a\nb\\c]"},
+        {R"(expect alerts contains "memo \"COMM\"")", R"([expect][alerts][contains][memo "COMM"])"},
         {R"(log "")", "[log][]"},
         {R"(log "open)", "open quote"},
     };
