@@ -67,6 +67,12 @@ double HandleOfFlapAngle(const Airframe& airframe, double degrees) {
     return std::round(Between(DetentsOf(airframe), degrees, &Detent::degrees, &Detent::handle));
 }
 
+std::vector<double> FlapStops(const Airframe& airframe) {
+    std::vector<double> stops;
+    for (const Detent& row : DetentsOf(airframe)) stops.push_back(row.degrees);
+    return stops;
+}
+
 int FlapDetent(const Airframe& airframe, double degrees) {
     constexpr double kReached = 0.05;
     int detent = -1;

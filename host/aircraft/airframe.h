@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string_view>
+#include <vector>
 
 // What sets one variant, and one make of engine, apart.
 
@@ -27,6 +28,9 @@ Airframe AirframeOf(std::string_view sim, std::string_view engines = "ge");
 /// back. Detents differ by variant; between two of them the angle follows the handle.
 double FlapAngleOfHandle(const Airframe& airframe, double handle);
 double HandleOfFlapAngle(const Airframe& airframe, double degrees);
+
+/// The angles (degrees) of the handle's detents, up to down.
+std::vector<double> FlapStops(const Airframe& airframe);
 
 /// Number of the detent that a flap angle has reached, 0 up.
 int FlapDetent(const Airframe& airframe, double degrees);

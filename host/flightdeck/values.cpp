@@ -80,6 +80,9 @@ std::string DeckGreeting(const Session& session) {
     const InspectionTable& inspection = *session.linkage->inspection;
     json greeting{{"type", "hello"}, {"version", kVersion}};
     for (const auto& [family, file] : Ask(inspection.list_fonts).results) greeting["fonts"].push_back(family);
+    constexpr double kHandleDown = 16384;
+    for (const double degrees : FlapStops(flight.airframe))
+        greeting["flaps"].push_back({degrees, HandleOfFlapAngle(flight.airframe, degrees) / kHandleDown});
     greeting["controls"] = json::object();
     for (const auto& [name, told] : Ask(inspection.list_controls).results) greeting["controls"][name] = told;
     greeting["variables"] = json::object();

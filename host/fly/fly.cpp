@@ -152,6 +152,8 @@ void StepRoute(Session& session, RouteFlight& route) {
     WayAhead way = route.behind_to;
     way.to_go += to_fix;
     way.to_limit += to_fix;
+    way.to_lat = route.to_lat;
+    way.to_lon = route.to_lon;
     const Pilot::Phase before = route.pilot.phase;
     if (!world.pilot_does.empty()) {
         StepPilot(route.pilot, session, way);

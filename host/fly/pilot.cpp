@@ -7,6 +7,7 @@
 
 #include "host/aircraft/angles.h"
 #include "host/flightdeck/control_sharing.h"
+#include "host/fly/flight_log.h"
 #include "host/inspection.h"
 #include "host/world/world.h"
 
@@ -459,10 +460,26 @@ void TakeBack(Pilot& pilot, Session& session, unsigned things) {
     if ((things & kStick) != 0 && NamedValue("ap_master_l") == 0) Press(session, "apl");
     if (pilot.approach_armed || IsOnFinal()) return;
     if ((things & (kStick | kHeadingWindow)) != 0 && NamedValue("ap_lat_mode") != kModeLnav)
-        Press(session, "lnav");
+        pilot.intercepts = true;
     if ((things & (kStick | kAltitudeWindow)) == 0) return;
     Set(session, kSetAltitude, pilot.window_reset ? PlatformAltitude(pilot) : pilot.cruise_ft);
     if (!IsVnavEngaged()) Press(session, pilot.by_level_change ? "flch" : "vnav");
+}
+
+// Far beside the route LNAV only arms: he steers for the fix ahead until it has the aircraft.
+void Intercept(Pilot& pilot, Session& session, const WayAhead& way) {
+    const bool is_his = (world.user_has & (kStick | kHeadingWindow)) == 0;
+    const bool is_there = NamedValue("ap_lat_mode") == kModeLnav || pilot.phase >= Pilot::kApproach;
+    if (!is_his || is_there) {
+        pilot.intercepts = false;
+        pilot.heading = -1;
+        return;
+    }
+    if (NamedValue("ap_lat_mode_armed") == 0) Press(session, "lnav");
+    if (NamedValue("ap_lat_mode") == kModeLnav) return;
+    const double lat = AircraftNumber("lat"), lon = AircraftNumber("lon");
+    const double east = std::remainder(way.to_lon - lon, 360) * std::cos((lat + way.to_lat) / 2 * kRad);
+    Steer(pilot, session, std::atan2(east, way.to_lat - lat) / kRad);
 }
 
 }  // namespace
@@ -471,6 +488,7 @@ void StepPilot(Pilot& pilot, Session& session, const WayAhead& way) {
     const unsigned given_back = std::exchange(world.given_back, 0);
     SeeWhatUsersDid(pilot, given_back | world.user_has);
     if (given_back != 0) TakeBack(pilot, session, given_back);
+    if (pilot.intercepts) Intercept(pilot, session, way);
     WatchCentreTank(pilot, session);
     switch (pilot.phase) {
         case Pilot::kSettingUp:

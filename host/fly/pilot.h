@@ -22,6 +22,7 @@ struct Pilot {
     double flaps = 0;              // degrees
     double speed = 0;              // kt, of the speed window
     double heading = -1;           // degrees, of the heading window while it steers
+    bool intercepts = false;       // steers back to the route, for LNAV to take it up
     bool by_level_change = false;  // climbs and descends by FLCH, VNAV isn't there
     HandLanding by_hand;           // where no landing system leads to the ground
     bool centre_pumps = false;
@@ -30,9 +31,10 @@ struct Pilot {
 
 /// What the route asks for from here on.
 struct WayAhead {
-    double to_go = 0;     // nm along the route to its end
-    double to_limit = 0;  // nm to the next fix that limits the speed
-    double fastest = 0;   // kt there; 0 = none does
+    double to_lat = 0, to_lon = 0;  // of the fix flown to
+    double to_go = 0;               // nm along the route to its end
+    double to_limit = 0;            // nm to the next fix that limits the speed
+    double fastest = 0;             // kt there; 0 = none does
 };
 
 /// Acts once a second.

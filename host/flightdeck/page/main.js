@@ -6,7 +6,7 @@ import {Hands} from './hands.js';
 import {Inspector} from './inspector.js';
 import {makeKeyboardHelp, makeKeypad, takeKeyboard} from './keypad.js';
 import {Link} from './link.js';
-import {efbKeys, efbLabels, failures, ground, overhead, pedestal} from './panels.js';
+import {efbKeys, efbLabels, failures, flightLevers, ground, overhead, pedestal} from './panels.js';
 import {Screens} from './screens.js';
 
 // A page of one screen, or of one unit for a phone or tablet; else the whole deck.
@@ -21,6 +21,7 @@ const link = new Link({
     panels.setControls(message.controls ?? {});
     onAircraft = {ground: message.ground ?? [], failures: message.failures ?? []};
     version.textContent = message.version ?? '';
+    flightLevers.flaps.stops = message.flaps.map(([degrees, at]) => [degrees === 0 ? 'UP' : String(degrees), at]);
     if (!built) (kind ? handheld : deck)();
     built = true;
     inspector.setNames(message.variables ?? {}, message.named ?? []);

@@ -294,7 +294,7 @@ export const efbLabels = {ZOOMIN: 'Z+', ZOOMOUT: 'Z-', LFT: '<', RGT: '>', UP: '
 // The pilot's own levers.
 export const flightLevers = {
   flaps: {look: 'lever', label: 'Flaps', lever: 'flaps', value: 'token:328', full: 16384,
-          stops: [0, 1, 5, 10, 15, 17, 18, 20, 25, 30].map((degrees, detent) => [degrees === 0 ? 'UP' : String(degrees), detent / 9])},
+          stops: []},  // the aircraft's own, which the host tells
   gear: {look: 'lever', label: 'Gear', lever: 'gear', value: 'token:331', full: 1, stops: [['UP', 0], ['DOWN', 1]]},
   arm: {look: 'lever', label: 'Spoilers', lever: 'speedbrake_arm', value: 'token:324', full: 1,
         stops: [['OFF', 0], ['ARMED', 1]]},
