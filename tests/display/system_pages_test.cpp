@@ -95,6 +95,15 @@ TEST_F(SystemPages, FlightControlModeGoesByComputersAndInertialUnits) {
     }
 }
 
+// Where a live line and a dead one run together the live one is seen.
+TEST_F(SystemPages, LiveFuelCoversWhatIsDead) {
+    SetVariables("press_aft_l 20");
+    const std::string picture = PageOn(kFuelPage);
+    const std::size_t live = picture.find(std::string(kGreenLine) + "M 346 292");
+    EXPECT_NE(live, std::string::npos);
+    EXPECT_GT(live, picture.find(std::string(kGreyLine) + "M 408 292"));
+}
+
 TEST_F(SystemPages, KeysChoosePagesAndWarn) {
     SetVariables("fuel_status 8, elec_status 8");
     const std::string picture = PageOn(kStatPage);

@@ -53,16 +53,22 @@ double Thousands(double lb) {
     return DisplayWeight(lb) / 1000;
 }
 
+void DrawPumpLine(const SysPage& page, const BoostPump& pump, FlowState state) {
+    constexpr int kMainJoint = 226, kCentreJoint = 212;
+    const bool centre = pump.x > 380 && pump.x < 470;
+    const int joint = centre ? kCentreJoint : kMainJoint;
+    DrawFlow(page, {{pump.x, kTankTop}, {pump.x, joint}, {pump.feeds_x, joint}, {pump.feeds_x, kManifoldY}},
+             state);
+}
+
 void DrawPumps(const SysPage& page) {
-    constexpr int kLeftJoint = 226, kCentreJoint = 212;
+    // The pumps of a side share a part of their lines: what is live covers what isn't.
+    for (const bool live : {false, true})
+        for (const BoostPump& pump : kPumps)
+            if (Presses(pump) == live) DrawPumpLine(page, pump, LiveIf(live));
     for (const BoostPump& pump : kPumps) {
         const bool on = cockpit.*pump.button == 1, presses = Presses(pump);
         const FlowState state = presses ? FlowState::kLive : on ? FlowState::kWarning : FlowState::kDead;
-        const bool centre = pump.x > 380 && pump.x < 470;
-        const int joint = centre ? kCentreJoint : kLeftJoint;
-        DrawFlow(page,
-                 {{pump.x, kTankTop}, {pump.x, joint}, {pump.feeds_x, joint}, {pump.feeds_x, kManifoldY}},
-                 LiveIf(presses));
         DrawPump(page, pump.x, kPumpY, 18, 18, state);
         DrawLineLabel(page, pump.x, 281, pump.name);
     }
@@ -129,8 +135,8 @@ void DrawJettison(const SysPage& page) {
     DrawFlow(page, {{514, 204}, {548, 204}}, LiveIf(right));
     DrawValve(page, 308, 204, left, true, LiveIf(left));
     DrawValve(page, 538, 204, right, true, LiveIf(right));
-    DrawSysLabel(page, 310, 191, "L NOZZLE");
-    DrawSysLabel(page, 536, 191, "R NOZZLE");
+    DrawSysLabel(page, 308, 191, "L NOZZLE");
+    DrawSysLabel(page, 538, 191, "R NOZZLE");
     if (!left && !right) return;
     const double nozzles = (left ? 0.5 : 0.0) + (right ? 0.5 : 0.0);
     DrawSysLabel(page, 330, 392, "TO REMAIN");
