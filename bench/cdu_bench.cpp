@@ -11,6 +11,7 @@
 #include "legs.h"
 #include "navdata/nav_tables.h"
 #include "state/airports.h"
+#include "state/fix_info.h"
 #include "state/plan.h"
 #include "support/fake_host.h"
 
@@ -18,9 +19,12 @@
 
 namespace {
 
-constexpr int kPages[] = {kPageRte,        kPageLegs,        kPageRteData,  kPageWind,
-                          kPageDepartures, kPageArrivals,    kPagePerfInit, kPageThrustLim,
-                          kPageTakeoffRef, kPageApproachRef, kPageVnav,     kPageDescentForecast};
+constexpr int kPages[] = {kPageRte,          kPageLegs,        kPageRteData,    kPageWind,
+                          kPageDepartures,   kPageArrivals,    kPagePerfInit,   kPageThrustLim,
+                          kPageTakeoffRef,   kPageApproachRef, kPageVnav,       kPageDescentForecast,
+                          kPageInitRefIndex, kPageIdent,       kPagePosInit,    kPageRefNavData,
+                          kPageProgress,     kPagePosReport,   kPageFixInfo,    kPageHold,
+                          kPageNavRadio,     kPageAltn,        kPageAltnDetail, kPageAnnouncements};
 
 void FillRoute(int last) {
     FillLegs(plan.active.legs, last);
@@ -34,6 +38,7 @@ void FillRoute(int last) {
 void DrawPages(benchmark::State& state) {
     const FakeHost host;
     FillRoute(120);
+    fix_info.FixPages[1] = {"FIX", 45, 10, {{{}, {90, 0}, {0, 20}, {270, 0}}}};
     DrawList picture;
     int turn = 0;
     for (auto _ : state) {

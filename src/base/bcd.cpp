@@ -12,6 +12,13 @@ int DecodeBcd(double raw) {
     return value;
 }
 
+int EncodeBcd(int value) {
+    unsigned bcd = 0;
+    for (int shift = 0; value > 0 && shift < 32; value /= 10, shift += 4)
+        bcd |= static_cast<unsigned>(value % 10) << shift;
+    return static_cast<int>(bcd);
+}
+
 int FrequencyToBcd(std::string_view freq) {
     const std::size_t point = std::min(freq.find('.'), freq.size());
     const std::string_view whole = freq.substr(0, point);

@@ -124,17 +124,17 @@ struct Alternate {
     AltnRecord record;
     double dist = 99999;  // nm; that of an empty row
 };
-using Alternates = std::array<Alternate, std::tuple_size_v<decltype(nearest.AltnRows)>>;
-
 bool MayBeAlternate(const AirportRow& airport) {
     constexpr double kMinRunwayFt = 4800;
     return airport.longest_runway >= kMinRunwayFt && airport.ident != airports.origin_airport.ident &&
-           airport.ident != airports.dest_airport.ident;
+           airport.ident != airports.dest_airport.ident && airport.ident != nearest.AltnInhibit1 &&
+           airport.ident != nearest.AltnInhibit2;
 }
 
 // Puts an airport before the first free row that is farther; what stood there, and behind, moves one free row
 // down.
-void OfferAlternate(Alternates& rows, const AirportRow& airport) {
+template <std::size_t kSize>
+void OfferAlternate(std::array<Alternate, kSize>& rows, const AirportRow& airport) {
     const double dist = FromAircraft(airport.lat, airport.lon).dist;
     if (dist >= rows.back().dist && rows.back().record.fixed == 0) return;
     for (const Alternate& row : rows)
@@ -142,6 +142,18 @@ void OfferAlternate(Alternates& rows, const AirportRow& airport) {
     Alternate moved{{std::string(airport.ident), airport.lat, airport.lon, 0, {}}, dist};
     for (std::size_t i = 1; i < rows.size(); ++i)
         if (rows[i].record.fixed == 0 && rows[i].dist > moved.dist) std::swap(rows[i], moved);
+}
+
+template <std::size_t kSize>
+void FillAlternates(std::array<AltnRecord, kSize>& list) {
+    std::array<Alternate, kSize> rows;
+    for (std::size_t i = 1; i < kSize; ++i)
+        if (list[i].fixed != 0) rows[i].record = list[i];
+    for (int i = 1; i <= nearest.around.airports.far.cnt; ++i) {
+        const AirportRow& airport = std::as_const(nearest.around.airports.far.rows)[i];
+        if (MayBeAlternate(airport)) OfferAlternate(rows, airport);
+    }
+    for (std::size_t i = 1; i < kSize; ++i) list[i] = std::move(rows[i].record);
 }
 
 }  // namespace
@@ -169,14 +181,15 @@ bool NearNavaids(NearPlaces& places, double lat, double lon) {
 }
 
 void BuildAltnList() {
-    Alternates rows;
-    for (std::size_t i = 1; i < rows.size(); ++i)
-        if (nearest.AltnRows[i].fixed != 0) rows[i].record = nearest.AltnRows[i];
-    for (int i = 1; i <= nearest.around.airports.far.cnt; ++i) {
-        const AirportRow& airport = std::as_const(nearest.around.airports.far.rows)[i];
-        if (MayBeAlternate(airport)) OfferAlternate(rows, airport);
-    }
-    for (std::size_t i = 1; i < rows.size(); ++i) nearest.AltnRows[i] = std::move(rows[i].record);
+    FillAlternates(nearest.AltnRows);
+}
+
+void RequestAltnList() {
+    FillAlternates(nearest.AltnListRows);
+}
+
+void PurgeAltnList() {
+    nearest.AltnListRows = {};
 }
 
 void RefreshNearest() {

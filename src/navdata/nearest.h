@@ -17,8 +17,12 @@ bool NearFixes(NearPlaces& places, double lat, double lon);
 bool NearNavaids(NearPlaces& places, double lat, double lon);
 
 /// Fills `nearest.AltnRows` with the airports nearest to the aircraft, nearest first: runway of at least 4800
-/// ft, neither origin nor destination. Rows that the crew has fixed keep their place.
+/// ft, neither origin nor destination nor one that the crew
+/// has left out. Rows that the crew has fixed keep their place.
 void BuildAltnList();
+/// The same for the twenty of ALTN LIST, that stand until the crew asks again or throws them away.
+void RequestAltnList();
+void PurgeAltnList();
 
 /// Lets the lists be made anew at the next tick.
 void RefreshNearestAtOnce();

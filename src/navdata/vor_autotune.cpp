@@ -93,6 +93,6 @@ void Tune(const NavRadio& radio, int mode, const TunedVor& vor) {
 void AutoTuneRadios() {
     FindNearestVors();
     PickRadios();
-    if (nav.autotuned == 0) Tune(kNav1, nearest.VorLeftMode, nearest.vor_left);
+    if (nav.autotuned == 0 && nav.ilsfreq == 0) Tune(kNav1, nearest.VorLeftMode, nearest.vor_left);
     Tune(kNav2, nearest.VorRightMode, nearest.vor_right);
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "base/bcd.h"
 #include "base/numbers.h"
 #include "base/text.h"
 #include "frame/controls.h"
@@ -31,10 +32,8 @@ void SendAltitude(double value) {
 // The decimal digits become digits of the frequency that the host takes.
 void SendIlsFrequency(double value) {
     constexpr int kMost = 99999;
-    int digits = std::clamp(WholeNumber(value), 0, kMost), bcd = 0;
-    if (digits == 0) return;
-    for (int shift = 0; digits > 0; digits /= 10, shift += 4) bcd |= (digits % 10) << shift;
-    SendKeyEvent(kKeyNav1FreqSet, bcd);
+    const int digits = std::clamp(WholeNumber(value), 0, kMost);
+    if (digits > 0) SendKeyEvent(kKeyNav1FreqSet, EncodeBcd(digits));
 }
 
 void ShowAutopilot(double value) {

@@ -72,6 +72,8 @@ struct CduState {
     int dep_index = 1, arr_index = 1, select_index = 1;
     int takeoff_index = 1, progress_index = 1, altn_index = 1, fix_index = 1;
     int flight_plans_index = 1, panels_index = 1;
+    int pos_index = 1, hold_index = 1;
+    int AltnDetail = 0;          // the alternate that is selected, 1 to 4; 0 = none
     int wind_leg = 0;            // leg of the wind page
     int arrivals_of_origin = 0;  // ARRIVALS shows those of the origin, for a return
 };

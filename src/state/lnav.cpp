@@ -32,6 +32,7 @@ constexpr Variable kLnavRows[] = {
     {"hold_prev_point", &lnav.hold_prev_point},
     {"hold_exit", &lnav.hold_exit},
     {"hold_speed", &lnav.hold_speed},
+    {"BestHoldSpeed", &lnav.hold_speed},
     {"hold_hdg", &lnav.hold_hdg},
     {"further_hold", &lnav.further_hold},
     {"hold_select_due", &lnav.hold_select_due},

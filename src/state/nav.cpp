@@ -34,6 +34,8 @@ constexpr Variable kNavRows[] = {
     {"airac_range_short", &nav.airac_range_short},
     {"nearest_refresh_due", &nav.nearest_refresh_due},
     {"ilsfreq", &nav.ilsfreq},
+    {"IlsCourse", &nav.IlsCourse},
+    {"ref_nav_data", &nav.ref_nav_data},
     {"autotuned", &nav.autotuned},
     {"autotune_freq", &nav.autotune_freq},
     {"autotune_tries", &nav.autotune_tries},

@@ -32,6 +32,8 @@ struct NavState {
     std::string airac_range_short;  // "04JAN - 01FEB"
     int nearest_refresh_due = 0;    // the proximity lists are refreshed at once
     int ilsfreq = 0;                // hundredths of a MHz, that a pilot has tuned by hand; 0 = parked
+    int IlsCourse = 0;              // degrees, given with it
+    NavRecord ref_nav_data;         // what REF NAV DATA shows; no ident = nothing
     // the selected approach on NAV 1, by guidance/approach_tuning
     int autotuned = 0;               // it has been sent; the radio is then not tuned to VORs
     int autotune_freq = 0;           // binary coded decimal, hundredths of a MHz

@@ -71,12 +71,17 @@ constexpr Variable kNearestRows[] = {
     {"near_vor_list", &nearest.vors.rows},
     {"near_vor_cnt", &nearest.vors.cnt},
     {"AltnRows", &nearest.AltnRows},
+    {"AltnListRows", &nearest.AltnListRows},
+    {"AltnInhibit1", &nearest.AltnInhibit1},
+    {"AltnInhibit2", &nearest.AltnInhibit2},
     {"NearestVors", &nearest.NearestVors},
     {"nearest_vor_cnt", &nearest.nearest_vor_cnt},
     {"vor_left", &nearest.vor_left},
     {"vor_right", &nearest.vor_right},
     {"VorLeftMode", &nearest.VorLeftMode},
     {"VorRightMode", &nearest.VorRightMode},
+    {"VorLeftFreq", &nearest.VorLeftFreq},
+    {"VorRightFreq", &nearest.VorRightFreq},
 };
 }  // namespace
 

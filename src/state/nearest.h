@@ -54,12 +54,15 @@ struct NearestState {
     std::array<NearPlaces, 2> around_plan;  // the centre of the captain's PLAN, and of the first officer's
     NearList<NavaidRow> vors;               // 320 nm of the aircraft
 
-    std::array<AltnRecord, 5> AltnRows;  // from 1, nearest first
+    std::array<AltnRecord, 5> AltnRows;       // from 1, nearest first
+    std::array<AltnRecord, 21> AltnListRows;  // from 1, the crew's own request
+    std::string AltnInhibit1, AltnInhibit2;   // airports that are no alternates; empty = none
 
     std::array<TunedVor, 10> NearestVors;  // from 1, nearest first
     int nearest_vor_cnt = 0;
     TunedVor vor_left, vor_right;           // what the radios are tuned to when in automatic
     int VorLeftMode = 1, VorRightMode = 1;  // 1 auto, 2 manual, 3 procedure (left only)
+    int VorLeftFreq = 0, VorRightFreq = 0;  // hundredths of a MHz, by hand; 0 = auto
 };
 
 extern NearestState nearest;

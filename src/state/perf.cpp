@@ -29,6 +29,8 @@ constexpr Variable kPerfRows[] = {
     {"spd_limit", &perf.spd_limit},
     {"ZfwEntry", &perf.ZfwEntry},
     {"FuelEntry", &perf.FuelEntry},
+    {"DragFactor", &perf.DragFactor},
+    {"FuelFlowFactor", &perf.FuelFlowFactor},
     {"reserves", &perf.FuelEntry},
     {"resv_fuel", &perf.resv_fuel},
     {"planned_fuel", &perf.planned_fuel},

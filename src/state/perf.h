@@ -16,10 +16,11 @@ struct PerfState {
     int fms_step_size = 0;       // 0 entered step-to altitude, -1 ICAO, -2 RVSM
     double fms_step_to_alt = 0;
     double entered_step_to_alt = 0;
-    double spd_limit = 0;     // lower limit of the descent speed
-    double ZfwEntry = 0;      // zero-fuel weight, 0 = none
-    double FuelEntry = 0;     // what a fuel entry adds to the sensed fuel, 0 = none
-    double resv_fuel = 0;     // reserves
+    double spd_limit = 0;                       // lower limit of the descent speed
+    double ZfwEntry = 0;                        // zero-fuel weight, 0 = none
+    double FuelEntry = 0;                       // what a fuel entry adds to the sensed fuel, 0 = none
+    double resv_fuel = 0;                       // reserves
+    double DragFactor = 0, FuelFlowFactor = 0;  // percent, the airframe against the book
     double planned_fuel = 0;  // that the route brought and that isn't in the tanks yet; 0 = none
 };
 

@@ -1,10 +1,9 @@
 #include "cdu/pages/select_wpt_page.h"
 
-#include <cmath>
-
 #include "base/text.h"
 #include "cdu/pages/legs_edit.h"
 #include "cdu/words/page.h"
+#include "cdu/words/position_text.h"
 #include "fmc/legs/insert_fix.h"
 #include "state/nav.h"
 
@@ -14,14 +13,6 @@ constexpr int kPerPage = 6;
 
 int PageCount() {
     return PagesFor(nav.entry_cnt, kPerPage);
-}
-
-std::string Angle(double degrees, char positive, char negative, int width) {
-    const double size = std::fabs(degrees);
-    // Tenths of a minute, so that 59.96 doesn't show as 60.0.
-    const long tenths = std::lround(size * 600);
-    return Format("%c%0*ld\xb0%04.1f", degrees < 0 ? negative : positive, width, tenths / 600,
-                  static_cast<double>(tenths % 600) / 10);
 }
 
 const char* KindOf(const NavRecord& place) {
@@ -41,6 +32,7 @@ void Pick(PageCall& call, int candidate) {
         unit.ScratchPad = "HOLD AT " + nav.EntryCandidates[candidate].ident;
         route_pages.hold_candidate = candidate;
     }
+    if (unit.prev_fms_page == kPageRefNavData) nav.ref_nav_data = nav.EntryCandidates[candidate];
     route_pages.PendingSelectRow = 0;
     GoToPage(call.side, unit.prev_fms_page);
 }
@@ -49,8 +41,8 @@ void DrawPlace(PageCall& call, int row, const NavRecord& place) {
     PageText(call, 40, LabelY(row), place.ident, kWhite, kSmallSize);
     PageText(call, 90, LabelY(row), KindOf(place), kWhite, kLabelSize);
     PageText(call, 198, LabelY(row), place.freq, kWhite, kLabelSize);
-    PageText(call, 145, DataY(row), Angle(place.lat, 'N', 'S', 2) + Angle(place.lon, 'E', 'W', 3), kWhite,
-             kLabelSize);
+    PageText(call, 145, DataY(row), LatitudeText(place.lat, "\xb0") + LongitudeText(place.lon, "\xb0"),
+             kWhite, kLabelSize);
 }
 
 }  // namespace

@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "base/text.h"
 #include "cdu/unit/cursor.h"
 #include "cdu/unit/items.h"
 #include "cdu/unit/page_table.h"
@@ -61,12 +60,7 @@ void CallPage(Graphics& graphics, int side, int line) {
     PageCall call{graphics, side, LineRow(line) > 0 ? line : 0, unit};
     unit.line_selectable = {};
     const CduPage* page = FindPage(unit.fms_page);
-    if (page == nullptr) {
-        if (IsPageToCome(unit.fms_page))
-            PageText(call, 40, LabelY(3), Format("PAGE %d: NOT THERE YET", unit.fms_page), kGreyPen,
-                     kLabelSize);
-        return;
-    }
+    if (page == nullptr) return;
     const bool can_delete = ((page->delete_lines >> call.line) & 1U) != 0;
     if (call.line > 0 && IsDelete(call) && !can_delete) {
         RefuseDelete(call);

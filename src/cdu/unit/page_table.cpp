@@ -4,14 +4,25 @@
 #include <initializer_list>
 #include <iterator>
 
+#include "cdu/pages/altn_page.h"
+#include "cdu/pages/announcements_page.h"
 #include "cdu/pages/approach_ref_page.h"
 #include "cdu/pages/arrivals_page.h"
 #include "cdu/pages/dep_arr_index_page.h"
 #include "cdu/pages/departures_page.h"
 #include "cdu/pages/descent_forecast_page.h"
+#include "cdu/pages/fix_info_page.h"
 #include "cdu/pages/flight_plans_page.h"
+#include "cdu/pages/hold_page.h"
+#include "cdu/pages/ident_page.h"
+#include "cdu/pages/init_ref_index_page.h"
 #include "cdu/pages/legs_page.h"
+#include "cdu/pages/nav_radio_page.h"
+#include "cdu/pages/panels_page.h"
 #include "cdu/pages/perf_init_page.h"
+#include "cdu/pages/pos_init_page.h"
+#include "cdu/pages/progress_page.h"
+#include "cdu/pages/ref_nav_data_page.h"
 #include "cdu/pages/rte_data_page.h"
 #include "cdu/pages/rte_page.h"
 #include "cdu/pages/select_wpt_page.h"
@@ -44,18 +55,24 @@ constexpr CduPage kPages[] = {
     {kPageDescentForecast, DescentForecastPage, false, Lines({kL2, kL3, kL4, kL5, kR1, kR2, kR3, kR4, kR5})},
     {kPageTakeoffRef, TakeoffRefPage, true, Lines({kL2, kL3})},
     {kPageThrustLim, ThrustLimPage, false, Lines({kL1})},
+    {kPagePanels, PanelsPage, true, kNoLine},
     {kPageRte, RtePage, true, kRows1To5},
+    {kPageInitRefIndex, InitRefIndexPage, false, kNoLine},
     {kPageDepArrIndex, DepArrIndexPage, false, kNoLine},
+    {kPageIdent, IdentPage, false, kNoLine},
+    {kPagePosInit, PosInitPage, true, Lines({kL2})},
+    {kPageRefNavData, RefNavDataPage, false, kNoLine},
+    {kPageFixInfo, FixInfoPage, true, Lines({kL1, kL2, kL3, kL4})},
+    {kPageHold, HoldPage, true, kNoLine},
+    {kPageNavRadio, NavRadioPage, false, Lines({kL1, kL4, kR1})},
+    {kPageAltn, AltnPage, true, Lines({kL1, kL2, kL3, kL4, kR5})},
+    {kPageAltnDetail, AltnDetailPage, true, kNoLine},
+    {kPageProgress, ProgressPage, true, kNoLine},
+    {kPagePosReport, PosReportPage, false, kNoLine},
+    {kPageAnnouncements, AnnouncementsPage, false, kNoLine},
     {kPageRteData, RteDataPage, true, kNoLine},
     {kPageWind, WindPage, true, kWindRows},
 };
-
-// Ids that keys and panel files name, and that have no row above yet. Any other id is no page.
-constexpr int kPagesToCome[] = {kPagePerfInit,     kPageApproachRef,   kPageVnav,           kPagePanels,
-                                kPageInitRefIndex, kPageIdent,         kPagePosInit,        kPageTakeoffRef,
-                                kPageRefNavData,   kPageProgress,      kPageFixInfo,        kPageHold,
-                                kPageNavRadio,     kPageAltn,          kPageThrustLim,      kPageAltnDetail,
-                                kPagePosReport,    kPageAnnouncements, kPageDescentForecast};
 
 struct FirstItem {
     int page, item;
@@ -72,10 +89,6 @@ const CduPage* FindPage(int id) {
     const auto* row = std::find_if(std::begin(kPages), std::end(kPages),
                                    [id](const CduPage& page) { return page.id == id; });
     return row == std::end(kPages) ? nullptr : row;
-}
-
-bool IsPageToCome(int id) {
-    return std::find(std::begin(kPagesToCome), std::end(kPagesToCome), id) != std::end(kPagesToCome);
 }
 
 int FirstCursorItem(int page) {

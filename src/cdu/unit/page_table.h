@@ -12,8 +12,5 @@ struct CduPage {
 /// The page of an id; null for an id without a page, whose face stays empty.
 const CduPage* FindPage(int id);
 
-/// A page that the system has an id for, and that isn't built yet.
-bool IsPageToCome(int id);
-
 /// Where the keyboard cursor stands first on a page.
 int FirstCursorItem(int page);

@@ -1,0 +1,6 @@
+#pragma once
+
+struct PageCall;
+
+/// IDENT: which aircraft, engines and navigation data these are.
+void IdentPage(PageCall& call);

@@ -1,0 +1,6 @@
+#pragma once
+
+struct PageCall;
+
+/// NAV RADIO: the radios, in automatic or by hand.
+void NavRadioPage(PageCall& call);
