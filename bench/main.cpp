@@ -55,6 +55,8 @@ const std::vector<Figure> kFigures = {
     {"  service calls at most", "KeyPressToPicture", "", "calls_max", "", 6},
     {"a pass of the crew alerting, every row tested", "AlertPass", "Yardstick/GreatCircle", "", "", 20e3},
     {"a page of the CDU, acted on and composed", "CduPage", "Yardstick/GreatCircle", "", "", 100e3},
+    {"a page of a tablet, with keyboard and list", "TabletPage", "Yardstick/GreatCircle", "", "", 100e3},
+    {"CALC of the take-off page", "CalculateTakeoff", "Yardstick/GreatCircle", "", "", 1e6},
     {"a procedure loaded from 12 MB and inserted", "InsertProcedure/world", "Yardstick/ReadAndSplitWorld", "",
      "", 10e6},
     {"headless, nine screens composed every tick", "HeadlessPainting", "", "times_real_time", "x", 400, true},

@@ -44,6 +44,24 @@ void Click(Session& session, const std::string& gauge, double x, double y, bool 
     PressMouse(session, gauge, x, y, right);
 }
 
+// "L" or "R" of a tablet's screen; empty for another screen.
+std::string TabletOf(const std::string& screen) {
+    return screen == "efb_l" ? "L" : screen == "efb_r" ? "R" : "";
+}
+
+void Drag(Session& session, const std::string& screen, double x, double y) {
+    if (TabletOf(screen).empty()) return;
+    if (DragMouse(session, MouseGaugeOfScreen(screen), x, y))
+        Record(session.recorder, {"efb", TabletOf(screen), "drag", NumberText(x), NumberText(y)});
+}
+
+void Type(Session& session, const std::string& screen, const std::string& keys) {
+    const std::string side = TabletOf(screen);
+    if (side.empty()) return;
+    Ask(session.linkage->inspection->type_on_tablet, side == "L" ? 1 : 2, keys.c_str());
+    Record(session.recorder, {"efb", side, "type", keys});
+}
+
 void SetVariable(Session& session, const std::string& name, double value) {
     if (!NamedVariableExists(name)) return;
     Record(session.recorder, {"lvar", name, NumberText(value)});
@@ -115,6 +133,12 @@ void ApplyDeckCommand(Session& session, const DeckCommand& command) {
             break;
         case DeckCommand::kMouse:
             Click(session, MouseGaugeOfScreen(command.name), command.x, command.y, command.right);
+            break;
+        case DeckCommand::kDrag:
+            Drag(session, command.name, command.x, command.y);
+            break;
+        case DeckCommand::kType:
+            Type(session, command.name, command.text);
             break;
         case DeckCommand::kMouseArea:
             if (PressMouseArea(session, command.name, command.text, command.right))

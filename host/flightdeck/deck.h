@@ -30,6 +30,8 @@ struct DeckCommand {
         kControl,        // value 1: the user has control, 0: the demonstration's pilot has it again
         kFailure,        // name (of `fail`), value 0 or 1
         kGround,         // name (of `ground`), value 0 or 1
+        kDrag,           // name (a tablet's screen), x, y: the pressed mouse goes on to there
+        kType,           // name (a tablet's screen), text: keys of a real keyboard, \b and \n among them
     };
     Kind kind;
     std::string name = {};

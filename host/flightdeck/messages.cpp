@@ -29,6 +29,8 @@ constexpr CommandForm kForms[] = {
     {"press", DeckCommand::kPress, "name", "", "value", "", ""},
     {"set", DeckCommand::kStateVariable, "name", "text", "", "", ""},
     {"mouse", DeckCommand::kMouse, "screen", "", "", "x", "y", true},
+    {"drag", DeckCommand::kDrag, "screen", "", "", "x", "y"},
+    {"type", DeckCommand::kType, "screen", "text", "", "", ""},
     {"area", DeckCommand::kMouseArea, "gauge", "area", "", "", "", true},
     {"event", DeckCommand::kKeyEvent, "", "", "event", "value", "", false, kMaxInt},
     {"lever", DeckCommand::kLever, "name", "", "value", "", ""},

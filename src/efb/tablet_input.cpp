@@ -23,7 +23,7 @@ void OnEfbTouch(int x, int y, int side, unsigned flags) {
 
 void TypeOnTablet(int side, char key) {
     if (!IsTabletLit(side)) return;
-    if (key == '\r')
+    if (key == '\n')
         CloseEditedField();
     else
         TypeCharacter(key);

@@ -11,7 +11,7 @@ void PressTabletKey(int side, EfbKey key);
 /// Outside every button it does nothing.
 void OnEfbTouch(int x, int y, int side, unsigned flags);
 
-/// A key of a real keyboard: a character of the soft keyboard, '\b', or '\r', which closes the field.
+/// A key of a real keyboard: a character of the soft keyboard, '\b', or '\n', which closes the field.
 void TypeOnTablet(int side, char key);
 
 /// Brightens both tablets by steps of a tenth, or dims them.

@@ -76,19 +76,62 @@ export class Screens {
     this.observer.observe(canvas);
     const hasKeypad = /^(capt_|fo_|lower)/.test(name);
     let side = name.startsWith('fo') ? 'R' : 'L';
+    const placeOf = (event) => {
+      const box = canvas.getBoundingClientRect();
+      return [(event.clientX - box.left) / box.width * screen.width,
+              (event.clientY - box.top) / box.height * screen.height];
+    };
     const press = (event, button) => {
       event.preventDefault();
       canvas.focus({preventScroll: true});
-      const box = canvas.getBoundingClientRect();
-      const x = (event.clientX - box.left) / box.width * screen.width;
-      const y = (event.clientY - box.top) / box.height * screen.height;
+      const [x, y] = placeOf(event);
       if (name === 'lower') side = x < screen.width / 2 ? 'L' : 'R';
       this.link.send({type: 'mouse', screen: name, x: Math.floor(x), y: Math.floor(y), button});
     };
     canvas.addEventListener('click', (event) => press(event, 'left'));
     canvas.addEventListener('contextmenu', (event) => press(event, 'right'));
     if (hasKeypad) this.keyboard(canvas, () => side);
+    if (name.startsWith('efb')) this.makeTablet(canvas, name, placeOf);
     return canvas;
+  }
+
+  /** A tablet takes drags, and a computer's keyboard while it has the focus. */
+  makeTablet(canvas, name, placeOf) {
+    const SLACK = 5;  // pixels that a finger may move in a touch
+    let from = null, dragged = false;
+    const send = (type, event, more) => {
+      const [x, y] = placeOf(event).map(Math.floor);
+      this.link.send({type, screen: name, x, y, ...more});
+    };
+    canvas.style.touchAction = 'none';
+    canvas.addEventListener('pointerdown', (event) => { from = event; dragged = false; });
+    canvas.addEventListener('pointermove', (event) => {
+      if (!from || !(event.buttons & 1)) return;
+      if (!dragged && Math.hypot(event.clientX - from.clientX, event.clientY - from.clientY) < SLACK) return;
+      if (!dragged) {
+        canvas.setPointerCapture(event.pointerId);
+        send('mouse', from, {button: 'left'});
+      }
+      dragged = true;
+      send('drag', event);
+    });
+    for (const end of ['pointerup', 'pointercancel']) canvas.addEventListener(end, () => { from = null; });
+    // The press at the drag's beginning has been sent.
+    canvas.addEventListener('click', (event) => { if (dragged) event.stopImmediatePropagation(); }, true);
+    const KEYS = {Enter: '\n', Backspace: '\b'};
+    const type = (text) => this.link.send({type: 'type', screen: name, text});
+    canvas.addEventListener('keydown', (event) => {
+      if (event.ctrlKey || event.altKey || event.metaKey) return;
+      const key = KEYS[event.key] ?? (event.key.length === 1 ? event.key : '');
+      if (!key) return;
+      event.preventDefault();
+      event.stopPropagation();
+      type(/[a-z]/.test(key) && !event.shiftKey ? key.toUpperCase() : key);
+    });
+    canvas.addEventListener('paste', (event) => {
+      event.preventDefault();
+      type(event.clipboardData.getData('text').trim().slice(0, 40));
+    });
   }
 
   /** The screen in its bezel, which opens it large or alone. */
