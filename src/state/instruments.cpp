@@ -33,6 +33,10 @@ constexpr Variable kInstrumentRows[] = {
     {"fd_status_shown", &instruments.fd_status_shown},
     {"minimums_above", &instruments.minimums_above},
     {"pfd_on_ground", &instruments.pfd_on_ground},
+    {"ra_2500_timer", &instruments.ra_2500_timer},
+    {"minimums_cross_timer", &instruments.minimums_cross_timer},
+    {"hud_above_2500", &instruments.hud_above_2500},
+    {"hud_above_minimums", &instruments.hud_above_minimums},
 };
 }  // namespace
 

@@ -38,6 +38,11 @@ struct InstrumentState {
     int mach_shown = 0, fd_status_shown = 0;
     int minimums_above = 0;  // at the previous tick: higher than the minimums
     int pfd_on_ground = 0;   // at the previous tick
+    // The box around the head-up display's radio altitude, in ticks.
+    int ra_2500_timer = 0;         // after the sink through 2500 ft
+    int minimums_cross_timer = 0;  // after the sink through the minimums: not yet
+    int hud_above_2500 = 0;        // at the previous tick
+    int hud_above_minimums = 0;
 };
 
 extern InstrumentState instruments;

@@ -15,13 +15,7 @@
 
 namespace {
 
-constexpr double kUnitsPerFoot = 0.2455, kSeenFeet = 500;
 constexpr int kTapeX = 90, kReadoutY = -119;
-
-// An altitude that is no number, or none of this world, stands at an end of what can be drawn.
-double ShownAltitude() {
-    return Bounded(sim.ind_alt_ft, -9999, 99999);
-}
 
 double OffsetOf(double altitude) {
     return (ShownAltitude() - altitude) * kUnitsPerFoot;
@@ -106,9 +100,9 @@ void DrawAltitudeBug(Graphics& graphics) {
 }
 
 void DrawAltitudeTrend(Graphics& graphics) {
-    constexpr double kLeastRate = 50, kSeconds = 6, kLeastTrend = 10, kX = 97, kHead = 5, kHalfHead = 4;
+    constexpr double kLeastRate = 50, kLeastTrend = 10, kX = 97, kHead = 5, kHalfHead = 4;
     if (!(std::fabs(sim.vs_fpm) > kLeastRate)) return;
-    const double change = Bounded(sim.vs_fpm / 60 * kSeconds, -kSeenFeet, kSeenFeet);
+    const double change = AltitudeTrend();
     const double t = Bounded(-change * kUnitsPerFoot, -kTapeReach, kTapeReach);
     GdipDrawLine(graphics, PenOf(kGreen, 1.5f), kX, 0, kX, t);
     if (std::fabs(change) <= kLeastTrend) return;
@@ -116,19 +110,37 @@ void DrawAltitudeTrend(Graphics& graphics) {
     FillOutline(graphics, BrushOf(kGreen), {At(kX, t), At(kX - kHalfHead, base), At(kX + kHalfHead, base)});
 }
 
-// The last drum, in steps of twenty feet. Below zero it turns the other way.
 void DrawTwenties(const DrumFace& face, double x, double altitude) {
-    constexpr std::string_view kSteps[] = {"00", "20", "40", "60", "80"};
-    constexpr double kStep = 20;
-    const double size = std::fabs(altitude), units = std::fmod(size, kStep);
-    const int step = static_cast<int>(std::fmod(size, 100) / kStep);
-    const double offset = altitude >= 0 ? units / kStep * 8 - 2 : -units / kStep * 10;
-    const double pitch = altitude >= 0 ? -8 : 10;
+    const TwentyDrum drum = TwentyOnDrum(altitude);
     for (int i = -2; i <= 2; ++i)
-        TextAbout(face.graphics, x, offset + i * pitch, face.size, face.colour, kSteps[(step + i + 5) % 5]);
+        TextAbout(face.graphics, x, drum.offset + i * drum.pitch, face.size, face.colour,
+                  TwentyText(drum.step + i));
 }
 
 }  // namespace
+
+double ShownAltitude() {
+    return Bounded(sim.ind_alt_ft, -9999, 99999);
+}
+
+double AltitudeTrend() {
+    constexpr double kSeconds = 6;
+    return Bounded(sim.vs_fpm / 60 * kSeconds, -kSeenFeet, kSeenFeet);
+}
+
+// Below zero it turns the other way.
+TwentyDrum TwentyOnDrum(double altitude) {
+    constexpr double kStep = 20;
+    const double size = std::fabs(altitude), units = std::fmod(size, kStep);
+    const int step = static_cast<int>(std::fmod(size, 100) / kStep);
+    if (altitude >= 0) return {step, units / kStep * 8 - 2, -8};
+    return {step, -units / kStep * 10, 10};
+}
+
+std::string_view TwentyText(int step) {
+    constexpr std::string_view kSteps[] = {"00", "20", "40", "60", "80"};
+    return kSteps[(step % 5 + 5) % 5];
+}
 
 double AltitudeOffset(double altitude) {
     return Bounded(OffsetOf(altitude), -kTapeReach, kTapeReach);

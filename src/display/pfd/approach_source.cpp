@@ -71,6 +71,11 @@ std::array<std::string, 3> ApproachSourceLines() {
     return {"FMC", "", ""};
 }
 
+std::string_view BeaconName() {
+    const int beacon = sim.marker_state;
+    return beacon < 1 || beacon > 3 ? "" : kBeacons[beacon - 1].name;
+}
+
 void DrawApproachSource(const PfdView& view) {
     constexpr double kX = -70, kStep = 10;
     constexpr float kSize = 8;
@@ -84,9 +89,8 @@ void DrawApproachSource(const PfdView& view) {
 
 void DrawMarkerBeacon(const PfdView& view) {
     constexpr float kSize = 9;
-    const int beacon = sim.marker_state;
-    if (beacon < 1 || beacon > 3 || !IsBlinkOn()) return;
-    const Beacon& shown = kBeacons[beacon - 1];
+    if (BeaconName().empty() || !IsBlinkOn()) return;
+    const Beacon& shown = kBeacons[sim.marker_state - 1];
     GdipFillEllipseI(view.graphics, BrushOf(kBlack), 47, -75, 18, 18);
     GdipDrawEllipseI(view.graphics, PenOf(shown.colour, 1.5f), 47, -75, 18, 18);
     TextAbout(view.graphics, 56, -66, kSize, shown.colour, shown.name);

@@ -13,5 +13,8 @@ DeviationSource SourceOfDeviation();
 /// end.
 std::array<std::string, 3> ApproachSourceLines();
 
+/// "OM", "MM" or "IM"; empty while no beacon is received.
+std::string_view BeaconName();
+
 void DrawApproachSource(const PfdView& view);
 void DrawMarkerBeacon(const PfdView& view);

@@ -65,12 +65,16 @@ struct FixedMark {
 constexpr FixedMark kFixedMarks[] = {{-60, -77}, {-45, -75}, {-30, -80}, {-20, -75}, {-10, -75},
                                      {10, -75},  {20, -75},  {30, -80},  {45, -75},  {60, -77}};
 
-// From the nose, right positive.
+}  // namespace
+
+// Feet a mile, a hundred of which are a degree.
+double ClimbAngle() {
+    return sim.vs_fpm / (sim.ground_speed_kt / 60) / 100;
+}
+
 double TrackOffset() {
     return std::remainder(sim.true_track_deg - sim.true_hdg, 360);
 }
-
-}  // namespace
 
 void DrawSphere(const PfdView& view) {
     constexpr int kTop = -128, kHeight = 256;
@@ -172,10 +176,8 @@ void DrawFlightPathVector(const PfdView& view) {
     if (instruments.pfd[static_cast<std::size_t>(view.side - 1)].fpv_on != 1) return;
     double x = 0, y = 0;
     if (sim.ground_speed_kt > kSlow) {
-        // Feet a mile, a hundred of which are a degree.
-        const double climb = sim.vs_fpm / (sim.ground_speed_kt / 60) / 100;
         const double at_x = TrackOffset() * kUnitsPerDegree;
-        const double at_y = HorizonOffset() - climb * kUnitsPerDegree;
+        const double at_y = HorizonOffset() - ClimbAngle() * kUnitsPerDegree;
         x = Bounded(at_x, -kReachAside, kReachAside);
         y = Bounded(at_y, -kReachUp, kReachUp);
         if ((x != at_x || y != at_y) && !IsBlinkOn()) return;

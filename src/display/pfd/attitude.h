@@ -14,5 +14,8 @@ void DrawAircraftSymbol(const PfdView& view);
 void DrawBankScale(const PfdView& view);
 /// The pitch between which a resolution advisory keeps.
 void DrawAdvisoryPitch(const PfdView& view);
+/// Degrees by which the aircraft climbs, and by which its track lies right of the nose.
+double ClimbAngle();
+double TrackOffset();
 /// Where the aircraft is going, blinking at the edge when that is out of sight.
 void DrawFlightPathVector(const PfdView& view);

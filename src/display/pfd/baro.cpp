@@ -14,14 +14,9 @@ constexpr double kHpaPerInch = 33.8637526, kStandardInches = 29.92;
 constexpr float kSize = 9, kSmall = 8;
 
 void DrawStandard(const PfdView& view, bool hpa, Rgb colour, bool boxed) {
-    constexpr double kLeastDifference = 0.005;
     Text(view.graphics, boxed ? 95 : 90, 105, kSize, colour, "STD");
     if (boxed) BoxOutline(view.graphics, 94, 105, 25, 13, kAmber);
-    const double preset = instruments.baro_preset;
-    if (!(std::fabs(preset - kStandardInches) >= kLeastDifference)) return;
-    const double shown = Bounded(preset, 0, 99);
-    Text(view.graphics, 90, 118, kSmall, kWhite,
-         hpa ? Format("%4.0f HPA", shown * kHpaPerInch) : Format("%2.2f IN", shown));
+    Text(view.graphics, 90, 118, kSmall, kWhite, PresetText(hpa));
 }
 
 }  // namespace
@@ -33,14 +28,25 @@ bool IsBaroCautioned() {
     return sim.ind_alt_ft > transition;
 }
 
+std::string BaroText(bool hpa) {
+    return hpa ? Format("%4.0f", Bounded(sim.baro_hpa, 0, 9999))
+               : Format("%2.2f", Bounded(sim.baro_in, 0, 99));
+}
+
+std::string PresetText(bool hpa) {
+    constexpr double kLeastDifference = 0.005;
+    const double preset = instruments.baro_preset;
+    if (!(std::fabs(preset - kStandardInches) >= kLeastDifference)) return "";
+    const double shown = Bounded(preset, 0, 99);
+    return hpa ? Format("%4.0f HPA", shown * kHpaPerInch) : Format("%2.2f IN", shown);
+}
+
 void DrawBaro(const PfdView& view) {
     const bool hpa = instruments.pfd[static_cast<std::size_t>(view.side - 1)].baro_hpa == 1;
     const bool cautioned = IsBaroCautioned();
     const Rgb colour = cautioned ? kAmber : kGreen;
     if (IsBaroStandard()) return DrawStandard(view, hpa, colour, cautioned);
-    TextFrom(
-        view.graphics, 92, 111, kSize, colour,
-        hpa ? Format("%4.0f", Bounded(sim.baro_hpa, 0, 9999)) : Format("%2.2f", Bounded(sim.baro_in, 0, 99)));
+    TextFrom(view.graphics, 92, 111, kSize, colour, BaroText(hpa));
     Text(view.graphics, 120, 109, kSmall - 1, colour, hpa ? "HPA" : "IN");
     if (cautioned) BoxOutline(view.graphics, 90, 105, 40, 11, kAmber);
 }

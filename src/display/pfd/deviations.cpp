@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include "display/pfd/approach_source.h"
 #include "state/autoflight.h"
@@ -84,32 +85,47 @@ void DrawLevelPointer(Graphics& graphics, double d) {
     FillOutline(graphics, BrushOf(kPfdMagenta), {At(d, 115), At(d + 5, 127), At(d - 5, 127)});
 }
 
-void DrawFinalApproach(Graphics& graphics) {
+void DrawFrames(Graphics& graphics, const DeviationShown& shown) {
+    if (shown.upright_scale) DrawUprightFrame(graphics);
+    if (std::isfinite(shown.upright)) DrawUprightPointer(graphics, shown.upright);
+    DrawLevelFrame(graphics, shown.inner);
+    DrawLevelPointer(graphics, shown.level);
+}
+
+DeviationShown FinalApproachDeviation() {
     constexpr double kActualPerformance = 0.05;  // nm
     const double rnp = pos_init.RnpEntry;
     const double inner = rnp > 0 ? (rnp - kActualPerformance) / (rnp / kFull) : 0;
-    DrawUprightFrame(graphics);
-    DrawUprightPointer(graphics, UnitsOf(autoflight.gp_needle));
-    DrawLevelFrame(graphics, Bounded(inner, 0, kEnd));
-    DrawLevelPointer(graphics, UnitsOf(autoflight.fac_lat_needle));
+    return {UnitsOf(autoflight.fac_lat_needle), UnitsOf(autoflight.gp_needle), true, Bounded(inner, 0, kEnd)};
 }
 
-void DrawRoute(Graphics& graphics) {
+DeviationShown RouteDeviation() {
     constexpr double kBlockFrom = 31, kMostCrossTrack = 5, kNmPerUnit = -0.14705882352941177;
     constexpr double kFullFeet = 400, kMostFeet = 9999;
-    if (vnav.tod == 1) {
-        DrawUprightFrame(graphics);
-        const double above = Bounded(sim.ind_alt_ft - vnav.desc_grad_alt, -kMostFeet, kMostFeet);
-        if (vnav.dist_from_bod < vnav.dist_from_tod_to_bod)
-            DrawUprightPointer(graphics, Bounded(kFull * above / kFullFeet, -kFull, kFull));
-    }
     constexpr int kLeftOfTrack = 1;
     const double off = lnav.xtk_side == kLeftOfTrack ? -lnav.xtk : lnav.xtk;
-    DrawLevelFrame(graphics, kBlockFrom);
-    DrawLevelPointer(graphics, Bounded(off, -kMostCrossTrack, kMostCrossTrack) / kNmPerUnit);
+    const double level = Bounded(off, -kMostCrossTrack, kMostCrossTrack) / kNmPerUnit;
+    const bool descending = vnav.tod == 1;
+    double upright = std::numeric_limits<double>::quiet_NaN();
+    if (descending && vnav.dist_from_bod < vnav.dist_from_tod_to_bod) {
+        const double above = Bounded(sim.ind_alt_ft - vnav.desc_grad_alt, -kMostFeet, kMostFeet);
+        upright = Bounded(kFull * above / kFullFeet, -kFull, kFull);
+    }
+    return {level, upright, descending, kBlockFrom};
 }
 
 }  // namespace
+
+DeviationShown ShownDeviation() {
+    switch (SourceOfDeviation()) {
+        case DeviationSource::kLandingSystem:
+            return {UnitsOf(sim.loc_needle), UnitsOf(sim.gs_needle), true, 0};
+        case DeviationSource::kFinalApproach:
+            return FinalApproachDeviation();
+        default:
+            return RouteDeviation();
+    }
+}
 
 void DrawDeviations(const PfdView& view) {
     if (!IsIrsOn()) return;
@@ -118,9 +134,8 @@ void DrawDeviations(const PfdView& view) {
             DrawGlideSlope(view.graphics);
             return DrawLocalizer(view.graphics);
         case DeviationSource::kFinalApproach:
-            return DrawFinalApproach(view.graphics);
         case DeviationSource::kRoute:
-            return DrawRoute(view.graphics);
+            return DrawFrames(view.graphics, ShownDeviation());
         case DeviationSource::kNone:
             return;
     }

@@ -40,16 +40,6 @@ std::string_view ThrottleText(int mode) {
     return TextOfMode(kThrottleModes, mode);
 }
 
-struct Column {
-    ModeTexts (*texts)();
-    double middle;
-    int AutoflightState::*timer;
-    int box_x, box_width;
-};
-constexpr Column kColumns[] = {{AutothrottleTexts, -58, &AutoflightState::fma_at_timer, -80, 45},
-                               {RollTexts, -2, &AutoflightState::fma_roll_timer, -27, 50},
-                               {PitchTexts, 54, &AutoflightState::fma_pitch_timer, 32, 45}};
-
 }  // namespace
 
 ModeTexts AutothrottleTexts() {
@@ -92,7 +82,7 @@ void DrawFma(const PfdView& view) {
     GdipFillRectangleI(graphics, TapeFill(), kX, kY, kWidth, kHeight);
     GdipDrawRectangleI(graphics, TapeFrame(), kX, kY, kWidth, kHeight);
     for (const int x : {-33, 29}) Line(graphics, x, kY, x, kY + kHeight, kWhite);
-    for (const Column& column : kColumns) {
+    for (const ModeColumn& column : kModeColumns) {
         const ModeTexts texts = column.texts();
         CentredText(graphics, column.middle, kActiveY, kSize, kGreen, texts.active);
         CentredText(graphics, column.middle, kArmedY, kSize, kWhite, texts.armed);

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "display/pfd/pfd_view.h"
+#include "state/autoflight.h"
 
 // The flight mode annunciator. Its texts serve the head-up display too.
 
@@ -14,6 +15,17 @@ struct ModeTexts {
 ModeTexts AutothrottleTexts();
 ModeTexts RollTexts();
 ModeTexts PitchTexts();
+
+/// Where a column stands, and its box around what is new.
+struct ModeColumn {
+    ModeTexts (*texts)();
+    double middle;
+    int AutoflightState::*timer;
+    int box_x, box_width;
+};
+constexpr ModeColumn kModeColumns[] = {{AutothrottleTexts, -58, &AutoflightState::fma_at_timer, -80, 45},
+                                       {RollTexts, -2, &AutoflightState::fma_roll_timer, -27, 50},
+                                       {PitchTexts, 54, &AutoflightState::fma_pitch_timer, 32, 45}};
 
 /// What flies, and how well it can land; empty when nothing does. `director` tells whether the flight
 /// director of whom it is shown to is on.

@@ -70,11 +70,32 @@ void StepTakeoffSpeeds(bool touched_down) {
         instruments.vspeed_bugs_removed = 1;
 }
 
+double HeightAgainstMinimums() {
+    return instruments.minimums_baro == 1 ? sim.ind_alt_ft : sim.radio_alt_ft;
+}
+
+// Runs for some ticks from the moment that a height sinks through a limit.
+void StepCrossing(bool above, int& was_above, int& timer, int ticks) {
+    if (was_above == 1 && !above)
+        timer = ticks;
+    else if (timer > 0)
+        --timer;
+    was_above = above ? 1 : 0;
+}
+
+void StepRadioAltitudeBox() {
+    constexpr double kBoxedFrom = 2500;  // ft
+    constexpr int kMinimumsTicks = 36;
+    InstrumentState& i = instruments;
+    StepCrossing(sim.ind_alt_ft > kBoxedFrom, i.hud_above_2500, i.ra_2500_timer, kBoxTicks);
+    StepCrossing(HeightAgainstMinimums() > i.minimums_value, i.hud_above_minimums, i.minimums_cross_timer,
+                 kMinimumsTicks);
+}
+
 // The minimums alert when the aircraft sinks through them, until it has landed or climbs away.
 void StepMinimumsAlert(bool touched_down) {
     InstrumentState& i = instruments;
-    const double height = i.minimums_baro == 1 ? sim.ind_alt_ft : sim.radio_alt_ft;
-    const bool above = height > i.minimums_value;
+    const bool above = HeightAgainstMinimums() > i.minimums_value;
     const bool sank = i.minimums_above == 1 && !above && sim.on_ground == 0;
     const bool climbed = i.minimums_above == 0 && above;
     if (i.minimums_mode == kMinimumsShown && sank)
@@ -100,5 +121,6 @@ void StepPfdMemory() {
     StepSpeedSources();
     StepTakeoffSpeeds(touched_down);
     StepMinimumsAlert(touched_down);
+    StepRadioAltitudeBox();
     if (time_base.tick_phase == 0) CheckLandingAltitude();
 }

@@ -13,8 +13,7 @@
 
 namespace {
 
-constexpr double kRotationDone = 30;  // ft radio altitude, up to which the take-off roll counts
-constexpr int kBeside = 47;           // x of labels from the tape's left
+constexpr int kBeside = 47;  // x of labels from the tape's left
 constexpr float kMarkSize = 9;
 constexpr int kShortTick = 36, kLongTick = 31;
 
@@ -39,10 +38,10 @@ void DrawTakeoffSpeeds(const PfdView& view) {
         StackedText(view.graphics, view.left + 49.5, -52.5, 8, kAmber, {"NO", "V", "S", "P", "D"});
         return;
     }
-    constexpr int kNoFlight = 999, kAirborne = 5, kTooClose = 4;
-    const int v1 = speeds.v1 == 0 ? speeds.vr : speeds.v1;
+    constexpr int kNoFlight = 999, kAirborne = 5;
+    const int v1 = ShownV1();
     const bool before_flight = flight_log.fplog_mode == kNoFlight || flight_log.fplog_mode < kAirborne;
-    const bool close = std::abs(speeds.vr - v1) < kTooClose || std::abs(speeds.vr - speeds.v2) < kTooClose;
+    const bool close = AreTakeoffSpeedsClose();
     if (rolling && before_flight && close) MarkLabel(view, speeds.vr, "R");
     if (rolling && before_flight && !close) {
         Mark(view, v1, "V1", kLongTick);
@@ -51,43 +50,61 @@ void DrawTakeoffSpeeds(const PfdView& view) {
     if (instruments.vspeed_bugs_removed == 0 && speeds.v2 > 0) Mark(view, speeds.v2, "V2");
 }
 
-struct FlapMark {
-    std::string_view label;
-    int FlapSpeedRow::*speed;
-    int climb_above;     // shown in climb with more flaps than that; 99 = never
-    int approach_below;  // in approach with less
-};
-constexpr int kAlways = -1, kNever = 99;
 constexpr FlapMark kFlapMarks[] = {
-    {"UP", &FlapSpeedRow::up, kAlways, kNever}, {"1", &FlapSpeedRow::flaps1, 0, 5},
-    {"5", &FlapSpeedRow::flaps5, 4, 15},        {"15", &FlapSpeedRow::flaps15, 14, 20},
-    {"20", &FlapSpeedRow::flaps20, kNever, 25}, {"25", &FlapSpeedRow::flaps25, kNever, 25},
-    {"30", &FlapSpeedRow::flaps30, kNever, 30},
+    {"UP", &FlapSpeedRow::up, kAlwaysMarked, kAlwaysMarkedBelow},
+    {"1", &FlapSpeedRow::flaps1, 0, 5},
+    {"5", &FlapSpeedRow::flaps5, 4, 15},
+    {"15", &FlapSpeedRow::flaps15, 14, 20},
+    {"20", &FlapSpeedRow::flaps20, kNeverMarked, 25},
+    {"25", &FlapSpeedRow::flaps25, kNeverMarked, 25},
+    {"30", &FlapSpeedRow::flaps30, kNeverMarked, 30},
 };
 
 void DrawFlapSpeeds(const PfdView& view) {
-    constexpr double kSlowest = 30, kHighest = 20000;
-    if (!(sim.ias_kt > kSlowest && sim.ind_alt_ft < kHighest)) return;
-    const auto row_index = static_cast<std::size_t>(weights.flap_speed_row);
-    if (row_index < 1 || row_index >= weights.flap_speeds.size()) return;
-    const FlapSpeedRow& row = weights.flap_speeds[row_index];
-    const int flaps = instruments.flap_detent;
-    const bool approach = instruments.flap_bug_phase != kClimbBugs;
+    const FlapSpeedRow* row = FlapSpeedsShown();
+    if (row == nullptr) return;
     for (const FlapMark& mark : kFlapMarks)
-        if (approach ? flaps < mark.approach_below : flaps > mark.climb_above)
-            Mark(view, row.*mark.speed, mark.label);
+        if (IsMarked(mark)) Mark(view, row->*mark.speed, mark.label);
 }
 
 void DrawApproachSpeed(const PfdView& view) {
-    constexpr double kLowest = 300;
-    const double vref = takeoff_approach.vref;
-    if (!(vref > 0 && sim.radio_alt_ft > kLowest)) return;
-    Mark(view, vref, "REF");
-    TextFrom(view.graphics, view.left + kBeside, 93, kMarkSize, kGreen,
-             Format("%d/%.0f", takeoff_approach.ldg_flaps, Bounded(vref, 0, 999)));
+    if (!IsReferenceSpeedShown()) return;
+    Mark(view, takeoff_approach.vref, "REF");
+    TextFrom(view.graphics, view.left + kBeside, 93, kMarkSize, kGreen, ReferenceSpeedText());
 }
 
 }  // namespace
+
+const FlapSpeedRow* FlapSpeedsShown() {
+    constexpr double kSlowest = 30, kHighest = 20000;
+    if (!(sim.ias_kt > kSlowest && sim.ind_alt_ft < kHighest)) return nullptr;
+    const auto row = static_cast<std::size_t>(weights.flap_speed_row);
+    return row < 1 || row >= weights.flap_speeds.size() ? nullptr : &weights.flap_speeds[row];
+}
+
+bool IsReferenceSpeedShown() {
+    constexpr double kLowest = 300;
+    return takeoff_approach.vref > 0 && sim.radio_alt_ft > kLowest;
+}
+
+std::string ReferenceSpeedText() {
+    return Format("%d/%.0f", takeoff_approach.ldg_flaps, Bounded(takeoff_approach.vref, 0, 999));
+}
+
+bool IsMarked(const FlapMark& mark) {
+    const int flaps = instruments.flap_detent;
+    return instruments.flap_bug_phase == kClimbBugs ? flaps > mark.climb_above : flaps < mark.approach_below;
+}
+
+int ShownV1() {
+    return takeoff_approach.v1 == 0 ? takeoff_approach.vr : takeoff_approach.v1;
+}
+
+bool AreTakeoffSpeedsClose() {
+    constexpr int kTooClose = 4;
+    const int vr = takeoff_approach.vr;
+    return std::abs(vr - ShownV1()) < kTooClose || std::abs(vr - takeoff_approach.v2) < kTooClose;
+}
 
 void DrawSpeedMarks(const PfdView& view) {
     if (!IsPfdLit()) return;

@@ -14,15 +14,14 @@
 
 namespace {
 
-constexpr double kTapeSlowest = 30, kFastest = 9000;  // kt
-constexpr double kSeenKnots = 70;                     // above and below the middle
+constexpr double kFewestDashes = 40;
 
 void DrawSpeedScale(const PfdView& view, double speed) {
     constexpr int kTick = 10, kNumbered = 20;
     constexpr float kSize = 12;  // three digits fit
     const Pen pen = PenOf(kWhite);
     int value = static_cast<int>(std::ceil((speed - kSeenKnots) / kTick)) * kTick;
-    for (value = std::max(value, static_cast<int>(kTapeSlowest)); value <= speed + kSeenKnots;
+    for (value = std::max(value, static_cast<int>(kSlowestShown)); value <= speed + kSeenKnots;
          value += kTick) {
         const double y = (speed - value) * kUnitsPerKnot;
         GdipDrawLine(view.graphics, pen, view.left + 33, y, view.left + 40, y);
@@ -48,15 +47,11 @@ void DrawDashes(const PfdView& view, double limit, double direction, double coun
 }
 
 void DrawSpeedLimits(const PfdView& view, double speed) {
-    constexpr double kOffGround = 10, kInReach = 140, kFarBeyond = 120, kKnotsPerDash = 4.5;
-    constexpr double kFewest = 40;
-    if (!(sim.radio_alt_ft > kOffGround)) return;
+    const SpeedLimits limits = LimitsOfSpeed();
+    if (!IsOffGround()) return;
     const auto offset = [&](double value) { return (speed - value) * kUnitsPerKnot; };
-    const double ias = Bounded(sim.ias_kt, 0, kFastest);
-    const double high = sim.v_mo_kt + kFarBeyond < ias ? ias - kSeenKnots : sim.v_mo_kt;
-    if (std::fabs(high - speed) < kInReach)
-        DrawDashes(view, offset(high), -1, std::max((speed + kSeenKnots - high) / kKnotsPerDash, kFewest));
-    if (std::fabs(sim.v_s_kt - speed) < kInReach) DrawDashes(view, offset(sim.v_s_kt), 1, kFewest);
+    if (limits.high_seen) DrawDashes(view, offset(limits.high), -1, limits.dashes);
+    if (limits.low_seen) DrawDashes(view, offset(sim.v_s_kt), 1, kFewestDashes);
     const double manoeuvre = Bounded(offset(sim.v_a_kt), -2 * kTapeReach, 2 * kTapeReach);
     const double stall = Bounded(offset(sim.v_s_kt), -2 * kTapeReach, 2 * kTapeReach);
     if (manoeuvre >= stall) return;
@@ -73,14 +68,14 @@ void DrawSelectedBug(const PfdView& view) {
                  At(left + 39, b + 5)});
 }
 
-void DrawSpeedTrend(const PfdView& view, double speed) {
-    constexpr double kUnitsPerTrendKnot = 1.45, kHead = 5, kHalfHead = 4, kLeastTrend = 2;
-    if (!(sim.ias_kt >= kTapeSlowest)) return;
-    const double t = Bounded((speed - autoflight.spd_trend) * kUnitsPerTrendKnot, -kTapeReach, kTapeReach);
+void DrawSpeedTrend(const PfdView& view) {
+    constexpr double kHead = 5, kHalfHead = 4;
+    if (!(sim.ias_kt >= kSlowestShown)) return;
+    const double t = TrendOffset();
     const double x = view.left + 37;
     const Pen pen = PenOf(kGreen, 1.5f);
     GdipDrawLine(view.graphics, pen, x, 0, x, t);
-    if (std::fabs(autoflight.spd_trend - speed) <= kLeastTrend) return;
+    if (!IsTrendMarked()) return;
     const double base = t - std::copysign(kHead, t);
     FillOutline(view.graphics, BrushOf(kGreen), {At(x, t), At(x - kHalfHead, base), At(x + kHalfHead, base)});
 }
@@ -96,8 +91,39 @@ bool IsFmcMach() {
 
 }  // namespace
 
+bool IsOffGround() {
+    constexpr double kOffGround = 10;  // ft
+    return sim.radio_alt_ft > kOffGround;
+}
+
+SpeedLimits LimitsOfSpeed() {
+    constexpr double kInReach = 140, kFarBeyond = 120, kKnotsPerDash = 4.5;
+    const double speed = ShownSpeed(), ias = Bounded(sim.ias_kt, 0, kFastestShown);
+    const double high = sim.v_mo_kt + kFarBeyond < ias ? ias - kSeenKnots : sim.v_mo_kt;
+    return {high, std::max((speed + kSeenKnots - high) / kKnotsPerDash, kFewestDashes),
+            IsOffGround() && std::fabs(high - speed) < kInReach,
+            IsOffGround() && std::fabs(sim.v_s_kt - speed) < kInReach};
+}
+
+double TrendOffset() {
+    constexpr double kUnitsPerTrendKnot = 1.45;
+    return Bounded((ShownSpeed() - autoflight.spd_trend) * kUnitsPerTrendKnot, -kTapeReach, kTapeReach);
+}
+
+bool IsTrendMarked() {
+    constexpr double kLeastTrend = 2;
+    return std::fabs(autoflight.spd_trend - ShownSpeed()) > kLeastTrend;
+}
+
+SelectedSpeed SelectedSpeedShown() {
+    const bool mach_mode = vnav.vnav_engaged == 1 && autoflight.at_mode == kThrottleMach;
+    if (IsFmcMach()) return {MachText(sim.vnav_spd_readback), true};
+    if (mach_mode || cockpit.mach_selected == 1) return {MachText(sim.ap_machbug), true};
+    return {Format("%3.0f", Bounded(sim.ap_spdbug, 0, kFastestShown)), false};
+}
+
 double ShownSpeed() {
-    return Bounded(sim.ias_kt, kTapeSlowest, kFastest);
+    return Bounded(sim.ias_kt, kSlowestShown, kFastestShown);
 }
 
 double SpeedOffset(double speed) {
@@ -119,7 +145,7 @@ void DrawSpeedBugs(const PfdView& view) {
     if (!IsPfdLit()) return;
     const ClipBlock clip(view.graphics, view.left + kTapeLeft, -100, kTapeWidth, 200);
     DrawSelectedBug(view);
-    DrawSpeedTrend(view, ShownSpeed());
+    DrawSpeedTrend(view);
 }
 
 void DrawSpeedPointer(const PfdView& view) {
@@ -148,13 +174,11 @@ void DrawSelectedSpeed(const PfdView& view) {
         FilledBox(graphics, x, kTop, width, height, kBlack);
         TextUpTo(graphics, x + width - 1, kTop + height / 2.0, kSize, kPfdMagenta, text);
     };
-    const bool mach_mode = vnav.vnav_engaged == 1 && autoflight.at_mode == kThrottleMach;
-    if (IsFmcMach())
-        readout(left, 40, 14, MachText(sim.vnav_spd_readback));
-    else if (mach_mode || cockpit.mach_selected == 1)
-        readout(left, 40, 15, MachText(sim.ap_machbug));
+    const SelectedSpeed speed = SelectedSpeedShown();
+    if (speed.is_mach)
+        readout(left, 40, IsFmcMach() ? 14 : 15, speed.text);
     else
-        readout(left + 10, 30, 15, Format("%3.0f", Bounded(sim.ap_spdbug, 0, kFastest)));
+        readout(left + 10, 30, 15, speed.text);
 }
 
 void DrawMach(const PfdView& view) {
