@@ -18,7 +18,7 @@ bool IsMetric() {
     return instruments.pfd[0].mtrs_on == 1;
 }
 
-void DrawScale(Graphics& graphics) {
+void DrawAltitudeScale(Graphics& graphics) {
     constexpr int kTick = 100, kNumbered = 200, kThousand = 1000;
     constexpr float kLarge = 11, kSmall = 9;
     const double altitude = ShownAltitude();
@@ -43,7 +43,7 @@ void DrawGround(Graphics& graphics) {
                     25);
 }
 
-void DrawTrend(Graphics& graphics) {
+void DrawAltitudeTrend(Graphics& graphics) {
     constexpr double kX = 197, kHead = 5, kHalfHead = 4, kLeastTrend = 10;
     const double change = AltitudeTrend();
     const double t = Bounded(-change * kUnitsPerFoot, -kHudReach, kHudReach);
@@ -54,7 +54,7 @@ void DrawTrend(Graphics& graphics) {
 }
 
 // Nothing else is seen where it stands.
-void DrawBug(Graphics& graphics) {
+void DrawAltitudeBug(Graphics& graphics) {
     const TransformBlock block(graphics);
     GdipTranslateWorldTransform(graphics, 0, AltitudeOffset(sim.apalt));
     const ClipBlock clip(graphics, 183, -16, 15, 32);
@@ -62,7 +62,7 @@ void DrawBug(Graphics& graphics) {
                 {At(189, 0), At(184, -5), At(184, -15), At(204, -15), At(204, 15), At(184, 15), At(184, 5)});
 }
 
-void DrawPointer(Graphics& graphics) {
+void DrawAltitudePointer(Graphics& graphics) {
     constexpr double kTenThousandsRoll = 9980, kTwenty = 20;
     constexpr float kSize = 12, kSmall = 10;
     DrawOutline(graphics, HudPen(),
@@ -80,7 +80,7 @@ void DrawPointer(Graphics& graphics) {
         HudTextAbout(graphics, 231, drum.offset + i * drum.pitch, kSmall, TwentyText(drum.step + i));
 }
 
-void DrawMetres(Graphics& graphics) {
+void DrawMetricAltitude(Graphics& graphics) {
     constexpr float kSize = 9;
     HudBox(graphics, 200, -25, 39, 10);
     HudTextUpTo(graphics, 231, -20, kSize, Format("%5.0f", ShownAltitude() * kMetresPerFoot));
@@ -111,11 +111,11 @@ void DrawHudAltitude(Graphics& graphics) {
     HudLine(graphics, 190, 100, 230, 100);
     constexpr HudArea kTape{180, -100, 50, 200}, kPointer{202, -15, 45, 30}, kWithMetres{202, -25, 45, 40};
     ClipAround(graphics, kTape, IsMetric() ? kWithMetres : kPointer);
-    for (const auto draw : {DrawScale, DrawGround, DrawTrend}) draw(graphics);
+    for (const auto draw : {DrawAltitudeScale, DrawGround, DrawAltitudeTrend}) draw(graphics);
     GdipResetClip(graphics);
-    DrawBug(graphics);
-    DrawPointer(graphics);
-    if (IsMetric()) DrawMetres(graphics);
+    DrawAltitudeBug(graphics);
+    DrawAltitudePointer(graphics);
+    if (IsMetric()) DrawMetricAltitude(graphics);
 }
 
 void DrawHudAltitudeReadouts(Graphics& graphics) {

@@ -21,7 +21,7 @@ double OffsetOf(double speed) {
     return (ShownSpeed() - speed) * kUnitsPerKnot;
 }
 
-void DrawScale(Graphics& graphics) {
+void DrawSpeedScale(Graphics& graphics) {
     constexpr int kTick = 10, kNumbered = 20, kSlowest = 30;
     constexpr float kSize = 11;
     const double speed = ShownSpeed();
@@ -55,7 +55,7 @@ void DrawLimits(Graphics& graphics) {
     HudLine(graphics, -187, manoeuvre, -190, manoeuvre);
 }
 
-void DrawBug(Graphics& graphics) {
+void DrawSpeedBug(Graphics& graphics) {
     const double b = SpeedOffset(sim.ap_spdbug);
     DrawOutline(graphics, HudPen(),
                 {At(-195, b), At(-190, b - 5), At(-180, b - 5), At(-180, b + 5), At(-190, b + 5)});
@@ -115,7 +115,7 @@ void DrawReferenceSpeed(Graphics& graphics) {
     HudTextFrom(graphics, -178, 93, kMarkSize, ReferenceSpeedText());
 }
 
-void DrawTrend(Graphics& graphics) {
+void DrawSpeedTrend(Graphics& graphics) {
     constexpr double kX = -195, kHead = 5, kHalfHead = 4;
     if (!(sim.ias_kt >= kSlowestShown)) return;
     const double t = TrendOffset();
@@ -125,7 +125,7 @@ void DrawTrend(Graphics& graphics) {
     DrawOutline(graphics, HudPen(), {At(kX, t), At(kX - kHalfHead, base), At(kX + kHalfHead, base)});
 }
 
-void DrawPointer(Graphics& graphics) {
+void DrawSpeedPointer(Graphics& graphics) {
     constexpr double kLow = 100;
     constexpr int kApproachPhase = 8;
     constexpr double kUnitsPitch = 12;
@@ -156,11 +156,11 @@ void DrawHudSpeed(Graphics& graphics) {
     HudLine(graphics, -190, -100, -190, 99);
     HudLine(graphics, -190, 99, -230, 99);
     ClipAround(graphics, {-230, -100, 75, 200}, {-230, -15, 30, 30});
-    for (const auto draw :
-         {DrawScale, DrawLimits, DrawBug, DrawTakeoffSpeeds, DrawFlapSpeeds, DrawReferenceSpeed, DrawTrend})
+    for (const auto draw : {DrawSpeedScale, DrawLimits, DrawSpeedBug, DrawTakeoffSpeeds, DrawFlapSpeeds,
+                            DrawReferenceSpeed, DrawSpeedTrend})
         draw(graphics);
     GdipResetClip(graphics);
-    DrawPointer(graphics);
+    DrawSpeedPointer(graphics);
 }
 
 void DrawHudSpeedReadouts(Graphics& graphics) {
