@@ -96,7 +96,7 @@ void PlaceAircraft(const Placement& placement) {
 
 void ShutDownAircraft() {
     for (Engine& engine : flight.aircraft.engines) engine = Engine{.running = false, .fuel_on = false};
-    flight.aircraft.controls.thrust_lever = 0;
+    flight.aircraft.controls.thrust_levers = {};
     SetToken(kTokenMasterBattery, 0);
     SetToken(kTokenParkingBrake, kBrakeSet);
     FillTokens(flight.aircraft);
@@ -144,7 +144,7 @@ void FollowCommands(const AutoflightCommands& commands, FlightControls& controls
     controls.bank = commands.flies ? commands.bank : 0;
     if (commands.flies) controls.path = commands.path;
     controls.steering = commands.flies ? commands.steering : 0;
-    if (commands.moves_levers) controls.thrust_lever = commands.thrust_lever;
+    if (commands.moves_levers) controls.thrust_levers.fill(commands.thrust_lever);
 }
 
 void StepFlight(bool moves) {

@@ -73,10 +73,10 @@ void StepEngines(Aircraft& aircraft, double dt) {
     const double altitude = PressureAltitude(aircraft);
     const double density_ratio = Density(altitude, aircraft.air) / kSeaLevelDensity;
     // A lock keeps the reversers in until the wheels are on the ground.
-    const double lever =
-        aircraft.on_ground ? aircraft.controls.thrust_lever : std::max(aircraft.controls.thrust_lever, 0.0);
     for (std::size_t side = 0; side < aircraft.engines.size(); ++side) {
         Engine& engine = aircraft.engines[side];
+        const double set = aircraft.controls.thrust_levers[side];
+        const double lever = aircraft.on_ground ? set : std::max(set, 0.0);
         engine.failed = aircraft.fails[side == 0 ? kEngineLeft : kEngineRight];
         StepEngine(engine, aircraft.airframe.engine, lever, aircraft.mach, density_ratio, dt);
     }
@@ -119,14 +119,15 @@ void TrimThrust(Aircraft& aircraft) {
         Drag(aircraft, WeightNewton(aircraft) / (std::max(DynamicPressure(aircraft), 500.0) * kWingArea));
     double low = 0, high = 1;
     for (int i = 0; i < 20; ++i) {
-        aircraft.controls.thrust_lever = (low + high) / 2;
+        const double lever = (low + high) / 2;
+        aircraft.controls.thrust_levers.fill(lever);
         for (Engine& engine : aircraft.engines) {
-            engine.n1 = kIdleN1 + (kFullN1 - kIdleN1) * aircraft.controls.thrust_lever;
+            engine.n1 = kIdleN1 + (kFullN1 - kIdleN1) * lever;
             engine.n2 = kIdleN2;
         }
         StepEngines(aircraft, 0);
         const double thrust = aircraft.engines[0].thrust_n + aircraft.engines[1].thrust_n;
-        (thrust < needed ? low : high) = aircraft.controls.thrust_lever;
+        (thrust < needed ? low : high) = lever;
     }
 }
 
@@ -221,8 +222,9 @@ void StepRoll(Aircraft& aircraft, double dt) {
     aircraft.vertical_speed = 0;
     const double mass = GrossWeight(aircraft) * kKgPerLb;
     const double thrust = aircraft.engines[0].thrust_n + aircraft.engines[1].thrust_n;
-    StepAutomaticBrakes(aircraft.brakes, aircraft.controls.autobrake, aircraft.controls.thrust_lever,
-                        aircraft.ground_speed, -aircraft.body_acceleration, dt);
+    StepAutomaticBrakes(aircraft.brakes, aircraft.controls.autobrake,
+                        std::ranges::max(aircraft.controls.thrust_levers), aircraft.ground_speed,
+                        -aircraft.body_acceleration, dt);
     const double braked = std::max(aircraft.controls.wheel_brakes, aircraft.brakes.pressure);
     const double friction = kRollingFriction + kBrakeFriction * braked;
     const double held = aircraft.chocks ? kHeldByChocks : friction * mass * kGravity;
@@ -266,7 +268,7 @@ void PlaceAircraftAt(Aircraft& aircraft, double lat, double lon, double altitude
     aircraft.trim = kTakeoffTrim;
     aircraft.controls.bank = aircraft.controls.path = aircraft.controls.steering = 0;
     aircraft.controls.flaps = aircraft.controls.speedbrake = 0;
-    aircraft.controls.thrust_lever = 0;
+    aircraft.controls.thrust_levers = {};
     aircraft.ground_speed =
         aircraft.on_ground ? std::max(aircraft.tas + Dot(Wind(aircraft), aircraft.nose), 0.0) : 0;
     if (aircraft.on_ground && ias == 0) aircraft.ground_speed = 0;

@@ -22,9 +22,10 @@ namespace host {
 
 /// What pilot or autopilot ask of the aircraft.
 struct FlightControls {
-    double bank = 0;              // degrees, right wing down positive
-    double path = 0;              // degrees, flight path above the horizon
-    double thrust_lever = 0;      // 0 idle to 1 full; below 0 reverse, down to kFullReverse
+    double bank = 0;  // degrees, right wing down positive
+    double path = 0;  // degrees, flight path above the horizon
+    // Left, right: 0 idle to 1 full; below 0 reverse, down to kFullReverse.
+    std::array<double, 2> thrust_levers{};
     double flaps = 0;             // degrees of the trailing edge
     double gear = 0;              // 1 down
     double speedbrake = 0;        // 0 to 1

@@ -77,13 +77,13 @@ void FillEngines(const Aircraft& aircraft) {
         SetToken(tokens.n2, engine.n2);
         SetToken(tokens.corrected_n1, engine.n1);
         SetToken(tokens.corrected_n2, engine.n2);
-        SetToken(tokens.lever, aircraft.controls.thrust_lever * kFull);
+        SetToken(tokens.lever, aircraft.controls.thrust_levers[i] * kFull);
         SetToken(tokens.fire, aircraft.fails[i == 0 ? kFireLeft : kFireRight] ? 1 : 0);
     }
     // No take-off is meant in reverse, nor until the fans have run down behind it.
-    const bool runs_down =
-        TokenOf(641) != 0 && aircraft.controls.thrust_lever == 0 && aircraft.engines[0].n1 > 50;
-    SetToken(641, aircraft.controls.thrust_lever < 0 || runs_down ? 1 : 0);
+    const double back = std::ranges::min(aircraft.controls.thrust_levers);
+    const bool runs_down = TokenOf(641) != 0 && back == 0 && aircraft.engines[0].n1 > 50;
+    SetToken(641, back < 0 || runs_down ? 1 : 0);
     struct EngineVariables {
         const char *flow, *ratio, *n1;
     };
@@ -93,7 +93,7 @@ void FillEngines(const Aircraft& aircraft) {
         const Engine& engine = aircraft.engines[i];
         SetModelValue(kVariables[i].flow, engine.fuel_flow);
         SetModelValue(kVariables[i].ratio, ThrustRatioOfN1(engine.n1));
-        SetModelValue(kVariables[i].n1, CommandedN1(engine, aircraft.controls.thrust_lever));
+        SetModelValue(kVariables[i].n1, CommandedN1(engine, aircraft.controls.thrust_levers[i]));
     }
 }
 
@@ -175,7 +175,9 @@ void FillTokens(const Aircraft& aircraft) {
 }
 
 void TakeControlsFromTokens(Aircraft& aircraft) {
-    aircraft.controls.thrust_lever = std::clamp(TokenOf(128) / kFull, kFullReverse, 1.0);
+    constexpr int kLevers[] = {128, 163};
+    for (std::size_t i = 0; i < std::size(kLevers); ++i)
+        aircraft.controls.thrust_levers[i] = std::clamp(TokenOf(kLevers[i]) / kFull, kFullReverse, 1.0);
     aircraft.controls.flaps = FlapAngleOfHandle(aircraft.airframe, TokenOf(328));
     aircraft.controls.speedbrake = std::clamp(TokenOf(kSpoilerHandle) / kFull, 0.0, 1.0);
     aircraft.controls.gear = TokenOf(331) > 0 ? 1 : 0;

@@ -77,8 +77,10 @@ struct Lever {
 };
 constexpr Lever kLevers[] = {
     {"flaps", 328, 0, 0, 1, 16384},
-    {"gear", 331, 0, 0, 1, 1},  // 1 down
-    {"thrust", 0, 0x100a1, kFullReverse, 1, 16384},
+    {"gear", 331, 0, 0, 1, 1},                       // 1 down
+    {"thrust", 0, 0x100a1, kFullReverse, 1, 16384},  // both
+    {"thrust_left", 0, kKeyLeverLeft, kFullReverse, 1, 16384},
+    {"thrust_right", 0, kKeyLeverRight, kFullReverse, 1, 16384},
     {"elevator", 0, 0x100e2, -1, 1, 16383},  // nose up
     {"aileron", 0, 0x100e3, -1, 1, 16383},   // right wing down
     {"rudder", 0, 0x100e4, -1, 1, 16383},    // nose right; steers on the ground
@@ -104,7 +106,7 @@ void MoveLever(Session& session, const std::string& name, double value) {
 void Overpower(Session& session, const std::string& lever, double value) {
     constexpr double kPush = 0.5;
     const bool at_work = flight.autoflight.throttle != kThrottleNone;
-    if (lever == "thrust" && at_work)
+    if (lever.starts_with("thrust") && at_work)
         for (const char* arm : {"at_armed_left", "at_armed_right"}) SetVariable(session, arm, 0);
     const bool pushes = (lever == "elevator" || lever == "aileron") && std::fabs(value) > kPush;
     if (pushes && flight.autoflight.engaged) SetVariable(session, "TZ_AP_DISENGAGE_Switch_Right", 1);

@@ -21,7 +21,7 @@ const ThingRow kThings[] = {
     {kGearLever, "gear", {"gear"}, {0x10022, 0x10220}},
     {kThrustLevers,
      "thrust",
-     {"thrust", "atarm", "at", "clbcon", "at_armed_left", "at_armed_right"},
+     {"thrust", "thrust_left", "thrust_right", "atarm", "at", "clbcon", "at_armed_left", "at_armed_right"},
      {0x100a1}},
     {kSpeedbrakeLever, "speedbrake", {"speedbrake", "speedbrake_arm"}, {0x10205, 0x10214}},
     {kAutobrake, "autobrake", {"auto_brake_switch"}, {}},

@@ -40,6 +40,9 @@ test('the pilot lets go of what is touched, and the stick flies', async (t) => {
   await page.keyboard.up('ArrowLeft');
   await page.locator('input[data-lever="thrust"]').fill('0.3');
   await reaches(page, 'token:128', (raw) => Math.abs(raw - 0.3 * 16384) < 2);
+  await page.locator('input[data-lever="thrust_right"]').fill('0.5');  // one engine's alone
+  await reaches(page, 'token:163', (raw) => Math.abs(raw - 0.5 * 16384) < 2);
+  await reaches(page, 'token:128', (raw) => Math.abs(raw - 0.3 * 16384) < 2);
 
   await page.click('.control-key');
   await untilValue(page, 'host:user_has', '');

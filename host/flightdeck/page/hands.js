@@ -69,7 +69,7 @@ export class Hands {
     panel.setAttribute('role', 'group');
     panel.setAttribute('aria-label', 'Flying by hand');
     panel.append(this.pad(), this.sliders(), this.buttons());
-    for (const name of ['token:128', 'token:325', 'token:328', 'token:331']) this.link.watch(name, () => {});
+    for (const name of ['token:128', 'token:163', 'token:325', 'token:328', 'token:331']) this.link.watch(name, () => {});
     const held = (event) => event.target.type !== 'range' && !event.ctrlKey && !event.altKey && !event.metaKey &&
         handKeys.find(([key]) => key === (event.key.length === 1 ? event.key.toUpperCase() : event.key));
     panel.addEventListener('keydown', (event) => {
@@ -147,6 +147,8 @@ export class Hands {
   }
   sliders() {
     return element('div', 'slides', '', this.slider('Thrust', 'thrust', -0.25, 'token:128'),
+                   this.slider('Left', 'thrust_left', -0.25, 'token:128'),
+                   this.slider('Right', 'thrust_right', -0.25, 'token:163'),
                    this.slider('Speedbrake', 'speedbrake', 0, 'token:325'), this.slider('Steering', 'rudder', -1));
   }
 

@@ -124,7 +124,7 @@ TEST(Aircraft, LeavesTheGroundOnlyWithSpeedAndAPull) {
     FlyFor(aircraft, 30);
     EXPECT_EQ(aircraft.ground_speed, 0);
     aircraft.controls.wheel_brakes = 0;
-    aircraft.controls.thrust_lever = 1;
+    aircraft.controls.thrust_levers.fill(1);
     aircraft.controls.flaps = aircraft.flaps = 5;
     FlyFor(aircraft, 60);
     EXPECT_TRUE(aircraft.on_ground);
@@ -156,9 +156,10 @@ TEST(Aircraft, PerformsAsItsTablesBelieve) {
             Aircraft aircraft = with_weight(sim, "rr", climb.weight);
             const double ias = CasOfMach(climb.tas / SpeedOfSound(climb.altitude, {}), climb.altitude);
             PlaceAircraftAt(aircraft, 0, 0, climb.altitude, 0, ias, 0);
-            aircraft.controls.thrust_lever = 0.938;  // climb thrust
+            aircraft.controls.thrust_levers.fill(0.938);  // climb thrust
             FlyFor(aircraft, 10);
-            // What the thrust has left, at a constant indicated speed: Boeing's acceleration factor.
+            // What the thrust has left, at a constant indicated speed: the acceleration factor of performance
+            // engineering.
             const double gain = 1 + 0.566 * aircraft.mach * aircraft.mach;
             const double fpm = aircraft.body_acceleration / 32.174 / gain * aircraft.tas * 101.27;
             EXPECT_NEAR(fpm, climb.fpm, 500) << sim << " " << climb.altitude;
@@ -185,7 +186,7 @@ TEST(Aircraft, ComesDownItsPlannedPathAtIdle) {
             aircraft.airframe = AirframeOf(sim);
             aircraft.fuel_lb = {20000, 20000, 0};
             PlaceAircraftAt(aircraft, 0, 0, 35000, 90, CasOfMach(0.836, 35000), 0);
-            aircraft.controls.thrust_lever = 0;
+            aircraft.controls.thrust_levers.fill(0);
             double before = aircraft.ias, miles = 0;
             const auto is_there = [&] {
                 return aircraft.altitude <= constraint.altitude && aircraft.ias < constraint.ias + 2;

@@ -420,7 +420,7 @@ TEST_F(AutoflightTest, TheEnvelopeIsNotLeft) {
     Press("ap_vert_mode_clicked", kVerticalSpeed);
     SetNamedValue("at_armed_left", 0);
     FlyFor(1);
-    aircraft.controls.thrust_lever = 0;
+    aircraft.controls.thrust_levers.fill(0);
     SetCalc(kAltitudeWindow, 40000);
     SetToken(120, 2000);
     double slowest = 1e9, fastest = 0;
@@ -437,14 +437,14 @@ TEST_F(AutoflightTest, TheEnvelopeIsNotLeft) {
     EXPECT_TRUE(marked);
     EXPECT_GT(slowest, 1.03);
     marked = false;
-    aircraft.controls.thrust_lever = 1;
+    aircraft.controls.thrust_levers.fill(1);
     SetToken(120, -4000);
     SetCalc(kAltitudeWindow, 5000);
     fly(240);
     EXPECT_TRUE(marked);
     EXPECT_LT(fastest, 14);
     // An armed autothrottle that was off wakes.
-    aircraft.controls.thrust_lever = 0;
+    aircraft.controls.thrust_levers.fill(0);
     Press("ap_vert_mode_clicked", kAltitude);
     FlyFor(60);
     SetNamedValue("at_armed_left", 1);
