@@ -15,6 +15,10 @@ struct PaintPoint {
     float x, y;
     bool operator==(const PaintPoint&) const = default;
 };
+/// A point of a figure, from whatever it was worked out in.
+inline PaintPoint At(double x, double y) {
+    return {static_cast<float>(x), static_cast<float>(y)};
+}
 
 enum class PathVerb : std::uint8_t { kMove, kLine, kCubic, kClose };  // take 1, 1, 3 and 0 points
 

@@ -73,6 +73,20 @@ std::string FindFontFile(std::string_view family) {
     return file;
 }
 
+// What brings a point into the middle of its cell, in parts of the em.
+float PointShiftOf(FT_Face face) {
+    const auto load = [face](char c) {
+        const FT_UInt glyph = FT_Get_Char_Index(face, static_cast<FT_ULong>(c));
+        return FT_Load_Glyph(face, glyph, FT_LOAD_NO_SCALE) == 0;
+    };
+    if (!load('0')) return 0;
+    const FT_Pos digit = face->glyph->metrics.horiAdvance;
+    if (!load(':') || face->glyph->metrics.horiAdvance != digit) return 0;
+    const FT_Glyph_Metrics& colon = face->glyph->metrics;
+    const auto middle = static_cast<float>(colon.horiBearingX) + static_cast<float>(colon.width) / 2;
+    return (static_cast<float>(digit) / 2 - middle) / static_cast<float>(face->units_per_EM);
+}
+
 LoadedFont LoadFont(FT_Library library, const FamilyRow& row) {
     LoadedFont font{FindFontFile(row.installed), {}};
     for (float& advance : font.metrics.advance) advance = 0.6f;
@@ -95,6 +109,7 @@ LoadedFont LoadFont(FT_Library library, const FamilyRow& row) {
         if (FT_Load_Glyph(face, glyph, FT_LOAD_NO_SCALE) == 0)
             font.metrics.advance[c] = static_cast<float>(face->glyph->metrics.horiAdvance) / em;
     }
+    font.metrics.point_shift = PointShiftOf(face);
     FT_Done_Face(face);
     return font;
 }

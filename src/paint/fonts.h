@@ -28,6 +28,9 @@ struct FontMetrics {
     float ascent = 0.9f;         // from the top of the line's cell to the baseline
     float line_spacing = 1.15f;  // from baseline to baseline
     float advance[256] = {};     // by character of the ANSI code page
+    // To the right, for ".", ",", ":" and ";": a font whose characters are all as wide may have them left in
+    // their cells, which tears a time or a number apart. 0 in any other font.
+    float point_shift = 0;
 };
 
 /// Loaded once, when first asked for; a font that is missing gives a fallback's, with one warning.
@@ -35,6 +38,11 @@ const FontMetrics& MetricsOf(std::uint16_t family);
 
 /// Width of a text in parts of the em, trailing blanks included.
 float TextWidth(std::uint16_t family, std::string_view text);
+
+/// The characters that `point_shift` moves.
+constexpr bool IsPoint(char c) {
+    return c == '.' || c == ',' || c == ':' || c == ';';
+}
 
 /// A character of the ANSI code page as UTF-8.
 void AppendUtf8(std::string& to, std::string_view ansi);

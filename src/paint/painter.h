@@ -32,10 +32,6 @@ inline Brush BrushOf(Rgb colour) {
     return GdipCreateSolidFill(Scaled(colour));
 }
 
-/// A point of a figure, from whatever it was worked out in.
-inline PaintPoint At(double x, double y) {
-    return {static_cast<float>(x), static_cast<float>(y)};
-}
 /// Lines through points and back to the first one; the same filled.
 void DrawOutline(Graphics& graphics, const Pen& pen, std::initializer_list<PaintPoint> points);
 void FillOutline(Graphics& graphics, const Brush& brush, std::initializer_list<PaintPoint> points);

@@ -16,10 +16,6 @@ namespace {
 
 constexpr double kQuarterArc = 0.5522847498307936;  // control length of a quarter circle, 4/3 tan(pi/8)
 
-PaintPoint At(double x, double y) {
-    return {static_cast<float>(x), static_cast<float>(y)};
-}
-
 // The angle on the ellipse's circle that shows as `degrees` on the ellipse.
 double CircleAngle(double degrees, double rx, double ry) {
     const double angle = degrees * kRadPerDeg;

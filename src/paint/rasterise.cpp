@@ -148,16 +148,35 @@ struct Painter {
         cairo_set_font_size(cairo, run.size);
         SetColour(cairo, run.colour);
         const std::string text = list.text.substr(run.text.first, run.text.count);
+        const double shift = static_cast<double>(MetricsOf(run.family).point_shift * run.size);
         if (run.axes == LocalAxes{}) {
-            cairo_move_to(cairo, run.x, run.y);
-            return cairo_show_text(cairo, text.c_str());
+            return ShowText(text, run.x, run.y, shift);
         }
         cairo_save(cairo);
         cairo_translate(cairo, run.x, run.y);
         ApplyAxes(run.axes);
-        cairo_move_to(cairo, 0, 0);
-        cairo_show_text(cairo, text.c_str());
+        ShowText(text, 0, 0, shift);
         cairo_restore(cairo);
+    }
+    // Points move by `shift` to the right.
+    void ShowText(const std::string& text, double x, double y, double shift) const {
+        cairo_glyph_t* glyphs = nullptr;
+        int count = 0;
+        const bool moves = shift != 0 && std::ranges::any_of(text, IsPoint);
+        if (!moves ||
+            cairo_scaled_font_text_to_glyphs(cairo_get_scaled_font(cairo), x, y, text.c_str(), -1, &glyphs,
+                                             &count, nullptr, nullptr, nullptr) != CAIRO_STATUS_SUCCESS) {
+            cairo_move_to(cairo, x, y);
+            return cairo_show_text(cairo, text.c_str());
+        }
+        int place = -1;  // of the character, which is its glyph's
+        for (const char c : text) {
+            const bool continues = (static_cast<unsigned char>(c) & 0xc0) == 0x80;  // of a character of UTF-8
+            if (!continues) ++place;
+            if (place < count && IsPoint(c)) glyphs[place].x += shift;
+        }
+        cairo_show_glyphs(cairo, glyphs, count);
+        cairo_glyph_free(glyphs);
     }
     void operator()(const DrawnImage& image) const {
         const auto pixels =

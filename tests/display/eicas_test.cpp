@@ -16,7 +16,7 @@
 
 namespace {
 
-std::string Picture(int half = 2) {
+std::string EicasPicture(int half = 2) {
     return PrintedPicture(
         DrawEicas, {.mode = 45, .unit = 2, .half = half, .side = 1, .narrow = false, .system_page = 0});
 }
@@ -54,7 +54,7 @@ TEST_F(EngineDisplay, DialsChangeColourAtTheirLimits) {
         eicas = {};
         identity.engine_model = row.model;
         eicas.engine_l.*row.value = row.at;
-        const std::string picture = Picture();
+        const std::string picture = EicasPicture();
         // the middle of the left column is 302 + 28, 13 to the left
         EXPECT_TRUE(Has(picture, Format("fill %s,255 M 317 %d L 345 %d", row.fill, row.y, row.y)))
             << row.model << ' ' << row.at;
@@ -65,12 +65,12 @@ TEST_F(EngineDisplay, DialsChangeColourAtTheirLimits) {
     eicas.engine_r.n1_pct = 4.9;
     eicas.engine_l.n1_pct = 55;  // half way: the needle points down 105 degrees from the right
     displays.eicas_eng_button = 0;
-    const std::string picture = Picture();
+    const std::string picture = EicasPicture();
     EXPECT_FALSE(Has(picture, "\"  4.9\""));
     EXPECT_TRUE(Has(picture, "stroke 222,230,233,255 2 M 317 40 L 308.72 70.91"));
     EXPECT_FALSE(Has(picture, "\"OIL QTY\""));
     EXPECT_FALSE(Has(picture, "\"FF\""));
-    EXPECT_TRUE(Has(Picture(1), "stroke 222,230,233,255 2 M 35 40 L 26.72 70.91"));
+    EXPECT_TRUE(Has(EicasPicture(1), "stroke 222,230,233,255 2 M 35 40 L 26.72 70.91"));
 }
 
 TEST_F(EngineDisplay, MessagesStandInTheirOrder) {
@@ -89,7 +89,7 @@ TEST_F(EngineDisplay, MessagesStandInTheirOrder) {
     alerts.caution_list[1].cancelled = 1;
     post(alerts.advisory_list, alerts.advisory_count, "PACK L");
     post(alerts.memo_list, alerts.memo_count, "COMM");
-    std::string picture = Picture();
+    std::string picture = EicasPicture();
     EXPECT_TRUE(line(picture, "255,0,0", kX, 1, "FIRE ENG L"));
     EXPECT_TRUE(line(picture, "233,183,62", kX, 12, "CAUTION 2"));
     EXPECT_FALSE(Has(picture, "CAUTION 1"));
@@ -97,11 +97,11 @@ TEST_F(EngineDisplay, MessagesStandInTheirOrder) {
     EXPECT_TRUE(line(picture, "222,230,233", kX, 110, "COMM"));
     EXPECT_TRUE(Has(picture, "fill 222,230,233,255 M 444 114"));  // the dot before it
     for (int i = 2; i <= 11; ++i) post(alerts.memo_list, alerts.memo_count, "MEMO");
-    picture = Picture();
+    picture = EicasPicture();
     EXPECT_TRUE(line(picture, "222,230,233", kX, 34, "COMM"));  // not above the others
     for (int i = 2; i <= 12; ++i) post(alerts.warning_list, alerts.warning_count, Format("W %d", i).c_str());
     alerts.recall_timer = 1;
-    picture = Picture();
+    picture = EicasPicture();
     EXPECT_TRUE(line(picture, "255,0,0", kX, 100, "W 10"));
     EXPECT_FALSE(Has(picture, "W 11"));
     EXPECT_FALSE(Has(picture, "CAUTION 2"));
@@ -110,31 +110,31 @@ TEST_F(EngineDisplay, MessagesStandInTheirOrder) {
 }
 
 TEST_F(EngineDisplay, CabinDataAndTrimsComeWhenTheyAreWanted) {
-    EXPECT_FALSE(Has(Picture(), "CAB ALT"));
+    EXPECT_FALSE(Has(EicasPicture(), "CAB ALT"));
     alerts.posted[63] = 1;
-    EXPECT_TRUE(Has(Picture(), "CAB ALT"));
-    EXPECT_TRUE(Has(Picture(), "\"AUTO\""));
+    EXPECT_TRUE(Has(EicasPicture(), "CAB ALT"));
+    EXPECT_TRUE(Has(EicasPicture(), "\"AUTO\""));
     SetVariables("du_fo_inb_mode 10, du_fo_inb_r_sys_page 1");  // CDU beside AIR
-    EXPECT_FALSE(Has(Picture(), "CAB ALT"));
+    EXPECT_FALSE(Has(EicasPicture(), "CAB ALT"));
     SetVariables("du_fo_inb_r_sys_page 11, ldg_alt_manual 1");
     alerts.posted[63] = 0;
-    EXPECT_TRUE(Has(Picture(), "\"MAN\""));
+    EXPECT_TRUE(Has(EicasPicture(), "\"MAN\""));
 
     sim.on_ground = 0;
-    EXPECT_FALSE(Has(Picture(), "RUDDER TRIM"));
+    EXPECT_FALSE(Has(EicasPicture(), "RUDDER TRIM"));
     sim.gear_handle = 1;  // the lever is down, the gear hasn't moved yet
-    EXPECT_TRUE(Has(Picture(), "233,183,62 \"GEAR\""));
+    EXPECT_TRUE(Has(EicasPicture(), "233,183,62 \"GEAR\""));
     sim.gear_handle = 0;
-    EXPECT_TRUE(Has(Picture(), "222,230,233 \"GEAR\""));
+    EXPECT_TRUE(Has(EicasPicture(), "222,230,233 \"GEAR\""));
     sim.rudder_trim = -0.5;
-    EXPECT_TRUE(Has(Picture(), "\"L\"") && Has(Picture(), "\"0.5\""));
+    EXPECT_TRUE(Has(EicasPicture(), "\"L\"") && Has(EicasPicture(), "\"0.5\""));
     sim.rudder_trim = 0;
     sim.on_ground = 1;
     SetVariables("elev_trim_ind 9");
-    EXPECT_TRUE(Has(Picture(), "\"9.00\"") &&
-                Has(Picture(), "stroke 0,250,0,255 1 M 441 267"));  // in its box
+    EXPECT_TRUE(Has(EicasPicture(), "\"9.00\"") &&
+                Has(EicasPicture(), "stroke 0,250,0,255 1 M 441 267"));  // in its box
     SetVariables("elev_trim_ind 9.01");
-    EXPECT_FALSE(Has(Picture(), "stroke 0,250,0,255 1 M 441 267"));
+    EXPECT_FALSE(Has(EicasPicture(), "stroke 0,250,0,255 1 M 441 267"));
 }
 
 TEST_F(EngineDisplay, TheThrustRatioFollowsTheFan) {

@@ -111,6 +111,23 @@ function readPrimitive(bytes) {
 
 const MOST_IMAGES = 200;
 
+// What brings a colon into the middle of its cell, in parts of the em, by font; 0 where characters differ in width.
+const pointShifts = new Map();
+function pointShift(context) {
+  const font = context.font.slice(context.font.indexOf('"'));
+  if (!pointShifts.has(font)) {
+    if (!document.fonts.check(context.font)) return 0;  // not there yet
+    const kept = context.font, size = 1000;
+    context.font = `bold ${size}px ${font}`;
+    const colon = context.measureText(':');
+    const middle = (colon.actualBoundingBoxRight - colon.actualBoundingBoxLeft) / 2;
+    const same = Math.abs(colon.width - context.measureText('0').width) < 1;
+    pointShifts.set(font, same ? (colon.width / 2 - middle) / size : 0);
+    context.font = kept;
+  }
+  return pointShifts.get(font);
+}
+
 export class Screen {
   /** families: the font family of each number, as the host names them; may come later. */
   constructor(canvas, families = []) {
@@ -238,8 +255,18 @@ export class Screen {
     context.textRendering = 'geometricPrecision';  // places and sizes as they are, no hinting
     context.textBaseline = 'alphabetic';
     context.fillStyle = colour;
-    context.fillText(text, 0, 0);
+    this.fillText(text, size);
     context.restore();
+  }
+  // Points stand in the middle of their cells, as FontMetrics::point_shift has it for the other renderer.
+  fillText(text, size) {
+    const {context} = this, shift = /[.,:;]/.test(text) ? pointShift(context) * size : 0;
+    if (shift === 0) return context.fillText(text, 0, 0);
+    let done = '';
+    for (const piece of text.split(/([.,:;])/)) {
+      context.fillText(piece, context.measureText(done).width + (/^[.,:;]$/.test(piece) ? shift : 0), 0);
+      done += piece;
+    }
   }
   image(file, x, y, width, height, rotation) {
     const picture = Screen.picture(file);
