@@ -17,6 +17,7 @@
 #include "host/flightdeck/exchange.h"
 #include "host/flightdeck/request_text.h"
 #include "host/flightdeck/site.h"
+#include "host/flightdeck/stored_files.h"
 
 // The web server: one thread, asynchronous. It serves the site, and one WebSocket at /socket. Only the
 // network is here, for the library that it speaks with takes its time to compile.
@@ -154,7 +155,7 @@ class Connection : public std::enable_shared_from_this<Connection> {
 
     void Read() {
         parser_.emplace();
-        parser_->body_limit(1024);
+        parser_->body_limit(kMostStoredBytes);
         parser_->header_limit(8192);
         stream_.expires_after(kRequestTime);
         http::async_read(stream_, buffer_, *parser_,
@@ -180,6 +181,9 @@ class Connection : public std::enable_shared_from_this<Connection> {
             stream_.expires_never();
             return std::make_shared<Browser>(stream_.release_socket(), network_)->Run(request);
         }
+        // What writes must say which page it comes from, so that no other site's can.
+        if (request.method() == http::verb::put && !request[http::field::origin].empty())
+            return Send(request, StoreFile(network_.settings.root, path, request.body()));
         if (request.method() != http::verb::get && request.method() != http::verb::head)
             return SendRefusal(request, 405);
         const SiteAnswer answer = AnswerFor(network_.settings, path);

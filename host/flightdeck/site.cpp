@@ -9,6 +9,7 @@
 
 #include "host/flightdeck/exchange.h"
 #include "host/flightdeck/request_text.h"
+#include "host/flightdeck/stored_files.h"
 #include "host/root_folder.h"
 
 namespace host {
@@ -78,6 +79,8 @@ struct RefusalRow {
     std::string_view title, what_to_do;
 };
 constexpr RefusalRow kRefusals[] = {
+    {400, "That is no flight plan",
+     "A name that ends with <code>.rte</code> or <code>.PLN</code>, text in it, at most a megabyte."},
     {403, "This flight deck doesn't know you",
      "Open the address that <code>tz900 fly</code> has printed in its terminal: whole, with the token at its "
      "end, or by the QR code below it. Beside the machine that it runs on, no other name than the printed "
@@ -89,8 +92,10 @@ constexpr RefusalRow kRefusals[] = {
      "capt_outb capt_inb fo_inb fo_outb lower hud stby efb_l efb_r debug; one unit for a phone or tablet at "
      "<a href=\"/cdu/l\">/cdu/l</a>, <a href=\"/cdu/r\">/cdu/r</a>, <a href=\"/tablet/l\">/tablet/l</a> and "
      "<a href=\"/tablet/r\">/tablet/r</a>."},
-    {405, "This flight deck takes nothing in",
-     "It only shows pages. The flight deck is at <a href=\"/\">/</a>."},
+    {405, "This flight deck takes nothing in here",
+     "It shows pages, and stores flight plans. The flight deck is at <a href=\"/\">/</a>."},
+    {500, "The flight plan could not be stored",
+     "Look whether there is room, and whether the folder may be written."},
     {503, "The flight deck is full",
      "As many pages are open as it can serve. Close one that nobody needs, wait some seconds, and load this "
      "page again."},
@@ -131,6 +136,8 @@ std::string TokenCookie(const DeckSettings& settings, std::string_view target) {
 SiteAnswer AnswerFor(const DeckSettings& settings, std::string_view path) {
     if (path.starts_with("/font/")) return Font(settings, path.substr(6));
     if (path.starts_with("/image/")) return Image(settings, path.substr(7));
+    if (path == "/files") return ListStoredFiles(settings.root);
+    if (path.starts_with("/route/") || path.starts_with("/panel/")) return StoredFile(settings.root, path);
     return PageFile(settings, path);
 }
 

@@ -1,6 +1,7 @@
 // Puts the flight deck together and follows the link.
 
 import {element, Panels} from './controls.js';
+import {Files} from './files.js';
 import {makeGlareshield} from './glareshield.js';
 import {Hands} from './hands.js';
 import {Inspector} from './inspector.js';
@@ -36,6 +37,7 @@ const panels = new Panels(link);
 let built = Boolean(alone);  // the deck stands once it is known which controls there are
 const screens = new Screens(link, (canvas, sideOf) => takeKeyboard(canvas, panels, sideOf));
 const inspector = new Inspector(link);
+const files = new Files();
 
 // The same files as the host's own rasteriser uses.
 let fontsLoaded = '';
@@ -121,6 +123,7 @@ function lower() {
     Ground: element('div', 'view', '', panels.groups(ground(onAircraft.ground), 'overhead')),
     Failures: element('div', 'view', '', panels.groups(failures(onAircraft.failures), 'overhead')),
     Hands: element('div', 'view', '', new Hands(panels).element),
+    Files: element('div', 'view', '', files.element),
     Inspector: element('div', 'view inspection', '', inspector.element, screens.unit('debug')),
   };
   const tabs = element('nav', 'tabs'), made = element('section', 'lower-deck', '', tabs, ...Object.values(views));
@@ -130,6 +133,7 @@ function lower() {
     for (const tab of tabs.children) tab.classList.toggle('lit', tab.dataset.view === name);
     document.body.dataset.view = name;
     inspector.show(name === 'Inspector');
+    files.show(name === 'Files');
     history.replaceState(null, '', `${location.pathname}${location.search}#${name}`);
   };
   for (const name of Object.keys(views)) {
