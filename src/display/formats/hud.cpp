@@ -17,14 +17,14 @@ struct Group {
     void (*pieces[8])(Graphics& graphics);  // to the first null
 };
 constexpr Group kGroups[] = {
-    {kMiddleX,
+    {kHudX,
      kAttitudeY,
      {DrawHudLadder, DrawHudAircraft, DrawHudFlightPath, DrawHudRadioAltitude, DrawHudBankScale}},
-    {kMiddleX,
-     kMiddleY,
+    {kHudX,
+     kHudY,
      {DrawHudSpeed, DrawHudSpeedReadouts, DrawHudAltitude, DrawHudAltitudeReadouts, DrawHudModes,
       DrawHudApproachSource, DrawHudDeviations}},
-    {kMiddleX, kRoseY, {DrawHudRose, DrawHudFootLine}},
+    {kHudX, kRoseY, {DrawHudRose, DrawHudFootLine}},
     {0, 0, {DrawHudWind}},
 };
 

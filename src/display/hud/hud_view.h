@@ -11,7 +11,7 @@
 // that of the attitude, 55 above it; y down.
 
 constexpr Argb kHudColour = Opaque({29, 252, 125});
-constexpr int kMiddleX = 240, kMiddleY = 205, kAttitudeY = 150, kRoseY = 385;
+constexpr int kHudX = 240, kHudY = 205, kAttitudeY = 150, kRoseY = 385;
 constexpr double kHudReach = 100;  // units of a tape above and below its middle
 constexpr double kFineWidth = 1;   // of a line of the moving symbols; the fixed ones are twice that
 
