@@ -58,8 +58,8 @@ struct InspectionTable {
     /// The named variables that the module expects to exist and doesn't register: the aircraft's model and
     /// its other gauges bring them along. The name, nothing.
     int (*list_model_variables)(ResultSink sink, void* context);
-    /// Keys of a real keyboard on a side's tablet (1 or 2): characters, '\b', and '\n' for Enter. A dark tablet
-    /// passes over them.
+    /// Keys of a real keyboard on a side's tablet (1 or 2): characters, '\b', and '\n' for Enter. A dark
+    /// tablet passes over them.
     int (*type_on_tablet)(int side, const char* keys, ResultSink sink, void* context);
 };
 

@@ -8,7 +8,7 @@
 struct AnnouncementState {
     int cockpit_callout_mode = 0;
     int annuncement_mode = 0;
-    int ldg_checklist_mode = 0;                        // 0 idle, 1 requested, 2 called, 10 finished
+    int ldg_checklist_mode = 0;                       // 0 idle, 1 requested, 2 called, 10 finished
     int crew_spacing_secs = 0, pax_spacing_secs = 0;  // until the next may speak
     int get_pax_flag = 0;
     int cargo_doors_anun = 0;

@@ -12,7 +12,8 @@
 #include "support/fake_host.h"
 #include "support/set_variables.h"
 
-// What is given out is counted. A sanitizer brings an operator new of its own, beside which this one may not stand.
+// What is given out is counted. A sanitizer brings an operator new of its own, beside which this one may not
+// stand.
 #if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
 
 namespace {
